@@ -1,0 +1,47 @@
+# What every target of the project shares: warnings as errors, the sanitizers of the preset, and
+# the two ways in which a room of the house becomes a target.
+
+add_library(mahlberg_options INTERFACE)
+target_compile_options(mahlberg_options INTERFACE
+    -Wall -Wextra -Wpedantic -Wshadow -Wconversion -Werror
+    # Single and double precision are both meant: nothing may reorder or contract the arithmetic.
+    -ffp-contract=off -fno-fast-math)
+target_compile_definitions(mahlberg_options INTERFACE
+    QT_NO_CAST_FROM_ASCII QT_NO_CAST_TO_ASCII QT_NO_KEYWORDS QT_DISABLE_DEPRECATED_BEFORE=0x060400)
+
+if(MAHLBERG_SANITIZE)
+    target_compile_options(mahlberg_options INTERFACE
+        -fsanitize=address,undefined -fno-sanitize-recover=all -fno-omit-frame-pointer)
+    target_link_options(mahlberg_options INTERFACE -fsanitize=address,undefined)
+endif()
+if(MAHLBERG_COVERAGE)
+    target_compile_options(mahlberg_options INTERFACE --coverage)
+    target_link_options(mahlberg_options INTERFACE --coverage)
+endif()
+if(MAHLBERG_FUZZ)
+    target_compile_options(mahlberg_options INTERFACE
+        -fsanitize=fuzzer-no-link,address,undefined -fno-sanitize-recover=all)
+    target_link_options(mahlberg_options INTERFACE -fsanitize=address,undefined)
+endif()
+
+# A room: a static library whose headers are found only by those that link it. A header of a room
+# that is not on the link list can't even be included, so the link lists are the boundaries.
+function(mahlberg_room name)
+    cmake_parse_arguments(ARG "" "" "SOURCES;LINK" ${ARGN})
+    add_library(${name} STATIC ${ARG_SOURCES})
+    target_include_directories(${name} PUBLIC ${CMAKE_CURRENT_SOURCE_DIR})
+    target_link_libraries(${name} PUBLIC ${ARG_LINK} PRIVATE mahlberg_options)
+endfunction()
+
+# A test program: tests/<room>/<name>.cpp, run without a display in a home folder of its own.
+function(mahlberg_test name)
+    cmake_parse_arguments(ARG "" "" "LINK;SOURCES" ${ARGN})
+    add_executable(${name} ${name}.cpp ${ARG_SOURCES})
+    target_link_libraries(${name} PRIVATE ${ARG_LINK} Qt6::Test mahlberg_options)
+    set(home ${CMAKE_BINARY_DIR}/test-homes/${name})
+    file(MAKE_DIRECTORY ${home})
+    add_test(NAME ${name} COMMAND ${name})
+    set_tests_properties(${name} PROPERTIES
+        TIMEOUT 240
+        ENVIRONMENT "QT_QPA_PLATFORM=offscreen;HOME=${home};XDG_CONFIG_HOME=${home}/.config;LC_ALL=C.UTF-8;TZ=UTC;QT_LOGGING_RULES=qt.qpa.*=false;ASAN_OPTIONS=detect_stack_use_after_return=1:strict_string_checks=1;UBSAN_OPTIONS=print_stacktrace=1;LSAN_OPTIONS=suppressions=${PROJECT_SOURCE_DIR}/tests/lsan.supp:print_suppressions=0")
+endfunction()
