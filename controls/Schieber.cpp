@@ -1,0 +1,141 @@
+#include "Schieber.h"
+
+#include <QCoreApplication>
+#include <QDoubleSpinBox>
+#include <QEvent>
+#include <QHBoxLayout>
+#include <QLocale>
+#include <QSignalBlocker>
+#include <QSlider>
+
+#include <algorithm>
+#include <cmath>
+
+namespace {
+
+const QEvent::Type auffrischen = static_cast<QEvent::Type>(QEvent::registerEventType());
+
+} // namespace
+
+Schieber::Schieber(QWidget *parent)
+    : QWidget(parent)
+    , m_regler(new QSlider(Qt::Horizontal, this))
+    , m_eingabe(new QDoubleSpinBox(this))
+{
+    auto *zeile = new QHBoxLayout(this);
+    zeile->setContentsMargins(0, 0, 0, 0);
+    zeile->addWidget(m_regler, 1);
+    zeile->addWidget(m_eingabe);
+    m_eingabe->setKeyboardTracking(false); // "30" is one amount, not first 3 and then 30
+    m_eingabe->setAlignment(Qt::AlignRight);
+    setFocusProxy(m_regler);
+    einteilen();
+    connect(m_regler, &QSlider::valueChanged, this, &Schieber::reglerBewegt);
+    connect(m_eingabe, &QDoubleSpinBox::valueChanged, this, &Schieber::zahlEingegeben);
+    setDoubleValue(0);
+}
+
+void Schieber::setMinimumValue(double minimum)
+{
+    m_minimum = minimum;
+    einteilen();
+}
+
+void Schieber::setMaximumValue(double maximum)
+{
+    m_maximum = maximum;
+    einteilen();
+}
+
+void Schieber::setStepValue(double step)
+{
+    m_step = step > 0 ? step : 1;
+    einteilen();
+}
+
+void Schieber::setDecimals(int decimals)
+{
+    m_decimals = decimals;
+    einteilen();
+}
+
+void Schieber::setUnit(const QString &unit)
+{
+    m_unit = unit;
+    m_eingabe->setSuffix(unit.isEmpty() ? QString() : QChar(QChar::Nbsp) + unit);
+}
+
+void Schieber::einteilen()
+{
+    const QSignalBlocker reglerStill(m_regler);
+    const QSignalBlocker eingabeStill(m_eingabe);
+    m_regler->setRange(0, static_cast<int>(std::lround((m_maximum - m_minimum) / m_step)));
+    m_regler->setPageStep(std::max(1, m_regler->maximum() / 10));
+    m_eingabe->setDecimals(m_decimals);
+    m_eingabe->setSingleStep(m_step);
+    wertGesetzt();
+}
+
+void Schieber::wertGesetzt()
+{
+    if (!m_veraltet) {
+        m_veraltet = true;
+        QCoreApplication::postEvent(this, new QEvent(auffrischen));
+        update();
+    }
+}
+
+/// Puts both controls to the held value. The number beside the slider shows a value beyond the
+/// range as it stands; the slider itself then rests at its end.
+void Schieber::zeigen()
+{
+    if (!m_veraltet) {
+        return;
+    }
+    m_veraltet = false;
+    const double gehalten = doubleValue();
+    const double zahl = std::isfinite(gehalten) ? gehalten : m_minimum;
+    const QSignalBlocker reglerStill(m_regler);
+    const QSignalBlocker eingabeStill(m_eingabe);
+    const double schritte = (std::clamp(zahl, m_minimum, m_maximum) - m_minimum) / m_step;
+    m_regler->setValue(static_cast<int>(std::lround(schritte)));
+    m_eingabe->setRange(std::min(m_minimum, zahl), std::max(m_maximum, zahl));
+    m_eingabe->setValue(zahl);
+}
+
+void Schieber::reglerBewegt(int stellung)
+{
+    // Counting steps from whole multiples keeps 1.75 m from becoming 1.7500000000000002.
+    const double zehner = std::pow(10.0, m_decimals);
+    const double zahl = std::round((m_minimum + stellung * m_step) * zehner) / zehner;
+    setDoubleValue(zahl);
+    Q_EMIT betaetigt();
+}
+
+void Schieber::zahlEingegeben(double zahl)
+{
+    setDoubleValue(std::clamp(zahl, m_minimum, m_maximum));
+    Q_EMIT betaetigt();
+}
+
+QString Schieber::zahlText(double zahl) const
+{
+    QLocale locale;
+    locale.setNumberOptions(QLocale::OmitGroupSeparator);
+    return locale.toString(zahl, 'g', QLocale::FloatingPointShortest);
+}
+
+bool Schieber::event(QEvent *event)
+{
+    if (event->type() == auffrischen) {
+        zeigen();
+        return true;
+    }
+    return QWidget::event(event);
+}
+
+void Schieber::paintEvent(QPaintEvent *event)
+{
+    zeigen();
+    QWidget::paintEvent(event);
+}

@@ -1,0 +1,234 @@
+#include "Tabelle.h"
+
+#include <QDrag>
+#include <QHeaderView>
+#include <QKeyEvent>
+#include <QMimeData>
+#include <QMouseEvent>
+#include <QPainter>
+#include <QStyledItemDelegate>
+
+namespace {
+
+constexpr int zellenrand = 6;
+
+/// Paints a cell as its controller pictured it. The chosen food is marked by a border, not by a
+/// coloured row: a row holds three foods, and only one of them is on display.
+class Zellenmaler : public QStyledItemDelegate
+{
+public:
+    explicit Zellenmaler(Tabelle *tabelle) : QStyledItemDelegate(tabelle), m_tabelle(tabelle) {}
+
+    void paint(QPainter *painter, const QStyleOptionViewItem &option,
+               const QModelIndex &index) const override
+    {
+        const Zellenbild bild = m_tabelle->modell()->bild(index);
+        painter->save();
+        if ((option.features & QStyleOptionViewItem::Alternate) != 0) {
+            painter->fillRect(option.rect, option.palette.alternateBase());
+        }
+        if (m_tabelle->gitter()) {
+            maleGitter(*painter, option);
+        }
+        if (bild.umrandet) {
+            maleRand(*painter, option);
+        }
+        maleText(*painter, option, bild);
+        if ((option.state & QStyle::State_HasFocus) != 0 && !bild.umrandet) {
+            maleTastaturmarke(*painter, option);
+        }
+        painter->restore();
+    }
+
+private:
+    static void maleGitter(QPainter &painter, const QStyleOptionViewItem &option)
+    {
+        const QRect &zelle = option.rect;
+        painter.setPen(QPen(option.palette.color(QPalette::Mid), 0));
+        painter.drawLine(zelle.topRight(), zelle.bottomRight());
+        painter.setPen(QPen(option.palette.color(QPalette::Mid), 0, Qt::DashLine));
+        painter.drawLine(zelle.bottomLeft(), zelle.bottomRight());
+    }
+
+    static void maleRand(QPainter &painter, const QStyleOptionViewItem &option)
+    {
+        painter.setPen(QPen(option.palette.color(QPalette::Highlight), 2));
+        painter.drawRect(QRectF(option.rect).adjusted(1.5, 1.5, -2.5, -2.5));
+    }
+
+    static void maleTastaturmarke(QPainter &painter, const QStyleOptionViewItem &option)
+    {
+        painter.setPen(QPen(option.palette.color(QPalette::Highlight), 1, Qt::DotLine));
+        painter.drawRect(option.rect.adjusted(1, 1, -3, -3));
+    }
+
+    static void maleText(QPainter &painter, const QStyleOptionViewItem &option,
+                         const Zellenbild &bild)
+    {
+        QRect platz = option.rect.adjusted(zellenrand, 0, -zellenrand, 0);
+        painter.setPen(option.palette.color(QPalette::Text));
+        painter.setFont(option.font);
+        QString rest = bild.text;
+        if (bild.anfang && !bild.text.isEmpty()) {
+            const qsizetype zeichen = bild.text.at(0).isHighSurrogate() ? 2 : 1;
+            const QString anfang = bild.text.left(zeichen);
+            rest = bild.text.mid(zeichen);
+            QFont schrift = option.font;
+            if (bild.anfangspunkte > 0) {
+                schrift.setPointSize(bild.anfangspunkte);
+            }
+            painter.setFont(schrift);
+            painter.setPen(farbeFuer(*bild.anfang, option.palette));
+            painter.drawText(platz, Qt::AlignLeft | Qt::AlignVCenter, anfang);
+            platz.setLeft(platz.left() + painter.fontMetrics().horizontalAdvance(anfang));
+            painter.setFont(option.font);
+            painter.setPen(option.palette.color(QPalette::Text));
+        }
+        painter.drawText(platz, Qt::AlignLeft | Qt::AlignVCenter,
+                         option.fontMetrics.elidedText(rest, Qt::ElideRight, platz.width()));
+    }
+
+    Tabelle *m_tabelle;
+};
+
+} // namespace
+
+Tabelle::Tabelle(QWidget *parent) : QTableView(parent), m_modell(new Tabellenmodell(this))
+{
+    setModel(m_modell);
+    setItemDelegate(new Zellenmaler(this));
+    setSelectionMode(QAbstractItemView::SingleSelection);
+    setSelectionBehavior(QAbstractItemView::SelectItems);
+    setEditTriggers(QAbstractItemView::NoEditTriggers);
+    setShowGrid(false);
+    setDragEnabled(true);
+    setDragDropMode(QAbstractItemView::DragOnly);
+    setTabKeyNavigation(false);
+    setWordWrap(false);
+    verticalHeader()->hide();
+    verticalHeader()->setMinimumSectionSize(8);
+    horizontalHeader()->setHighlightSections(false);
+}
+
+void Tabelle::setQuelle(Tabellenquelle *quelle, const QList<Spalte> &spalten)
+{
+    m_modell->setQuelle(quelle, spalten);
+}
+
+void Tabelle::reloadData()
+{
+    m_modell->reloadData();
+    viewport()->update();
+}
+
+int Tabelle::selectedRow() const
+{
+    const QModelIndexList gewaehlt = selectionModel()->selectedIndexes();
+    return gewaehlt.isEmpty() ? -1 : gewaehlt.first().row();
+}
+
+void Tabelle::selectRow(int zeile)
+{
+    const int spalte = qMax(0, currentIndex().column());
+    const QModelIndex index = m_modell->index(zeile, spalte);
+    if (index.isValid()) {
+        selectionModel()->setCurrentIndex(index, QItemSelectionModel::ClearAndSelect);
+        viewport()->update();
+    }
+}
+
+void Tabelle::scrollRowToVisible(int zeile)
+{
+    const QModelIndex index = m_modell->index(zeile, qMax(0, currentIndex().column()));
+    if (index.isValid()) {
+        scrollTo(index);
+    }
+}
+
+void Tabelle::setGitter(bool gitter)
+{
+    m_gitter = gitter;
+    viewport()->update();
+}
+
+int Tabelle::rowHeight() const
+{
+    return verticalHeader()->defaultSectionSize();
+}
+
+void Tabelle::setRowHeight(int hoehe)
+{
+    verticalHeader()->setDefaultSectionSize(hoehe);
+    verticalHeader()->setSectionResizeMode(QHeaderView::Fixed);
+}
+
+/// Runs the action with the column in which the user chose.
+void Tabelle::melde(int spalte)
+{
+    viewport()->update();
+    m_clickedColumn = spalte;
+    Q_EMIT betaetigt();
+    m_clickedColumn = -1;
+}
+
+void Tabelle::mousePressEvent(QMouseEvent *event)
+{
+    m_mausort = event->position().toPoint();
+    m_gedrueckteZeile = rowAt(m_mausort.y());
+    QTableView::mousePressEvent(event);
+}
+
+void Tabelle::mouseMoveEvent(QMouseEvent *event)
+{
+    m_mausort = event->position().toPoint();
+    QTableView::mouseMoveEvent(event);
+}
+
+void Tabelle::mouseReleaseEvent(QMouseEvent *event)
+{
+    const bool gezogen = state() == DraggingState || state() == DragSelectingState;
+    QTableView::mouseReleaseEvent(event);
+    if (event->button() != Qt::LeftButton || gezogen) {
+        return;
+    }
+    const QModelIndex index = indexAt(event->position().toPoint());
+    if (!index.isValid()) {
+        clearSelection();
+        melde(-1);
+    } else if (index.row() == m_gedrueckteZeile) {
+        melde(index.column());
+    }
+}
+
+void Tabelle::keyPressEvent(QKeyEvent *event)
+{
+    const QModelIndex vorher = currentIndex();
+    QTableView::keyPressEvent(event);
+    const bool bestaetigt = event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
+    if (currentIndex().isValid() && (bestaetigt || currentIndex() != vorher)) {
+        melde(currentIndex().column());
+    }
+}
+
+QMimeData *Tabelle::ziehdaten(int zeile, const QPoint &mausort) const
+{
+    const int spalte = columnAt(mausort.x());
+    const QString text = m_modell->ziehtext(spalte, zeile);
+    if (text.isNull()) {
+        return nullptr;
+    }
+    auto *daten = new QMimeData;
+    daten->setText(text);
+    return daten;
+}
+
+void Tabelle::startDrag(Qt::DropActions supportedActions)
+{
+    QMimeData *daten = ziehdaten(m_gedrueckteZeile, m_mausort);
+    if (daten == nullptr) {
+        return;
+    }
+    auto *zug = new QDrag(this);
+    zug->setMimeData(daten);
+    zug->exec(supportedActions | Qt::CopyAction, Qt::CopyAction);
+}

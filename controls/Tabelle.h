@@ -1,0 +1,64 @@
+#pragma once
+
+#include "Tabellenmodell.h"
+
+#include <QTableView>
+
+/// A table that follows its controller (`Tabellenquelle`). A cell is chosen with the mouse or the
+/// arrow keys; the action then finds the chosen row and the column in which it was chosen.
+class Tabelle : public QTableView
+{
+    Q_OBJECT
+    /// True: solid lines between the columns and dashed ones between the rows.
+    Q_PROPERTY(bool gitter READ gitter WRITE setGitter)
+    /// Height of a row in points of the layout.
+    Q_PROPERTY(int rowHeight READ rowHeight WRITE setRowHeight)
+
+public:
+    explicit Tabelle(QWidget *parent = nullptr);
+
+    void setQuelle(Tabellenquelle *quelle, const QList<Spalte> &spalten);
+    void reloadData();
+
+    /// The selected row, −1 when none is.
+    int selectedRow() const;
+
+    /// The column in which the user chose the row whose action is running; −1 at any other time.
+    int clickedColumn() const { return m_clickedColumn; }
+
+    /// Selects a row in place of what was selected, without running the action. A row that does
+    /// not exist leaves the selection as it is.
+    void selectRow(int zeile);
+    void scrollRowToVisible(int zeile);
+
+    bool gitter() const { return m_gitter; }
+    void setGitter(bool gitter);
+    int rowHeight() const;
+    void setRowHeight(int hoehe);
+
+    Tabellenmodell *modell() const { return m_modell; }
+
+    /// What a drag from this place of the table carries, null when nothing can be dragged there:
+    /// the row that was pressed, the column that lies under the mouse.
+    QMimeData *ziehdaten(int zeile, const QPoint &mausort) const;
+
+Q_SIGNALS:
+    /// The user has chosen a cell, or clicked beside all rows.
+    void betaetigt();
+
+protected:
+    void mousePressEvent(QMouseEvent *event) override;
+    void mouseMoveEvent(QMouseEvent *event) override;
+    void mouseReleaseEvent(QMouseEvent *event) override;
+    void keyPressEvent(QKeyEvent *event) override;
+    void startDrag(Qt::DropActions supportedActions) override;
+
+private:
+    void melde(int spalte);
+
+    Tabellenmodell *m_modell;
+    int m_clickedColumn = -1;
+    bool m_gitter = false;
+    QPoint m_mausort;
+    int m_gedrueckteZeile = -1;
+};

@@ -1,0 +1,115 @@
+#include "Tabellenmodell.h"
+
+Zellenbild Tabellenquelle::willDisplayCell(const QString &, int, const QString &wert)
+{
+    Zellenbild bild;
+    bild.text = wert;
+    return bild;
+}
+
+QString Tabellenquelle::writeRows(const QString &, int)
+{
+    return {};
+}
+
+Tabellenmodell::Tabellenmodell(QObject *parent) : QAbstractTableModel(parent) {}
+
+void Tabellenmodell::setQuelle(Tabellenquelle *quelle, const QList<Spalte> &spalten)
+{
+    beginResetModel();
+    m_quelle = quelle;
+    m_spalten = spalten;
+    m_zeilen = 0;
+    endResetModel();
+    reloadData();
+}
+
+/// Rows come and go at the end, so the selection stays where it is.
+void Tabellenmodell::reloadData()
+{
+    const int neu = m_quelle != nullptr ? m_quelle->numberOfRows() : 0;
+    if (neu > m_zeilen) {
+        beginInsertRows({}, m_zeilen, neu - 1);
+        m_zeilen = neu;
+        endInsertRows();
+    } else if (neu < m_zeilen) {
+        beginRemoveRows({}, neu, m_zeilen - 1);
+        m_zeilen = neu;
+        endRemoveRows();
+    }
+}
+
+QString Tabellenmodell::kennung(int spalte) const
+{
+    return spalte >= 0 && spalte < m_spalten.size() ? m_spalten[spalte].kennung : QString();
+}
+
+int Tabellenmodell::spaltenstelle(const QString &kennung) const
+{
+    for (int i = 0; i < m_spalten.size(); ++i) {
+        if (m_spalten[i].kennung == kennung) {
+            return i;
+        }
+    }
+    return -1;
+}
+
+Zellenbild Tabellenmodell::bild(const QModelIndex &index) const
+{
+    if (m_quelle == nullptr || !index.isValid()) {
+        return {};
+    }
+    const QString spalte = kennung(index.column());
+    return m_quelle->willDisplayCell(spalte, index.row(),
+                                     m_quelle->objectValue(spalte, index.row()));
+}
+
+QString Tabellenmodell::ziehtext(int spalte, int zeile) const
+{
+    if (m_quelle == nullptr || zeile < 0 || zeile >= m_zeilen || kennung(spalte).isNull()) {
+        return {};
+    }
+    return m_quelle->writeRows(kennung(spalte), zeile);
+}
+
+int Tabellenmodell::rowCount(const QModelIndex &parent) const
+{
+    return parent.isValid() ? 0 : m_zeilen;
+}
+
+int Tabellenmodell::columnCount(const QModelIndex &parent) const
+{
+    return parent.isValid() ? 0 : static_cast<int>(m_spalten.size());
+}
+
+QVariant Tabellenmodell::data(const QModelIndex &index, int role) const
+{
+    if (m_quelle == nullptr || !index.isValid() || index.row() >= m_zeilen) {
+        return {};
+    }
+    if (role == Qt::DisplayRole) {
+        const QString wert = m_quelle->objectValue(kennung(index.column()), index.row());
+        return wert.isNull() ? QVariant() : QVariant(wert);
+    }
+    return {};
+}
+
+QVariant Tabellenmodell::headerData(int section, Qt::Orientation orientation, int role) const
+{
+    if (orientation == Qt::Horizontal && role == Qt::DisplayRole && section >= 0 &&
+        section < m_spalten.size()) {
+        return m_spalten[section].titel;
+    }
+    return {};
+}
+
+Qt::ItemFlags Tabellenmodell::flags(const QModelIndex &index) const
+{
+    return index.isValid() ? Qt::ItemIsEnabled | Qt::ItemIsSelectable | Qt::ItemIsDragEnabled
+                           : Qt::NoItemFlags;
+}
+
+QStringList Tabellenmodell::mimeTypes() const
+{
+    return {QStringLiteral("text/plain")};
+}

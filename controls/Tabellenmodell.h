@@ -1,0 +1,82 @@
+#pragma once
+
+#include "Textfarbe.h"
+
+#include <QAbstractTableModel>
+#include <QList>
+#include <QString>
+#include <QStringList>
+
+#include <optional>
+
+/// How one cell of a table is painted.
+struct Zellenbild
+{
+    QString text;
+    bool umrandet = false;           ///< drawn with a border: the cell of the food on display
+    std::optional<Textfarbe> anfang; ///< colour of the first character; absent: as the rest
+    int anfangspunkte = 0;           ///< size of the first character in points; 0: as the rest
+};
+
+/// A column of a table: what it is called in the code and on screen.
+struct Spalte
+{
+    QString kennung;
+    QString titel;
+};
+
+/// What a controller answers for its table. Rows beyond the controller's lists give absent values.
+class Tabellenquelle
+{
+public:
+    virtual ~Tabellenquelle() = default;
+
+    virtual int numberOfRows() const = 0;
+
+    /// The value of a cell; null where there is none.
+    virtual QString objectValue(const QString &spalte, int zeile) = 0;
+
+    /// How the cell is painted, given its value. By default the value as plain text.
+    virtual Zellenbild willDisplayCell(const QString &spalte, int zeile, const QString &wert);
+
+    /// The text that a drag of this cell carries; null: nothing can be dragged from here.
+    virtual QString writeRows(const QString &spalte, int zeile);
+
+protected:
+    Tabellenquelle() = default;
+    Tabellenquelle(const Tabellenquelle &) = default;
+    Tabellenquelle &operator=(const Tabellenquelle &) = default;
+};
+
+/// Hands a controller's answers to Qt's table. It knows the number of rows that was read at the
+/// last `reloadData`, so lists that changed since then can't bring the window down.
+class Tabellenmodell : public QAbstractTableModel
+{
+    Q_OBJECT
+
+public:
+    explicit Tabellenmodell(QObject *parent = nullptr);
+
+    void setQuelle(Tabellenquelle *quelle, const QList<Spalte> &spalten);
+    void reloadData();
+
+    QString kennung(int spalte) const;
+    int spaltenstelle(const QString &kennung) const;
+    Zellenbild bild(const QModelIndex &index) const;
+
+    /// What a drag of this cell carries; null outside of the table and where nothing can be
+    /// dragged.
+    QString ziehtext(int spalte, int zeile) const;
+
+    int rowCount(const QModelIndex &parent = {}) const override;
+    int columnCount(const QModelIndex &parent = {}) const override;
+    QVariant data(const QModelIndex &index, int role) const override;
+    QVariant headerData(int section, Qt::Orientation orientation, int role) const override;
+    Qt::ItemFlags flags(const QModelIndex &index) const override;
+    QStringList mimeTypes() const override;
+
+private:
+    Tabellenquelle *m_quelle = nullptr;
+    QList<Spalte> m_spalten;
+    int m_zeilen = 0;
+};

@@ -1,0 +1,180 @@
+#include "Textfeld.h"
+
+#include <QEvent>
+#include <QFocusEvent>
+#include <QGuiApplication>
+#include <QLocale>
+#include <QPalette>
+
+#include <algorithm>
+#include <cmath>
+
+namespace {
+
+/// Sent by a field to itself, once per turn of the event loop, to bring its text up to date.
+const QEvent::Type auffrischen = static_cast<QEvent::Type>(QEvent::registerEventType());
+
+/// More digits behind the comma than this help nobody.
+constexpr int meisteNachkommastellen = 3;
+
+} // namespace
+
+Textfeld::Textfeld(QWidget *parent) : QLineEdit(parent)
+{
+    QSizePolicy policy = sizePolicy();
+    policy.setRetainSizeWhenHidden(true); // a value of 0 hides its field; the others stay in place
+    setSizePolicy(policy);
+    setEditable(false);
+    connect(this, &QLineEdit::textEdited, this, [this](const QString &text) { uebernimm(text); });
+    connect(this, &QLineEdit::editingFinished, this, [this] {
+        if (isModified()) {
+            setModified(false);
+            Q_EMIT betaetigt();
+        }
+    });
+}
+
+void Textfeld::setEditable(bool editable)
+{
+    m_editable = editable;
+    setReadOnly(!editable);
+    setFrame(editable);
+    setFocusPolicy(editable ? Qt::StrongFocus : Qt::ClickFocus);
+    einkleiden();
+}
+
+void Textfeld::setDecimals(int decimals)
+{
+    m_decimals = decimals;
+    wertGesetzt();
+}
+
+void Textfeld::setSignificantDigits(int digits)
+{
+    m_significantDigits = digits;
+    wertGesetzt();
+}
+
+void Textfeld::setUnit(const QString &unit)
+{
+    m_unit = unit;
+    wertGesetzt();
+}
+
+void Textfeld::setTextColor(Textfarbe farbe)
+{
+    if (m_farbe != farbe) {
+        m_farbe = farbe;
+        einkleiden();
+    }
+}
+
+/// A display is part of the window's surface, an entry field a sheet of its own.
+void Textfeld::einkleiden()
+{
+    QPalette kleid;
+    if (!m_editable) {
+        kleid.setColor(QPalette::Base, Qt::transparent);
+    }
+    if (m_farbe != Textfarbe::Standard) {
+        kleid.setColor(QPalette::Text, farbeFuer(m_farbe, QGuiApplication::palette()));
+    }
+    setPalette(kleid);
+}
+
+void Textfeld::changeEvent(QEvent *event)
+{
+    QLineEdit::changeEvent(event);
+    if (event->type() == QEvent::PaletteChange && m_farbe != Textfarbe::Standard &&
+        palette().color(QPalette::Text) != farbeFuer(m_farbe, QGuiApplication::palette())) {
+        einkleiden();
+    }
+}
+
+void Textfeld::wertGesetzt()
+{
+    if (!m_veraltet) {
+        m_veraltet = true;
+        QCoreApplication::postEvent(this, new QEvent(auffrischen));
+    }
+}
+
+QString Textfeld::zahlText(double zahl) const
+{
+    if (m_decimals < 0) {
+        return Wertehalter::zahlText(zahl);
+    }
+    int stellen = m_decimals;
+    if (m_significantDigits > 0 && zahl != 0 && std::isfinite(zahl)) {
+        const int fuehrend = static_cast<int>(std::floor(std::log10(std::fabs(zahl))));
+        stellen = std::clamp(m_significantDigits - 1 - fuehrend, m_decimals,
+                             std::max(m_decimals, meisteNachkommastellen));
+    }
+    return QLocale().toString(zahl, 'f', stellen);
+}
+
+QString Textfeld::angezeigterText() const
+{
+    const bool tippend = m_editable && hasFocus();
+    return haeltZahl() && !m_unit.isEmpty() && !tippend
+               ? stringValue() + QChar(QChar::Nbsp) + m_unit
+               : stringValue();
+}
+
+/// Brings the shown text up to date. A text that the user is typing is never touched.
+void Textfeld::zeigen()
+{
+    if (m_veraltet) {
+        m_veraltet = false;
+        const QString neu = angezeigterText();
+        if (neu != text()) {
+            setText(neu);
+            setCursorPosition(0);
+        }
+    }
+}
+
+bool Textfeld::event(QEvent *event)
+{
+    if (event->type() == auffrischen) {
+        zeigen();
+        return true;
+    }
+    return QLineEdit::event(event);
+}
+
+void Textfeld::paintEvent(QPaintEvent *event)
+{
+    zeigen();
+    QLineEdit::paintEvent(event);
+}
+
+void Textfeld::focusInEvent(QFocusEvent *event)
+{
+    QLineEdit::focusInEvent(event);
+    if (m_editable && haeltZahl()) {
+        m_veraltet = true;
+        zeigen();
+        if (event->reason() == Qt::TabFocusReason || event->reason() == Qt::BacktabFocusReason) {
+            selectAll();
+        }
+    }
+}
+
+void Textfeld::focusOutEvent(QFocusEvent *event)
+{
+    QLineEdit::focusOutEvent(event);
+    wertGesetzt();
+}
+
+/// Wide enough for what such a field usually holds, and no wider.
+QSize Textfeld::sizeHint() const
+{
+    const QSize grund = QLineEdit::sizeHint();
+    return {fontMetrics().horizontalAdvance(QStringLiteral("00000,0 kcal")) + 16, grund.height()};
+}
+
+QSize Textfeld::minimumSizeHint() const
+{
+    return {sizeHint().width() / 2, sizeHint().height()};
+}

@@ -1,0 +1,65 @@
+#pragma once
+
+#include "Textfarbe.h"
+#include "Wertehalter.h"
+
+#include <QLineEdit>
+
+/// A field that shows a value, or takes one from the user when it is editable. A shown number
+/// carries its unit; while the user types in it, the number stands alone.
+class Textfeld : public QLineEdit, public Wertehalter
+{
+    Q_OBJECT
+    /// False: a flat display that is no stop of the Tab key. True: an entry field.
+    Q_PROPERTY(bool editable READ isEditable WRITE setEditable)
+    /// Digits behind the comma of a shown number; −1 writes it as short as it is.
+    Q_PROPERTY(int decimals READ decimals WRITE setDecimals)
+    /// Small numbers get more digits behind the comma until this many that matter are seen
+    /// (0: never); so 0.012 mg does not show as 0.
+    Q_PROPERTY(int significantDigits READ significantDigits WRITE setSignificantDigits)
+    /// The unit behind a shown number, such as "mg"; empty for none.
+    Q_PROPERTY(QString unit READ unit WRITE setUnit)
+
+public:
+    explicit Textfeld(QWidget *parent = nullptr);
+
+    bool isEditable() const { return m_editable; }
+    void setEditable(bool editable);
+    int decimals() const { return m_decimals; }
+    void setDecimals(int decimals);
+    int significantDigits() const { return m_significantDigits; }
+    void setSignificantDigits(int digits);
+    QString unit() const { return m_unit; }
+    void setUnit(const QString &unit);
+
+    Textfarbe textColor() const { return m_farbe; }
+    void setTextColor(Textfarbe farbe);
+
+    QSize sizeHint() const override;
+    QSize minimumSizeHint() const override;
+
+Q_SIGNALS:
+    /// The user has typed a value and left the field or pressed Return.
+    void betaetigt();
+
+protected:
+    void wertGesetzt() override;
+    QString zahlText(double zahl) const override;
+    bool event(QEvent *event) override;
+    void changeEvent(QEvent *event) override;
+    void paintEvent(QPaintEvent *event) override;
+    void focusInEvent(QFocusEvent *event) override;
+    void focusOutEvent(QFocusEvent *event) override;
+
+private:
+    void zeigen();
+    void einkleiden();
+    QString angezeigterText() const;
+
+    bool m_editable = false;
+    int m_decimals = -1;
+    int m_significantDigits = 0;
+    QString m_unit;
+    Textfarbe m_farbe = Textfarbe::Standard;
+    bool m_veraltet = false; ///< the shown text is older than the held value
+};
