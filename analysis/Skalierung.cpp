@@ -1,0 +1,33 @@
+#include "Skalierung.h"
+
+Naehrwertreihe skalieren(const Datenmodul &lebensmittel, std::int32_t menge)
+{
+    const auto gramm = static_cast<float>(menge);
+    Naehrwertreihe reihe = {};
+    for (const auto &zeile : naehrwerte) {
+        reihe[stelle(zeile.wert)] = lebensmittel.wert(zeile.wert) * gramm / 100.0F;
+    }
+    return reihe;
+}
+
+std::optional<bool> sichtbarkeit(float wert)
+{
+    if (wert > 0.0F) {
+        return true;
+    }
+    if (wert == 0.0F) {
+        return false;
+    }
+    return std::nullopt;
+}
+
+float kilojoule(float kilokalorien)
+{
+    constexpr double kilojouleJeKilokalorie = 4.17910447761194;
+    return static_cast<float>(static_cast<double>(kilokalorien) * kilojouleJeKilokalorie);
+}
+
+float jeGramm(float wert, std::int32_t menge)
+{
+    return menge != 0 ? wert / static_cast<float>(menge) : 0.0F;
+}

@@ -1,0 +1,27 @@
+#pragma once
+
+#include "Datenmodul.h"
+
+#include <array>
+#include <cstdint>
+#include <optional>
+
+/// The seventeen values of a food for some amount, in the order of Naehrwert, as the display holds
+/// them: single precision, not rounded.
+using Naehrwertreihe = std::array<float, anzahlNaehrwerte>;
+
+/// The values of `lebensmittel` in `menge` grams of it. In single precision: value times amount
+/// first, then divided by 100. At 100 g this gives back the stored value, but for the last binary
+/// digit of some values with three or more decimals (0.007 comes back as 0.0070000007).
+Naehrwertreihe skalieren(const Datenmodul &lebensmittel, std::int32_t menge);
+
+/// Whether a value and its label are to be seen: yes above 0, no at exactly 0 (either sign).
+/// Absent for a negative value and for NaN: the two stay as they are.
+std::optional<bool> sichtbarkeit(float wert);
+
+/// Energy in kJ from energy in kcal: times 4.17910447761194, in double precision, the result kept
+/// in single. The factor is 280/67; it lies a little below the usual 4.184.
+float kilojoule(float kilokalorien);
+
+/// The displayed value for one gram of the displayed amount; 0 when the amount is 0.
+float jeGramm(float wert, std::int32_t menge);
