@@ -31,6 +31,13 @@ Schieber::Schieber(QWidget *parent)
     setFocusProxy(m_regler);
     einteilen();
     connect(m_regler, &QSlider::valueChanged, this, &Schieber::reglerBewegt);
+    // A held value beyond the range rests at the slider's end; a key or click there takes the end.
+    connect(m_regler, &QSlider::actionTriggered, this, [this] {
+        const bool ausserhalb = doubleValue() < m_minimum || doubleValue() > m_maximum;
+        if (ausserhalb && m_regler->sliderPosition() == m_regler->value()) {
+            reglerBewegt(m_regler->value());
+        }
+    });
     connect(m_eingabe, &QDoubleSpinBox::valueChanged, this, &Schieber::zahlEingegeben);
     setDoubleValue(0);
 }

@@ -1,0 +1,212 @@
+#include "AppController.h"
+
+#include "Lebensmittelbestand.h"
+#include "Menue.h"
+#include "Zeichenkettentabelle.h"
+
+#include <QAbstractButton>
+#include <QEvent>
+
+int AppController::angeklickteSpalte = -1;
+
+const QStringList AppController::ansichten = {
+    QStringLiteral("eins"), QStringLiteral("zwei"), QStringLiteral("drei"),
+    QStringLiteral("vier"), QStringLiteral("fünf"),
+};
+
+namespace {
+
+constexpr int zeilenhoehe = 23;
+
+const char *const quellenangabe =
+    QT_TRANSLATE_NOOP("Mahlberg", "Nährwerte je 100 g: Schweizer Nährwertdatenbank, generische "
+                                  "Lebensmittel, Version 7.0, Bundesamt für Lebensmittelsicherheit "
+                                  "und Veterinärwesen BLV");
+
+QString reiterkennung(const QTabWidget &reiter, int stelle)
+{
+    return reiter.widget(stelle)->property("kennung").toString();
+}
+
+} // namespace
+
+AppController::AppController(Tueren tueren)
+    : Hauptfenster(new QMainWindow)
+    , einfenster(nullptr)
+    , m_tueren(std::move(tueren))
+{
+    ladeBestaende();
+    HauptfensterGestalt::setupUi(Hauptfenster);
+    einfenster = new QDialog(Hauptfenster);
+    EingabefensterGestalt::setupUi(einfenster);
+    einfenster->setWindowModality(Qt::WindowModal);
+    findeFelder();
+    beschrifte();
+    verbinde();
+}
+
+AppController::~AppController()
+{
+    delete Hauptfenster;
+}
+
+void AppController::ladeBestaende()
+{
+    Lebensmittelbestand eingebaut = ladeEingebauteLebensmittel(m_tueren.eingebauteTabelle);
+    Dictionary = std::move(eingebaut.verzeichnis);
+    Array = std::move(eingebaut.namen);
+    for (const QString &name : std::as_const(Array)) {
+        m_uebersetzt << localizedString(name);
+    }
+    Lebensmittelbestand eigene =
+        ladeEigeneLebensmittel(m_tueren.datenordner.pathForDataFile(QStringLiteral("customdaten")));
+    KundenDictionary = std::move(eigene.verzeichnis);
+    KundenArray = std::move(eigene.namen);
+}
+
+/// Walks the one list of values to the outlets that show them. The energy's field and the caption
+/// of protein have names of their own; all others are called after their value.
+void AppController::findeFelder()
+{
+    const auto finde = [this](const QString &name) {
+        return Hauptfenster->findChild<QWidget *>(name);
+    };
+    for (const auto &zeile : naehrwerte) {
+        const QString kennung = QLatin1String(zeile.kennung);
+        const bool energie = zeile.wert == Naehrwert::kal;
+        const QString feld = energie ? QStringLiteral("feldB") : kennung + QStringLiteral("feld");
+        const QString beschriftung = zeile.wert == Naehrwert::protein
+                                         ? QStringLiteral("proteineinaus")
+                                         : feld + QStringLiteral("einaus");
+        m_wertfelder[stelle(zeile.wert)] = qobject_cast<Textfeld *>(finde(feld));
+        m_wertbeschriftungen[stelle(zeile.wert)] = finde(beschriftung);
+    }
+    for (const auto &zeile : wertungen) {
+        m_wertungsfelder[stelle(zeile.wertung)] =
+            qobject_cast<Textfeld *>(finde(QLatin1String(zeile.kennung) + QStringLiteral("feld")));
+    }
+    for (std::size_t i = 0; i < tagesbedarfe.size(); ++i) {
+        const QString kennung = QLatin1String(beschreibung(tagesbedarfe[i].wert).kennung);
+        m_bedarfsfelder[i] =
+            qobject_cast<Textfeld *>(finde(kennung + QStringLiteral("tagesbedarffeld")));
+    }
+    m_mengenanzeigen = {anzeigelebensmittelmenge, anzeigelebensmittelmenge2,
+                        anzeigelebensmittelmenge3};
+    m_mengenregler = {lebensmittelmenge, lebensmittelmenge2, lebensmittelmenge3};
+}
+
+void AppController::beschrifte()
+{
+    view->setPlainText(localizedString(QString::fromUtf8(quellenangabe)));
+    nahrviewfarben->setEintraege({
+        {QColor(0, 255, 0), localizedString(QStringLiteral("Protein"))},
+        {QColor(0, 0, 255), localizedString(QStringLiteral("Kohlenhydrate"))},
+        {QColor(255, 255, 0), localizedString(QStringLiteral("Fett"))},
+    });
+    suchfortschritt->hide();
+    sichernBox->hide();
+    for (QWidget *widget : std::initializer_list<QWidget *>{
+             DatenAnsicht, proteinanzeige, fettanzeige, khanzeige, gesamtbeurteilungfeld}) {
+        QSizePolicy policy = widget->sizePolicy();
+        policy.setRetainSizeWhenHidden(true);
+        widget->setSizePolicy(policy);
+    }
+}
+
+void AppController::verbinde()
+{
+    Tabelle->setQuelle(this,
+                       {{QStringLiteral("name"), localizedString(QStringLiteral("Lebensmittel"))},
+                        {QStringLiteral("eigen"), localizedString(QStringLiteral("Eigene"))},
+                        {QStringLiteral("such"), localizedString(QStringLiteral("Suche"))}});
+    connect(Tabelle, &Tabelle::betaetigt, this, &AppController::Laden);
+    connect(lebensmittelmenge, &Schieber::betaetigt, this,
+            [this] { wieviellebensmittel(*lebensmittelmenge); });
+    connect(lebensmittelmenge2, &Schieber::betaetigt, this,
+            [this] { wieviellebensmittel2(*lebensmittelmenge2); });
+    connect(lebensmittelmenge3, &Schieber::betaetigt, this,
+            [this] { wieviellebensmittel3(*lebensmittelmenge3); });
+    Hauptfenster->installEventFilter(this);
+    connect(sichernaufzu, &QAbstractButton::clicked, this, &AppController::SichernFensterAuf);
+    connect(EingabeFensterschliessen, &QAbstractButton::clicked, this,
+            &AppController::Fensterschliessen);
+}
+
+void AppController::awakeFromNib()
+{
+    LManzahl->setIntValue(static_cast<int>(Array.size()));
+    Tabelle->setAlternatingRowColors(true);
+    Tabelle->setGitter(true);
+    Tabelle->setRowHeight(zeilenhoehe);
+    for (std::size_t i = 0; i < m_mengenregler.size(); ++i) {
+        m_mengenregler[i]->setEnabled(false);
+        m_mengenanzeigen[i]->setStringValue(
+            localizedString(QStringLiteral("Menge Lebensmittel (100g)")));
+    }
+    Tabelle->selectRow(0);
+    Tabelle->scrollRowToVisible(0);
+    DatenAnsicht->setCurrentIndex(0);
+    direkteuebernahme->setChecked(true);
+    Laden();
+    zeigeAnsicht(QStringLiteral("eins"));
+    welcheTabelleAktiv = 0;
+    BoxAufZu = 0;
+    setUpToolbar();
+    baueMenueleiste(*this);
+}
+
+void AppController::Ansichtdurchwechseln()
+{
+    const qsizetype jetzt =
+        ansichten.indexOf(reiterkennung(*DatenAnsicht, DatenAnsicht->currentIndex()));
+    if (jetzt >= 0) {
+        zeigeAnsicht(ansichten[(jetzt + 1) % ansichten.size()]);
+    }
+}
+
+void AppController::zeigeAnsicht(const QString &kennung)
+{
+    for (int i = 0; i < DatenAnsicht->count(); ++i) {
+        if (reiterkennung(*DatenAnsicht, i) == kennung) {
+            DatenAnsicht->setCurrentIndex(i);
+        }
+    }
+}
+
+void AppController::windowWillClose()
+{
+    Q_EMIT beendet();
+}
+
+bool AppController::eventFilter(QObject *watched, QEvent *event)
+{
+    if (watched == Hauptfenster && event->type() == QEvent::Close) {
+        windowWillClose();
+    }
+    return QObject::eventFilter(watched, event);
+}
+
+void AppController::Fenster()
+{
+    einfenster->open();
+}
+
+void AppController::Fensterschliessen()
+{
+    einfenster->done(1);
+}
+
+Textfarbe textfarbe(Ampel ampel)
+{
+    switch (ampel) {
+    case Ampel::Rot:
+        return Textfarbe::Rot;
+    case Ampel::Blau:
+        return Textfarbe::Blau;
+    case Ampel::Gruen:
+        return Textfarbe::Gruen;
+    case Ampel::Schwarz:
+        break;
+    }
+    return Textfarbe::Schwarz;
+}

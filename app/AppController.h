@@ -1,0 +1,156 @@
+#pragma once
+
+#include "Ampel.h"
+#include "Datenmodul.h"
+#include "Energieanteile.h"
+#include "Erscheinungsbild.h"
+#include "Skalierung.h"
+#include "Tabellenmodell.h"
+#include "Tagesbedarf.h"
+#include "Tueren.h"
+#include "Werkzeugleiste.h"
+#include "ui_Eingabefenster.h"
+#include "ui_Hauptfenster.h"
+
+#include <QObject>
+#include <QStringList>
+
+#include <array>
+
+/// Runs the main window: holds the foods, shows the chosen one for an amount of grams, and judges
+/// it. Its outlets are the objects of the two interface descriptions, under their names.
+class AppController : public QObject,
+                      public Ui::HauptfensterGestalt,
+                      public Ui::EingabefensterGestalt,
+                      private Tabellenquelle,
+                      private Werkzeugquelle
+{
+    Q_OBJECT
+
+public:
+    /// Loads the stores and connects the window; nothing is on display yet.
+    explicit AppController(Tueren tueren);
+    ~AppController() override;
+
+    /// Start-up: fills the window and shows the first food. Called once, after construction.
+    void awakeFromNib();
+
+    // The window that the outlets belong to, its sheet and its toolbar.
+    QMainWindow *Hauptfenster;
+    QDialog *einfenster;
+    Werkzeugleiste *toolbar = nullptr;
+
+    // The stores: from a food's name to its record, and the names in the order of display.
+    Lebensmittelverzeichnis Dictionary;
+    QStringList Array;
+    Lebensmittelverzeichnis KundenDictionary;
+    QStringList KundenArray;
+    QStringList suchArray;
+    QStringList suchArray2;
+
+    QString unuebersetztername; ///< store key of the food on display; null before the first
+    int BoxAufZu = 0;           ///< 1 while the save box is open
+    int welcheTabelleAktiv = 0; ///< list of the food on display: 0 none, 1 built-in, 2 own
+    float gesamtkal = 0;        ///< energy from protein, carbohydrate and fat, kcal
+    float kalumrprot = 0;       ///< share of protein in it, percent
+    float kalumrkh = 0;         ///< share of carbohydrate, percent
+    float kalumrfett = 0;       ///< share of fat, percent
+
+    /// The column in which the last selection was made: −1 not by a click, 0 "name", 1 "eigen",
+    /// 2 "such". One for the whole process: every table and every action reads the same.
+    static int angeklickteSpalte;
+
+    /// The tabs of `DatenAnsicht` in the order in which they are cycled.
+    static const QStringList ansichten;
+
+    // Actions
+    void Laden();
+    void LadeneigeneLM();
+    void wieviellebensmittel(const Wertehalter &sender);
+    void wieviellebensmittel2(const Wertehalter &sender) { wieviellebensmittel(sender); }
+    void wieviellebensmittel3(const Wertehalter &sender) { wieviellebensmittel(sender); }
+    void Ansichtdurchwechseln();
+    void zeigeAnsicht(const QString &kennung);
+    void Fenster();
+    void Fensterschliessen();
+    void SichernFensterAuf();
+    void Leisteanpassen();
+    void windowWillClose();
+    void waehleErscheinungsbild(Erscheinungsbild bild);
+    void waehleSprache(const QString &sprache);
+
+    // What the actions are made of
+    void rausholen(const Datenmodul *lebensmittel);
+    void eintragen(Datenmodul &lebensmittel) const;
+    void rechnen();
+    void relationenrechnen();
+
+    /// The display fields of the seventeen values, in the record's order.
+    const std::array<Textfeld *, anzahlNaehrwerte> &wertfelder() const { return m_wertfelder; }
+    /// The display fields of the four ratings, in the record's order.
+    const std::array<Textfeld *, anzahlWertungen> &wertungsfelder() const
+    {
+        return m_wertungsfelder;
+    }
+
+    /// The appearance that the settings hold.
+    Erscheinungsbild erscheinungsbild() const;
+
+Q_SIGNALS:
+    /// The main window was closed, and with it the program ends. Nothing is left to save: every
+    /// change was written when it was made.
+    void beendet();
+
+protected:
+    bool eventFilter(QObject *watched, QEvent *event) override;
+
+private:
+    // Start-up
+    void ladeBestaende();
+    void findeFelder();
+    void verbinde();
+    void beschrifte();
+    void setUpToolbar();
+
+    // The main table
+    int numberOfRows() const override;
+    QString objectValue(const QString &spalte, int zeile) override;
+    Zellenbild willDisplayCell(const QString &spalte, int zeile, const QString &wert) override;
+    QString writeRows(const QString &spalte, int zeile) override;
+
+    // The toolbar
+    QStringList toolbarAllowedItemIdentifiers() const override;
+    QStringList toolbarDefaultItemIdentifiers() const override;
+    Werkzeug toolbarItem(const QString &kennung) override;
+    std::function<void()> werkzeugaktion(const QString &kennung);
+
+    // The steps of the selection action
+    const Datenmodul *eingebautesLebensmittel(int zeile) const;
+    const Datenmodul *eigenesLebensmittel(int zeile) const;
+    const Datenmodul *gesuchtesLebensmittel(int zeile);
+    const Datenmodul *waehleLebensmittel(int zeile);
+    void setzeMengenregler(bool bedienbar);
+    void zeigeAnteilsbalken(bool sichtbar);
+    void zeigeDatenansicht(bool sichtbar);
+    void zeigeEnergieanteile();
+    void zeigeEnergieanteileGanzzahlig();
+    void uebernimmEnergieanteile(const Energieanteile &anteile);
+    void schliesseAuswahlAb();
+    void zeigeJoule();
+    void faerbeWertungen();
+    void beschrifteMengen(const QString &menge);
+    void zeigeWert(std::size_t stelle, float zahl);
+    Naehrwertreihe gezeigteWerte() const;
+
+    Tueren m_tueren;
+    QStringList m_uebersetzt; ///< the shown name of each entry of `Array`
+    std::array<Textfeld *, anzahlNaehrwerte> m_wertfelder = {};
+    std::array<QWidget *, anzahlNaehrwerte> m_wertbeschriftungen = {};
+    std::array<Textfeld *, anzahlWertungen> m_wertungsfelder = {};
+    std::array<Textfeld *, tagesbedarfe.size()> m_bedarfsfelder = {};
+    std::array<Textfeld *, 3> m_mengenanzeigen = {};
+    std::array<Schieber *, 3> m_mengenregler = {};
+};
+
+/// The colour in which a judgement is written.
+Textfarbe textfarbe(Ampel ampel);

@@ -1,0 +1,83 @@
+#include "Erscheinungsbild.h"
+
+#include <QApplication>
+#include <QPalette>
+#include <QSettings>
+#include <QStyle>
+
+namespace {
+
+const QString schluessel = QStringLiteral("Erscheinungsbild");
+
+struct Farbwahl
+{
+    QPalette::ColorRole rolle;
+    QRgb hell;
+    QRgb dunkel;
+};
+
+constexpr Farbwahl farben[] = {
+    {QPalette::Window, 0xfff4f4f2, 0xff26282b},
+    {QPalette::WindowText, 0xff1e1e1e, 0xffececec},
+    {QPalette::Base, 0xffffffff, 0xff1c1e20},
+    {QPalette::AlternateBase, 0xfff1f5f1, 0xff25282a},
+    {QPalette::Text, 0xff1e1e1e, 0xffececec},
+    {QPalette::Button, 0xffeeeeec, 0xff34373b},
+    {QPalette::ButtonText, 0xff1e1e1e, 0xffececec},
+    {QPalette::BrightText, 0xffffffff, 0xffffffff},
+    {QPalette::ToolTipBase, 0xfffffbe6, 0xff34373b},
+    {QPalette::ToolTipText, 0xff1e1e1e, 0xffececec},
+    {QPalette::PlaceholderText, 0xff6e6e6e, 0xff9a9a9a},
+    {QPalette::Highlight, 0xff2f7d4f, 0xff4caf78},
+    {QPalette::HighlightedText, 0xffffffff, 0xff10130f},
+    {QPalette::Link, 0xff1a5fb4, 0xff8ab8ff},
+    {QPalette::Light, 0xffffffff, 0xff45494e},
+    {QPalette::Midlight, 0xffe4e4e2, 0xff3b3f43},
+    {QPalette::Mid, 0xffb9b9b6, 0xff5a5f65},
+    {QPalette::Dark, 0xff9a9a97, 0xff17181a},
+    {QPalette::Shadow, 0xff6a6a68, 0xff0c0d0e},
+};
+
+QPalette palette(bool dunkel)
+{
+    QPalette ergebnis;
+    for (const Farbwahl &wahl : farben) {
+        ergebnis.setColor(wahl.rolle, QColor::fromRgb(dunkel ? wahl.dunkel : wahl.hell));
+    }
+    const QColor blass = QColor::fromRgb(dunkel ? 0xff8b8f94 : 0xff757573);
+    for (const auto rolle : {QPalette::WindowText, QPalette::Text, QPalette::ButtonText}) {
+        ergebnis.setColor(QPalette::Disabled, rolle, blass);
+    }
+    return ergebnis;
+}
+
+/// A desktop that paints dark windows is recognised by the palette that it gave at the start.
+bool systemIstDunkel()
+{
+    static const bool dunkel = QApplication::palette().color(QPalette::Window).lightness() < 128;
+    return dunkel;
+}
+
+} // namespace
+
+Erscheinungsbild gemerktesErscheinungsbild(const QSettings &einstellungen)
+{
+    const int gemerkt = einstellungen.value(schluessel, 0).toInt();
+    return gemerkt == 1   ? Erscheinungsbild::Hell
+           : gemerkt == 2 ? Erscheinungsbild::Dunkel
+                          : Erscheinungsbild::System;
+}
+
+void merkeErscheinungsbild(QSettings &einstellungen, Erscheinungsbild bild)
+{
+    einstellungen.setValue(schluessel, static_cast<int>(bild));
+    einstellungen.sync();
+}
+
+void zeigeErscheinungsbild(Erscheinungsbild bild)
+{
+    const bool systemDunkel = systemIstDunkel(); // asked before the first change of the palette
+    const bool dunkel =
+        bild == Erscheinungsbild::Dunkel || (bild == Erscheinungsbild::System && systemDunkel);
+    QApplication::setPalette(palette(dunkel));
+}

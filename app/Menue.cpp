@@ -1,0 +1,175 @@
+#include "Menue.h"
+
+#include "AppController.h"
+#include "Erscheinungsbild.h"
+#include "Ueber.h"
+#include "Zeichenkettentabelle.h"
+
+#include <QActionGroup>
+#include <QApplication>
+#include <QClipboard>
+#include <QLineEdit>
+#include <QMenuBar>
+#include <QTextEdit>
+
+namespace {
+
+QAction *eintrag(QMenu &menue, const char *text, const QKeySequence &tasten,
+                 const std::function<void()> &aktion)
+{
+    QAction *neu = menue.addAction(localizedString(QString::fromUtf8(text)));
+    neu->setShortcut(tasten);
+    QObject::connect(neu, &QAction::triggered, &menue, [aktion] { aktion(); });
+    return neu;
+}
+
+QMenu &menue(AppController &controller, const char *titel)
+{
+    return *controller.Hauptfenster->menuBar()->addMenu(localizedString(QString::fromUtf8(titel)));
+}
+
+/// Runs an editing slot such as "copy" of the field that has the keyboard. In a table, copying
+/// takes the text of the chosen cell.
+void bearbeite(const char *slot)
+{
+    QWidget *feld = QApplication::focusWidget();
+    if (feld == nullptr) {
+        return;
+    }
+    if (qobject_cast<QLineEdit *>(feld) != nullptr || qobject_cast<QTextEdit *>(feld) != nullptr) {
+        QMetaObject::invokeMethod(feld, slot);
+    } else if (const auto *tabelle = qobject_cast<QAbstractItemView *>(feld);
+               tabelle != nullptr && qstrcmp(slot, "copy") == 0 &&
+               tabelle->currentIndex().isValid()) {
+        QApplication::clipboard()->setText(tabelle->currentIndex().data().toString());
+    }
+}
+
+void baueAblage(AppController &controller)
+{
+    QMenu &ablage = menue(controller, QT_TRANSLATE_NOOP("Mahlberg", "&Ablage"));
+    eintrag(ablage, QT_TRANSLATE_NOOP("Mahlberg", "&Neues Lebensmittel …"), QKeySequence::New,
+            [&controller] { controller.Fenster(); });
+    eintrag(ablage, QT_TRANSLATE_NOOP("Mahlberg", "Eigenes Lebensmittel &sichern …"),
+            QKeySequence::Save, [&controller] { controller.sichernaufzu->click(); });
+    ablage.addSeparator();
+    eintrag(ablage, QT_TRANSLATE_NOOP("Mahlberg", "&Beenden"), QKeySequence::Quit,
+            [&controller] { controller.Hauptfenster->close(); });
+}
+
+void baueBearbeiten(AppController &controller)
+{
+    QMenu &bearbeiten = menue(controller, QT_TRANSLATE_NOOP("Mahlberg", "&Bearbeiten"));
+    const struct
+    {
+        const char *text;
+        QKeySequence::StandardKey tasten;
+        const char *slot;
+        bool trennung;
+    } zeilen[] = {
+        {QT_TRANSLATE_NOOP("Mahlberg", "&Rückgängig"), QKeySequence::Undo, "undo", false},
+        {QT_TRANSLATE_NOOP("Mahlberg", "&Wiederholen"), QKeySequence::Redo, "redo", true},
+        {QT_TRANSLATE_NOOP("Mahlberg", "&Ausschneiden"), QKeySequence::Cut, "cut", false},
+        {QT_TRANSLATE_NOOP("Mahlberg", "&Kopieren"), QKeySequence::Copy, "copy", false},
+        {QT_TRANSLATE_NOOP("Mahlberg", "&Einfügen"), QKeySequence::Paste, "paste", true},
+        {QT_TRANSLATE_NOOP("Mahlberg", "A&lles auswählen"), QKeySequence::SelectAll, "selectAll",
+         false},
+    };
+    for (const auto &zeile : zeilen) {
+        eintrag(bearbeiten, zeile.text, zeile.tasten, [slot = zeile.slot] { bearbeite(slot); });
+        if (zeile.trennung) {
+            bearbeiten.addSeparator();
+        }
+    }
+}
+
+void baueErscheinungsbild(QMenu &darstellung, AppController &controller)
+{
+    QMenu &auswahl = *darstellung.addMenu(localizedString(QStringLiteral("&Erscheinungsbild")));
+    auto *gruppe = new QActionGroup(&auswahl);
+    const std::pair<const char *, Erscheinungsbild> zeilen[] = {
+        {QT_TRANSLATE_NOOP("Mahlberg", "Wie das &System"), Erscheinungsbild::System},
+        {QT_TRANSLATE_NOOP("Mahlberg", "&Hell"), Erscheinungsbild::Hell},
+        {QT_TRANSLATE_NOOP("Mahlberg", "&Dunkel"), Erscheinungsbild::Dunkel},
+    };
+    for (const auto &[text, bild] : zeilen) {
+        QAction *wahl = eintrag(auswahl, text, {}, [&controller, bild = bild] {
+            controller.waehleErscheinungsbild(bild);
+        });
+        wahl->setCheckable(true);
+        wahl->setChecked(controller.erscheinungsbild() == bild);
+        gruppe->addAction(wahl);
+    }
+}
+
+void baueSprache(QMenu &darstellung, AppController &controller)
+{
+    QMenu &auswahl = *darstellung.addMenu(localizedString(QStringLiteral("S&prache")));
+    auto *gruppe = new QActionGroup(&auswahl);
+    const std::pair<const char *, const char *> zeilen[] = {{"Deutsch", "de"}, {"English", "en"}};
+    for (const auto &[text, sprache] : zeilen) {
+        const QString kuerzel = QLatin1String(sprache);
+        QAction *wahl = eintrag(auswahl, text, {},
+                                [&controller, kuerzel] { controller.waehleSprache(kuerzel); });
+        wahl->setCheckable(true);
+        wahl->setChecked(QLocale().name().startsWith(kuerzel));
+        gruppe->addAction(wahl);
+    }
+}
+
+void baueDarstellung(AppController &controller)
+{
+    QMenu &darstellung = menue(controller, QT_TRANSLATE_NOOP("Mahlberg", "&Darstellung"));
+    for (int i = 0; i < AppController::ansichten.size(); ++i) {
+        QAction *wahl = darstellung.addAction(
+            controller.DatenAnsicht->tabText(i), QKeySequence(QStringLiteral("Ctrl+%1").arg(i + 1)),
+            &controller,
+            [&controller, i] { controller.zeigeAnsicht(AppController::ansichten[i]); });
+        wahl->setObjectName(QStringLiteral("ansicht ") + AppController::ansichten[i]);
+    }
+    eintrag(darstellung, QT_TRANSLATE_NOOP("Mahlberg", "&Nächste Ansicht"),
+            QKeySequence(QStringLiteral("Ctrl+T")),
+            [&controller] { controller.Ansichtdurchwechseln(); });
+    eintrag(darstellung, QT_TRANSLATE_NOOP("Mahlberg", "&Eigenes Lebensmittel der Zeile zeigen"),
+            QKeySequence(QStringLiteral("Ctrl+E")), [&controller] { controller.LadeneigeneLM(); });
+    darstellung.addSeparator();
+    QAction *leiste = controller.toolbar->toggleViewAction();
+    leiste->setText(localizedString(QStringLiteral("Sy&mbolleiste zeigen")));
+    darstellung.addAction(leiste);
+    eintrag(darstellung, QT_TRANSLATE_NOOP("Mahlberg", "Symbolleiste &anpassen …"), {},
+            [&controller] { controller.Leisteanpassen(); });
+    darstellung.addSeparator();
+    baueErscheinungsbild(darstellung, controller);
+    baueSprache(darstellung, controller);
+}
+
+void baueFenster(AppController &controller)
+{
+    QMenu &fenster = menue(controller, QT_TRANSLATE_NOOP("Mahlberg", "&Fenster"));
+    QMainWindow *haupt = controller.Hauptfenster;
+    eintrag(fenster, QT_TRANSLATE_NOOP("Mahlberg", "Im &Dock ablegen"),
+            QKeySequence(QStringLiteral("Ctrl+M")), [haupt] { haupt->showMinimized(); });
+    eintrag(fenster, QT_TRANSLATE_NOOP("Mahlberg", "&Zoomen"), {},
+            [haupt] { haupt->setWindowState(haupt->windowState() ^ Qt::WindowMaximized); });
+    eintrag(fenster, QT_TRANSLATE_NOOP("Mahlberg", "&Vollbild"), QKeySequence::FullScreen,
+            [haupt] { haupt->setWindowState(haupt->windowState() ^ Qt::WindowFullScreen); });
+}
+
+void baueHilfe(AppController &controller)
+{
+    QMenu &hilfe = menue(controller, QT_TRANSLATE_NOOP("Mahlberg", "&Hilfe"));
+    eintrag(hilfe, QT_TRANSLATE_NOOP("Mahlberg", "&Über Mahlberg"), {},
+            [&controller] { zeigeUeber(controller.Hauptfenster); });
+    eintrag(hilfe, QT_TRANSLATE_NOOP("Mahlberg", "Über &Qt"), {}, &QApplication::aboutQt);
+}
+
+} // namespace
+
+void baueMenueleiste(AppController &controller)
+{
+    baueAblage(controller);
+    baueBearbeiten(controller);
+    baueDarstellung(controller);
+    baueFenster(controller);
+    baueHilfe(controller);
+}

@@ -1,0 +1,97 @@
+#include "Rundgang.h"
+
+#include "AppController.h"
+#include "Erscheinungsbild.h"
+#include "Zeichenkettentabelle.h"
+
+#include <QApplication>
+#include <QFile>
+#include <QTextStream>
+
+Rundgang::Rundgang(AppController &controller, const QDir &ordner)
+    : m_controller(controller)
+    , m_ordner(ordner)
+{
+}
+
+bool Rundgang::gehen()
+{
+    m_gelungen = m_ordner.mkpath(QStringLiteral("."));
+    m_controller.Hauptfenster->show();
+    halt(QStringLiteral("start"),
+         QStringLiteral("Started: %1 rows in the table of foods.").arg(m_controller.Array.size()));
+    // A row in the first third, the middle and the last third, whatever the table holds.
+    const qsizetype zeilen = m_controller.Array.size();
+    for (const qsizetype zeile : {zeilen / 5, zeilen / 2, zeilen * 4 / 5}) {
+        waehle(m_controller.Array.value(zeile));
+        halt(QStringLiteral("food"),
+             QStringLiteral("Chose a food for %1:")
+                 .arg(m_controller.lebensmittelmenge->stringValue() + QStringLiteral(" g")));
+    }
+    setzeMenge(30);
+    halt(QStringLiteral("amount"), QStringLiteral("Set the amount to 30 g:"));
+    for (int i = 0; i < AppController::ansichten.size(); ++i) {
+        m_controller.Ansichtdurchwechseln();
+        halt(QStringLiteral("view"), QStringLiteral("Next view: %1")
+                                         .arg(m_controller.DatenAnsicht->tabText(
+                                             m_controller.DatenAnsicht->currentIndex())));
+    }
+    zeigeErscheinungsbild(Erscheinungsbild::Dunkel);
+    halt(QStringLiteral("dark"), QStringLiteral("Switched to the dark appearance."));
+    zeigeErscheinungsbild(m_controller.erscheinungsbild());
+
+    QFile datei(m_ordner.filePath(QStringLiteral("summary.txt")));
+    m_gelungen = datei.open(QIODevice::WriteOnly | QIODevice::Text) &&
+                 datei.write(m_bericht.join(u'\n').toUtf8() + '\n') > 0 && m_gelungen;
+    QTextStream(stdout) << "The pictures and a summary of the tour lie in "
+                        << m_ordner.absolutePath() << Qt::endl;
+    return m_gelungen;
+}
+
+/// Chooses the way a user does: a click on the cell.
+void Rundgang::waehle(const QString &name)
+{
+    const int zeile = static_cast<int>(m_controller.Array.indexOf(name));
+    m_controller.Tabelle->selectRow(zeile);
+    m_controller.Tabelle->scrollRowToVisible(zeile);
+    m_controller.Laden();
+}
+
+void Rundgang::setzeMenge(int gramm)
+{
+    m_controller.lebensmittelmenge->setIntValue(gramm);
+    m_controller.wieviellebensmittel(*m_controller.lebensmittelmenge);
+}
+
+void Rundgang::halt(const QString &name, const QString &worte)
+{
+    ++m_halt;
+    m_bericht << QStringLiteral("%1. %2").arg(m_halt).arg(worte) << angezeigteWerte() << QString();
+    bild(*m_controller.Hauptfenster,
+         QStringLiteral("%1-%2.png").arg(m_halt, 2, 10, QLatin1Char('0')).arg(name));
+}
+
+void Rundgang::bild(QWidget &fenster, const QString &name)
+{
+    QApplication::processEvents();
+    m_gelungen = fenster.grab().save(m_ordner.filePath(name)) && m_gelungen;
+}
+
+QString Rundgang::angezeigteWerte() const
+{
+    QStringList zeilen = {QStringLiteral("   %1").arg(m_controller.feldA->stringValue())};
+    for (const auto &zeile : naehrwerte) {
+        const Textfeld *feld = m_controller.wertfelder()[stelle(zeile.wert)];
+        if (!feld->isHidden()) {
+            zeilen << QStringLiteral("   %1: %2 %3")
+                          .arg(localizedString(QString::fromUtf8(zeile.bezeichnung)),
+                               feld->stringValue(), einheitszeichen(zeile.einheit));
+        }
+    }
+    for (const auto &zeile : wertungen) {
+        zeilen << QStringLiteral("   %1: %2")
+                      .arg(localizedString(QString::fromUtf8(zeile.bezeichnung)),
+                           m_controller.wertungsfelder()[stelle(zeile.wertung)]->stringValue());
+    }
+    return zeilen.join(u'\n');
+}

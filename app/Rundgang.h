@@ -1,0 +1,32 @@
+#pragma once
+
+#include <QDir>
+#include <QStringList>
+
+class AppController;
+class QWidget;
+
+/// A short tour of the program without anyone at the keys: it starts, chooses foods, sets amounts
+/// and goes through the views, and leaves a picture of each stop and a summary in plain text. The
+/// pictures in the README come from it.
+class Rundgang
+{
+public:
+    Rundgang(AppController &controller, const QDir &ordner);
+
+    /// Goes the whole way. False when a picture or the summary could not be written.
+    bool gehen();
+
+private:
+    void waehle(const QString &name);
+    void setzeMenge(int gramm);
+    void halt(const QString &name, const QString &worte);
+    void bild(QWidget &fenster, const QString &name);
+    QString angezeigteWerte() const;
+
+    AppController &m_controller;
+    QDir m_ordner;
+    QStringList m_bericht;
+    int m_halt = 0;
+    bool m_gelungen = true;
+};

@@ -1,0 +1,322 @@
+#include "Werkzeugleiste.h"
+
+#include "Zeichenkettentabelle.h"
+
+#include <QApplication>
+#include <QContextMenuEvent>
+#include <QDrag>
+#include <QMenu>
+#include <QMimeData>
+#include <QPainter>
+#include <QSettings>
+#include <QToolButton>
+
+const QString Werkzeugleiste::space = QStringLiteral("space");
+const QString Werkzeugleiste::flexibleSpace = QStringLiteral("flexibleSpace");
+const QString Werkzeugleiste::ziehformat = QStringLiteral("application/x-mahlberg-toolbaritem");
+
+namespace {
+
+constexpr int bildgroesse = 28;
+constexpr int raumbreite = 20;
+
+bool istRaum(const QString &kennung)
+{
+    return kennung == Werkzeugleiste::space || kennung == Werkzeugleiste::flexibleSpace;
+}
+
+} // namespace
+
+Werkzeugleiste::Werkzeugleiste(const QString &kennung, Werkzeugquelle &quelle,
+                               QSettings &einstellungen, QWidget *parent)
+    : QToolBar(parent)
+    , m_kennung(kennung)
+    , m_quelle(quelle)
+    , m_einstellungen(einstellungen)
+{
+    setObjectName(kennung);
+    setWindowTitle(localizedString(QStringLiteral("Symbolleiste")));
+    setMovable(false);
+    setFloatable(false);
+    setIconSize({bildgroesse, bildgroesse});
+    setToolButtonStyle(static_cast<Qt::ToolButtonStyle>(
+        m_einstellungen.value(m_kennung + QStringLiteral("/stil"), Qt::ToolButtonTextUnderIcon)
+            .toInt()));
+    const QVariant gemerkt = m_einstellungen.value(m_kennung + QStringLiteral("/kennungen"));
+    m_kennungen = zulaessige(gemerkt.isValid() ? gemerkt.toStringList()
+                                               : m_quelle.toolbarDefaultItemIdentifiers());
+    aufbauen();
+}
+
+QStringList Werkzeugleiste::zulaessige(const QStringList &kennungen) const
+{
+    const QStringList erlaubt = m_quelle.toolbarAllowedItemIdentifiers();
+    QStringList ergebnis;
+    for (const QString &kennung : kennungen) {
+        if (erlaubt.contains(kennung) && (istRaum(kennung) || !ergebnis.contains(kennung))) {
+            ergebnis << kennung;
+        }
+    }
+    return ergebnis;
+}
+
+void Werkzeugleiste::setKennungen(const QStringList &kennungen)
+{
+    m_kennungen = zulaessige(kennungen);
+    aufbauen();
+    merken();
+}
+
+void Werkzeugleiste::einfuegen(const QString &kennung, int stelle)
+{
+    QStringList neu = m_kennungen;
+    const qsizetype vorher = istRaum(kennung) ? -1 : neu.indexOf(kennung);
+    qsizetype ziel = qBound<qsizetype>(0, stelle, neu.size());
+    if (vorher >= 0) {
+        neu.removeAt(vorher);
+        ziel -= vorher < ziel ? 1 : 0;
+    }
+    neu.insert(ziel, kennung);
+    setKennungen(neu);
+}
+
+void Werkzeugleiste::entfernen(int stelle)
+{
+    if (stelle >= 0 && stelle < m_kennungen.size()) {
+        QStringList neu = m_kennungen;
+        neu.removeAt(stelle);
+        setKennungen(neu);
+    }
+}
+
+void Werkzeugleiste::standardHerstellen()
+{
+    setKennungen(m_quelle.toolbarDefaultItemIdentifiers());
+}
+
+void Werkzeugleiste::setDarstellung(Qt::ToolButtonStyle stil)
+{
+    setToolButtonStyle(stil);
+    aufbauen();
+    merken();
+}
+
+void Werkzeugleiste::setAnpassbar(bool anpassbar)
+{
+    m_anpassbar = anpassbar;
+    setAcceptDrops(anpassbar);
+    update();
+}
+
+QWidget *Werkzeugleiste::werkzeugfeld(int stelle) const
+{
+    return m_felder.value(stelle);
+}
+
+void Werkzeugleiste::merken()
+{
+    m_einstellungen.setValue(m_kennung + QStringLiteral("/kennungen"), m_kennungen);
+    m_einstellungen.setValue(m_kennung + QStringLiteral("/stil"),
+                             static_cast<int>(toolButtonStyle()));
+    m_einstellungen.sync();
+}
+
+void Werkzeugleiste::aufbauen()
+{
+    clear(); // removes the actions; the widgets go when no event stands on them any more
+    for (QWidget *feld : std::as_const(m_felder)) {
+        feld->deleteLater();
+    }
+    m_felder.clear();
+    for (const QString &kennung : std::as_const(m_kennungen)) {
+        QWidget *feld = feldFuer(kennung);
+        feld->installEventFilter(this);
+        m_felder << feld;
+        addWidget(feld);
+    }
+}
+
+QWidget *Werkzeugleiste::feldFuer(const QString &kennung)
+{
+    if (istRaum(kennung)) {
+        auto *raum = new QWidget(this);
+        raum->setMinimumWidth(raumbreite);
+        raum->setSizePolicy(kennung == flexibleSpace ? QSizePolicy::Expanding : QSizePolicy::Fixed,
+                            QSizePolicy::Preferred);
+        return raum;
+    }
+    const Werkzeug werkzeug = m_quelle.toolbarItem(kennung);
+    auto *knopf = new QToolButton(this);
+    knopf->setObjectName(kennung);
+    knopf->setText(werkzeug.beschriftung);
+    knopf->setIcon(werkzeug.bild);
+    knopf->setIconSize(iconSize());
+    knopf->setToolButtonStyle(toolButtonStyle());
+    knopf->setAutoRaise(true);
+    knopf->setFocusPolicy(Qt::TabFocus);
+    knopf->setEnabled(static_cast<bool>(werkzeug.aktion));
+    if (werkzeug.aktion) {
+        connect(knopf, &QToolButton::clicked, this, [aktion = werkzeug.aktion] { aktion(); });
+    }
+    return knopf;
+}
+
+int Werkzeugleiste::stelleBei(const QPoint &ort) const
+{
+    int stelle = 0;
+    for (QWidget *feld : m_felder) {
+        if (ort.x() > feld->geometry().center().x()) {
+            ++stelle;
+        }
+    }
+    return stelle;
+}
+
+void Werkzeugleiste::dragEnterEvent(QDragEnterEvent *event)
+{
+    dragMoveEvent(event);
+}
+
+void Werkzeugleiste::dragMoveEvent(QDragMoveEvent *event)
+{
+    if (m_anpassbar && event->mimeData()->hasFormat(ziehformat)) {
+        m_einfuegestelle = stelleBei(event->position().toPoint());
+        event->acceptProposedAction();
+        update();
+    }
+}
+
+void Werkzeugleiste::dragLeaveEvent(QDragLeaveEvent *)
+{
+    m_einfuegestelle = -1;
+    update();
+}
+
+void Werkzeugleiste::dropEvent(QDropEvent *event)
+{
+    m_einfuegestelle = -1;
+    if (!m_anpassbar || !event->mimeData()->hasFormat(ziehformat)) {
+        return;
+    }
+    event->acceptProposedAction();
+    const QString kennung = QString::fromUtf8(event->mimeData()->data(ziehformat));
+    int ziel = stelleBei(event->position().toPoint());
+    if (m_gezogeneStelle >= 0) { // an item of this bar moves, a room too
+        QStringList neu = m_kennungen;
+        neu.removeAt(m_gezogeneStelle);
+        ziel -= m_gezogeneStelle < ziel ? 1 : 0;
+        neu.insert(ziel, kennung);
+        setKennungen(neu);
+    } else if (kennung.isEmpty()) { // the whole default set
+        standardHerstellen();
+    } else {
+        einfuegen(kennung, ziel);
+    }
+}
+
+void Werkzeugleiste::paintEvent(QPaintEvent *event)
+{
+    QToolBar::paintEvent(event);
+    if (!m_anpassbar) {
+        return;
+    }
+    QPainter painter(this);
+    painter.setPen(QPen(palette().color(QPalette::Mid), 1, Qt::DashLine));
+    for (int i = 0; i < m_felder.size(); ++i) {
+        if (istRaum(m_kennungen[i])) {
+            painter.drawRect(m_felder[i]->geometry().adjusted(1, 4, -2, -5));
+        }
+    }
+    if (m_einfuegestelle >= 0) {
+        const bool amEnde = m_einfuegestelle >= m_felder.size();
+        const int x = m_felder.isEmpty() ? 4
+                      : amEnde           ? m_felder.last()->geometry().right() + 2
+                                         : m_felder[m_einfuegestelle]->geometry().left() - 2;
+        painter.fillRect(QRect(x - 1, 4, 3, height() - 8), palette().highlight());
+    }
+}
+
+void Werkzeugleiste::contextMenuEvent(QContextMenuEvent *event)
+{
+    QMenu menue(this);
+    const struct
+    {
+        const char *text;
+        Qt::ToolButtonStyle stil;
+    } stile[] = {
+        {QT_TRANSLATE_NOOP("Mahlberg", "Symbol und Text"), Qt::ToolButtonTextUnderIcon},
+        {QT_TRANSLATE_NOOP("Mahlberg", "Nur Symbol"), Qt::ToolButtonIconOnly},
+        {QT_TRANSLATE_NOOP("Mahlberg", "Nur Text"), Qt::ToolButtonTextOnly},
+    };
+    for (const auto &zeile : stile) {
+        QAction *eintrag = menue.addAction(localizedString(QString::fromUtf8(zeile.text)));
+        eintrag->setCheckable(true);
+        eintrag->setChecked(toolButtonStyle() == zeile.stil);
+        connect(eintrag, &QAction::triggered, this,
+                [this, stil = zeile.stil] { setDarstellung(stil); });
+    }
+    menue.addSeparator();
+    const QPoint ort = event->pos();
+    for (int i = 0; i < m_felder.size(); ++i) {
+        if (m_felder[i]->geometry().contains(ort)) {
+            menue.addAction(localizedString(QStringLiteral("Aus der Leiste entfernen")), this,
+                            [this, i] { entfernen(i); });
+        }
+    }
+    menue.addAction(localizedString(QStringLiteral("Leiste anpassen …")), this,
+                    &Werkzeugleiste::anpassenGewuenscht);
+    menue.exec(event->globalPos());
+}
+
+/// While customising, a press on an item begins a drag, and its action rests.
+bool Werkzeugleiste::eventFilter(QObject *watched, QEvent *event)
+{
+    const qsizetype stelle = m_felder.indexOf(qobject_cast<QWidget *>(watched));
+    if (!m_anpassbar || stelle < 0) {
+        return QToolBar::eventFilter(watched, event);
+    }
+    switch (event->type()) {
+    case QEvent::MouseButtonPress:
+        m_druckort = static_cast<QMouseEvent *>(event)->globalPosition().toPoint();
+        return true;
+    case QEvent::MouseMove: {
+        const auto *maus = static_cast<QMouseEvent *>(event);
+        const QPoint weg = maus->globalPosition().toPoint() - m_druckort;
+        if ((maus->buttons() & Qt::LeftButton) != 0 &&
+            weg.manhattanLength() >= QApplication::startDragDistance()) {
+            zieheHeraus(static_cast<int>(stelle));
+        }
+        return true;
+    }
+    case QEvent::MouseButtonRelease:
+    case QEvent::MouseButtonDblClick:
+        return true;
+    case QEvent::KeyPress: {
+        const int taste = static_cast<QKeyEvent *>(event)->key();
+        if (taste == Qt::Key_Delete || taste == Qt::Key_Backspace) {
+            entfernen(static_cast<int>(stelle));
+            return true;
+        }
+        break;
+    }
+    default:
+        break;
+    }
+    return QToolBar::eventFilter(watched, event);
+}
+
+/// An item that is dropped beside the bar leaves it.
+void Werkzeugleiste::zieheHeraus(int stelle)
+{
+    auto *daten = new QMimeData;
+    daten->setData(ziehformat, m_kennungen[stelle].toUtf8());
+    auto *zug = new QDrag(this);
+    zug->setMimeData(daten);
+    zug->setPixmap(m_felder[stelle]->grab());
+    m_gezogeneStelle = stelle;
+    const Qt::DropAction ergebnis = zug->exec(Qt::MoveAction);
+    const int gezogen = std::exchange(m_gezogeneStelle, -1);
+    if (ergebnis == Qt::IgnoreAction) {
+        entfernen(gezogen);
+    }
+}

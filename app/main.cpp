@@ -1,0 +1,79 @@
+#include "AppController.h"
+#include "Erscheinungsbild.h"
+#include "Rundgang.h"
+#include "Sprache.h"
+
+#include <QApplication>
+#include <QCommandLineParser>
+#include <QSettings>
+#include <QStyleFactory>
+#include <QTemporaryDir>
+
+#include <memory>
+
+namespace {
+
+/// What was asked for on the command line.
+struct Auftrag
+{
+    QString rundgang; ///< folder for the pictures of the tour; null: an ordinary start
+    QString sprache;  ///< "de" or "en"; null: as kept in the settings or as the desktop has it
+};
+
+Auftrag leseAuftrag(const QApplication &app)
+{
+    QCommandLineParser leser;
+    leser.addHelpOption();
+    leser.addVersionOption();
+    const QCommandLineOption rundgang(
+        QStringLiteral("tour"), QStringLiteral("Take the tour, leave its pictures in <folder>."),
+        QStringLiteral("folder"));
+    const QCommandLineOption sprache(QStringLiteral("language"),
+                                     QStringLiteral("Language of the windows: de or en."),
+                                     QStringLiteral("language"));
+    leser.addOptions({rundgang, sprache});
+    leser.process(app);
+    return {leser.value(rundgang), leser.value(sprache)};
+}
+
+} // namespace
+
+int main(int argc, char **argv)
+{
+    QApplication::setStyle(QStyleFactory::create(QStringLiteral("Fusion")));
+    QApplication app(argc, argv);
+    QApplication::setApplicationName(QStringLiteral("Mahlberg"));
+    QApplication::setOrganizationName(QStringLiteral("Mahlberg"));
+    QApplication::setApplicationVersion(QStringLiteral(MAHLBERG_VERSION));
+    QApplication::setWindowIcon(QIcon(QStringLiteral(":/bilder/Mahlberg.svg")));
+    const Auftrag auftrag = leseAuftrag(app);
+
+    // The tour leaves the user's own foods and settings alone: it has a home of its own.
+    std::unique_ptr<QTemporaryDir> eigenesHeim;
+    std::unique_ptr<QSettings> einstellungen;
+    if (auftrag.rundgang.isNull()) {
+        einstellungen = std::make_unique<QSettings>();
+    } else {
+        eigenesHeim = std::make_unique<QTemporaryDir>();
+        einstellungen = std::make_unique<QSettings>(
+            eigenesHeim->filePath(QStringLiteral("Mahlberg.conf")), QSettings::IniFormat);
+    }
+    const Sprache sprache(auftrag.sprache.isEmpty()
+                              ? einstellungen->value(QStringLiteral("Sprache")).toString()
+                              : auftrag.sprache);
+    zeigeErscheinungsbild(gemerktesErscheinungsbild(*einstellungen));
+
+    AppController controller({
+        .eingebauteTabelle = QStringLiteral(":/DatabaseIII.daten"),
+        .datenordner = eigenesHeim ? Datenordner(eigenesHeim->path()) : Datenordner(),
+        .melde = zeigeMeldung,
+        .einstellungen = einstellungen.get(),
+    });
+    controller.awakeFromNib();
+    if (!auftrag.rundgang.isNull()) {
+        return Rundgang(controller, QDir(auftrag.rundgang)).gehen() ? 0 : 1;
+    }
+    QObject::connect(&controller, &AppController::beendet, &app, &QApplication::quit);
+    controller.Hauptfenster->show();
+    return QApplication::exec();
+}

@@ -1,0 +1,33 @@
+#pragma once
+
+#include <QColor>
+#include <QList>
+#include <QWidget>
+
+/// A line of coloured squares, each with the word for what its colour means.
+class Farblegende : public QWidget
+{
+    Q_OBJECT
+
+public:
+    struct Eintrag
+    {
+        QColor farbe;
+        QString text;
+    };
+
+    explicit Farblegende(QWidget *parent = nullptr);
+
+    void setEintraege(const QList<Eintrag> &eintraege);
+
+    QSize sizeHint() const override;
+    QSize minimumSizeHint() const override;
+
+protected:
+    void paintEvent(QPaintEvent *event) override;
+
+private:
+    int breite(const Eintrag &eintrag) const;
+
+    QList<Eintrag> m_eintraege;
+};

@@ -1,0 +1,31 @@
+#include "Meldung.h"
+
+#include <QMessageBox>
+#include <QPushButton>
+
+int zeigeMeldung(QWidget *fenster, const Meldung &meldung)
+{
+    QMessageBox kasten(fenster);
+    kasten.setIcon(QMessageBox::Warning);
+    // A message without a heading says its explanation where the heading would stand.
+    kasten.setText(meldung.text.isEmpty() ? meldung.erklaerung : meldung.text);
+    kasten.setInformativeText(meldung.text.isEmpty() ? QString() : meldung.erklaerung);
+
+    // One role for all keeps the buttons in their order on every desktop.
+    QList<QPushButton *> knoepfe;
+    for (const QString &aufschrift : meldung.knoepfe) {
+        knoepfe << kasten.addButton(aufschrift, QMessageBox::ActionRole);
+    }
+    if (knoepfe.isEmpty()) {
+        return 0;
+    }
+    kasten.setDefaultButton(knoepfe.first());
+    kasten.setEscapeButton(knoepfe.first());
+    kasten.exec();
+    for (int i = 0; i < knoepfe.size(); ++i) {
+        if (kasten.clickedButton() == knoepfe[i]) {
+            return i;
+        }
+    }
+    return 0;
+}

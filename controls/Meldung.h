@@ -1,0 +1,25 @@
+#pragma once
+
+#include <QString>
+#include <QStringList>
+
+#include <functional>
+
+class QWidget;
+
+/// A question or message to the user: what it says in bold, what it explains below, and its
+/// buttons from the first, which Return presses, to the last.
+struct Meldung
+{
+    QString text;
+    QString erklaerung;
+    QStringList knoepfe;
+};
+
+/// Shows a message over the window and answers with the number of the pressed button, counted
+/// from 0. Made in `main`, so that a test can look at the message and give the answer.
+using Meldungstuer = std::function<int(QWidget *fenster, const Meldung &meldung)>;
+
+/// The door that shows a real message box. Escape or closing it presses the first button, which is
+/// the harmless one in every message of this program.
+int zeigeMeldung(QWidget *fenster, const Meldung &meldung);

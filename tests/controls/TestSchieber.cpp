@@ -1,0 +1,175 @@
+#include "Schieber.h"
+
+#include <QDoubleSpinBox>
+#include <QLineEdit>
+#include <QLocale>
+#include <QSignalSpy>
+#include <QSlider>
+#include <QTest>
+
+class TestSchieber : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void init() { QLocale::setDefault(QLocale(QLocale::German, QLocale::Germany)); }
+    void itHoldsWhatItWasGiven_data();
+    void itHoldsWhatItWasGiven();
+    void settingRunsNoAction();
+    void anArrowKeyMovesOneStep();
+    void stepsOfHundredthsStayExact();
+    void aTypedNumberIsTakenWithReturn();
+    void aNumberBeyondTheRangeIsShownAndNotAltered();
+    void aKeyAtTheEndTakesAValueBackIntoTheRange();
+    void whatTheUserTypesKeepsToTheRange();
+    void itsTextIsTheNumber();
+    void itsPartsGoOffWithIt();
+};
+
+void TestSchieber::itHoldsWhatItWasGiven_data()
+{
+    QTest::addColumn<double>("zahl");
+    QTest::newRow("within") << 30.0;
+    QTest::newRow("between two steps") << 30.3;
+    QTest::newRow("below") << -5.0;
+    QTest::newRow("above") << 1e6;
+    QTest::newRow("nothing") << 0.0;
+}
+
+void TestSchieber::itHoldsWhatItWasGiven()
+{
+    QFETCH(double, zahl);
+    Schieber schieber;
+    schieber.setMinimumValue(10);
+    schieber.setMaximumValue(50);
+    schieber.setDoubleValue(zahl);
+    schieber.show();
+    QVERIFY(QTest::qWaitForWindowExposed(&schieber));
+    QCoreApplication::processEvents();
+    QCOMPARE(schieber.doubleValue(), zahl);
+}
+
+void TestSchieber::settingRunsNoAction()
+{
+    Schieber schieber;
+    QSignalSpy gemeldet(&schieber, &Schieber::betaetigt);
+    schieber.setIntValue(40);
+    QTRY_COMPARE(schieber.regler()->value(), 40);
+    QTRY_COMPARE(schieber.eingabe()->value(), 40.0);
+    QCOMPARE(gemeldet.count(), 0);
+}
+
+void TestSchieber::anArrowKeyMovesOneStep()
+{
+    Schieber schieber;
+    schieber.setMinimumValue(30);
+    schieber.setMaximumValue(250);
+    schieber.setStepValue(0.5);
+    schieber.setDecimals(1);
+    schieber.setDoubleValue(80);
+    QTRY_COMPARE(schieber.regler()->value(), 100);
+    QSignalSpy gemeldet(&schieber, &Schieber::betaetigt);
+    QTest::keyClick(schieber.regler(), Qt::Key_Right);
+    QCOMPARE(schieber.doubleValue(), 80.5);
+    QCOMPARE(gemeldet.count(), 1);
+    QTRY_COMPARE(schieber.eingabe()->value(), 80.5);
+    QTest::keyClick(schieber.regler(), Qt::Key_End);
+    QCOMPARE(schieber.doubleValue(), 250.0);
+}
+
+void TestSchieber::stepsOfHundredthsStayExact()
+{
+    Schieber schieber;
+    schieber.setMinimumValue(1);
+    schieber.setMaximumValue(2.3);
+    schieber.setStepValue(0.01);
+    schieber.setDecimals(2);
+    for (int i = 130; i >= 0; --i) {
+        schieber.regler()->setValue(i);
+        QCOMPARE(schieber.doubleValue(), (100 + i) / 100.0);
+    }
+}
+
+void TestSchieber::aTypedNumberIsTakenWithReturn()
+{
+    Schieber schieber;
+    schieber.setMaximumValue(1000);
+    schieber.setUnit(QStringLiteral("g"));
+    schieber.setIntValue(100);
+    schieber.show();
+    QVERIFY(QTest::qWaitForWindowActive(&schieber));
+    QTRY_COMPARE(schieber.eingabe()->value(), 100.0);
+    QSignalSpy gemeldet(&schieber, &Schieber::betaetigt);
+    schieber.eingabe()->setFocus();
+    schieber.eingabe()->selectAll();
+    QTest::keyClicks(schieber.eingabe(), QStringLiteral("30"));
+    QCOMPARE(gemeldet.count(), 0);
+    QTest::keyClick(schieber.eingabe(), Qt::Key_Return);
+    QCOMPARE(schieber.intValue(), 30);
+    QCOMPARE(gemeldet.count(), 1);
+    QTRY_COMPARE(schieber.regler()->value(), 30);
+}
+
+void TestSchieber::aNumberBeyondTheRangeIsShownAndNotAltered()
+{
+    Schieber schieber;
+    schieber.setMinimumValue(30);
+    schieber.setMaximumValue(250);
+    schieber.setDecimals(1);
+    QSignalSpy gemeldet(&schieber, &Schieber::betaetigt);
+    schieber.setDoubleValue(300);
+    QTRY_COMPARE(schieber.eingabe()->value(), 300.0);
+    QCOMPARE(schieber.regler()->value(), schieber.regler()->maximum());
+    schieber.setDoubleValue(0);
+    QTRY_COMPARE(schieber.eingabe()->value(), 0.0);
+    QCOMPARE(schieber.regler()->value(), 0);
+    QCOMPARE(schieber.doubleValue(), 0.0);
+    QCOMPARE(gemeldet.count(), 0);
+}
+
+void TestSchieber::aKeyAtTheEndTakesAValueBackIntoTheRange()
+{
+    Schieber schieber;
+    schieber.setMinimumValue(30);
+    schieber.setMaximumValue(250);
+    schieber.setDoubleValue(0);
+    QTRY_COMPARE(schieber.regler()->value(), 0);
+    QSignalSpy gemeldet(&schieber, &Schieber::betaetigt);
+    QTest::keyClick(schieber.regler(), Qt::Key_Home);
+    QCOMPARE(schieber.doubleValue(), 30.0);
+    QCOMPARE(gemeldet.count(), 1);
+    QTest::keyClick(schieber.regler(), Qt::Key_Home);
+    QCOMPARE(gemeldet.count(), 1);
+}
+
+void TestSchieber::whatTheUserTypesKeepsToTheRange()
+{
+    Schieber schieber;
+    schieber.setMinimumValue(30);
+    schieber.setMaximumValue(250);
+    schieber.setDoubleValue(0);
+    QTRY_COMPARE(schieber.eingabe()->value(), 0.0);
+    schieber.eingabe()->setValue(10);
+    QCOMPARE(schieber.doubleValue(), 30.0);
+}
+
+void TestSchieber::itsTextIsTheNumber()
+{
+    Schieber schieber;
+    schieber.setUnit(QStringLiteral("g"));
+    schieber.setIntValue(100);
+    QCOMPARE(schieber.stringValue(), QStringLiteral("100"));
+    schieber.setDoubleValue(2.5);
+    QCOMPARE(schieber.stringValue(), QStringLiteral("2,5"));
+}
+
+void TestSchieber::itsPartsGoOffWithIt()
+{
+    Schieber schieber;
+    schieber.setEnabled(false);
+    QVERIFY(!schieber.regler()->isEnabled());
+    QVERIFY(!schieber.eingabe()->isEnabled());
+}
+
+QTEST_MAIN(TestSchieber)
+#include "TestSchieber.moc"

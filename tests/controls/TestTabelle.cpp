@@ -1,0 +1,235 @@
+#include "Tabelle.h"
+
+#include <QAbstractItemModelTester>
+#include <QHeaderView>
+#include <QMimeData>
+#include <QSignalSpy>
+#include <QTest>
+
+#include <memory>
+
+namespace {
+
+/// Three columns of letters with numbers; the third ends early.
+class Probequelle : public Tabellenquelle
+{
+public:
+    int zeilen = 20;
+    int gefragt = 0;
+
+    int numberOfRows() const override { return zeilen; }
+    QString objectValue(const QString &spalte, int zeile) override
+    {
+        ++gefragt;
+        const bool leer = zeile >= zeilen || (spalte == QLatin1String("c") && zeile >= 2);
+        return leer ? QString() : spalte + QString::number(zeile);
+    }
+    QString writeRows(const QString &spalte, int zeile) override
+    {
+        const QString wert = objectValue(spalte, zeile);
+        return wert.isNull() ? wert : QStringLiteral("key ") + wert;
+    }
+};
+
+} // namespace
+
+class TestTabelle : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void init();
+    void cleanup() { m_tabelle.reset(); }
+    void theModelKeepsQtsRules();
+    void theRowsAreThoseOfTheLastReload();
+    void anEmptyCellIsEmpty();
+    void aClickChoosesRowAndColumn_data();
+    void aClickChoosesRowAndColumn();
+    void outsideOfAnActionNoColumnIsClicked();
+    void theArrowKeysChooseToo();
+    void returnChoosesAgain();
+    void aClickBesideTheRowsChoosesNone();
+    void selectingByProgramRunsNoAction();
+    void aRowThatDoesNotExistIsNotSelected();
+    void aReloadKeepsTheSelection();
+    void aDragCarriesTheColumnUnderTheMouse();
+    void nothingIsDraggedFromAnEmptyCell();
+    void tabLeavesTheTable();
+
+private:
+    QPoint mitte(int zeile, int spalte) const
+    {
+        return m_tabelle->visualRect(m_tabelle->model()->index(zeile, spalte)).center();
+    }
+    void klicke(int zeile, int spalte)
+    {
+        QTest::mouseClick(m_tabelle->viewport(), Qt::LeftButton, {}, mitte(zeile, spalte));
+    }
+
+    Probequelle m_quelle;
+    std::unique_ptr<Tabelle> m_tabelle;
+};
+
+void TestTabelle::init()
+{
+    m_quelle = Probequelle();
+    m_tabelle = std::make_unique<Tabelle>();
+    m_tabelle->setQuelle(&m_quelle, {{QStringLiteral("a"), QStringLiteral("A")},
+                                     {QStringLiteral("b"), QStringLiteral("B")},
+                                     {QStringLiteral("c"), QStringLiteral("C")}});
+    m_tabelle->setRowHeight(23);
+    m_tabelle->resize(400, 700);
+    m_tabelle->show();
+    QVERIFY(QTest::qWaitForWindowActive(m_tabelle.get()));
+}
+
+void TestTabelle::theModelKeepsQtsRules()
+{
+    QAbstractItemModelTester pruefer(m_tabelle->model(),
+                                     QAbstractItemModelTester::FailureReportingMode::QtTest);
+    for (const int zeilen : {25, 3, 0, 7, 7}) {
+        m_quelle.zeilen = zeilen;
+        m_tabelle->reloadData();
+        QCOMPARE(m_tabelle->model()->rowCount(), zeilen);
+    }
+    QCOMPARE(m_tabelle->model()->headerData(1, Qt::Horizontal).toString(), QStringLiteral("B"));
+}
+
+void TestTabelle::theRowsAreThoseOfTheLastReload()
+{
+    m_quelle.zeilen = 5;
+    QCOMPARE(m_tabelle->model()->rowCount(), 20);
+    QVERIFY(!m_tabelle->model()->index(12, 0).data().isValid());
+    QVERIFY(!m_tabelle->grab().isNull()); // painting rows that are gone does no harm
+    m_tabelle->reloadData();
+    QCOMPARE(m_tabelle->model()->rowCount(), 5);
+}
+
+void TestTabelle::anEmptyCellIsEmpty()
+{
+    QCOMPARE(m_tabelle->model()->index(1, 2).data().toString(), QStringLiteral("c1"));
+    QVERIFY(!m_tabelle->model()->index(2, 2).data().isValid());
+}
+
+void TestTabelle::aClickChoosesRowAndColumn_data()
+{
+    QTest::addColumn<int>("zeile");
+    QTest::addColumn<int>("spalte");
+    QTest::newRow("first column") << 3 << 0;
+    QTest::newRow("second column") << 3 << 1;
+    QTest::newRow("an empty cell of the third") << 7 << 2;
+    QTest::newRow("row 0") << 0 << 0;
+}
+
+void TestTabelle::aClickChoosesRowAndColumn()
+{
+    QFETCH(int, zeile);
+    QFETCH(int, spalte);
+    int gemeldet = 0;
+    connect(m_tabelle.get(), &Tabelle::betaetigt, this, [&] {
+        ++gemeldet;
+        QCOMPARE(m_tabelle->selectedRow(), zeile);
+        QCOMPARE(m_tabelle->clickedColumn(), spalte);
+    });
+    klicke(zeile, spalte);
+    QCOMPARE(gemeldet, 1);
+}
+
+void TestTabelle::outsideOfAnActionNoColumnIsClicked()
+{
+    QCOMPARE(m_tabelle->clickedColumn(), -1);
+    klicke(2, 1);
+    QCOMPARE(m_tabelle->clickedColumn(), -1);
+}
+
+void TestTabelle::theArrowKeysChooseToo()
+{
+    klicke(2, 1);
+    int spalte = -2;
+    connect(m_tabelle.get(), &Tabelle::betaetigt, this,
+            [&] { spalte = m_tabelle->clickedColumn(); });
+    QTest::keyClick(m_tabelle.get(), Qt::Key_Down);
+    QCOMPARE(m_tabelle->selectedRow(), 3);
+    QCOMPARE(spalte, 1);
+    QTest::keyClick(m_tabelle.get(), Qt::Key_Left);
+    QCOMPARE(m_tabelle->selectedRow(), 3);
+    QCOMPARE(spalte, 0);
+}
+
+void TestTabelle::returnChoosesAgain()
+{
+    klicke(2, 0);
+    QSignalSpy gemeldet(m_tabelle.get(), &Tabelle::betaetigt);
+    QTest::keyClick(m_tabelle.get(), Qt::Key_Return);
+    QCOMPARE(gemeldet.count(), 1);
+    QTest::keyClick(m_tabelle.get(), Qt::Key_F5);
+    QCOMPARE(gemeldet.count(), 1);
+}
+
+void TestTabelle::aClickBesideTheRowsChoosesNone()
+{
+    klicke(2, 0);
+    int zeile = -2;
+    connect(m_tabelle.get(), &Tabelle::betaetigt, this, [&] { zeile = m_tabelle->selectedRow(); });
+    QTest::mouseClick(m_tabelle->viewport(), Qt::LeftButton, {},
+                      QPoint(20, m_tabelle->viewport()->height() - 5));
+    QCOMPARE(zeile, -1);
+}
+
+void TestTabelle::selectingByProgramRunsNoAction()
+{
+    QSignalSpy gemeldet(m_tabelle.get(), &Tabelle::betaetigt);
+    m_tabelle->selectRow(4);
+    m_tabelle->scrollRowToVisible(4);
+    QCOMPARE(m_tabelle->selectedRow(), 4);
+    m_tabelle->selectRow(9);
+    QCOMPARE(m_tabelle->selectedRow(), 9);
+    QCOMPARE(gemeldet.count(), 0);
+}
+
+void TestTabelle::aRowThatDoesNotExistIsNotSelected()
+{
+    m_tabelle->selectRow(4);
+    m_tabelle->selectRow(20);
+    m_tabelle->selectRow(-1);
+    m_tabelle->scrollRowToVisible(99);
+    QCOMPARE(m_tabelle->selectedRow(), 4);
+    m_quelle.zeilen = 0;
+    m_tabelle->reloadData();
+    m_tabelle->selectRow(0);
+    QCOMPARE(m_tabelle->selectedRow(), -1);
+}
+
+void TestTabelle::aReloadKeepsTheSelection()
+{
+    klicke(4, 1);
+    m_quelle.zeilen = 30;
+    m_tabelle->reloadData();
+    QCOMPARE(m_tabelle->selectedRow(), 4);
+}
+
+void TestTabelle::aDragCarriesTheColumnUnderTheMouse()
+{
+    for (int spalte = 0; spalte < 3; ++spalte) {
+        const std::unique_ptr<QMimeData> daten(m_tabelle->ziehdaten(1, mitte(5, spalte)));
+        QVERIFY(daten != nullptr);
+        QCOMPARE(daten->text(), QStringLiteral("key %1%2").arg(QLatin1Char("abc"[spalte])).arg(1));
+        QCOMPARE(daten->formats(), QStringList{QStringLiteral("text/plain")});
+    }
+}
+
+void TestTabelle::nothingIsDraggedFromAnEmptyCell()
+{
+    QVERIFY(m_tabelle->ziehdaten(5, mitte(5, 2)) == nullptr);
+    QVERIFY(m_tabelle->ziehdaten(-1, mitte(5, 0)) == nullptr);
+    QVERIFY(m_tabelle->ziehdaten(99, mitte(5, 0)) == nullptr);
+    QVERIFY(m_tabelle->ziehdaten(1, QPoint(5000, 5)) == nullptr);
+}
+
+void TestTabelle::tabLeavesTheTable()
+{
+    QVERIFY(!m_tabelle->tabKeyNavigation());
+}
+
+QTEST_MAIN(TestTabelle)
+#include "TestTabelle.moc"

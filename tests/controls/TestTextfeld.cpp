@@ -1,0 +1,214 @@
+#include "Textfeld.h"
+
+#include <QGuiApplication>
+#include <QLocale>
+#include <QSignalSpy>
+#include <QTest>
+#include <QVBoxLayout>
+
+class TestTextfeld : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void init() { QLocale::setDefault(QLocale(QLocale::German, QLocale::Germany)); }
+    void aNumberIsShownInItsFormatWithItsUnit_data();
+    void aNumberIsShownInItsFormatWithItsUnit();
+    void theFormatOnlyChangesWhatIsPainted();
+    void aTextIsShownWithoutTheUnit();
+    void theTextIsMadeOnceForAThousandValues();
+    void aDisplayIsNoStopOfTheTabKey();
+    void aTypedValueIsHeldAtOnceAndReportedAtTheEnd();
+    void anEntryShowsTheBareNumberWhileItIsTyped();
+    void leavingWithoutTypingReportsNothing();
+    void aHiddenFieldKeepsItsPlace();
+    void theVerdictFollowsTheTheme();
+};
+
+namespace {
+
+QString nbsp(QString text)
+{
+    return text.replace(u'_', QChar(QChar::Nbsp));
+}
+
+} // namespace
+
+void TestTextfeld::aNumberIsShownInItsFormatWithItsUnit_data()
+{
+    QTest::addColumn<double>("zahl");
+    QTest::addColumn<int>("decimals");
+    QTest::addColumn<int>("bedeutsam");
+    QTest::addColumn<QString>("unit");
+    QTest::addColumn<QString>("text");
+    const QString mg = QStringLiteral("mg");
+    QTest::newRow("energy has no decimals")
+        << 155.4 << 0 << 0 << QStringLiteral("kcal") << nbsp(QStringLiteral("155_kcal"));
+    QTest::newRow("grams have one")
+        << 12.0 << 1 << 0 << QStringLiteral("g") << nbsp(QStringLiteral("12,0_g"));
+    QTest::newRow("thousands are grouped")
+        << 1234.0 << 0 << 0 << mg << nbsp(QStringLiteral("1.234_mg"));
+    QTest::newRow("many milligrams") << 123.4 << 0 << 2 << mg << nbsp(QStringLiteral("123_mg"));
+    QTest::newRow("ten milligrams") << 12.34 << 0 << 2 << mg << nbsp(QStringLiteral("12_mg"));
+    QTest::newRow("one milligram") << 1.234 << 0 << 2 << mg << nbsp(QStringLiteral("1,2_mg"));
+    QTest::newRow("a tenth") << 0.1234 << 0 << 2 << mg << nbsp(QStringLiteral("0,12_mg"));
+    QTest::newRow("a hundredth") << 0.01234 << 0 << 2 << mg << nbsp(QStringLiteral("0,012_mg"));
+    QTest::newRow("less still") << 0.0001 << 0 << 2 << mg << nbsp(QStringLiteral("0,000_mg"));
+    QTest::newRow("nothing") << 0.0 << 0 << 2 << mg << nbsp(QStringLiteral("0_mg"));
+    QTest::newRow("as short as it is") << 2.5 << -1 << 0 << QString() << QStringLiteral("2,5");
+}
+
+void TestTextfeld::aNumberIsShownInItsFormatWithItsUnit()
+{
+    QFETCH(double, zahl);
+    QFETCH(int, decimals);
+    QFETCH(int, bedeutsam);
+    QFETCH(QString, unit);
+    QFETCH(QString, text);
+    Textfeld feld;
+    feld.setDecimals(decimals);
+    feld.setSignificantDigits(bedeutsam);
+    feld.setUnit(unit);
+    feld.setDoubleValue(zahl);
+    QTRY_COMPARE(feld.text(), text);
+}
+
+void TestTextfeld::theFormatOnlyChangesWhatIsPainted()
+{
+    Textfeld feld;
+    feld.setDecimals(0);
+    feld.setDoubleValue(99.6);
+    QTRY_COMPARE(feld.text(), QStringLiteral("100"));
+    QCOMPARE(feld.doubleValue(), 99.6);
+    QCOMPARE(feld.intValue(), 99);
+}
+
+void TestTextfeld::aTextIsShownWithoutTheUnit()
+{
+    Textfeld feld;
+    feld.setUnit(QStringLiteral("g"));
+    feld.setStringValue(QStringLiteral("   - "));
+    QTRY_COMPARE(feld.text(), QStringLiteral("   - "));
+    QCOMPARE(feld.floatValue(), 0.0F);
+}
+
+void TestTextfeld::theTextIsMadeOnceForAThousandValues()
+{
+    Textfeld feld;
+    QSignalSpy gezeigt(&feld, &QLineEdit::textChanged);
+    for (int i = 1; i <= 1000; ++i) {
+        feld.setIntValue(i);
+    }
+    QCOMPARE(gezeigt.count(), 0);
+    QTRY_COMPARE(feld.text(), QStringLiteral("1000"));
+    QCOMPARE(gezeigt.count(), 1);
+}
+
+void TestTextfeld::aDisplayIsNoStopOfTheTabKey()
+{
+    Textfeld feld;
+    QVERIFY(feld.isReadOnly());
+    QVERIFY((feld.focusPolicy() & Qt::TabFocus) == 0);
+    feld.setEditable(true);
+    QVERIFY(!feld.isReadOnly());
+    QVERIFY((feld.focusPolicy() & Qt::TabFocus) != 0);
+}
+
+void TestTextfeld::aTypedValueIsHeldAtOnceAndReportedAtTheEnd()
+{
+    Textfeld feld;
+    feld.setEditable(true);
+    feld.show();
+    QVERIFY(QTest::qWaitForWindowActive(&feld));
+    QSignalSpy gemeldet(&feld, &Textfeld::betaetigt);
+    QTest::keyClicks(&feld, QStringLiteral("12,5"));
+    QCOMPARE(feld.doubleValue(), 12.5);
+    QCOMPARE(gemeldet.count(), 0);
+    QTest::keyClick(&feld, Qt::Key_Return);
+    QCOMPARE(gemeldet.count(), 1);
+    QTest::keyClick(&feld, Qt::Key_Return);
+    QCOMPARE(gemeldet.count(), 1);
+}
+
+void TestTextfeld::anEntryShowsTheBareNumberWhileItIsTyped()
+{
+    QWidget fenster;
+    auto *anordnung = new QVBoxLayout(&fenster);
+    auto *andere = new QLineEdit;
+    auto *feld = new Textfeld;
+    anordnung->addWidget(andere);
+    anordnung->addWidget(feld);
+    feld->setEditable(true);
+    feld->setDecimals(1);
+    feld->setUnit(QStringLiteral("g"));
+    feld->setDoubleValue(3);
+    fenster.show();
+    QVERIFY(QTest::qWaitForWindowActive(&fenster));
+    andere->setFocus();
+    QTRY_COMPARE(feld->text(), nbsp(QStringLiteral("3,0_g")));
+    feld->setFocus(Qt::TabFocusReason);
+    QTRY_COMPARE(feld->text(), QStringLiteral("3,0"));
+    QCOMPARE(feld->selectedText(), QStringLiteral("3,0"));
+    QTest::keyClicks(feld, QStringLiteral("4,25"));
+    andere->setFocus();
+    QCOMPARE(feld->doubleValue(), 4.25);
+}
+
+void TestTextfeld::leavingWithoutTypingReportsNothing()
+{
+    QWidget fenster;
+    auto *anordnung = new QVBoxLayout(&fenster);
+    auto *andere = new QLineEdit;
+    auto *feld = new Textfeld;
+    anordnung->addWidget(feld);
+    anordnung->addWidget(andere);
+    feld->setEditable(true);
+    feld->setDoubleValue(99.96);
+    feld->setDecimals(1);
+    fenster.show();
+    QVERIFY(QTest::qWaitForWindowActive(&fenster));
+    QSignalSpy gemeldet(feld, &Textfeld::betaetigt);
+    feld->setFocus();
+    andere->setFocus();
+    QCOMPARE(gemeldet.count(), 0);
+    QCOMPARE(feld->doubleValue(), 99.96);
+}
+
+void TestTextfeld::aHiddenFieldKeepsItsPlace()
+{
+    QWidget fenster;
+    auto *anordnung = new QVBoxLayout(&fenster);
+    auto *oben = new Textfeld;
+    auto *unten = new Textfeld;
+    anordnung->addWidget(oben);
+    anordnung->addWidget(unten);
+    fenster.show();
+    QVERIFY(QTest::qWaitForWindowExposed(&fenster));
+    const QPoint vorher = unten->pos();
+    oben->hide();
+    QCoreApplication::processEvents();
+    QCOMPARE(unten->pos(), vorher);
+}
+
+void TestTextfeld::theVerdictFollowsTheTheme()
+{
+    const QPalette vorher = QGuiApplication::palette();
+    QWidget fenster;
+    auto *feld = new Textfeld(&fenster);
+    feld->setTextColor(Textfarbe::Rot);
+    QPalette hell = vorher;
+    hell.setColor(QPalette::Window, Qt::white);
+    QGuiApplication::setPalette(hell);
+    QTRY_COMPARE(feld->palette().color(QPalette::Text), farbeFuer(Textfarbe::Rot, hell));
+    QPalette dunkel = vorher;
+    dunkel.setColor(QPalette::Window, Qt::black);
+    QGuiApplication::setPalette(dunkel);
+    QTRY_COMPARE(feld->palette().color(QPalette::Text), farbeFuer(Textfarbe::Rot, dunkel));
+    QVERIFY(farbeFuer(Textfarbe::Rot, hell) != farbeFuer(Textfarbe::Rot, dunkel));
+    feld->setTextColor(Textfarbe::Standard);
+    QCOMPARE(feld->textColor(), Textfarbe::Standard);
+    QGuiApplication::setPalette(vorher);
+}
+
+QTEST_MAIN(TestTextfeld)
+#include "TestTextfeld.moc"
