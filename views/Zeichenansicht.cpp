@@ -1,0 +1,51 @@
+#include "Zeichenansicht.h"
+
+#include <QAccessible>
+#include <QAccessibleWidget>
+#include <QPainter>
+
+namespace {
+
+/// Tells an assistive tool what a view shows at the moment of asking. Telling it at every change
+/// instead would cost more than the change.
+class Ansichtszugang : public QAccessibleWidget
+{
+public:
+    explicit Ansichtszugang(Zeichenansicht *ansicht)
+        : QAccessibleWidget(ansicht, QAccessible::Graphic)
+    {
+    }
+
+    QString text(QAccessible::Text art) const override
+    {
+        QString gegeben = QAccessibleWidget::text(art);
+        const auto *ansicht = qobject_cast<const Zeichenansicht *>(object());
+        if (art == QAccessible::Description && gegeben.isEmpty() && ansicht != nullptr) {
+            return ansicht->beschreibung();
+        }
+        return gegeben;
+    }
+};
+
+QAccessibleInterface *zugangZu(const QString &klasse, QObject *objekt)
+{
+    auto *ansicht = qobject_cast<Zeichenansicht *>(objekt);
+    if (ansicht == nullptr || klasse != QLatin1String("Zeichenansicht")) {
+        return nullptr;
+    }
+    return new Ansichtszugang(ansicht);
+}
+
+} // namespace
+
+Zeichenansicht::Zeichenansicht(QWidget *parent) : QWidget(parent)
+{
+    // Qt keeps one entry for a factory, however often it is named.
+    QAccessible::installFactory(zugangZu);
+}
+
+void Zeichenansicht::paintEvent(QPaintEvent * /*event*/)
+{
+    QPainter maler(this);
+    zeichnen(maler, QRectF(rect()));
+}
