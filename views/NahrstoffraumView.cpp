@@ -28,7 +28,7 @@ struct Sektor
     float bis;
 };
 
-std::array<Sektor, 3> sektoren(const Energieanteile &anteile)
+std::array<Sektor, 3> sektoren(const Energieverteilung &anteile)
 {
     const float ersteGrenze = vollkreis * anteile.protein;
     const float zweiteGrenze = vollkreis * (anteile.protein + anteile.kohlenhydrat);
@@ -54,14 +54,14 @@ void zeichneSektor(QPainter &maler, const Kreis &kreis, const Sektor &sektor)
     maler.fillPath(weg, sektor.farbe);
 }
 
-void zeichneKreis(QPainter &maler, const Kreis &kreis, const Energieanteile &anteile)
+void zeichneKreis(QPainter &maler, const Kreis &kreis, const Energieverteilung &anteile)
 {
     for (const Sektor &sektor : sektoren(anteile)) {
         zeichneSektor(maler, kreis, sektor);
     }
 }
 
-QString anteileInWorten(const char *satz, const Energieanteile &anteile)
+QString anteileInWorten(const char *satz, const Energieverteilung &anteile)
 {
     const auto prozent = [](float anteil) {
         return QLocale().toString(anteil * 100.0F, 'f', 0);

@@ -4,7 +4,7 @@
 
 /// A split of energy into three shares, as fractions of 1. Nothing is checked: they need not add
 /// up.
-struct Energieanteile
+struct Energieverteilung
 {
     float protein;
     float kohlenhydrat;
@@ -38,8 +38,8 @@ public:
     int aa() const { return m_aa; }
     int bb() const { return m_bb; }
     int cc() const { return m_cc; }
-    const Energieanteile &sollwerte() const { return m_soll; }
-    const Energieanteile &istwerte() const { return m_ist; }
+    const Energieverteilung &sollwerte() const { return m_soll; }
+    const Energieverteilung &istwerte() const { return m_ist; }
 
     /// The radius is a fifth of the width; the centres lie 45 above the middle of the height, which
     /// leaves room for a legend below. Shares below 1 in all leave the rest of the circle empty,
@@ -54,8 +54,8 @@ private:
     float m_a = 15;
     float m_b = 55;
     float m_c = 30;
-    Energieanteile m_soll; ///< what a day's energy should be made of; as created, never changed
-    Energieanteile m_ist;
+    Energieverteilung m_soll; ///< what a day's energy should be made of; as created, never changed
+    Energieverteilung m_ist;
     int m_aa = 0;
     int m_bb = 0;
     int m_cc = 0;

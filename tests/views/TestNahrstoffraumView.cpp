@@ -72,7 +72,7 @@ void TestNahrstoffraumView::aFreshViewHoldsTheTarget()
     QCOMPARE(view.a(), 15.0F);
     QCOMPARE(view.b(), 55.0F);
     QCOMPARE(view.c(), 30.0F);
-    for (const Energieanteile &anteile : {view.sollwerte(), view.istwerte()}) {
+    for (const Energieverteilung &anteile : {view.sollwerte(), view.istwerte()}) {
         QCOMPARE(anteile.protein, 0.15F);
         QCOMPARE(anteile.kohlenhydrat, 0.55F);
         QCOMPARE(anteile.fett, 0.3F);
