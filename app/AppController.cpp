@@ -6,6 +6,7 @@
 
 #include <QAbstractButton>
 #include <QEvent>
+#include <QHeaderView>
 
 int AppController::angeklickteSpalte = -1;
 
@@ -17,6 +18,7 @@ const QStringList AppController::ansichten = {
 namespace {
 
 constexpr int zeilenhoehe = 23;
+constexpr int spaltenbreiten[] = {270, 140, 140};
 
 const char *const quellenangabe =
     QT_TRANSLATE_NOOP("Mahlberg", "Nährwerte je 100 g: Schweizer Nährwertdatenbank, generische "
@@ -52,14 +54,14 @@ AppController::~AppController()
 
 void AppController::ladeBestaende()
 {
-    Lebensmittelbestand eingebaut = ladeEingebauteLebensmittel(m_tueren.eingebauteTabelle);
+    Lebensmittelbestand eingebaut = ladeBestand(m_tueren.eingebauteTabelle);
     Dictionary = std::move(eingebaut.verzeichnis);
     Array = std::move(eingebaut.namen);
     for (const QString &name : std::as_const(Array)) {
         m_uebersetzt << localizedString(name);
     }
     Lebensmittelbestand eigene =
-        ladeEigeneLebensmittel(m_tueren.datenordner.pathForDataFile(QStringLiteral("customdaten")));
+        ladeEigenenBestand(m_tueren.datenordner.pathForDataFile(QStringLiteral("customdaten")));
     KundenDictionary = std::move(eigene.verzeichnis);
     KundenArray = std::move(eigene.namen);
 }
@@ -97,6 +99,7 @@ void AppController::findeFelder()
 
 void AppController::beschrifte()
 {
+    view->viewport()->setAutoFillBackground(false);
     view->setPlainText(localizedString(QString::fromUtf8(quellenangabe)));
     nahrviewfarben->setEintraege({
         {QColor(0, 255, 0), localizedString(QStringLiteral("Protein"))},
@@ -119,7 +122,11 @@ void AppController::verbinde()
                        {{QStringLiteral("name"), localizedString(QStringLiteral("Lebensmittel"))},
                         {QStringLiteral("eigen"), localizedString(QStringLiteral("Eigene"))},
                         {QStringLiteral("such"), localizedString(QStringLiteral("Suche"))}});
-    connect(Tabelle, &Tabelle::betaetigt, this, &AppController::Laden);
+    Tabelle->horizontalHeader()->setStretchLastSection(true);
+    for (int spalte = 0; spalte < std::ssize(spaltenbreiten); ++spalte) {
+        Tabelle->setColumnWidth(spalte, spaltenbreiten[spalte]);
+    }
+    connect(Tabelle, &Tabellenansicht::betaetigt, this, &AppController::Laden);
     connect(lebensmittelmenge, &Schieber::betaetigt, this,
             [this] { wieviellebensmittel(*lebensmittelmenge); });
     connect(lebensmittelmenge2, &Schieber::betaetigt, this,

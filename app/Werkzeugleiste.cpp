@@ -11,6 +11,8 @@
 #include <QSettings>
 #include <QToolButton>
 
+#include <algorithm>
+
 const QString Werkzeugleiste::space = QStringLiteral("space");
 const QString Werkzeugleiste::flexibleSpace = QStringLiteral("flexibleSpace");
 const QString Werkzeugleiste::ziehformat = QStringLiteral("application/x-mahlberg-toolbaritem");
@@ -71,7 +73,7 @@ void Werkzeugleiste::einfuegen(const QString &kennung, int stelle)
 {
     QStringList neu = m_kennungen;
     const qsizetype vorher = istRaum(kennung) ? -1 : neu.indexOf(kennung);
-    qsizetype ziel = qBound<qsizetype>(0, stelle, neu.size());
+    qsizetype ziel = std::clamp<qsizetype>(stelle, 0, neu.size());
     if (vorher >= 0) {
         neu.removeAt(vorher);
         ziel -= vorher < ziel ? 1 : 0;

@@ -17,7 +17,7 @@ class Schieber : public QWidget, public Wertehalter
     Q_PROPERTY(double stepValue READ stepValue WRITE setStepValue)
     Q_PROPERTY(int decimals READ decimals WRITE setDecimals)
     Q_PROPERTY(QString unit READ unit WRITE setUnit)
-    Q_PROPERTY(double value READ doubleValue WRITE setDoubleValue)
+    Q_PROPERTY(double doubleValue READ doubleValue WRITE setDoubleValue)
 
 public:
     explicit Schieber(QWidget *parent = nullptr);

@@ -6,7 +6,7 @@
 
 /// A table that follows its controller (`Tabellenquelle`). A cell is chosen with the mouse or the
 /// arrow keys; the action then finds the chosen row and the column in which it was chosen.
-class Tabelle : public QTableView
+class Tabellenansicht : public QTableView
 {
     Q_OBJECT
     /// True: solid lines between the columns and dashed ones between the rows.
@@ -15,7 +15,7 @@ class Tabelle : public QTableView
     Q_PROPERTY(int rowHeight READ rowHeight WRITE setRowHeight)
 
 public:
-    explicit Tabelle(QWidget *parent = nullptr);
+    explicit Tabellenansicht(QWidget *parent = nullptr);
 
     void setQuelle(Tabellenquelle *quelle, const QList<Spalte> &spalten);
     void reloadData();

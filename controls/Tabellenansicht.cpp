@@ -1,4 +1,4 @@
-#include "Tabelle.h"
+#include "Tabellenansicht.h"
 
 #include <QDrag>
 #include <QHeaderView>
@@ -17,16 +17,20 @@ constexpr int zellenrand = 6;
 class Zellenmaler : public QStyledItemDelegate
 {
 public:
-    explicit Zellenmaler(Tabelle *tabelle) : QStyledItemDelegate(tabelle), m_tabelle(tabelle) {}
+    explicit Zellenmaler(Tabellenansicht *tabelle)
+        : QStyledItemDelegate(tabelle)
+        , m_tabelle(tabelle)
+    {
+    }
 
     void paint(QPainter *painter, const QStyleOptionViewItem &option,
                const QModelIndex &index) const override
     {
         const Zellenbild bild = m_tabelle->modell()->bild(index);
         painter->save();
-        if ((option.features & QStyleOptionViewItem::Alternate) != 0) {
-            painter->fillRect(option.rect, option.palette.alternateBase());
-        }
+        const bool gerade = (option.features & QStyleOptionViewItem::Alternate) != 0;
+        painter->fillRect(option.rect,
+                          gerade ? option.palette.alternateBase() : option.palette.base());
         if (m_tabelle->gitter()) {
             maleGitter(*painter, option);
         }
@@ -88,12 +92,14 @@ private:
                          option.fontMetrics.elidedText(rest, Qt::ElideRight, platz.width()));
     }
 
-    Tabelle *m_tabelle;
+    Tabellenansicht *m_tabelle;
 };
 
 } // namespace
 
-Tabelle::Tabelle(QWidget *parent) : QTableView(parent), m_modell(new Tabellenmodell(this))
+Tabellenansicht::Tabellenansicht(QWidget *parent)
+    : QTableView(parent)
+    , m_modell(new Tabellenmodell(this))
 {
     setModel(m_modell);
     setItemDelegate(new Zellenmaler(this));
@@ -110,24 +116,24 @@ Tabelle::Tabelle(QWidget *parent) : QTableView(parent), m_modell(new Tabellenmod
     horizontalHeader()->setHighlightSections(false);
 }
 
-void Tabelle::setQuelle(Tabellenquelle *quelle, const QList<Spalte> &spalten)
+void Tabellenansicht::setQuelle(Tabellenquelle *quelle, const QList<Spalte> &spalten)
 {
     m_modell->setQuelle(quelle, spalten);
 }
 
-void Tabelle::reloadData()
+void Tabellenansicht::reloadData()
 {
     m_modell->reloadData();
     viewport()->update();
 }
 
-int Tabelle::selectedRow() const
+int Tabellenansicht::selectedRow() const
 {
     const QModelIndexList gewaehlt = selectionModel()->selectedIndexes();
     return gewaehlt.isEmpty() ? -1 : gewaehlt.first().row();
 }
 
-void Tabelle::selectRow(int zeile)
+void Tabellenansicht::selectRow(int zeile)
 {
     const int spalte = qMax(0, currentIndex().column());
     const QModelIndex index = m_modell->index(zeile, spalte);
@@ -137,7 +143,7 @@ void Tabelle::selectRow(int zeile)
     }
 }
 
-void Tabelle::scrollRowToVisible(int zeile)
+void Tabellenansicht::scrollRowToVisible(int zeile)
 {
     const QModelIndex index = m_modell->index(zeile, qMax(0, currentIndex().column()));
     if (index.isValid()) {
@@ -145,25 +151,25 @@ void Tabelle::scrollRowToVisible(int zeile)
     }
 }
 
-void Tabelle::setGitter(bool gitter)
+void Tabellenansicht::setGitter(bool gitter)
 {
     m_gitter = gitter;
     viewport()->update();
 }
 
-int Tabelle::rowHeight() const
+int Tabellenansicht::rowHeight() const
 {
     return verticalHeader()->defaultSectionSize();
 }
 
-void Tabelle::setRowHeight(int hoehe)
+void Tabellenansicht::setRowHeight(int hoehe)
 {
     verticalHeader()->setDefaultSectionSize(hoehe);
     verticalHeader()->setSectionResizeMode(QHeaderView::Fixed);
 }
 
 /// Runs the action with the column in which the user chose.
-void Tabelle::melde(int spalte)
+void Tabellenansicht::melde(int spalte)
 {
     viewport()->update();
     m_clickedColumn = spalte;
@@ -171,20 +177,20 @@ void Tabelle::melde(int spalte)
     m_clickedColumn = -1;
 }
 
-void Tabelle::mousePressEvent(QMouseEvent *event)
+void Tabellenansicht::mousePressEvent(QMouseEvent *event)
 {
     m_mausort = event->position().toPoint();
     m_gedrueckteZeile = rowAt(m_mausort.y());
     QTableView::mousePressEvent(event);
 }
 
-void Tabelle::mouseMoveEvent(QMouseEvent *event)
+void Tabellenansicht::mouseMoveEvent(QMouseEvent *event)
 {
     m_mausort = event->position().toPoint();
     QTableView::mouseMoveEvent(event);
 }
 
-void Tabelle::mouseReleaseEvent(QMouseEvent *event)
+void Tabellenansicht::mouseReleaseEvent(QMouseEvent *event)
 {
     const bool gezogen = state() == DraggingState || state() == DragSelectingState;
     QTableView::mouseReleaseEvent(event);
@@ -200,7 +206,7 @@ void Tabelle::mouseReleaseEvent(QMouseEvent *event)
     }
 }
 
-void Tabelle::keyPressEvent(QKeyEvent *event)
+void Tabellenansicht::keyPressEvent(QKeyEvent *event)
 {
     const QModelIndex vorher = currentIndex();
     QTableView::keyPressEvent(event);
@@ -210,7 +216,7 @@ void Tabelle::keyPressEvent(QKeyEvent *event)
     }
 }
 
-QMimeData *Tabelle::ziehdaten(int zeile, const QPoint &mausort) const
+QMimeData *Tabellenansicht::ziehdaten(int zeile, const QPoint &mausort) const
 {
     const int spalte = columnAt(mausort.x());
     const QString text = m_modell->ziehtext(spalte, zeile);
@@ -222,7 +228,7 @@ QMimeData *Tabelle::ziehdaten(int zeile, const QPoint &mausort) const
     return daten;
 }
 
-void Tabelle::startDrag(Qt::DropActions supportedActions)
+void Tabellenansicht::startDrag(Qt::DropActions supportedActions)
 {
     QMimeData *daten = ziehdaten(m_gedrueckteZeile, m_mausort);
     if (daten == nullptr) {

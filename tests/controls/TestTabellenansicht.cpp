@@ -1,4 +1,4 @@
-#include "Tabelle.h"
+#include "Tabellenansicht.h"
 
 #include <QAbstractItemModelTester>
 #include <QHeaderView>
@@ -33,7 +33,7 @@ public:
 
 } // namespace
 
-class TestTabelle : public QObject
+class TestTabellenansicht : public QObject
 {
     Q_OBJECT
 
@@ -67,13 +67,13 @@ private:
     }
 
     Probequelle m_quelle;
-    std::unique_ptr<Tabelle> m_tabelle;
+    std::unique_ptr<Tabellenansicht> m_tabelle;
 };
 
-void TestTabelle::init()
+void TestTabellenansicht::init()
 {
     m_quelle = Probequelle();
-    m_tabelle = std::make_unique<Tabelle>();
+    m_tabelle = std::make_unique<Tabellenansicht>();
     m_tabelle->setQuelle(&m_quelle, {{QStringLiteral("a"), QStringLiteral("A")},
                                      {QStringLiteral("b"), QStringLiteral("B")},
                                      {QStringLiteral("c"), QStringLiteral("C")}});
@@ -83,7 +83,7 @@ void TestTabelle::init()
     QVERIFY(QTest::qWaitForWindowActive(m_tabelle.get()));
 }
 
-void TestTabelle::theModelKeepsQtsRules()
+void TestTabellenansicht::theModelKeepsQtsRules()
 {
     QAbstractItemModelTester pruefer(m_tabelle->model(),
                                      QAbstractItemModelTester::FailureReportingMode::QtTest);
@@ -95,7 +95,7 @@ void TestTabelle::theModelKeepsQtsRules()
     QCOMPARE(m_tabelle->model()->headerData(1, Qt::Horizontal).toString(), QStringLiteral("B"));
 }
 
-void TestTabelle::theRowsAreThoseOfTheLastReload()
+void TestTabellenansicht::theRowsAreThoseOfTheLastReload()
 {
     m_quelle.zeilen = 5;
     QCOMPARE(m_tabelle->model()->rowCount(), 20);
@@ -105,13 +105,13 @@ void TestTabelle::theRowsAreThoseOfTheLastReload()
     QCOMPARE(m_tabelle->model()->rowCount(), 5);
 }
 
-void TestTabelle::anEmptyCellIsEmpty()
+void TestTabellenansicht::anEmptyCellIsEmpty()
 {
     QCOMPARE(m_tabelle->model()->index(1, 2).data().toString(), QStringLiteral("c1"));
     QVERIFY(!m_tabelle->model()->index(2, 2).data().isValid());
 }
 
-void TestTabelle::aClickChoosesRowAndColumn_data()
+void TestTabellenansicht::aClickChoosesRowAndColumn_data()
 {
     QTest::addColumn<int>("zeile");
     QTest::addColumn<int>("spalte");
@@ -121,12 +121,12 @@ void TestTabelle::aClickChoosesRowAndColumn_data()
     QTest::newRow("row 0") << 0 << 0;
 }
 
-void TestTabelle::aClickChoosesRowAndColumn()
+void TestTabellenansicht::aClickChoosesRowAndColumn()
 {
     QFETCH(int, zeile);
     QFETCH(int, spalte);
     int gemeldet = 0;
-    connect(m_tabelle.get(), &Tabelle::betaetigt, this, [&] {
+    connect(m_tabelle.get(), &Tabellenansicht::betaetigt, this, [&] {
         ++gemeldet;
         QCOMPARE(m_tabelle->selectedRow(), zeile);
         QCOMPARE(m_tabelle->clickedColumn(), spalte);
@@ -135,18 +135,18 @@ void TestTabelle::aClickChoosesRowAndColumn()
     QCOMPARE(gemeldet, 1);
 }
 
-void TestTabelle::outsideOfAnActionNoColumnIsClicked()
+void TestTabellenansicht::outsideOfAnActionNoColumnIsClicked()
 {
     QCOMPARE(m_tabelle->clickedColumn(), -1);
     klicke(2, 1);
     QCOMPARE(m_tabelle->clickedColumn(), -1);
 }
 
-void TestTabelle::theArrowKeysChooseToo()
+void TestTabellenansicht::theArrowKeysChooseToo()
 {
     klicke(2, 1);
     int spalte = -2;
-    connect(m_tabelle.get(), &Tabelle::betaetigt, this,
+    connect(m_tabelle.get(), &Tabellenansicht::betaetigt, this,
             [&] { spalte = m_tabelle->clickedColumn(); });
     QTest::keyClick(m_tabelle.get(), Qt::Key_Down);
     QCOMPARE(m_tabelle->selectedRow(), 3);
@@ -156,29 +156,30 @@ void TestTabelle::theArrowKeysChooseToo()
     QCOMPARE(spalte, 0);
 }
 
-void TestTabelle::returnChoosesAgain()
+void TestTabellenansicht::returnChoosesAgain()
 {
     klicke(2, 0);
-    QSignalSpy gemeldet(m_tabelle.get(), &Tabelle::betaetigt);
+    QSignalSpy gemeldet(m_tabelle.get(), &Tabellenansicht::betaetigt);
     QTest::keyClick(m_tabelle.get(), Qt::Key_Return);
     QCOMPARE(gemeldet.count(), 1);
     QTest::keyClick(m_tabelle.get(), Qt::Key_F5);
     QCOMPARE(gemeldet.count(), 1);
 }
 
-void TestTabelle::aClickBesideTheRowsChoosesNone()
+void TestTabellenansicht::aClickBesideTheRowsChoosesNone()
 {
     klicke(2, 0);
     int zeile = -2;
-    connect(m_tabelle.get(), &Tabelle::betaetigt, this, [&] { zeile = m_tabelle->selectedRow(); });
+    connect(m_tabelle.get(), &Tabellenansicht::betaetigt, this,
+            [&] { zeile = m_tabelle->selectedRow(); });
     QTest::mouseClick(m_tabelle->viewport(), Qt::LeftButton, {},
                       QPoint(20, m_tabelle->viewport()->height() - 5));
     QCOMPARE(zeile, -1);
 }
 
-void TestTabelle::selectingByProgramRunsNoAction()
+void TestTabellenansicht::selectingByProgramRunsNoAction()
 {
-    QSignalSpy gemeldet(m_tabelle.get(), &Tabelle::betaetigt);
+    QSignalSpy gemeldet(m_tabelle.get(), &Tabellenansicht::betaetigt);
     m_tabelle->selectRow(4);
     m_tabelle->scrollRowToVisible(4);
     QCOMPARE(m_tabelle->selectedRow(), 4);
@@ -187,7 +188,7 @@ void TestTabelle::selectingByProgramRunsNoAction()
     QCOMPARE(gemeldet.count(), 0);
 }
 
-void TestTabelle::aRowThatDoesNotExistIsNotSelected()
+void TestTabellenansicht::aRowThatDoesNotExistIsNotSelected()
 {
     m_tabelle->selectRow(4);
     m_tabelle->selectRow(20);
@@ -200,7 +201,7 @@ void TestTabelle::aRowThatDoesNotExistIsNotSelected()
     QCOMPARE(m_tabelle->selectedRow(), -1);
 }
 
-void TestTabelle::aReloadKeepsTheSelection()
+void TestTabellenansicht::aReloadKeepsTheSelection()
 {
     klicke(4, 1);
     m_quelle.zeilen = 30;
@@ -208,7 +209,7 @@ void TestTabelle::aReloadKeepsTheSelection()
     QCOMPARE(m_tabelle->selectedRow(), 4);
 }
 
-void TestTabelle::aDragCarriesTheColumnUnderTheMouse()
+void TestTabellenansicht::aDragCarriesTheColumnUnderTheMouse()
 {
     for (int spalte = 0; spalte < 3; ++spalte) {
         const std::unique_ptr<QMimeData> daten(m_tabelle->ziehdaten(1, mitte(5, spalte)));
@@ -218,7 +219,7 @@ void TestTabelle::aDragCarriesTheColumnUnderTheMouse()
     }
 }
 
-void TestTabelle::nothingIsDraggedFromAnEmptyCell()
+void TestTabellenansicht::nothingIsDraggedFromAnEmptyCell()
 {
     QVERIFY(m_tabelle->ziehdaten(5, mitte(5, 2)) == nullptr);
     QVERIFY(m_tabelle->ziehdaten(-1, mitte(5, 0)) == nullptr);
@@ -226,10 +227,10 @@ void TestTabelle::nothingIsDraggedFromAnEmptyCell()
     QVERIFY(m_tabelle->ziehdaten(1, QPoint(5000, 5)) == nullptr);
 }
 
-void TestTabelle::tabLeavesTheTable()
+void TestTabellenansicht::tabLeavesTheTable()
 {
     QVERIFY(!m_tabelle->tabKeyNavigation());
 }
 
-QTEST_MAIN(TestTabelle)
-#include "TestTabelle.moc"
+QTEST_MAIN(TestTabellenansicht)
+#include "TestTabellenansicht.moc"
