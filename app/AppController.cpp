@@ -18,6 +18,7 @@ const QStringList AppController::ansichten = {
 namespace {
 
 constexpr int zeilenhoehe = 23;
+constexpr int fensterteilung[] = {590, 680};
 constexpr int spaltenbreiten[] = {270, 140, 140};
 
 const char *const quellenangabe =
@@ -106,6 +107,7 @@ void AppController::beschrifte()
         {QColor(0, 0, 255), localizedString(QStringLiteral("Kohlenhydrate"))},
         {QColor(255, 255, 0), localizedString(QStringLiteral("Fett"))},
     });
+    teiler->setSizes({fensterteilung[0], fensterteilung[1]});
     suchfortschritt->hide();
     sichernBox->hide();
     for (QWidget *widget : std::initializer_list<QWidget *>{
