@@ -156,7 +156,7 @@ void Archivschreiber::schreibeBytes(QByteArrayView bytes)
 
 void Archivschreiber::schreibeTyp(char typ)
 {
-    auto &nummer = m_typen[static_cast<std::size_t>(typ)];
+    auto &nummer = m_typen[static_cast<unsigned char>(typ)];
     if (nummer) {
         schreibeVerweis(*nummer);
         return;
