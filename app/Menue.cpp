@@ -52,6 +52,8 @@ void baueAblage(AppController &controller)
             [&controller] { controller.Fenster(); });
     eintrag(ablage, QT_TRANSLATE_NOOP("Mahlberg", "Eigenes Lebensmittel &sichern …"),
             QKeySequence::Save, [&controller] { controller.sichernaufzu->click(); });
+    eintrag(ablage, QT_TRANSLATE_NOOP("Mahlberg", "Eigenes Lebensmittel &löschen …"), {},
+            [&controller] { controller.LoescheneigeneLM(); });
     ablage.addSeparator();
     eintrag(ablage, QT_TRANSLATE_NOOP("Mahlberg", "&Beenden"), QKeySequence::Quit,
             [&controller] { controller.Hauptfenster->close(); });
@@ -81,6 +83,15 @@ void baueBearbeiten(AppController &controller)
             bearbeiten.addSeparator();
         }
     }
+    bearbeiten.addSeparator();
+    eintrag(bearbeiten, QT_TRANSLATE_NOOP("Mahlberg", "Lebensmittel &suchen"), QKeySequence::Find,
+            [&controller] {
+                controller.suchfeld->setFocus(Qt::ShortcutFocusReason);
+                controller.suchfeld->selectAll();
+            });
+    eintrag(bearbeiten, QT_TRANSLATE_NOOP("Mahlberg", "&Profilsuche"),
+            QKeySequence(QStringLiteral("Ctrl+Shift+F")),
+            [&controller] { controller.profilaufzu->toggle(); });
 }
 
 void baueErscheinungsbild(QMenu &darstellung, AppController &controller)
