@@ -23,6 +23,9 @@ struct Spalte
 {
     QString kennung;
     QString titel;
+    QString erklaerung = {};    ///< the title in full, where it has to be short; null: none needed
+    bool rechtsbuendig = false; ///< true: its numbers stand under each other
+    bool bearbeitbar = false;   ///< true: the user can type into its cells
 };
 
 /// What a controller answers for its table. Rows beyond the controller's lists give absent values.
@@ -41,6 +44,17 @@ public:
 
     /// The text that a drag of this cell carries; null: nothing can be dragged from here.
     virtual QString writeRows(const QString &spalte, int zeile);
+
+    /// The user has typed a text into a cell of an editable column.
+    virtual void setObjectValue(const QString &spalte, int zeile, const QString &text);
+
+    /// Something is held over a row, on it (`auf`) or over the edge above it; below all rows it is
+    /// the edge above the row that does not exist yet. Answers above which row it is going to
+    /// stand; absent when the table takes nothing.
+    virtual std::optional<int> validateDrop(int zeile, bool auf);
+
+    /// A text was dropped above this row.
+    virtual void acceptDrop(int zeile, const QString &text);
 
 protected:
     Tabellenquelle() = default;
@@ -62,6 +76,7 @@ public:
 
     QString kennung(int spalte) const;
     int spaltenstelle(const QString &kennung) const;
+    Tabellenquelle *quelle() const { return m_quelle; }
     Zellenbild bild(const QModelIndex &index) const;
 
     /// What a drag of this cell carries; null outside of the table and where nothing can be
@@ -72,10 +87,13 @@ public:
     int columnCount(const QModelIndex &parent = {}) const override;
     QVariant data(const QModelIndex &index, int role) const override;
     QVariant headerData(int section, Qt::Orientation orientation, int role) const override;
+    bool setData(const QModelIndex &index, const QVariant &wert, int role) override;
     Qt::ItemFlags flags(const QModelIndex &index) const override;
     QStringList mimeTypes() const override;
 
 private:
+    QVariant ausrichtung(int spalte) const;
+
     Tabellenquelle *m_quelle = nullptr;
     QList<Spalte> m_spalten;
     int m_zeilen = 0;
