@@ -8,6 +8,16 @@
 #include <QTest>
 #include <QXmlStreamReader>
 
+class TestUebersetzung : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void everyTextIsTranslated();
+    void noTranslationIsLeftOver();
+    void placeholdersAndMarginsAreKept();
+};
+
 namespace {
 
 /// A text with the context under which it is looked up.
@@ -120,16 +130,6 @@ QStringList platzhalter(const QString &text)
 }
 
 } // namespace
-
-class TestUebersetzung : public QObject
-{
-    Q_OBJECT
-
-private Q_SLOTS:
-    void everyTextIsTranslated();
-    void noTranslationIsLeftOver();
-    void placeholdersAndMarginsAreKept();
-};
 
 void TestUebersetzung::everyTextIsTranslated()
 {
