@@ -73,11 +73,15 @@ private:
 /// The fewest bytes of an entry: twice a type and a reference.
 constexpr qsizetype kleinsterEintrag = 4;
 
-/// Texts in reasons are shown as they stand in the file, which need not be readable.
+/// A text from the file as it may stand in a reason: not too long, and without bytes that a
+/// terminal would obey.
 QString zitat(QByteArrayView roh)
 {
     constexpr qsizetype laengstes = 40;
-    const QByteArrayView anfang = roh.first(std::min(roh.size(), laengstes));
+    QByteArray anfang = roh.first(std::min(roh.size(), laengstes)).toByteArray();
+    std::replace_if(
+        anfang.begin(), anfang.end(), [](char zeichen) { return zeichen < ' ' || zeichen > '~'; },
+        '?');
     return QLatin1Char('"') + QString::fromLatin1(anfang) + QLatin1Char('"');
 }
 

@@ -259,6 +259,12 @@ void TestArchiverSchaden::theReasonIsGiven_data()
     QTest::newRow("a name with a percent sign")
         << datei("84 01 '@' 84 84 84 04 '%1%2' 00 85")
         << QStringLiteral("the class \"%1%2\" is not known here");
+    QTest::newRow("a name that is no text")
+        << datei("84 01 '@' 84 84 84 05 'NS' 1B 00 E4 00 85")
+        << QStringLiteral("the class \"NS???\" is not known here");
+    QTest::newRow("a long name")
+        << datei("84 01 '@' 84 84 84 7F") + QByteArray(127, 'N')
+        << QStringLiteral("the class \"%1\" is not known here").arg(QString(40, QLatin1Char('N')));
     QTest::newRow("another type") << datei("84 02 '@@' 84")
                                   << QStringLiteral("a value of type \"@\" should stand here, "
                                                     "not of \"@@\"");

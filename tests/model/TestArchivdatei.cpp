@@ -1,0 +1,389 @@
+#include "Archivbau.h"
+#include "Archivdatei.h"
+#include "Hindernisse.h"
+
+#include <QDir>
+#include <QFile>
+#include <QTemporaryDir>
+#include <QTest>
+
+#include <memory>
+
+#include <sys/stat.h>
+
+using namespace Archivbau;
+using Zustand = Archivdatei::Zustand;
+
+class TestArchivdatei : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void init();
+    void aMissingFileIsMissing_data();
+    void aMissingFileIsMissing();
+    void aFileIsRead();
+    void anEmptyStoreIsRead();
+    void aDamagedFileSaysWhere();
+    void whatIsNoFileIsNotOpened_data();
+    void whatIsNoFileIsNotOpened();
+    void aFileOfSomebodyElseIsUnreadable();
+    void aHugeFileIsUnreadable();
+
+    void aNewFileIsWritten();
+    void aChangedFileIsReplaced();
+    void unchangedBytesAreNotTouched();
+    void permissionsStay();
+    void aLinkStaysALink();
+    void writingFails_data();
+    void writingFails();
+    void aFullDiskLeavesTheOldFile();
+    void aReadOnlyFolderLeavesTheOldFile();
+
+    void aDamagedFileIsKeptBesideTheNewOne_data();
+    void aDamagedFileIsKeptBesideTheNewOne();
+    void aCopyIsNeverOverwritten();
+    void onlyTheFirstWritingMakesACopy();
+    void withoutACopyADamagedFileStays();
+    void aFullDiskMakesNoCopy();
+
+private:
+    QString path(const char *name) const { return m_ordner->filePath(QString::fromUtf8(name)); }
+    QStringList dateien() const;
+    void schreibeRoh(const QString &path, const QByteArray &bytes) const;
+
+    std::unique_ptr<QTemporaryDir> m_ordner;
+};
+
+namespace {
+
+const QDateTime moment(QDate(2026, 11, 20), QTime(14, 3, 5));
+const char *const kopiename = "Eigene 2026-11-20 14.03.05.daten";
+
+QByteArray leseRoh(const QString &path)
+{
+    QFile datei(path);
+    return datei.open(QIODevice::ReadOnly) ? datei.readAll() : QByteArray();
+}
+
+struct stat status(const QString &path)
+{
+    struct stat info = {};
+    stat(QFile::encodeName(path).constData(), &info);
+    return info;
+}
+
+} // namespace
+
+void TestArchivdatei::init()
+{
+    m_ordner = std::make_unique<QTemporaryDir>();
+    QVERIFY(m_ordner->isValid());
+}
+
+QStringList TestArchivdatei::dateien() const
+{
+    return QDir(m_ordner->path())
+        .entryList(QDir::AllEntries | QDir::System | QDir::Hidden | QDir::NoDotAndDotDot);
+}
+
+void TestArchivdatei::schreibeRoh(const QString &path, const QByteArray &bytes) const
+{
+    QFile datei(path);
+    QVERIFY(datei.open(QIODevice::WriteOnly));
+    QCOMPARE(datei.write(bytes), bytes.size());
+}
+
+void TestArchivdatei::aMissingFileIsMissing_data()
+{
+    QTest::addColumn<QString>("name");
+    QTest::newRow("no such file") << QStringLiteral("/Eigene.daten");
+    QTest::newRow("no such folder") << QStringLiteral("/fehlt/Eigene.daten");
+}
+
+void TestArchivdatei::aMissingFileIsMissing()
+{
+    QFETCH(QString, name);
+    const auto inhalt = Archivdatei::lesen(m_ordner->path() + name);
+    QVERIFY(inhalt.zustand == Zustand::Fehlt);
+    QVERIFY(inhalt.archiv.verzeichnis.isEmpty());
+    QVERIFY(Archivdatei::lesen(QString()).zustand == Zustand::Fehlt);
+    QVERIFY(dateien().isEmpty());
+}
+
+void TestArchivdatei::aFileIsRead()
+{
+    schreibeRoh(path("Eigene.daten"), beispielBytes());
+    const auto inhalt = Archivdatei::lesen(path("Eigene.daten"));
+    QVERIFY(inhalt.zustand == Zustand::Gelesen);
+    QVERIFY(gleich(inhalt.archiv.verzeichnis, beispielVerzeichnis()));
+}
+
+void TestArchivdatei::anEmptyStoreIsRead()
+{
+    schreibeRoh(path("Eigene.daten"), datei(verzeichnisAnfang + "00 86"));
+    const auto inhalt = Archivdatei::lesen(path("Eigene.daten"));
+    QVERIFY(inhalt.zustand == Zustand::Gelesen);
+    QVERIFY(inhalt.archiv.verzeichnis.isEmpty());
+}
+
+void TestArchivdatei::aDamagedFileSaysWhere()
+{
+    schreibeRoh(path("Eigene.daten"), beispielBytes().first(100));
+    const auto inhalt = Archivdatei::lesen(path("Eigene.daten"));
+    QVERIFY(inhalt.zustand == Zustand::Beschaedigt);
+    QVERIFY(inhalt.archiv.verzeichnis.isEmpty());
+    QCOMPARE(inhalt.archiv.position, 100);
+    QCOMPARE(inhalt.archiv.grund, QStringLiteral("the data end too early"));
+
+    schreibeRoh(path("Eigene.daten"), {});
+    QVERIFY(Archivdatei::lesen(path("Eigene.daten")).zustand == Zustand::Beschaedigt);
+}
+
+void TestArchivdatei::whatIsNoFileIsNotOpened_data()
+{
+    QTest::addColumn<QString>("art");
+    QTest::newRow("a pipe nobody writes to") << QStringLiteral("pipe");
+    QTest::newRow("a folder") << QStringLiteral("folder");
+    QTest::newRow("a device") << QStringLiteral("device");
+}
+
+void TestArchivdatei::whatIsNoFileIsNotOpened()
+{
+    QFETCH(QString, art);
+    const QString ort = path("Eigene.daten");
+    if (art == QLatin1String("pipe")) {
+        QCOMPARE(mkfifo(QFile::encodeName(ort).constData(), 0600), 0);
+    } else if (art == QLatin1String("folder")) {
+        QVERIFY(QDir().mkdir(ort));
+    } else {
+        QVERIFY(QFile::link(QStringLiteral("/dev/zero"), ort));
+    }
+    const auto davor = status(ort);
+
+    const auto inhalt = Archivdatei::lesen(ort);
+    QVERIFY(inhalt.zustand == Zustand::Unlesbar);
+    QVERIFY(!inhalt.grund.isEmpty());
+    QVERIFY(inhalt.archiv.verzeichnis.isEmpty());
+    QVERIFY(!Archivdatei::schreiben(ort, beispielVerzeichnis()));
+    QCOMPARE(status(ort).st_ino, davor.st_ino);
+    QCOMPARE(status(ort).st_mode, davor.st_mode);
+    QCOMPARE(dateien().size(), 1);
+}
+
+void TestArchivdatei::aFileOfSomebodyElseIsUnreadable()
+{
+    const QString ort = path("Eigene.daten");
+    schreibeRoh(ort, beispielBytes());
+    QVERIFY(QFile::setPermissions(ort, QFileDevice::Permissions()));
+    QCOMPARE(chmod(QFile::encodeName(m_ordner->path()).constData(), 0777), 0);
+    {
+        const OhneRechte einfach;
+        QVERIFY(einfach.gelungen());
+        const auto inhalt = Archivdatei::lesen(ort);
+        QVERIFY(inhalt.zustand == Zustand::Unlesbar);
+        QVERIFY(!inhalt.grund.isEmpty());
+        QVERIFY(!Archivdatei::schreiben(ort, {}));
+    }
+    QVERIFY(QFile::setPermissions(ort, QFile::ReadOwner | QFile::WriteOwner));
+    QCOMPARE(leseRoh(ort), beispielBytes());
+    QCOMPARE(dateien().size(), 1);
+}
+
+void TestArchivdatei::aHugeFileIsUnreadable()
+{
+    QFile datei(path("Eigene.daten"));
+    QVERIFY(datei.open(QIODevice::WriteOnly));
+    QVERIFY(datei.resize((qint64(1) << 30) + 1)); // no more than its size is ever on the disk
+    datei.close();
+    QVERIFY(Archivdatei::lesen(datei.fileName()).zustand == Zustand::Unlesbar);
+    QVERIFY(!Archivdatei::schreiben(datei.fileName(), {}));
+    QCOMPARE(datei.size(), (qint64(1) << 30) + 1);
+}
+
+void TestArchivdatei::aNewFileIsWritten()
+{
+    QVERIFY(Archivdatei::schreiben(path("Eigene.daten"), beispielVerzeichnis()));
+    QCOMPARE(leseRoh(path("Eigene.daten")), beispielBytes());
+    QCOMPARE(dateien(), QStringList(QStringLiteral("Eigene.daten")));
+}
+
+void TestArchivdatei::aChangedFileIsReplaced()
+{
+    schreibeRoh(path("Eigene.daten"), vieleEintraege(1000, Folge::BigEndian));
+    QVERIFY(Archivdatei::schreiben(path("Eigene.daten"), beispielVerzeichnis(), moment));
+    QCOMPARE(leseRoh(path("Eigene.daten")), beispielBytes());
+    QVERIFY(Archivdatei::schreiben(path("Eigene.daten"), {}, moment));
+    QCOMPARE(leseRoh(path("Eigene.daten")), datei(verzeichnisAnfang + "00 86"));
+    QCOMPARE(dateien(), QStringList(QStringLiteral("Eigene.daten")));
+}
+
+void TestArchivdatei::unchangedBytesAreNotTouched()
+{
+    const QString ort = path("Eigene.daten");
+    schreibeRoh(ort, beispielBytes());
+    QFile datei(ort);
+    QVERIFY(datei.open(QIODevice::ReadWrite));
+    QVERIFY(datei.setFileTime(moment.addYears(-10), QFileDevice::FileModificationTime));
+    datei.close();
+    const auto davor = status(ort);
+
+    QVERIFY(Archivdatei::schreiben(ort, beispielVerzeichnis()));
+    const auto danach = status(ort);
+    QCOMPARE(danach.st_ino, davor.st_ino);
+    QCOMPARE(danach.st_mtim.tv_sec, davor.st_mtim.tv_sec);
+    QCOMPARE(danach.st_ctim.tv_sec, davor.st_ctim.tv_sec);
+    QCOMPARE(danach.st_ctim.tv_nsec, davor.st_ctim.tv_nsec);
+}
+
+void TestArchivdatei::permissionsStay()
+{
+    const QString ort = path("Eigene.daten");
+    schreibeRoh(ort, beispielBytes());
+    QVERIFY(QFile::setPermissions(ort, QFile::ReadOwner | QFile::WriteOwner | QFile::ReadGroup));
+    QVERIFY(Archivdatei::schreiben(ort, {}));
+    QCOMPARE(status(ort).st_mode & 0777U, 0640U);
+}
+
+void TestArchivdatei::aLinkStaysALink()
+{
+    schreibeRoh(path("anderswo.daten"), beispielBytes());
+    QVERIFY(QFile::link(path("anderswo.daten"), path("Eigene.daten")));
+    QVERIFY(Archivdatei::schreiben(path("Eigene.daten"), {}));
+    QVERIFY(QFileInfo(path("Eigene.daten")).isSymLink());
+    QCOMPARE(leseRoh(path("anderswo.daten")), datei(verzeichnisAnfang + "00 86"));
+}
+
+void TestArchivdatei::writingFails_data()
+{
+    QTest::addColumn<QString>("path");
+    QTest::newRow("no path") << QString();
+    QTest::newRow("no such folder") << QStringLiteral("/fehlt/Eigene.daten");
+    QTest::newRow("the folder is a file") << QStringLiteral("/Datei/Eigene.daten");
+    QTest::newRow("the name is too long") << QLatin1Char('/') + QString(300, QLatin1Char('n'));
+}
+
+void TestArchivdatei::writingFails()
+{
+    QFETCH(QString, path);
+    schreibeRoh(this->path("Datei"), "Inhalt");
+    const QString ort = path.isEmpty() ? path : m_ordner->path() + path;
+    QVERIFY(!Archivdatei::schreiben(ort, beispielVerzeichnis()));
+    QCOMPARE(leseRoh(this->path("Datei")), QByteArray("Inhalt"));
+    QCOMPARE(dateien(), QStringList(QStringLiteral("Datei")));
+}
+
+void TestArchivdatei::aFullDiskLeavesTheOldFile()
+{
+    const QString ort = path("Eigene.daten");
+    schreibeRoh(ort, beispielBytes());
+    const auto viele = Archiver::read(vieleEintraege(1000, Folge::LittleEndian)).verzeichnis;
+    {
+        const VolleFestplatte voll(10'000);
+        QVERIFY(!Archivdatei::schreiben(ort, viele));
+        QVERIFY(!Archivdatei::schreiben(path("Neu.daten"), viele));
+    }
+    QCOMPARE(leseRoh(ort), beispielBytes());
+    QCOMPARE(dateien(), QStringList(QStringLiteral("Eigene.daten")));
+    QVERIFY(Archivdatei::schreiben(ort, viele));
+}
+
+void TestArchivdatei::aReadOnlyFolderLeavesTheOldFile()
+{
+    const QString ort = path("Eigene.daten");
+    schreibeRoh(ort, beispielBytes());
+    const QByteArray ordner = QFile::encodeName(m_ordner->path());
+    QCOMPARE(chmod(ordner.constData(), 0555), 0);
+    {
+        const OhneRechte einfach;
+        QVERIFY(einfach.gelungen());
+        QVERIFY(Archivdatei::lesen(ort).zustand == Zustand::Gelesen);
+        QVERIFY(!Archivdatei::schreiben(ort, {}));
+        QVERIFY(!Archivdatei::schreiben(path("Neu.daten"), {}));
+    }
+    QCOMPARE(chmod(ordner.constData(), 0700), 0);
+    QCOMPARE(leseRoh(ort), beispielBytes());
+    QCOMPARE(dateien(), QStringList(QStringLiteral("Eigene.daten")));
+}
+
+void TestArchivdatei::aDamagedFileIsKeptBesideTheNewOne_data()
+{
+    QTest::addColumn<QString>("name");
+    QTest::addColumn<QString>("kopie");
+    const auto row = [](const char *wie, const char *name, const char *kopie) {
+        QTest::newRow(wie) << QString::fromUtf8(name) << QString::fromUtf8(kopie);
+    };
+    row("own foods", "MahlbergCustomnutr.daten", "MahlbergCustomnutr 2026-11-20 14.03.05.daten");
+    row("two dots", "a.b.daten", "a.b 2026-11-20 14.03.05.daten");
+    row("no ending", "Eigene", "Eigene 2026-11-20 14.03.05");
+}
+
+void TestArchivdatei::aDamagedFileIsKeptBesideTheNewOne()
+{
+    QFETCH(QString, name);
+    QFETCH(QString, kopie);
+    const QString ort = m_ordner->filePath(name);
+    const QByteArray rest = beispielBytes().chopped(1);
+    schreibeRoh(ort, rest);
+    QVERIFY(QFile::setPermissions(ort, QFile::ReadOwner | QFile::WriteOwner));
+    QVERIFY(Archivdatei::schreiben(ort, beispielVerzeichnis(), moment));
+    QCOMPARE(leseRoh(ort), beispielBytes());
+    QCOMPARE(leseRoh(m_ordner->filePath(kopie)), rest);
+    QCOMPARE(status(m_ordner->filePath(kopie)).st_mode & 0777U, 0600U);
+    QCOMPARE(dateien().size(), 2);
+}
+
+void TestArchivdatei::aCopyIsNeverOverwritten()
+{
+    const QString ort = path("Eigene.daten");
+    for (const char *stueck : {"erste", "zweite", "dritte"}) {
+        schreibeRoh(ort, stueck);
+        QVERIFY(Archivdatei::schreiben(ort, {}, moment));
+    }
+    QCOMPARE(leseRoh(path(kopiename)), QByteArray("erste"));
+    QCOMPARE(leseRoh(path("Eigene 2026-11-20 14.03.05 (2).daten")), QByteArray("zweite"));
+    QCOMPARE(leseRoh(path("Eigene 2026-11-20 14.03.05 (3).daten")), QByteArray("dritte"));
+    QCOMPARE(dateien().size(), 4);
+}
+
+void TestArchivdatei::onlyTheFirstWritingMakesACopy()
+{
+    const QString ort = path("Eigene.daten");
+    schreibeRoh(ort, "zerstört");
+    QVERIFY(Archivdatei::schreiben(ort, {}, moment));
+    QVERIFY(Archivdatei::schreiben(ort, beispielVerzeichnis(), moment.addSecs(60)));
+    QVERIFY(Archivdatei::schreiben(ort, {}, moment.addSecs(120)));
+    QCOMPARE(dateien().size(), 2);
+    QCOMPARE(leseRoh(path(kopiename)), QByteArray("zerstört"));
+}
+
+void TestArchivdatei::withoutACopyADamagedFileStays()
+{
+    // The new file has room, the copy of the large damaged one has not.
+    const QString ort = path("Eigene.daten");
+    const QByteArray rest = vieleEintraege(1000, Folge::LittleEndian).chopped(1);
+    schreibeRoh(ort, rest);
+    {
+        const VolleFestplatte voll(10'000);
+        QVERIFY(!Archivdatei::schreiben(ort, beispielVerzeichnis(), moment));
+    }
+    QCOMPARE(leseRoh(ort), rest);
+    QCOMPARE(dateien(), QStringList(QStringLiteral("Eigene.daten")));
+    QVERIFY(Archivdatei::schreiben(ort, beispielVerzeichnis(), moment));
+    QCOMPARE(leseRoh(path(kopiename)), rest);
+}
+
+void TestArchivdatei::aFullDiskMakesNoCopy()
+{
+    const QString ort = path("Eigene.daten");
+    schreibeRoh(ort, "zerstört");
+    {
+        const VolleFestplatte voll(100);
+        QVERIFY(!Archivdatei::schreiben(ort, beispielVerzeichnis(), moment));
+    }
+    QCOMPARE(leseRoh(ort), QByteArray("zerstört"));
+    QCOMPARE(dateien(), QStringList(QStringLiteral("Eigene.daten")));
+}
+
+QTEST_GUILESS_MAIN(TestArchivdatei)
+#include "TestArchivdatei.moc"
