@@ -48,27 +48,6 @@ const QString &hauptname(const Tabellenzeile &zeile)
     return zeile.synonymVon.isEmpty() ? zeile.nameDe : zeile.synonymVon;
 }
 
-Beanstandungen anteilePruefen(const Tabelle &tabelle)
-{
-    Beanstandungen liste;
-    const Lebensmittelverzeichnis foods = Tabellenausgabe::verzeichnis(tabelle);
-    for (const auto &wertung : wertungen) {
-        for (const QString &urteil : {u"+"_s, u"0"_s, u"-"_s}) {
-            const auto anzahl = std::count_if(foods.begin(), foods.end(), [&](const auto &food) {
-                return food.wertung(wertung.wertung) == urteil;
-            });
-            if (anzahl * 10 < foods.size()) {
-                const QString meldung = u"only %1 of %2 foods are rated \"%3\" for %4"_s;
-                liste.append({0, u"share"_s,
-                              meldung.arg(anzahl)
-                                  .arg(foods.size())
-                                  .arg(urteil, QString::fromUtf8(wertung.bezeichnung))});
-            }
-        }
-    }
-    return liste;
-}
-
 } // namespace
 
 QStringList Auslieferung::reihenfolge(const Tabelle &tabelle, const QLocale &locale)
@@ -126,7 +105,6 @@ Beanstandungen Auslieferung::pruefen(const Tabelle &tabelle)
             liste.append({0, u"group"_s, meldung.arg(QString::fromUtf8(gruppe.name))});
         }
     }
-    liste += anteilePruefen(tabelle);
     for (const char *const name : gebietsschemata) {
         liste += umleitungPruefen(tabelle, QLocale(QLatin1String(name)));
     }

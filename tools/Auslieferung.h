@@ -23,8 +23,8 @@ QStringList reihenfolge(const Tabelle &tabelle, const QLocale &locale);
 /// Whether each redirected row of the list is the same food as the one that is shown for it.
 Beanstandungen umleitungPruefen(const Tabelle &tabelle, const QLocale &locale);
 
-/// The number of foods, every group and every rating well represented, and the redirected rows in
-/// all locales in which the program is used.
+/// The number of foods, every group represented, and the redirected rows in all locales in which
+/// the program is used.
 Beanstandungen pruefen(const Tabelle &tabelle);
 
 } // namespace Auslieferung

@@ -29,8 +29,9 @@ Datenmodul Tabellenausgabe::datenmodul(const Tabellenzeile &zeile)
     }
     const Wertungsgroessen groesse = wertungsgroessen(zeile);
     for (const auto &wertung : wertungen) {
-        const Wertungsregel &regel = entscheidendeRegel(wertung.wertung, groesse);
-        food.setWertung(wertung.wertung, QString::fromLatin1(regel.urteil));
+        if (const auto *regel = entscheidendeRegel(wertung.wertung, groesse)) {
+            food.setWertung(wertung.wertung, QString::fromLatin1(regel->urteil));
+        }
     }
     return food;
 }

@@ -1,5 +1,8 @@
 #include "Wertungsregeln.h"
 
+#include <algorithm>
+#include <string_view>
+
 const std::vector<Quelle> &quellen()
 {
     static const std::vector<Quelle> liste = {
@@ -58,4 +61,13 @@ const std::vector<Quelle> &quellen()
                      "Deutsche Gesellschaft für Ernährung. Ernährungs Umschau 2024; 71."},
     };
     return liste;
+}
+
+const Quelle *quelle(const char *schluessel)
+{
+    const auto &alle = quellen();
+    const auto gefunden = std::find_if(alle.begin(), alle.end(), [&](const Quelle &eine) {
+        return std::string_view(eine.schluessel) == schluessel;
+    });
+    return gefunden == alle.end() ? nullptr : &*gefunden;
 }

@@ -1,7 +1,6 @@
 #include "Wertungsregeln.h"
 
 #include <algorithm>
-#include <stdexcept>
 
 namespace {
 
@@ -22,21 +21,6 @@ bool haelt(const Bedingung &bedingung, double zahl)
     return false;
 }
 
-QString wort(Vergleich vergleich)
-{
-    switch (vergleich) {
-    case Vergleich::Unter:
-        return u"less than"_s;
-    case Vergleich::Hoechstens:
-        return u"at most"_s;
-    case Vergleich::Mindestens:
-        return u"at least"_s;
-    case Vergleich::Ueber:
-        return u"over"_s;
-    }
-    return {};
-}
-
 } // namespace
 
 bool gilt(const Wertungsregel &regel, const Wertungsgroessen &food)
@@ -49,17 +33,14 @@ bool gilt(const Wertungsregel &regel, const Wertungsgroessen &food)
                        });
 }
 
-const Wertungsregel &entscheidendeRegel(Wertung wertung, const Wertungsgroessen &food)
+const Wertungsregel *entscheidendeRegel(Wertung wertung, const Wertungsgroessen &food,
+                                        const Regelwerk &regeln)
 {
-    const auto &regeln = wertungsregeln();
     const auto gefunden =
         std::find_if(regeln.begin(), regeln.end(), [&](const Wertungsregel &regel) {
             return regel.wertung == wertung && gilt(regel, food);
         });
-    if (gefunden == regeln.end()) {
-        throw std::logic_error("the last rule of a rating must hold for every food");
-    }
-    return *gefunden;
+    return gefunden == regeln.end() ? nullptr : &*gefunden;
 }
 
 QStringList begruendung(const Wertungsregel &regel, const Wertungsgroessen &food)
@@ -69,8 +50,23 @@ QStringList begruendung(const Wertungsregel &regel, const Wertungsgroessen &food
         const auto &groesse = groessen[static_cast<std::size_t>(bedingung.groesse)];
         teile.append(u"%1 %2 %3 (%4 %5)"_s.arg(QLatin1String(groesse.name))
                          .arg(food.zahl(bedingung.groesse), 0, 'g', 4)
-                         .arg(QLatin1String(groesse.einheit), wort(bedingung.vergleich))
+                         .arg(QLatin1String(groesse.einheit), vergleichswort(bedingung.vergleich))
                          .arg(bedingung.grenze));
     }
     return teile;
+}
+
+QString vergleichswort(Vergleich vergleich)
+{
+    switch (vergleich) {
+    case Vergleich::Unter:
+        return u"less than"_s;
+    case Vergleich::Hoechstens:
+        return u"at most"_s;
+    case Vergleich::Mindestens:
+        return u"at least"_s;
+    case Vergleich::Ueber:
+        return u"over"_s;
+    }
+    return {};
 }

@@ -39,18 +39,28 @@ struct Quelle
     const char *angabe; ///< authors, title, place and year
 };
 
+using Regelwerk = std::vector<Wertungsregel>;
+
 /// All rules. Those of one rating stand together; the first that holds decides, and the last of
 /// each rating always holds.
-const std::vector<Wertungsregel> &wertungsregeln();
+const Regelwerk &wertungsregeln();
 
 /// All publications that the rules name.
 const std::vector<Quelle> &quellen();
 
+/// The publication of that key, or null when there is none.
+const Quelle *quelle(const char *schluessel);
+
 /// Whether a rule holds for a food.
 bool gilt(const Wertungsregel &regel, const Wertungsgroessen &food);
 
-/// The rule that decides a food's rating for one condition.
-const Wertungsregel &entscheidendeRegel(Wertung wertung, const Wertungsgroessen &food);
+/// The rule that decides a food's rating for one condition; null when none holds, which the build
+/// rules out.
+const Wertungsregel *entscheidendeRegel(Wertung wertung, const Wertungsgroessen &food,
+                                        const Regelwerk &regeln = wertungsregeln());
+
+/// How a comparison is said: "less than", "at most", "at least", "over".
+QString vergleichswort(Vergleich vergleich);
 
 /// A rule's figures as they are for a food, such as "energy 42 kcal (over 20)".
 QStringList begruendung(const Wertungsregel &regel, const Wertungsgroessen &food);

@@ -9,7 +9,7 @@ namespace {
 // The limits and where they come from are argued in docs/ratings.md.
 // clang-format off
 
-const std::vector<Wertungsregel> uebergewichtregeln = {
+const Regelwerk uebergewichtregeln = {
     {"U1", Wertung::uebergewicht, "-",
      "A drink that is not low in energy: it does not fill, its energy comes on top.",
      {"EU-1924"}, Getraenk, {},
@@ -56,7 +56,7 @@ const std::vector<Wertungsregel> uebergewichtregeln = {
      {}},
 };
 
-const std::vector<Wertungsregel> diabetesregeln = {
+const Regelwerk diabetesregeln = {
     {"D1", Wertung::diabetes, "-",
      "A sugary drink.",
      {"ADA-2024", "SDIL-2017"}, Getraenk, {},
@@ -111,7 +111,7 @@ const std::vector<Wertungsregel> diabetesregeln = {
      {}},
 };
 
-const std::vector<Wertungsregel> gichtregeln = {
+const Regelwerk gichtregeln = {
     {"G1", Wertung::gicht, "-",
      "High in purines: more than 150 mg uric acid from 100 g.",
      {"SFK-2016", "Kaneko-2014", "ACR-2020", "EULAR-2016"}, PurinHoch, {},
@@ -141,13 +141,13 @@ const std::vector<Wertungsregel> gichtregeln = {
      {"FSA-2013", "Choi-2008"}, {}, Gewuerz,
      {{Fruktosezucker, Ueber, 22.5}}},
     {"G8", Wertung::gicht, "0",
-     "A drink that is not low in sugars.",
-     {"EU-1924", "Choi-2008"}, Getraenk, {},
-     {{Fruktosezucker, Ueber, 2.5}}},
-    {"G9", Wertung::gicht, "0",
      "Beer without alcohol: the purines of the malt are still in it.",
      {"Kaneko-2014"}, Bier, {},
      {}},
+    {"G9", Wertung::gicht, "0",
+     "A drink that is not low in sugars.",
+     {"EU-1924", "Choi-2008"}, Getraenk, {},
+     {{Fruktosezucker, Ueber, 2.5}}},
     {"G10", Wertung::gicht, "0",
      "A dish that holds alcohol.",
      {"EULAR-2016", "EU-1169"}, {}, {},
@@ -158,7 +158,7 @@ const std::vector<Wertungsregel> gichtregeln = {
      {}},
 };
 
-const std::vector<Wertungsregel> hkkregeln = {
+const Regelwerk hkkregeln = {
     {"H1", Wertung::hkk, "-",
      "High in saturated fat.",
      {"FSA-2013", "EU-116", "ESC-2021"}, {}, {},
@@ -197,10 +197,10 @@ const std::vector<Wertungsregel> hkkregeln = {
 
 } // namespace
 
-const std::vector<Wertungsregel> &wertungsregeln()
+const Regelwerk &wertungsregeln()
 {
-    static const std::vector<Wertungsregel> alle = [] {
-        std::vector<Wertungsregel> regeln;
+    static const Regelwerk alle = [] {
+        Regelwerk regeln;
         for (const auto *einer : {&uebergewichtregeln, &diabetesregeln, &gichtregeln, &hkkregeln}) {
             regeln.insert(regeln.end(), einer->begin(), einer->end());
         }

@@ -1,6 +1,7 @@
 // Prints for a food of the table why it is rated as it is.
 
 #include "Kommandozeile.h"
+#include "Regelblatt.h"
 #include "Wertungsregeln.h"
 
 #include <QCoreApplication>
@@ -11,8 +12,10 @@ namespace {
 
 const QString gebrauch =
     u"Usage: wertung-erklaeren [--table TABLE.csv] NAME\n"
+    "       wertung-erklaeren --rules\n"
     "Prints the rule behind each of a food's four ratings. NAME is the German or English\n"
-    "name; a part of it lists the foods that have it.\n"
+    "name; a part of it lists the foods that have it. --rules prints all rules, the food\n"
+    "groups and the sources as they stand in docs/ratings.md.\n"
     "Exit status: 0 explained, 1 no such food or no table, 2 wrong usage."_s;
 
 struct Auftrag
@@ -36,6 +39,23 @@ std::optional<Auftrag> auftrag(QStringList argumente)
     return ergebnis;
 }
 
+void regelErklaeren(const Wertungsregel &regel, const Wertungsgroessen &food)
+{
+    using Kommandozeile::drucken;
+    drucken(u"%1: \"%2\" by rule %3. %4"_s.arg(
+        QString::fromUtf8(beschreibung(regel.wertung).bezeichnung), QLatin1String(regel.urteil),
+        QLatin1String(regel.kennung), QString::fromUtf8(regel.satz)));
+    for (const QString &teil : begruendung(regel, food)) {
+        drucken(u"    "_s + teil);
+    }
+    for (const char *const schluessel : regel.quellen) {
+        if (const Quelle *const eine = quelle(schluessel)) {
+            drucken(
+                u"    [%1] %2"_s.arg(QLatin1String(schluessel), QString::fromUtf8(eine->angabe)));
+        }
+    }
+}
+
 void erklaeren(const Tabellenzeile &zeile)
 {
     using Kommandozeile::drucken;
@@ -46,21 +66,22 @@ void erklaeren(const Tabellenzeile &zeile)
     }
     const Wertungsgroessen food = wertungsgroessen(zeile);
     for (const auto &wertung : wertungen) {
-        const Wertungsregel &regel = entscheidendeRegel(wertung.wertung, food);
-        drucken(u"%1: \"%2\" by rule %3. %4"_s.arg(
-            QString::fromUtf8(wertung.bezeichnung), QLatin1String(regel.urteil),
-            QLatin1String(regel.kennung), QString::fromUtf8(regel.satz)));
-        for (const QString &teil : begruendung(regel, food)) {
-            drucken(u"    "_s + teil);
+        if (const auto *regel = entscheidendeRegel(wertung.wertung, food)) {
+            regelErklaeren(*regel, food);
         }
-        for (const Quelle &quelle : quellen()) {
-            for (const char *const schluessel : regel.quellen) {
-                if (QLatin1String(schluessel) == QLatin1String(quelle.schluessel)) {
-                    drucken(u"    [%1] %2"_s.arg(QLatin1String(schluessel),
-                                                 QString::fromUtf8(quelle.angabe)));
-                }
-            }
-        }
+    }
+}
+
+void regelnDrucken()
+{
+    QStringList zeilen;
+    for (const auto &wertung : wertungen) {
+        zeilen += QStringList{QString::fromUtf8(wertung.bezeichnung), QString()};
+        zeilen += Regelblatt::regeltabelle(wertung.wertung) + QStringList{QString()};
+    }
+    zeilen += Regelblatt::gruppentabelle() + QStringList{QString()} + Regelblatt::quellenliste();
+    for (const QString &zeile : zeilen) {
+        Kommandozeile::drucken(zeile);
     }
 }
 
@@ -90,6 +111,10 @@ Kommandozeile::Ausgang suchen(const Tabelle &tabelle, const QString &name)
 int main(int argc, char *argv[])
 {
     const QCoreApplication app(argc, argv);
+    if (QCoreApplication::arguments().mid(1) == QStringList{u"--rules"_s}) {
+        regelnDrucken();
+        return Kommandozeile::Gelungen;
+    }
     const auto was = auftrag(QCoreApplication::arguments());
     if (!was) {
         Kommandozeile::melden(gebrauch);
