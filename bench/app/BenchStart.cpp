@@ -29,8 +29,14 @@ void starte(benchmark::State &state, const QString &was)
     state.counters["MiB"] = speicher / 1024;
 }
 
-void leeresFenster(benchmark::State &state) { starte(state, QStringLiteral("leer")); }
-void mahlberg(benchmark::State &state) { starte(state, QStringLiteral("mahlberg")); }
+void leeresFenster(benchmark::State &state)
+{
+    starte(state, QStringLiteral("leer"));
+}
+void mahlberg(benchmark::State &state)
+{
+    starte(state, QStringLiteral("mahlberg"));
+}
 
 } // namespace
 
