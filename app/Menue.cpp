@@ -158,9 +158,9 @@ void baueFenster(AppController &controller)
 {
     QMenu &fenster = menue(controller, QT_TRANSLATE_NOOP("Mahlberg", "&Fenster"));
     QMainWindow *haupt = controller.Hauptfenster;
-    eintrag(fenster, QT_TRANSLATE_NOOP("Mahlberg", "Im &Dock ablegen"),
+    eintrag(fenster, QT_TRANSLATE_NOOP("Mahlberg", "&Minimieren"),
             QKeySequence(QStringLiteral("Ctrl+M")), [haupt] { haupt->showMinimized(); });
-    eintrag(fenster, QT_TRANSLATE_NOOP("Mahlberg", "&Zoomen"), {},
+    eintrag(fenster, QT_TRANSLATE_NOOP("Mahlberg", "Ma&ximieren"), {},
             [haupt] { haupt->setWindowState(haupt->windowState() ^ Qt::WindowMaximized); });
     eintrag(fenster, QT_TRANSLATE_NOOP("Mahlberg", "&Vollbild"), QKeySequence::FullScreen,
             [haupt] { haupt->setWindowState(haupt->windowState() ^ Qt::WindowFullScreen); });

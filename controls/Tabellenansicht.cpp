@@ -10,6 +10,8 @@
 #include <QMouseEvent>
 #include <QPainter>
 
+#include <utility>
+
 Tabellenansicht::Tabellenansicht(QWidget *parent)
     : QTableView(parent)
     , m_modell(new Tabellenmodell(this))
@@ -63,6 +65,13 @@ QItemSelectionModel::SelectionFlags Tabellenansicht::selectionCommand(const QMod
     return QTableView::selectionCommand(index, event);
 }
 
+/// In place of what was selected; a whole row where rows are selected.
+QItemSelectionModel::SelectionFlags Tabellenansicht::neueAuswahl() const
+{
+    const QItemSelectionModel::SelectionFlags neu = QItemSelectionModel::ClearAndSelect;
+    return selectionBehavior() == SelectRows ? neu | QItemSelectionModel::Rows : neu;
+}
+
 void Tabellenansicht::setzeSchreibmarke(int zeile, const QString &kennung)
 {
     const QModelIndex index = m_modell->index(zeile, m_modell->spaltenstelle(kennung));
@@ -83,9 +92,9 @@ void Tabellenansicht::selectRow(int zeile)
         return;
     }
     if (nurMitReturn(m_clickedColumn)) { // who walks through results finds the cursor there again
-        selectionModel()->select(index, QItemSelectionModel::ClearAndSelect);
+        selectionModel()->select(index, neueAuswahl());
     } else {
-        selectionModel()->setCurrentIndex(index, QItemSelectionModel::ClearAndSelect);
+        selectionModel()->setCurrentIndex(index, neueAuswahl());
     }
     viewport()->update();
 }
@@ -134,9 +143,17 @@ void Tabellenansicht::melde(int spalte)
 
 void Tabellenansicht::mousePressEvent(QMouseEvent *event)
 {
+    if (event->button() != Qt::LeftButton) {
+        return; // only the left button chooses
+    }
     m_mausort = event->position().toPoint();
     m_gedrueckteZeile = rowAt(m_mausort.y());
+    m_gedrueckt = true;
+    m_vorDruck = selectionModel()->selectedIndexes().value(0);
     QTableView::mousePressEvent(event);
+    if (!indexAt(m_mausort).isValid()) {
+        clearSelection();
+    }
 }
 
 void Tabellenansicht::mouseMoveEvent(QMouseEvent *event)
@@ -145,19 +162,13 @@ void Tabellenansicht::mouseMoveEvent(QMouseEvent *event)
     QTableView::mouseMoveEvent(event);
 }
 
+/// The press has chosen a cell, or none, and pulling the mouse may have moved on to another one:
+/// the action runs for what is chosen in the end. A drag away has chosen nothing.
 void Tabellenansicht::mouseReleaseEvent(QMouseEvent *event)
 {
-    const bool gezogen = state() == DraggingState || state() == DragSelectingState;
     QTableView::mouseReleaseEvent(event);
-    if (event->button() != Qt::LeftButton || gezogen) {
-        return;
-    }
-    const QModelIndex index = indexAt(event->position().toPoint());
-    if (!index.isValid()) {
-        clearSelection();
-        melde(-1);
-    } else if (index.row() == m_gedrueckteZeile) {
-        melde(index.column());
+    if (event->button() == Qt::LeftButton && std::exchange(m_gedrueckt, false)) {
+        melde(selectionModel()->selectedIndexes().value(0).column());
     }
 }
 
@@ -174,7 +185,7 @@ void Tabellenansicht::keyPressEvent(QKeyEvent *event)
         (m_modell->flags(jetzt) & Qt::ItemIsEditable) != 0) {
         edit(jetzt);
     } else if (bestaetigt) {
-        selectionModel()->select(jetzt, QItemSelectionModel::ClearAndSelect);
+        selectionModel()->select(jetzt, neueAuswahl());
         melde(jetzt.column());
     } else if (jetzt != vorher && !nurMitReturn(jetzt.column())) {
         melde(jetzt.column());
@@ -199,6 +210,10 @@ void Tabellenansicht::startDrag(Qt::DropActions supportedActions)
     if (daten == nullptr) {
         return;
     }
+    // The press has selected what is being dragged. The food on display stays chosen.
+    m_gedrueckt = false;
+    selectionModel()->setCurrentIndex(m_vorDruck, neueAuswahl());
+    viewport()->update();
     auto *zug = new QDrag(this);
     zug->setMimeData(daten);
     zug->exec(supportedActions | Qt::CopyAction, Qt::CopyAction);

@@ -2,6 +2,7 @@
 
 #include "Tabellenmodell.h"
 
+#include <QPersistentModelIndex>
 #include <QTableView>
 
 #include <optional>
@@ -84,6 +85,7 @@ protected:
     void paintEvent(QPaintEvent *event) override;
 
 private:
+    QItemSelectionModel::SelectionFlags neueAuswahl() const;
     void melde(int spalte);
     bool pruefeAbwurf(QDropEvent &event);
     int oberkante(int zeile) const;
@@ -98,4 +100,6 @@ private:
     std::optional<int> m_abwurfzeile; ///< while something is held over the table
     QPoint m_mausort;
     int m_gedrueckteZeile = -1;
+    bool m_gedrueckt = false;         ///< the left button is down, and no drag has begun
+    QPersistentModelIndex m_vorDruck; ///< what was selected before the press
 };
