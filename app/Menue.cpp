@@ -55,8 +55,13 @@ void baueAblage(AppController &controller)
     eintrag(ablage, QT_TRANSLATE_NOOP("Mahlberg", "Eigenes Lebensmittel &löschen …"), {},
             [&controller] { controller.LoescheneigeneLM(); });
     ablage.addSeparator();
-    eintrag(ablage, QT_TRANSLATE_NOOP("Mahlberg", "&Beenden"), QKeySequence::Quit,
-            [&controller] { controller.Hauptfenster->close(); });
+    eintrag(ablage, QT_TRANSLATE_NOOP("Mahlberg", "In den Mahlzeiten&plan"),
+            QKeySequence(QStringLiteral("Ctrl+Return")),
+            [&controller] { controller.toolbarlebensmittelweitergabe(); });
+    ablage.addSeparator();
+    eintrag(ablage, QT_TRANSLATE_NOOP("Mahlberg", "&Beenden"), QKeySequence::Quit, [&controller] {
+        controller.Hauptfenster->close();
+    })->setShortcutContext(Qt::ApplicationShortcut); // from the plan's window as well
 }
 
 void baueBearbeiten(AppController &controller)
@@ -164,6 +169,10 @@ void baueFenster(AppController &controller)
             [haupt] { haupt->setWindowState(haupt->windowState() ^ Qt::WindowMaximized); });
     eintrag(fenster, QT_TRANSLATE_NOOP("Mahlberg", "&Vollbild"), QKeySequence::FullScreen,
             [haupt] { haupt->setWindowState(haupt->windowState() ^ Qt::WindowFullScreen); });
+    fenster.addSeparator();
+    eintrag(fenster, QT_TRANSLATE_NOOP("Mahlberg", "Mahlzeiten&plan"),
+            QKeySequence(QStringLiteral("Ctrl+0")),
+            [&controller] { controller.Planmoduloeffnen(); });
 }
 
 void baueHilfe(AppController &controller)

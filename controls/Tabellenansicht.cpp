@@ -1,5 +1,6 @@
 #include "Tabellenansicht.h"
 
+#include "Tabellenkopf.h"
 #include "Zellenmaler.h"
 
 #include <QDrag>
@@ -16,6 +17,7 @@ Tabellenansicht::Tabellenansicht(QWidget *parent)
     : QTableView(parent)
     , m_modell(new Tabellenmodell(this))
 {
+    setHorizontalHeader(new Tabellenkopf(this));
     setModel(m_modell);
     setItemDelegate(new Zellenmaler(this));
     setSelectionMode(QAbstractItemView::SingleSelection);
@@ -28,7 +30,6 @@ Tabellenansicht::Tabellenansicht(QWidget *parent)
     setWordWrap(false);
     verticalHeader()->hide();
     verticalHeader()->setMinimumSectionSize(8);
-    horizontalHeader()->setHighlightSections(false);
 }
 
 void Tabellenansicht::setQuelle(Tabellenquelle *quelle, const QList<Spalte> &spalten)
