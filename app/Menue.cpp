@@ -53,7 +53,8 @@ void baueAblage(AppController &controller)
     eintrag(ablage, QT_TRANSLATE_NOOP("Mahlberg", "Eigenes Lebensmittel &sichern …"),
             QKeySequence::Save, [&controller] { controller.sichernaufzu->click(); });
     ablage.addSeparator();
-    eintrag(ablage, QT_TRANSLATE_NOOP("Mahlberg", "&Beenden"), QKeySequence::Quit,
+    eintrag(ablage, QT_TRANSLATE_NOOP("Mahlberg", "&Beenden"),
+            QKeySequence(QStringLiteral("Ctrl+Q")), // not every desktop has a key of its own for it
             [&controller] { controller.Hauptfenster->close(); });
 }
 
@@ -85,7 +86,7 @@ void baueBearbeiten(AppController &controller)
 
 void baueErscheinungsbild(QMenu &darstellung, AppController &controller)
 {
-    QMenu &auswahl = *darstellung.addMenu(localizedString(QStringLiteral("&Erscheinungsbild")));
+    QMenu &auswahl = *darstellung.addMenu(localizedString(QStringLiteral("E&rscheinungsbild")));
     auto *gruppe = new QActionGroup(&auswahl);
     const std::pair<const char *, Erscheinungsbild> zeilen[] = {
         {QT_TRANSLATE_NOOP("Mahlberg", "Wie das &System"), Erscheinungsbild::System},
@@ -151,7 +152,8 @@ void baueFenster(AppController &controller)
             QKeySequence(QStringLiteral("Ctrl+M")), [haupt] { haupt->showMinimized(); });
     eintrag(fenster, QT_TRANSLATE_NOOP("Mahlberg", "&Zoomen"), {},
             [haupt] { haupt->setWindowState(haupt->windowState() ^ Qt::WindowMaximized); });
-    eintrag(fenster, QT_TRANSLATE_NOOP("Mahlberg", "&Vollbild"), QKeySequence::FullScreen,
+    eintrag(fenster, QT_TRANSLATE_NOOP("Mahlberg", "&Vollbild"),
+            QKeySequence(QStringLiteral("F11")),
             [haupt] { haupt->setWindowState(haupt->windowState() ^ Qt::WindowFullScreen); });
 }
 
