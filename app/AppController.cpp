@@ -7,6 +7,7 @@
 #include <QAbstractButton>
 #include <QEvent>
 #include <QHeaderView>
+#include <QKeyEvent>
 
 int AppController::angeklickteSpalte = -1;
 
@@ -18,6 +19,10 @@ const QStringList AppController::ansichten = {
 namespace {
 
 constexpr int zeilenhoehe = 23;
+
+/// A search begins when the user has not typed for this long, in milliseconds.
+constexpr int tipppause = 350;
+
 constexpr int fensterteilung[] = {590, 680};
 constexpr int spaltenbreiten[] = {270, 140, 140};
 
@@ -72,8 +77,9 @@ void AppController::ladeBestaende()
 void AppController::findeFelder()
 {
     const auto finde = [this](const QString &name) {
-        return Hauptfenster->findChild<QWidget *>(name);
+        return Hauptfenster->findChild<QWidget *>(name); // the sheet is a child of the window
     };
+    const QString blatt = QStringLiteral("EingabeFenster");
     for (const auto &zeile : naehrwerte) {
         const QString kennung = QLatin1String(zeile.kennung);
         const bool energie = zeile.wert == Naehrwert::kal;
@@ -83,10 +89,13 @@ void AppController::findeFelder()
                                          : feld + QStringLiteral("einaus");
         m_wertfelder[stelle(zeile.wert)] = qobject_cast<Textfeld *>(finde(feld));
         m_wertbeschriftungen[stelle(zeile.wert)] = finde(beschriftung);
+        m_eingabefelder[stelle(zeile.wert)] = qobject_cast<Textfeld *>(finde(blatt + feld));
     }
     for (const auto &zeile : wertungen) {
         m_wertungsfelder[stelle(zeile.wertung)] =
             qobject_cast<Textfeld *>(finde(QLatin1String(zeile.kennung) + QStringLiteral("feld")));
+        m_wertungseingaben[stelle(zeile.wertung)] =
+            qobject_cast<Auswahlfeld *>(finde(blatt + QLatin1String(zeile.kennung)));
     }
     for (std::size_t i = 0; i < tagesbedarfe.size(); ++i) {
         const QString kennung = QLatin1String(beschreibung(tagesbedarfe[i].wert).kennung);
@@ -136,9 +145,55 @@ void AppController::verbinde()
     connect(lebensmittelmenge3, &Schieber::betaetigt, this,
             [this] { wieviellebensmittel3(*lebensmittelmenge3); });
     Hauptfenster->installEventFilter(this);
+    verbindeSuche();
+    verbindeEigene();
+}
+
+void AppController::verbindeSuche()
+{
+    Tabelle->setBestaetigungsspalten({QStringLiteral("such")});
+    suchfeld->installEventFilter(this);
+    m_tipppause.setSingleShot(true);
+    m_tipppause.setInterval(tipppause);
+    connect(suchfeld, &QLineEdit::textEdited, &m_tipppause, qOverload<>(&QTimer::start));
+    connect(suchfeld, &QLineEdit::returnPressed, &m_tipppause, &QTimer::stop);
+    connect(suchfeld, &QLineEdit::returnPressed, this, [this] { suchen(*suchfeld); });
+    connect(&m_tipppause, &QTimer::timeout, this, [this] { suchen(*suchfeld); });
+
+    suchprofileinaus->hide();
+    schalteKriterien();
+    connect(profilaufzu, &QToolButton::toggled, this, [this](bool offen) {
+        suchprofileinaus->setVisible(offen);
+        profilaufzu->setArrowType(offen ? Qt::DownArrow : Qt::RightArrow);
+    });
+    connect(profilsuchen, &QAbstractButton::clicked, this, &AppController::proteinsuche);
+    for (QAbstractButton *zelle : suchprofileinaus->zellen()) {
+        connect(zelle, &QAbstractButton::clicked, this, &AppController::proteinsuche);
+    }
+    for (Textfeld *eingabe : {proteineingabe, kalorieneingabe}) {
+        connect(eingabe, &QLineEdit::returnPressed, this, &AppController::proteinsuche);
+    }
+}
+
+void AppController::verbindeEigene()
+{
     connect(sichernaufzu, &QAbstractButton::clicked, this, &AppController::SichernFensterAuf);
+    connect(sichernknopf, &QAbstractButton::clicked, this, &AppController::SicherneigeneLM);
+    connect(loeschenknopf, &QAbstractButton::clicked, this, &AppController::LoescheneigeneLM);
+    connect(EingabeFensteruebernehmen, &QAbstractButton::clicked, this,
+            &AppController::umschreibenDerEingabeFelder);
     connect(EingabeFensterschliessen, &QAbstractButton::clicked, this,
             &AppController::Fensterschliessen);
+    connect(EingabeFensterleeren, &QAbstractButton::clicked, this, [this] {
+        EingabeFensterfeldA->setStringValue(QString());
+        for (Textfeld *feld : m_eingabefelder) {
+            feld->setStringValue(QString());
+        }
+        for (Auswahlfeld *feld : m_wertungseingaben) {
+            feld->setStringValue(QStringLiteral("0"));
+        }
+        EingabeFensterfeldA->setFocus();
+    });
 }
 
 void AppController::awakeFromNib()
@@ -191,18 +246,11 @@ bool AppController::eventFilter(QObject *watched, QEvent *event)
 {
     if (watched == Hauptfenster && event->type() == QEvent::Close) {
         windowWillClose();
+    } else if (watched == suchfeld && event->type() == QEvent::KeyPress &&
+               taste(static_cast<QKeyEvent *>(event)->key())) {
+        return true;
     }
     return QObject::eventFilter(watched, event);
-}
-
-void AppController::Fenster()
-{
-    einfenster->open();
-}
-
-void AppController::Fensterschliessen()
-{
-    einfenster->done(1);
 }
 
 Textfarbe textfarbe(Ampel ampel)

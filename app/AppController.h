@@ -4,6 +4,8 @@
 #include "Datenmodul.h"
 #include "Energieanteile.h"
 #include "Erscheinungsbild.h"
+#include "Plantuer.h"
+#include "Profilsuche.h"
 #include "Skalierung.h"
 #include "Tabellenmodell.h"
 #include "Tagesbedarf.h"
@@ -14,6 +16,7 @@
 
 #include <QObject>
 #include <QStringList>
+#include <QTimer>
 
 #include <array>
 
@@ -40,6 +43,9 @@ public:
     QDialog *einfenster;
     Werkzeugleiste *toolbar = nullptr;
 
+    /// The meal plan; null until there is one. What it is told while it is null goes nowhere.
+    Plantuer *planmodul = nullptr;
+
     // The stores: from a food's name to its record, and the names in the order of display.
     Lebensmittelverzeichnis Dictionary;
     QStringList Array;
@@ -51,6 +57,7 @@ public:
     QString unuebersetztername; ///< store key of the food on display; null before the first
     int BoxAufZu = 0;           ///< 1 while the save box is open
     int welcheTabelleAktiv = 0; ///< list of the food on display: 0 none, 1 built-in, 2 own
+    int zaehlereinaus = 0;      ///< running index while the profile's switches are read; then 6
     float gesamtkal = 0;        ///< energy from protein, carbohydrate and fat, kcal
     float kalumrprot = 0;       ///< share of protein in it, percent
     float kalumrkh = 0;         ///< share of carbohydrate, percent
@@ -69,6 +76,11 @@ public:
     void wieviellebensmittel(const Wertehalter &sender);
     void wieviellebensmittel2(const Wertehalter &sender) { wieviellebensmittel(sender); }
     void wieviellebensmittel3(const Wertehalter &sender) { wieviellebensmittel(sender); }
+    void suchen(const Wertehalter &sender);
+    void proteinsuche();
+    void umschreibenDerEingabeFelder();
+    void SicherneigeneLM();
+    void LoescheneigeneLM();
     void Ansichtdurchwechseln();
     void zeigeAnsicht(const QString &kennung);
     void Fenster();
@@ -87,6 +99,11 @@ public:
 
     /// The display fields of the seventeen values, in the record's order.
     const std::array<Textfeld *, anzahlNaehrwerte> &wertfelder() const { return m_wertfelder; }
+    /// The entry sheet's fields of the seventeen values, in the record's order.
+    const std::array<Textfeld *, anzahlNaehrwerte> &eingabefelder() const
+    {
+        return m_eingabefelder;
+    }
     /// The display fields of the four ratings, in the record's order.
     const std::array<Textfeld *, anzahlWertungen> &wertungsfelder() const
     {
@@ -109,6 +126,8 @@ private:
     void ladeBestaende();
     void findeFelder();
     void verbinde();
+    void verbindeSuche();
+    void verbindeEigene();
     void beschrifte();
     void setUpToolbar();
 
@@ -123,6 +142,17 @@ private:
     QStringList toolbarDefaultItemIdentifiers() const override;
     Werkzeug toolbarItem(const QString &kennung) override;
     std::function<void()> werkzeugaktion(const QString &kennung);
+
+    // Searching
+    class Suchanzeige;
+    void schalteKriterien();
+    Profil gewaehltesProfil() const;
+    bool taste(int taste);
+
+    // Own foods
+    Datenmodul eingegebenesLebensmittel() const;
+    void schreibeEigeneLebensmittel() const;
+    void setzeAnzeigeBearbeitbar(bool bearbeitbar);
 
     // The steps of the selection action
     const Datenmodul *eingebautesLebensmittel(int zeile) const;
@@ -144,8 +174,11 @@ private:
 
     Tueren m_tueren;
     QStringList m_uebersetzt; ///< the shown name of each entry of `Array`
+    QTimer m_tipppause;       ///< runs while the user types in the search box
     std::array<Textfeld *, anzahlNaehrwerte> m_wertfelder = {};
     std::array<QWidget *, anzahlNaehrwerte> m_wertbeschriftungen = {};
+    std::array<Textfeld *, anzahlNaehrwerte> m_eingabefelder = {};
+    std::array<Auswahlfeld *, anzahlWertungen> m_wertungseingaben = {};
     std::array<Textfeld *, anzahlWertungen> m_wertungsfelder = {};
     std::array<Textfeld *, tagesbedarfe.size()> m_bedarfsfelder = {};
     std::array<Textfeld *, 3> m_mengenanzeigen = {};

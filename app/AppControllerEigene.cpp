@@ -1,6 +1,89 @@
-// Foods of the user's own: the save box, in which the values on display become one.
+// Foods of the user's own: the entry sheet, the save box, changing by saving again, deleting.
 
 #include "AppController.h"
+
+#include "Archivdatei.h"
+#include "Zeichenkettentabelle.h"
+
+namespace {
+
+/// What is typed into the sheet is meant for this amount, in grams.
+constexpr int eingegebeneMenge = 100;
+
+} // namespace
+
+void AppController::Fenster()
+{
+    einfenster->open();
+}
+
+void AppController::Fensterschliessen()
+{
+    einfenster->done(1);
+}
+
+void AppController::umschreibenDerEingabeFelder()
+{
+    if (EingabeFensterfeldA->stringValue().isEmpty()) {
+        m_tueren.melde(einfenster, {QString(),
+                                    localizedString(QStringLiteral("Bitte einen Namen eingeben")),
+                                    {QStringLiteral("ok")}});
+        return;
+    }
+    for (Schieber *regler : m_mengenregler) {
+        regler->setIntValue(eingegebeneMenge);
+    }
+    beschrifteMengen(QStringLiteral("100"));
+    feldA->setStringValue(EingabeFensterfeldA->stringValue());
+    for (std::size_t i = 0; i < m_wertfelder.size(); ++i) {
+        m_wertfelder[i]->setFloatValue(m_eingabefelder[i]->floatValue());
+    }
+    for (std::size_t i = 0; i < m_wertungsfelder.size(); ++i) {
+        m_wertungsfelder[i]->setStringValue(m_wertungseingaben[i]->stringValue());
+    }
+    zeigeJoule();
+    SicherneigeneLM();
+}
+
+/// What stands in the entry sheet, as a record.
+Datenmodul AppController::eingegebenesLebensmittel() const
+{
+    Datenmodul lebensmittel;
+    lebensmittel.setName(EingabeFensterfeldA->stringValue());
+    for (const auto &zeile : naehrwerte) {
+        lebensmittel.setWert(zeile.wert, m_eingabefelder[stelle(zeile.wert)]->floatValue());
+    }
+    for (const auto &zeile : wertungen) {
+        lebensmittel.setWertung(zeile.wertung,
+                                m_wertungseingaben[stelle(zeile.wertung)]->stringValue());
+    }
+    return lebensmittel;
+}
+
+void AppController::SicherneigeneLM()
+{
+    if (planmodul != nullptr) {
+        planmodul->umschreibungMitName(eingegebenesLebensmittel());
+    }
+    const QString name = feldA->stringValue();
+    if (!KundenDictionary.contains(name)) {
+        KundenDictionary.insert(name, Datenmodul());
+        KundenArray << name;
+        Tabelle->reloadData();
+        m_tueren.protokolliere(QStringLiteral("felda = %1").arg(name));
+        m_tueren.protokolliere(
+            QStringLiteral("array = (%1)").arg(KundenArray.join(QStringLiteral(", "))));
+    }
+    eintragen(KundenDictionary[name]);
+    schreibeEigeneLebensmittel();
+}
+
+void AppController::schreibeEigeneLebensmittel() const
+{
+    // Whether it worked is not asked: the program goes on with what it holds in memory.
+    Archivdatei::schreiben(m_tueren.datenordner.pathForDataFile(QStringLiteral("customdaten")),
+                           KundenDictionary);
+}
 
 void AppController::SichernFensterAuf()
 {
@@ -19,5 +102,53 @@ void AppController::SichernFensterAuf()
         joulefeld->show();
         joulefeldeinaus->show();
     }
+    setzeAnzeigeBearbeitbar(oeffnen);
     BoxAufZu = oeffnen ? 1 : 0;
+}
+
+/// While the save box is open, the displayed food can be changed where it is displayed.
+void AppController::setzeAnzeigeBearbeitbar(bool bearbeitbar)
+{
+    feldA->setEditable(bearbeitbar);
+    for (Textfeld *feld : m_wertfelder) {
+        feld->setEditable(bearbeitbar);
+    }
+    for (Textfeld *feld : m_wertungsfelder) {
+        feld->setEditable(bearbeitbar);
+    }
+}
+
+void AppController::LoescheneigeneLM()
+{
+    const QString name = feldA->stringValue();
+    if (!KundenArray.contains(name)) {
+        m_tueren.melde(Hauptfenster,
+                       {localizedString(QStringLiteral(
+                            "Achtung !  Sie koennen nur eigene Lebensmittel loeschen !")),
+                        localizedString(QStringLiteral(
+                            "Bitte waehlen Sie zuerst ein eigenes Lebensmittel zum Loeschen aus ")),
+                        {localizedString(QStringLiteral("ok"))}});
+        return;
+    }
+    const int antwort = m_tueren.melde(
+        Hauptfenster,
+        {localizedString(QStringLiteral("Achtung !")),
+         localizedString(QStringLiteral(
+             "Moechten Sie dieses eigene Lebensmittel wirklich dauerhaft loeschen ?  ")),
+         {localizedString(QStringLiteral("Nein")), localizedString(QStringLiteral("Ja"))}});
+    if (antwort == 0) {
+        return;
+    }
+    KundenDictionary.remove(name);
+    schreibeEigeneLebensmittel();
+    // The list's entry is found by the selected row: the delete button is only enabled when the
+    // food was chosen there.
+    const int zeile = Tabelle->selectedRow();
+    if (zeile >= 0 && zeile < KundenArray.size()) {
+        KundenArray.removeAt(zeile);
+    }
+    Tabelle->reloadData();
+    if (planmodul != nullptr) {
+        planmodul->loeschenvonkundeneintraegen(name);
+    }
 }

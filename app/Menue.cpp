@@ -52,6 +52,8 @@ void baueAblage(AppController &controller)
             [&controller] { controller.Fenster(); });
     eintrag(ablage, QT_TRANSLATE_NOOP("Mahlberg", "Eigenes Lebensmittel &sichern …"),
             QKeySequence::Save, [&controller] { controller.sichernaufzu->click(); });
+    eintrag(ablage, QT_TRANSLATE_NOOP("Mahlberg", "Eigenes Lebensmittel &löschen …"), {},
+            [&controller] { controller.LoescheneigeneLM(); });
     ablage.addSeparator();
     eintrag(ablage, QT_TRANSLATE_NOOP("Mahlberg", "&Beenden"),
             QKeySequence(QStringLiteral("Ctrl+Q")), // not every desktop has a key of its own for it
@@ -82,6 +84,15 @@ void baueBearbeiten(AppController &controller)
             bearbeiten.addSeparator();
         }
     }
+    bearbeiten.addSeparator();
+    eintrag(bearbeiten, QT_TRANSLATE_NOOP("Mahlberg", "Lebensmittel &suchen"), QKeySequence::Find,
+            [&controller] {
+                controller.suchfeld->setFocus(Qt::ShortcutFocusReason);
+                controller.suchfeld->selectAll();
+            });
+    eintrag(bearbeiten, QT_TRANSLATE_NOOP("Mahlberg", "&Profilsuche"),
+            QKeySequence(QStringLiteral("Ctrl+Shift+F")),
+            [&controller] { controller.profilaufzu->toggle(); });
 }
 
 void baueErscheinungsbild(QMenu &darstellung, AppController &controller)
@@ -148,9 +159,9 @@ void baueFenster(AppController &controller)
 {
     QMenu &fenster = menue(controller, QT_TRANSLATE_NOOP("Mahlberg", "&Fenster"));
     QMainWindow *haupt = controller.Hauptfenster;
-    eintrag(fenster, QT_TRANSLATE_NOOP("Mahlberg", "Im &Dock ablegen"),
+    eintrag(fenster, QT_TRANSLATE_NOOP("Mahlberg", "&Minimieren"),
             QKeySequence(QStringLiteral("Ctrl+M")), [haupt] { haupt->showMinimized(); });
-    eintrag(fenster, QT_TRANSLATE_NOOP("Mahlberg", "&Zoomen"), {},
+    eintrag(fenster, QT_TRANSLATE_NOOP("Mahlberg", "Ma&ximieren"), {},
             [haupt] { haupt->setWindowState(haupt->windowState() ^ Qt::WindowMaximized); });
     eintrag(fenster, QT_TRANSLATE_NOOP("Mahlberg", "&Vollbild"),
             QKeySequence(QStringLiteral("F11")),

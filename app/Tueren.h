@@ -5,6 +5,8 @@
 
 #include <QString>
 
+#include <functional>
+
 class QSettings;
 
 /// The doors through which the program reaches the world outside of its windows. They are made in
@@ -14,5 +16,6 @@ struct Tueren
     QString eingebauteTabelle; ///< path of the built-in food table, a file or a resource
     Datenordner datenordner;   ///< the user's data folder
     Meldungstuer melde;        ///< shows a message and waits for its answer
-    QSettings *einstellungen;  ///< the user defaults; outlives all controllers
+    std::function<void(const QString &)> protokolliere; ///< writes a line to the system log
+    QSettings *einstellungen; ///< the user defaults; outlives all controllers
 };

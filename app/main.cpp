@@ -5,6 +5,7 @@
 
 #include <QApplication>
 #include <QCommandLineParser>
+#include <QLoggingCategory>
 #include <QSettings>
 #include <QStyleFactory>
 #include <QTemporaryDir>
@@ -12,6 +13,10 @@
 #include <memory>
 
 namespace {
+
+/// Lines for those who look after the program, off until QT_LOGGING_RULES turns them on
+/// ("mahlberg.debug=true"): a search may write one for every food.
+Q_LOGGING_CATEGORY(protokoll, "mahlberg", QtInfoMsg)
 
 /// What was asked for on the command line.
 struct Auftrag
@@ -67,6 +72,7 @@ int main(int argc, char **argv)
         .eingebauteTabelle = QStringLiteral(":/DatabaseIII.daten"),
         .datenordner = eigenesHeim ? Datenordner(eigenesHeim->path()) : Datenordner(),
         .melde = zeigeMeldung,
+        .protokolliere = [](const QString &zeile) { qCDebug(protokoll).noquote() << zeile; },
         .einstellungen = einstellungen.get(),
     });
     controller.awakeFromNib();

@@ -129,27 +129,63 @@ void Tabellenansicht::reloadData()
     viewport()->update();
 }
 
-int Tabellenansicht::selectedRow() const
+void Tabellenansicht::selectionChanged(const QItemSelection &selected,
+                                       const QItemSelection &deselected)
 {
+    QTableView::selectionChanged(selected, deselected);
     const QModelIndexList gewaehlt = selectionModel()->selectedIndexes();
-    return gewaehlt.isEmpty() ? -1 : gewaehlt.first().row();
+    m_gewaehlt = gewaehlt.isEmpty() ? -1 : gewaehlt.first().row();
+}
+
+bool Tabellenansicht::nurMitReturn(int spalte) const
+{
+    return m_bestaetigt.contains(m_modell->kennung(spalte));
+}
+
+/// Arrow keys leave the selection alone where only Return chooses.
+QItemSelectionModel::SelectionFlags Tabellenansicht::selectionCommand(const QModelIndex &index,
+                                                                      const QEvent *event) const
+{
+    if (event != nullptr && event->type() == QEvent::KeyPress && nurMitReturn(index.column())) {
+        return QItemSelectionModel::NoUpdate;
+    }
+    return QTableView::selectionCommand(index, event);
+}
+
+void Tabellenansicht::setzeSchreibmarke(int zeile, const QString &kennung)
+{
+    const QModelIndex index = m_modell->index(zeile, m_modell->spaltenstelle(kennung));
+    if (index.isValid()) {
+        selectionModel()->setCurrentIndex(index, QItemSelectionModel::NoUpdate);
+        scrollTo(index);
+    }
 }
 
 void Tabellenansicht::selectRow(int zeile)
 {
+    if (zeile == m_gewaehlt) {
+        return;
+    }
     const int spalte = qMax(0, currentIndex().column());
     const QModelIndex index = m_modell->index(zeile, spalte);
-    if (index.isValid()) {
-        selectionModel()->setCurrentIndex(index, QItemSelectionModel::ClearAndSelect);
-        viewport()->update();
+    if (!index.isValid()) {
+        return;
     }
+    if (nurMitReturn(m_clickedColumn)) { // who walks through results finds the cursor there again
+        selectionModel()->select(index, QItemSelectionModel::ClearAndSelect);
+    } else {
+        selectionModel()->setCurrentIndex(index, QItemSelectionModel::ClearAndSelect);
+    }
+    viewport()->update();
 }
 
 void Tabellenansicht::scrollRowToVisible(int zeile)
 {
-    const QModelIndex index = m_modell->index(zeile, qMax(0, currentIndex().column()));
+    const int oben = rowViewportPosition(zeile);
+    const bool sichtbar = oben >= 0 && oben + rowHeight() <= viewport()->height();
+    const QModelIndex index = sichtbar ? QModelIndex() : m_modell->index(zeile, 0);
     if (index.isValid()) {
-        scrollTo(index);
+        scrollTo(index.siblingAtColumn(qMax(0, currentIndex().column())));
     }
 }
 
@@ -214,9 +250,16 @@ void Tabellenansicht::keyPressEvent(QKeyEvent *event)
 {
     const QModelIndex vorher = currentIndex();
     QTableView::keyPressEvent(event);
+    const QModelIndex jetzt = currentIndex();
     const bool bestaetigt = event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
-    if (currentIndex().isValid() && (bestaetigt || currentIndex() != vorher)) {
-        melde(currentIndex().column());
+    if (!jetzt.isValid()) {
+        return;
+    }
+    if (bestaetigt) {
+        selectionModel()->select(jetzt, QItemSelectionModel::ClearAndSelect);
+        melde(jetzt.column());
+    } else if (jetzt != vorher && !nurMitReturn(jetzt.column())) {
+        melde(jetzt.column());
     }
 }
 

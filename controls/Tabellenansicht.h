@@ -19,10 +19,19 @@ public:
     explicit Tabellenansicht(QWidget *parent = nullptr);
 
     void setQuelle(Tabellenquelle *quelle, const QList<Spalte> &spalten);
+
+    /// Reads the number of rows anew and paints what stands in them; cheap enough to be called for
+    /// every single entry of a list that grows.
     void reloadData();
 
+    /// In these columns the arrow keys only move the cursor, and Return chooses.
+    void setBestaetigungsspalten(const QStringList &kennungen) { m_bestaetigt = kennungen; }
+
+    /// Moves the keyboard's cursor to a cell without choosing it.
+    void setzeSchreibmarke(int zeile, const QString &kennung);
+
     /// The selected row, −1 when none is.
-    int selectedRow() const;
+    int selectedRow() const { return m_gewaehlt; }
 
     /// The column in which the user chose the row whose action is running; −1 at any other time.
     int clickedColumn() const { return m_clickedColumn; }
@@ -52,12 +61,19 @@ protected:
     void mouseMoveEvent(QMouseEvent *event) override;
     void mouseReleaseEvent(QMouseEvent *event) override;
     void keyPressEvent(QKeyEvent *event) override;
+    void selectionChanged(const QItemSelection &selected,
+                          const QItemSelection &deselected) override;
+    QItemSelectionModel::SelectionFlags selectionCommand(const QModelIndex &index,
+                                                         const QEvent *event) const override;
     void startDrag(Qt::DropActions supportedActions) override;
 
 private:
     void melde(int spalte);
+    bool nurMitReturn(int spalte) const;
 
     Tabellenmodell *m_modell;
+    QStringList m_bestaetigt;
+    int m_gewaehlt = -1;
     int m_clickedColumn = -1;
     bool m_gitter = false;
     QPoint m_mausort;

@@ -5,6 +5,7 @@
 #include <QGuiApplication>
 #include <QLocale>
 #include <QPalette>
+#include <QRegularExpressionValidator>
 
 #include <algorithm>
 #include <cmath>
@@ -29,6 +30,9 @@ Textfeld::Textfeld(QWidget *parent) : QLineEdit(parent)
     connect(this, &QLineEdit::editingFinished, this, [this] {
         if (isModified()) {
             setModified(false);
+            if (m_decimals >= 0) {
+                setDoubleValue(doubleValue()); // a number field shows what it understood
+            }
             Q_EMIT betaetigt();
         }
     });
@@ -41,6 +45,12 @@ void Textfeld::setEditable(bool editable)
     setFrame(editable);
     setFocusPolicy(editable ? Qt::StrongFocus : Qt::ClickFocus);
     einkleiden();
+}
+
+void Textfeld::setNurZahlen(bool nurZahlen)
+{
+    static const QRegularExpression zahl(QStringLiteral("[0-9]{0,7}([.,][0-9]{0,6})?"));
+    setValidator(nurZahlen ? new QRegularExpressionValidator(zahl, this) : nullptr);
 }
 
 void Textfeld::setDecimals(int decimals)
@@ -167,11 +177,12 @@ void Textfeld::focusOutEvent(QFocusEvent *event)
     wertGesetzt();
 }
 
-/// Wide enough for what such a field usually holds, and no wider.
+/// Wide enough for what such a field usually holds, and as high with a frame as without: nothing
+/// moves when a display becomes an entry.
 QSize Textfeld::sizeHint() const
 {
-    const QSize grund = QLineEdit::sizeHint();
-    return {fontMetrics().horizontalAdvance(QStringLiteral("00000,0 kcal")) + 16, grund.height()};
+    return {fontMetrics().horizontalAdvance(QStringLiteral("00000,0 kcal")) + 16,
+            fontMetrics().height() + 8};
 }
 
 QSize Textfeld::minimumSizeHint() const

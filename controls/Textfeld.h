@@ -12,6 +12,8 @@ class Textfeld : public QLineEdit, public Wertehalter
     Q_OBJECT
     /// False: a flat display that is no stop of the Tab key. True: an entry field.
     Q_PROPERTY(bool editable READ isEditable WRITE setEditable)
+    /// True: nothing but a number can be typed, with a comma or a point.
+    Q_PROPERTY(bool nurZahlen READ nurZahlen WRITE setNurZahlen)
     /// Digits behind the comma of a shown number; −1 writes it as short as it is.
     Q_PROPERTY(int decimals READ decimals WRITE setDecimals)
     /// Small numbers get more digits behind the comma until this many that matter are seen
@@ -25,6 +27,8 @@ public:
 
     bool isEditable() const { return m_editable; }
     void setEditable(bool editable);
+    bool nurZahlen() const { return validator() != nullptr; }
+    void setNurZahlen(bool nurZahlen);
     int decimals() const { return m_decimals; }
     void setDecimals(int decimals);
     int significantDigits() const { return m_significantDigits; }

@@ -38,16 +38,17 @@ private:
     void beginneObjekt(Klasse klasse);
 
     QByteArray m_bytes;
-    qint32 m_kennungen = 0;  ///< numbers given to type codes and class names
-    qint32 m_nummeriert = 0; ///< numbers given to objects and classes
-    QHash<char, qint32> m_typen;
+    qint32 m_kennungen = 0;                         ///< numbers given to type codes and class names
+    qint32 m_nummeriert = 0;                        ///< numbers given to objects and classes
+    std::array<std::optional<qint32>, 128> m_typen; ///< by letter
     std::array<std::optional<qint32>, klassen.size()> m_klassen;
-    QHash<QString, qint32> m_texte;
+    QHash<QString, qint32> m_texte; ///< never 0, which is the number of the whole store
 };
 
 QByteArray Archivschreiber::schreibe(const Lebensmittelverzeichnis &verzeichnis)
 {
     m_bytes.reserve((verzeichnis.size() + 1) * ueblicherEintrag);
+    m_texte.reserve(verzeichnis.size() + 1);
     schreibeByte(streamfassung);
     schreibeBytes(signaturLittleEndian);
     schreibeGanzzahl(systemfassung);
@@ -73,12 +74,12 @@ void Archivschreiber::schreibeText(const QString &text)
         schreibeByte(Marke::nil);
         return;
     }
-    const auto bekannt = m_texte.constFind(text);
-    if (bekannt != m_texte.cend()) {
-        schreibeVerweis(*bekannt);
+    qint32 &nummer = m_texte[text];
+    if (nummer != 0) {
+        schreibeVerweis(nummer);
         return;
     }
-    m_texte.insert(text, m_nummeriert);
+    nummer = m_nummeriert;
     beginneObjekt(Klasse::Text);
     schreibeTyp(Typ::bytes);
     schreibeBytes(text.toUtf8());
@@ -155,12 +156,12 @@ void Archivschreiber::schreibeBytes(QByteArrayView bytes)
 
 void Archivschreiber::schreibeTyp(char typ)
 {
-    const auto bekannt = m_typen.constFind(typ);
-    if (bekannt != m_typen.cend()) {
-        schreibeVerweis(*bekannt);
+    auto &nummer = m_typen[static_cast<unsigned char>(typ)];
+    if (nummer) {
+        schreibeVerweis(*nummer);
         return;
     }
-    m_typen.insert(typ, m_kennungen++);
+    nummer = m_kennungen++;
     schreibeByte(Marke::neu);
     schreibeBytes(QByteArrayView(&typ, 1));
 }

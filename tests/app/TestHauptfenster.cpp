@@ -200,10 +200,11 @@ void TestHauptfenster::everyControlHasANameForThoseWhoCantSeeIt()
                                    qobject_cast<QSlider *>(widget) != nullptr ||
                                    qobject_cast<QAbstractSpinBox *>(widget) != nullptr ||
                                    qobject_cast<QAbstractButton *>(widget) != nullptr;
-            // Scroll bars, tab scrollers and the like are Qt's own, and called "qt_…".
+            // Scroll bars, tab scrollers and the buttons in fields are Qt's own affair.
             const bool vonQt = widget->objectName().startsWith(QStringLiteral("qt_")) ||
                                widget->inherits("QTableCornerButton") ||
-                               qobject_cast<QTabBar *>(widget->parentWidget()) != nullptr;
+                               qobject_cast<QTabBar *>(widget->parentWidget()) != nullptr ||
+                               qobject_cast<QLineEdit *>(widget->parentWidget()) != nullptr;
             if (bedienbar && !vonQt && vorgelesen(widget, QAccessible::Name).isEmpty()) {
                 const QWidget *mutter = widget->parentWidget();
                 namenlos << mutter->objectName() + QLatin1Char('/') + widget->objectName() +

@@ -45,6 +45,7 @@ private Q_SLOTS:
     void aCopyIsNeverOverwritten();
     void onlyTheFirstWritingMakesACopy();
     void withoutACopyADamagedFileStays();
+    void withoutANameForACopyADamagedFileStays();
     void aFullDiskMakesNoCopy();
 
 private:
@@ -371,6 +372,20 @@ void TestArchivdatei::withoutACopyADamagedFileStays()
     QCOMPARE(dateien(), QStringList(QStringLiteral("Eigene.daten")));
     QVERIFY(Archivdatei::schreiben(ort, beispielVerzeichnis(), moment));
     QCOMPARE(leseRoh(path(kopiename)), rest);
+}
+
+void TestArchivdatei::withoutANameForACopyADamagedFileStays()
+{
+    const QString ort = path("Eigene.daten");
+    for (int i = 0; i < 100; ++i) {
+        schreibeRoh(ort, "zerstört");
+        QVERIFY(Archivdatei::schreiben(ort, {}, moment));
+    }
+    schreibeRoh(ort, "einmal zu viel");
+    QVERIFY(!Archivdatei::schreiben(ort, {}, moment));
+    QCOMPARE(leseRoh(ort), QByteArray("einmal zu viel"));
+    QCOMPARE(dateien().size(), 101);
+    QVERIFY(Archivdatei::schreiben(ort, {}, moment.addSecs(1)));
 }
 
 void TestArchivdatei::aFullDiskMakesNoCopy()

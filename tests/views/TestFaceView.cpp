@@ -21,6 +21,7 @@ private Q_SLOTS:
     void aSmallerPictureLiesAtTheBottomLeft();
     void theGroundShowsThroughATransparentPicture();
     void aPictureMadeSmallKeepsItsFineLines();
+    void everyPixelIsShownAtRatioTwo();
     void faceSaysWhatItShows();
     void cleanup() { m_probe.sichereNachFehler(); }
 
@@ -215,6 +216,22 @@ void TestFaceView::aPictureMadeSmallKeepsItsFineLines()
     for (int x = 0; x < 16; ++x) {
         QVERIFY(qAbs(m_probe.farbe(x, 8).red() - 239) < 4);
     }
+}
+
+void TestFaceView::everyPixelIsShownAtRatioTwo()
+{
+    QImage streifen = einfarbig(Qt::white, {32, 32});
+    QPainter maler(&streifen);
+    for (int x = 0; x < 32; x += 2) {
+        maler.fillRect(x, 0, 1, 32, Qt::black);
+    }
+    maler.end();
+    FaceView view;
+    view.setImage(streifen);
+    view.entscheidung(1);
+    m_probe.male(view, {16, 16}, 2);
+    QCOMPARE(m_probe.farbe(10, 5), QColor(Qt::black));
+    QCOMPARE(m_probe.farbe(11, 5), QColor(Qt::white));
 }
 
 void TestFaceView::faceSaysWhatItShows()

@@ -168,26 +168,27 @@ void TestGewichtsverlaufView::curvePassesTheWeeklyWeights_data()
 {
     QTest::addColumn<int>("gewicht");
     QTest::addColumn<int>("aufnahme");
-    QTest::addColumn<QList<int>>("hoehen"); // at x = 41, 120, 200, 280: between two weeks
+    QTest::addColumn<QList<QPoint>>("punkte");
 
     // Nothing is needed, so each 1000 kcal a day are a kilogram a week.
-    QTest::newRow("up 10 kg a week") << 100 << 10000 << QList<int>{105, 115, 125, 135};
-    QTest::newRow("down 10 kg a week") << 200 << -10000 << QList<int>{195, 185, 175, 165};
-    QTest::newRow("flat") << 150 << 0 << QList<int>{150, 150, 150, 150};
+    QTest::newRow("up 45 kg a week, just before each week and half way of the first")
+        << 20 << 45000 << QList<QPoint>{{41, 42}, {78, 63}, {158, 108}, {238, 153}, {318, 198}};
+    QTest::newRow("down 10 kg a week, half way between the weeks")
+        << 200 << -10000 << QList<QPoint>{{41, 195}, {120, 185}, {200, 175}, {280, 165}};
+    QTest::newRow("flat") << 150 << 0
+                          << QList<QPoint>{{10, 150}, {120, 150}, {200, 150}, {318, 150}};
 }
 
 void TestGewichtsverlaufView::curvePassesTheWeeklyWeights()
 {
     QFETCH(int, gewicht);
     QFETCH(int, aufnahme);
-    QFETCH(QList<int>, hoehen);
+    QFETCH(QList<QPoint>, punkte);
     male(gewicht, 0, aufnahme, 0.5F);
-    for (int i = 0; i < 4; ++i) {
-        const int x = QList<int>{41, 120, 200, 280}[i];
-        QCOMPARE(farbe(x, hoehen[i]), blau);
-        QCOMPARE(farbe(x, hoehen[i] - 1), blau);
-        QCOMPARE(farbe(x, hoehen[i] + 3), rot);
-        QCOMPARE(farbe(x, hoehen[i] - 4), rot);
+    for (const QPoint punkt : punkte) {
+        QCOMPARE(farbe(punkt.x(), punkt.y()), blau);
+        QCOMPARE(farbe(punkt.x(), punkt.y() + 4), rot);
+        QCOMPARE(farbe(punkt.x(), punkt.y() - 4), rot);
     }
 }
 
