@@ -25,6 +25,21 @@ QString Probeheim::eigeneDatei() const
     return Datenordner(m_ordner.path()).pathForDataFile(QStringLiteral("customdaten"));
 }
 
+QString Probeheim::einstellungsdatei() const
+{
+    return m_ordner.filePath(QStringLiteral("probe%1.ini").arg(m_starts));
+}
+
+/// Settings on one file share their memory within a program, so every start has a copy of the file.
+void Probeheim::liesEinstellungenNeu()
+{
+    m_einstellungen.reset();
+    const QString bisher = einstellungsdatei();
+    ++m_starts;
+    QFile::copy(bisher, einstellungsdatei());
+    m_einstellungen = std::make_unique<QSettings>(einstellungsdatei(), QSettings::IniFormat);
+}
+
 void Probeheim::schreibeTabelle(const Lebensmittelverzeichnis &lebensmittel) const
 {
     QVERIFY(Archivdatei::schreiben(tabelle(), lebensmittel));
@@ -35,7 +50,6 @@ void Probeheim::schreibeEigene(const Lebensmittelverzeichnis &lebensmittel) cons
     QVERIFY(Archivdatei::schreiben(eigeneDatei(), lebensmittel));
 }
 
-/// Settings on one file share their memory within a program, so a copy of the file is read.
 QVariant Probeheim::aufDerPlatte(const QString &schluessel) const
 {
     const QTemporaryDir woanders;

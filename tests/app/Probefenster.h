@@ -20,7 +20,7 @@ public:
 
     QString tabelle() const { return m_ordner.filePath(QStringLiteral("DatabaseIII.daten")); }
     QString eigeneDatei() const;
-    QString einstellungsdatei() const { return m_ordner.filePath(QStringLiteral("probe.ini")); }
+    QString einstellungsdatei() const;
     QString pfad(const QString &name) const { return m_ordner.filePath(name); }
 
     void schreibeTabelle(const Lebensmittelverzeichnis &lebensmittel) const;
@@ -29,6 +29,8 @@ public:
     QSettings &einstellungen() { return *m_einstellungen; }
     /// What the settings' file holds on the disk, past everything that is still in memory.
     QVariant aufDerPlatte(const QString &schluessel) const;
+    /// Reads the settings from the disk as a new start of the program does. No window is open then.
+    void liesEinstellungenNeu();
 
     /// The doors of this home. Messages are kept in `meldungen` and answered from `antworten`.
     Tueren tueren();
@@ -37,6 +39,7 @@ public:
 
 private:
     QTemporaryDir m_ordner;
+    int m_starts = 0;
     std::unique_ptr<QSettings> m_einstellungen;
 };
 
