@@ -23,6 +23,7 @@ class AppController::Suchanzeige
 public:
     explicit Suchanzeige(AppController &controller) : m_controller(controller)
     {
+        m_controller.m_tipppause.stop();
         m_controller.suchfortschritt->show();
         m_controller.suchArray.clear();
         m_controller.suchArray2.clear();
@@ -121,6 +122,14 @@ Profil AppController::gewaehltesProfil() const
         }
     }
     return profil;
+}
+
+/// Searches now for what was typed and not searched for yet.
+void AppController::sucheGetipptes()
+{
+    if (m_tipppause.isActive()) {
+        suchen(*suchfeld);
+    }
 }
 
 /// The search box's keys: down into the results, Escape for an empty box and an empty search.

@@ -133,7 +133,8 @@ void grundlinieFinden(benchmark::State &state, const QString &text)
 
 void gerade(benchmark::internal::Benchmark *bank)
 {
-    for (const int anzahl : {eingebaut / 4, eingebaut / 2, eingebaut, eingebaut * 2, eingebaut * 4}) {
+    for (const int anzahl :
+         {eingebaut / 4, eingebaut / 2, eingebaut, eingebaut * 2, eingebaut * 4}) {
         bank->Arg(anzahl);
     }
     bank->Complexity(benchmark::oN);
