@@ -5,7 +5,6 @@
 #include "Zeichenkettentabelle.h"
 
 #include <QAbstractButton>
-#include <QApplication>
 #include <QEvent>
 #include <QHeaderView>
 #include <QKeyEvent>
@@ -159,12 +158,12 @@ void AppController::verbindeSuche()
     connect(suchfeld, &QLineEdit::textEdited, &m_tipppause, qOverload<>(&QTimer::start));
     connect(suchfeld, &QLineEdit::returnPressed, this, [this] { suchen(*suchfeld); });
     // Who types and leaves the box at once finds the results where they go to.
-    connect(suchfeld, &QLineEdit::editingFinished, this, &AppController::sucheGetipptes);
-    connect(&m_tipppause, &QTimer::timeout, this, [this] {
-        if (QApplication::activeModalWidget() == nullptr) { // never behind a question's back
-            suchen(*suchfeld);
+    connect(suchfeld, &QLineEdit::editingFinished, this, [this] {
+        if (m_tipppause.isActive()) {
+            sucheGetipptes();
         }
     });
+    connect(&m_tipppause, &QTimer::timeout, this, &AppController::sucheGetipptes);
 
     suchprofileinaus->hide();
     schalteKriterien();

@@ -6,6 +6,7 @@
 #include "Profilsuche.h"
 #include "Zeichenkettentabelle.h"
 
+#include <QApplication>
 #include <QElapsedTimer>
 
 namespace {
@@ -124,10 +125,11 @@ Profil AppController::gewaehltesProfil() const
     return profil;
 }
 
-/// Searches now for what was typed and not searched for yet.
+/// Searches for what was typed without Return. A search shows another food, and a question that is
+/// open may be about the one on display: then it does not begin by itself.
 void AppController::sucheGetipptes()
 {
-    if (m_tipppause.isActive()) {
+    if (QApplication::activeModalWidget() == nullptr) {
         suchen(*suchfeld);
     }
 }
