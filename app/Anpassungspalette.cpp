@@ -80,10 +80,11 @@ private:
     QPoint m_druckort;
 };
 
+/// The two kinds of room have no label of their own in the bar.
 QString raumtext(const QString &kennung)
 {
-    return localizedString(kennung == Werkzeugleiste::space ? QStringLiteral("Leerraum")
-                                                            : QStringLiteral("Flexibler Leerraum"));
+    return kennung == Werkzeugleiste::space ? localizedString(QStringLiteral("Leerraum"))
+                                            : localizedString(QStringLiteral("Flexibler Leerraum"));
 }
 
 } // namespace
