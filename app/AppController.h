@@ -147,6 +147,7 @@ private:
     class Suchanzeige;
     void schalteKriterien();
     Profil gewaehltesProfil() const;
+    void sucheGetipptes();
     bool taste(int taste);
 
     // Own foods

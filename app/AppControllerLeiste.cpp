@@ -83,6 +83,11 @@ std::function<void()> AppController::werkzeugaktion(const QString &kennung)
             Fenster();
         };
     }
+    if (kennung == QLatin1String("loeschen")) {
+        return [this] {
+            LoescheneigeneLM();
+        };
+    }
     return {};
 }
 

@@ -45,6 +45,7 @@ void Textfeld::setEditable(bool editable)
     setFrame(editable);
     setFocusPolicy(editable ? Qt::StrongFocus : Qt::ClickFocus);
     einkleiden();
+    wertGesetzt();
 }
 
 void Textfeld::setNurZahlen(bool nurZahlen)
@@ -109,6 +110,14 @@ void Textfeld::wertGesetzt()
     }
 }
 
+double Textfeld::textZahl(const QString &text) const
+{
+    bool lesbar = false;
+    const double zahl =
+        nurZahlen() ? QLocale::c().toDouble(QString(text).replace(u',', u'.'), &lesbar) : 0;
+    return lesbar ? zahl : Wertehalter::textZahl(text);
+}
+
 QString Textfeld::zahlText(double zahl) const
 {
     if (m_decimals < 0) {
@@ -120,7 +129,11 @@ QString Textfeld::zahlText(double zahl) const
         stellen = std::clamp(m_significantDigits - 1 - fuehrend, m_decimals,
                              std::max(m_decimals, meisteNachkommastellen));
     }
-    return QLocale().toString(zahl, 'f', stellen);
+    QLocale locale;
+    if (m_editable) { // so that the text can be typed on
+        locale.setNumberOptions(QLocale::OmitGroupSeparator);
+    }
+    return locale.toString(zahl, 'f', stellen);
 }
 
 QString Textfeld::angezeigterText() const

@@ -12,7 +12,8 @@ class Textfeld : public QLineEdit, public Wertehalter
     Q_OBJECT
     /// False: a flat display that is no stop of the Tab key. True: an entry field.
     Q_PROPERTY(bool editable READ isEditable WRITE setEditable)
-    /// True: nothing but a number can be typed, with a comma or a point.
+    /// True: nothing but a number can be typed. A comma and a point both mean the decimals, in
+    /// every language: thousands can't be parted in such a field.
     Q_PROPERTY(bool nurZahlen READ nurZahlen WRITE setNurZahlen)
     /// Digits behind the comma of a shown number; −1 writes it as short as it is.
     Q_PROPERTY(int decimals READ decimals WRITE setDecimals)
@@ -48,6 +49,7 @@ Q_SIGNALS:
 
 protected:
     void wertGesetzt() override;
+    double textZahl(const QString &text) const override;
     QString zahlText(double zahl) const override;
     bool event(QEvent *event) override;
     void changeEvent(QEvent *event) override;
