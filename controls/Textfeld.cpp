@@ -66,6 +66,12 @@ void Textfeld::setSignificantDigits(int digits)
     wertGesetzt();
 }
 
+void Textfeld::setTrailingZeros(bool zeros)
+{
+    m_trailingZeros = zeros;
+    wertGesetzt();
+}
+
 void Textfeld::setUnit(const QString &unit)
 {
     m_unit = unit;
@@ -122,6 +128,9 @@ QString Textfeld::zahlText(double zahl) const
 {
     if (m_decimals < 0) {
         return Wertehalter::zahlText(zahl);
+    }
+    if (!m_trailingZeros && zahl == std::trunc(zahl)) {
+        return QLocale().toString(zahl, 'f', 0);
     }
     int stellen = m_decimals;
     if (m_significantDigits > 0 && zahl != 0 && std::isfinite(zahl)) {
