@@ -3,7 +3,9 @@
 #include <QDir>
 #include <QStringList>
 
+class AnthroController;
 class AppController;
+class Oberflaeche;
 class QWidget;
 
 /// A short tour of the program without anyone at the keys: it starts, chooses foods, sets amounts
@@ -12,7 +14,7 @@ class QWidget;
 class Rundgang
 {
 public:
-    Rundgang(AppController &controller, const QDir &ordner);
+    Rundgang(Oberflaeche &oberflaeche, const QDir &ordner);
 
     /// Goes the whole way. False when a picture or the summary could not be written.
     bool gehen();
@@ -20,11 +22,13 @@ public:
 private:
     void waehle(const QString &name);
     void setzeMenge(int gramm);
+    void rechne();
     void halt(const QString &name, const QString &worte);
     void bild(QWidget &fenster, const QString &name);
     QString angezeigteWerte() const;
 
     AppController &m_controller;
+    AnthroController &m_rechner;
     QDir m_ordner;
     QStringList m_bericht;
     int m_halt = 0;

@@ -21,6 +21,9 @@ class Textfeld : public QLineEdit, public Wertehalter
     Q_PROPERTY(int significantDigits READ significantDigits WRITE setSignificantDigits)
     /// The unit behind a shown number, such as "mg"; empty for none.
     Q_PROPERTY(QString unit READ unit WRITE setUnit)
+    /// True: a held text is shown in the language of the windows. The field still holds the German
+    /// one, for rules that read it back.
+    Q_PROPERTY(bool uebersetzt READ uebersetzt WRITE setUebersetzt)
 
 public:
     explicit Textfeld(QWidget *parent = nullptr);
@@ -35,6 +38,8 @@ public:
     void setSignificantDigits(int digits);
     QString unit() const { return m_unit; }
     void setUnit(const QString &unit);
+    bool uebersetzt() const { return m_uebersetzt; }
+    void setUebersetzt(bool uebersetzt);
 
     Textfarbe textColor() const { return m_farbe; }
     void setTextColor(Textfarbe farbe);
@@ -64,6 +69,7 @@ private:
     int m_decimals = -1;
     int m_significantDigits = 0;
     QString m_unit;
+    bool m_uebersetzt = false;
     Textfarbe m_farbe = Textfarbe::Standard;
     bool m_veraltet = false; ///< the shown text is older than the held value
 };
