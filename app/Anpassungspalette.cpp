@@ -65,15 +65,26 @@ protected:
         zug->exec(Qt::CopyAction | Qt::MoveAction, Qt::CopyAction);
     }
 
+    /// Return would go to the dialog's default button, which closes the palette.
+    void keyPressEvent(QKeyEvent *event) override
+    {
+        if (event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter) {
+            click();
+        } else {
+            QToolButton::keyPressEvent(event);
+        }
+    }
+
 private:
     QString m_kennung;
     QPoint m_druckort;
 };
 
+/// The two kinds of room have no label of their own in the bar.
 QString raumtext(const QString &kennung)
 {
-    return localizedString(kennung == Werkzeugleiste::space ? QStringLiteral("Leerraum")
-                                                            : QStringLiteral("Flexibler Leerraum"));
+    return kennung == Werkzeugleiste::space ? localizedString(QStringLiteral("Leerraum"))
+                                            : localizedString(QStringLiteral("Flexibler Leerraum"));
 }
 
 } // namespace

@@ -29,6 +29,15 @@ constexpr int ersteUngezeigteZeile = 1016;
 /// Size of the first letter of the chosen built-in food, in points.
 constexpr int markenpunkte = 14;
 
+/// The record of a row. A row beyond the list has none, even when a food is kept without a name.
+const Datenmodul *eintrag(const Lebensmittelverzeichnis &verzeichnis, const QStringList &liste,
+                          int zeile)
+{
+    const QString name = liste.value(zeile);
+    const auto gefunden = name.isNull() ? verzeichnis.constEnd() : verzeichnis.constFind(name);
+    return gefunden == verzeichnis.constEnd() ? nullptr : &*gefunden;
+}
+
 } // namespace
 
 int AppController::numberOfRows() const
@@ -127,14 +136,12 @@ const Datenmodul *AppController::waehleLebensmittel(int zeile)
 
 const Datenmodul *AppController::eingebautesLebensmittel(int zeile) const
 {
-    const auto gefunden = Dictionary.constFind(Array.value(zeile));
-    return gefunden == Dictionary.constEnd() ? nullptr : &*gefunden;
+    return eintrag(Dictionary, Array, zeile);
 }
 
 const Datenmodul *AppController::eigenesLebensmittel(int zeile) const
 {
-    const auto gefunden = KundenDictionary.constFind(KundenArray.value(zeile));
-    return gefunden == KundenDictionary.constEnd() ? nullptr : &*gefunden;
+    return eintrag(KundenDictionary, KundenArray, zeile);
 }
 
 /// Moves the selection to the food that a search result stands for. The last match wins, and own

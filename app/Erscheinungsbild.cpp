@@ -31,7 +31,7 @@ constexpr Farbwahl farben[] = {
     {QPalette::Highlight, 0xff2f7d4f, 0xff4caf78},
     {QPalette::HighlightedText, 0xffffffff, 0xff10130f},
     {QPalette::Link, 0xff1a5fb4, 0xff8ab8ff},
-    {QPalette::Light, 0xffffffff, 0xff45494e},
+    {QPalette::Light, 0xffffffff, 0xff303337},
     {QPalette::Midlight, 0xffe4e4e2, 0xff3b3f43},
     {QPalette::Mid, 0xffb9b9b6, 0xff5a5f65},
     {QPalette::Dark, 0xff9a9a97, 0xff17181a},

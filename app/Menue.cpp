@@ -55,7 +55,8 @@ void baueAblage(AppController &controller)
     eintrag(ablage, QT_TRANSLATE_NOOP("Mahlberg", "Eigenes Lebensmittel &löschen …"), {},
             [&controller] { controller.LoescheneigeneLM(); });
     ablage.addSeparator();
-    eintrag(ablage, QT_TRANSLATE_NOOP("Mahlberg", "&Beenden"), QKeySequence::Quit,
+    eintrag(ablage, QT_TRANSLATE_NOOP("Mahlberg", "&Beenden"),
+            QKeySequence(QStringLiteral("Ctrl+Q")), // not every desktop has a key of its own for it
             [&controller] { controller.Hauptfenster->close(); });
 }
 
@@ -96,7 +97,7 @@ void baueBearbeiten(AppController &controller)
 
 void baueErscheinungsbild(QMenu &darstellung, AppController &controller)
 {
-    QMenu &auswahl = *darstellung.addMenu(localizedString(QStringLiteral("&Erscheinungsbild")));
+    QMenu &auswahl = *darstellung.addMenu(localizedString(QStringLiteral("E&rscheinungsbild")));
     auto *gruppe = new QActionGroup(&auswahl);
     const std::pair<const char *, Erscheinungsbild> zeilen[] = {
         {QT_TRANSLATE_NOOP("Mahlberg", "Wie das &System"), Erscheinungsbild::System},
@@ -158,11 +159,12 @@ void baueFenster(AppController &controller)
 {
     QMenu &fenster = menue(controller, QT_TRANSLATE_NOOP("Mahlberg", "&Fenster"));
     QMainWindow *haupt = controller.Hauptfenster;
-    eintrag(fenster, QT_TRANSLATE_NOOP("Mahlberg", "Im &Dock ablegen"),
+    eintrag(fenster, QT_TRANSLATE_NOOP("Mahlberg", "&Minimieren"),
             QKeySequence(QStringLiteral("Ctrl+M")), [haupt] { haupt->showMinimized(); });
-    eintrag(fenster, QT_TRANSLATE_NOOP("Mahlberg", "&Zoomen"), {},
+    eintrag(fenster, QT_TRANSLATE_NOOP("Mahlberg", "Ma&ximieren"), {},
             [haupt] { haupt->setWindowState(haupt->windowState() ^ Qt::WindowMaximized); });
-    eintrag(fenster, QT_TRANSLATE_NOOP("Mahlberg", "&Vollbild"), QKeySequence::FullScreen,
+    eintrag(fenster, QT_TRANSLATE_NOOP("Mahlberg", "&Vollbild"),
+            QKeySequence(QStringLiteral("F11")),
             [haupt] { haupt->setWindowState(haupt->windowState() ^ Qt::WindowFullScreen); });
 }
 

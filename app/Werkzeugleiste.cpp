@@ -41,13 +41,31 @@ Werkzeugleiste::Werkzeugleiste(const QString &kennung, Werkzeugquelle &quelle,
     setMovable(false);
     setFloatable(false);
     setIconSize({bildgroesse, bildgroesse});
-    setToolButtonStyle(static_cast<Qt::ToolButtonStyle>(
-        m_einstellungen.value(m_kennung + QStringLiteral("/stil"), Qt::ToolButtonTextUnderIcon)
-            .toInt()));
-    const QVariant gemerkt = m_einstellungen.value(m_kennung + QStringLiteral("/kennungen"));
-    m_kennungen = zulaessige(gemerkt.isValid() ? gemerkt.toStringList()
-                                               : m_quelle.toolbarDefaultItemIdentifiers());
+    setToolButtonStyle(gemerkterStil());
+    m_kennungen = gemerkteKennungen();
     aufbauen();
+}
+
+/// A bar from which all items were taken comes back empty, one of which nothing is known does not.
+QStringList Werkzeugleiste::gemerkteKennungen() const
+{
+    const QString schluessel = m_kennung + QStringLiteral("/kennungen");
+    const QStringList gemerkt = m_einstellungen.value(schluessel).toStringList();
+    const QStringList bekannt = zulaessige(gemerkt);
+    const bool geleert = gemerkt.isEmpty() && m_einstellungen.contains(schluessel);
+    return bekannt.isEmpty() && !geleert ? m_quelle.toolbarDefaultItemIdentifiers() : bekannt;
+}
+
+Qt::ToolButtonStyle Werkzeugleiste::gemerkterStil() const
+{
+    bool lesbar = false;
+    const int gemerkt = m_einstellungen.value(m_kennung + QStringLiteral("/stil")).toInt(&lesbar);
+    for (const auto stil : {Qt::ToolButtonIconOnly, Qt::ToolButtonTextOnly}) {
+        if (lesbar && gemerkt == stil) {
+            return stil;
+        }
+    }
+    return Qt::ToolButtonTextUnderIcon;
 }
 
 QStringList Werkzeugleiste::zulaessige(const QStringList &kennungen) const

@@ -90,6 +90,8 @@ protected:
     bool eventFilter(QObject *watched, QEvent *event) override;
 
 private:
+    QStringList gemerkteKennungen() const;
+    Qt::ToolButtonStyle gemerkterStil() const;
     QStringList zulaessige(const QStringList &kennungen) const;
     void aufbauen();
     QWidget *feldFuer(const QString &kennung);

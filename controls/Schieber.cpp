@@ -150,6 +150,11 @@ bool Schieber::event(QEvent *event)
         zeigen();
         return true;
     }
+    if (event->type() == QEvent::Show) {
+        // Those who can't see the two controls hear their names, not the name of their frame.
+        m_regler->setAccessibleName(accessibleName());
+        m_eingabe->setAccessibleName(accessibleName());
+    }
     return QWidget::event(event);
 }
 

@@ -8,6 +8,8 @@
 #include <QPainter>
 #include <QStyledItemDelegate>
 
+#include <utility>
+
 namespace {
 
 constexpr int zellenrand = 6;
@@ -215,9 +217,17 @@ void Tabellenansicht::melde(int spalte)
 
 void Tabellenansicht::mousePressEvent(QMouseEvent *event)
 {
+    if (event->button() != Qt::LeftButton) {
+        return; // only the left button chooses
+    }
     m_mausort = event->position().toPoint();
     m_gedrueckteZeile = rowAt(m_mausort.y());
+    m_gedrueckt = true;
+    m_vorDruck = selectionModel()->selectedIndexes().value(0);
     QTableView::mousePressEvent(event);
+    if (!indexAt(m_mausort).isValid()) {
+        clearSelection();
+    }
 }
 
 void Tabellenansicht::mouseMoveEvent(QMouseEvent *event)
@@ -226,19 +236,13 @@ void Tabellenansicht::mouseMoveEvent(QMouseEvent *event)
     QTableView::mouseMoveEvent(event);
 }
 
+/// The press has chosen a cell, or none, and pulling the mouse may have moved on to another one:
+/// the action runs for what is chosen in the end. A drag away has chosen nothing.
 void Tabellenansicht::mouseReleaseEvent(QMouseEvent *event)
 {
-    const bool gezogen = state() == DraggingState || state() == DragSelectingState;
     QTableView::mouseReleaseEvent(event);
-    if (event->button() != Qt::LeftButton || gezogen) {
-        return;
-    }
-    const QModelIndex index = indexAt(event->position().toPoint());
-    if (!index.isValid()) {
-        clearSelection();
-        melde(-1);
-    } else if (index.row() == m_gedrueckteZeile) {
-        melde(index.column());
+    if (event->button() == Qt::LeftButton && std::exchange(m_gedrueckt, false)) {
+        melde(selectionModel()->selectedIndexes().value(0).column());
     }
 }
 
@@ -277,6 +281,10 @@ void Tabellenansicht::startDrag(Qt::DropActions supportedActions)
     if (daten == nullptr) {
         return;
     }
+    // The press has selected what is being dragged. The food on display stays chosen.
+    m_gedrueckt = false;
+    selectionModel()->setCurrentIndex(m_vorDruck, QItemSelectionModel::ClearAndSelect);
+    viewport()->update();
     auto *zug = new QDrag(this);
     zug->setMimeData(daten);
     zug->exec(supportedActions | Qt::CopyAction, Qt::CopyAction);

@@ -2,6 +2,7 @@
 
 #include "Tabellenmodell.h"
 
+#include <QPersistentModelIndex>
 #include <QTableView>
 
 /// A table that follows its controller (`Tabellenquelle`). A cell is chosen with the mouse or the
@@ -77,4 +78,6 @@ private:
     bool m_gitter = false;
     QPoint m_mausort;
     int m_gedrueckteZeile = -1;
+    bool m_gedrueckt = false;         ///< the left button is down, and no drag has begun
+    QPersistentModelIndex m_vorDruck; ///< what was selected before the press
 };

@@ -187,11 +187,12 @@ void Textfeld::focusOutEvent(QFocusEvent *event)
     wertGesetzt();
 }
 
-/// Wide enough for what such a field usually holds, and no wider.
+/// Wide enough for what such a field usually holds, and as high with a frame as without: nothing
+/// moves when a display becomes an entry.
 QSize Textfeld::sizeHint() const
 {
-    const QSize grund = QLineEdit::sizeHint();
-    return {fontMetrics().horizontalAdvance(QStringLiteral("00000,0 kcal")) + 16, grund.height()};
+    return {fontMetrics().horizontalAdvance(QStringLiteral("00000,0 kcal")) + 16,
+            fontMetrics().height() + 8};
 }
 
 QSize Textfeld::minimumSizeHint() const

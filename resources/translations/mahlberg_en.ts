@@ -1,0 +1,973 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
+<TS version="2.1" language="en_GB" sourcelanguage="de_DE">
+<context>
+ <name>EingabefensterGestalt</name>
+ <message>
+  <source>&amp;Name</source>
+  <translation>&amp;Name</translation>
+ </message>
+ <message>
+  <source>Alle Werte je 100 g des Lebensmittels</source>
+  <translation>All values per 100 g of the food</translation>
+ </message>
+ <message>
+  <source>Ballaststoffe</source>
+  <translation>Fibre</translation>
+ </message>
+ <message>
+  <source>Ballaststoffe, g</source>
+  <translation>Fibre, g</translation>
+ </message>
+ <message>
+  <source>Calcium</source>
+  <translation>Calcium</translation>
+ </message>
+ <message>
+  <source>Calcium, mg</source>
+  <translation>Calcium, mg</translation>
+ </message>
+ <message>
+  <source>Cholesterin</source>
+  <translation>Cholesterol</translation>
+ </message>
+ <message>
+  <source>Cholesterin, mg</source>
+  <translation>Cholesterol, mg</translation>
+ </message>
+ <message>
+  <source>Diabetes</source>
+  <translation>Diabetes</translation>
+ </message>
+ <message>
+  <source>Eisen</source>
+  <translation>Iron</translation>
+ </message>
+ <message>
+  <source>Eisen, mg</source>
+  <translation>Iron, mg</translation>
+ </message>
+ <message>
+  <source>Energie</source>
+  <translation>Energy</translation>
+ </message>
+ <message>
+  <source>Energie, kcal</source>
+  <translation>Energy, kcal</translation>
+ </message>
+ <message>
+  <source>Felder leeren</source>
+  <translation>Clear fields</translation>
+ </message>
+ <message>
+  <source>Fett</source>
+  <translation>Fat</translation>
+ </message>
+ <message>
+  <source>Fett, g</source>
+  <translation>Fat, g</translation>
+ </message>
+ <message>
+  <source>Geeignet bei (+ geeignet, 0 neutral, - ungeeignet)</source>
+  <translation>Suitable for (+ suitable, 0 neutral, - unsuitable)</translation>
+ </message>
+ <message>
+  <source>Gicht</source>
+  <translation>Gout</translation>
+ </message>
+ <message>
+  <source>Herz und Kreislauf</source>
+  <translation>Heart and circulation</translation>
+ </message>
+ <message>
+  <source>Kalium</source>
+  <translation>Potassium</translation>
+ </message>
+ <message>
+  <source>Kalium, mg</source>
+  <translation>Potassium, mg</translation>
+ </message>
+ <message>
+  <source>Kohlenhydrate</source>
+  <translation>Carbohydrate</translation>
+ </message>
+ <message>
+  <source>Kohlenhydrate, g</source>
+  <translation>Carbohydrate, g</translation>
+ </message>
+ <message>
+  <source>Magnesium</source>
+  <translation>Magnesium</translation>
+ </message>
+ <message>
+  <source>Magnesium, mg</source>
+  <translation>Magnesium, mg</translation>
+ </message>
+ <message>
+  <source>Natrium</source>
+  <translation>Sodium</translation>
+ </message>
+ <message>
+  <source>Natrium, mg</source>
+  <translation>Sodium, mg</translation>
+ </message>
+ <message>
+  <source>Neues Lebensmittel</source>
+  <translation>New food</translation>
+ </message>
+ <message>
+  <source>Phosphat</source>
+  <translation>Phosphate</translation>
+ </message>
+ <message>
+  <source>Phosphat, mg</source>
+  <translation>Phosphate, mg</translation>
+ </message>
+ <message>
+  <source>Protein</source>
+  <translation>Protein</translation>
+ </message>
+ <message>
+  <source>Protein, g</source>
+  <translation>Protein, g</translation>
+ </message>
+ <message>
+  <source>Schließen</source>
+  <translation>Close</translation>
+ </message>
+ <message>
+  <source>Vitamin A</source>
+  <translation>Vitamin A</translation>
+ </message>
+ <message>
+  <source>Vitamin A, µg</source>
+  <translation>Vitamin A, µg</translation>
+ </message>
+ <message>
+  <source>Vitamin B1</source>
+  <translation>Vitamin B1</translation>
+ </message>
+ <message>
+  <source>Vitamin B1, mg</source>
+  <translation>Vitamin B1, mg</translation>
+ </message>
+ <message>
+  <source>Vitamin B2</source>
+  <translation>Vitamin B2</translation>
+ </message>
+ <message>
+  <source>Vitamin B2, mg</source>
+  <translation>Vitamin B2, mg</translation>
+ </message>
+ <message>
+  <source>Vitamin B6</source>
+  <translation>Vitamin B6</translation>
+ </message>
+ <message>
+  <source>Vitamin B6, mg</source>
+  <translation>Vitamin B6, mg</translation>
+ </message>
+ <message>
+  <source>Vitamin C</source>
+  <translation>Vitamin C</translation>
+ </message>
+ <message>
+  <source>Vitamin C, mg</source>
+  <translation>Vitamin C, mg</translation>
+ </message>
+ <message>
+  <source>Übergewicht</source>
+  <translation>Overweight</translation>
+ </message>
+ <message>
+  <source>Übernehmen und sichern</source>
+  <translation>Take over and save</translation>
+ </message>
+</context>
+<context>
+ <name>HauptfensterGestalt</name>
+ <message>
+  <source>1 BE entspricht 12 g Kohlenhydraten; über 5,4 BE rot</source>
+  <translation>1 BE is 12 g of carbohydrate; red above 5.4 BE</translation>
+ </message>
+ <message>
+  <source>1 KE entspricht 10 g Kohlenhydraten</source>
+  <translation>1 KE is 10 g of carbohydrate</translation>
+ </message>
+ <message>
+  <source>Alkohol und Sport</source>
+  <translation>Alcohol and sport</translation>
+ </message>
+ <message>
+  <source>Angezeigte Werte als eigenes Lebensmittel</source>
+  <translation>Displayed values as a food of your own</translation>
+ </message>
+ <message>
+  <source>Anteile an der Energie</source>
+  <translation>Shares of the energy</translation>
+ </message>
+ <message>
+  <source>Anzahl der Lebensmittel in der Tabelle</source>
+  <translation>Number of foods in the table</translation>
+ </message>
+ <message>
+  <source>BE und Relationen</source>
+  <translation>BE and ratios</translation>
+ </message>
+ <message>
+  <source>Ballaststoffe</source>
+  <translation>Fibre</translation>
+ </message>
+ <message>
+  <source>Ballaststoffe, Anteil am Tagesbedarf</source>
+  <translation>Fibre, share of the daily need</translation>
+ </message>
+ <message>
+  <source>Bewertung für Diabetes</source>
+  <translation>Rating for diabetes</translation>
+ </message>
+ <message>
+  <source>Bewertung für Gicht</source>
+  <translation>Rating for gout</translation>
+ </message>
+ <message>
+  <source>Bewertung für Herz/Kreislauf</source>
+  <translation>Rating for heart and circulation</translation>
+ </message>
+ <message>
+  <source>Bewertung für Übergewicht</source>
+  <translation>Rating for overweight</translation>
+ </message>
+ <message>
+  <source>Broteinheiten</source>
+  <translation>Bread units</translation>
+ </message>
+ <message>
+  <source>Calcium</source>
+  <translation>Calcium</translation>
+ </message>
+ <message>
+  <source>Calcium, Anteil am Tagesbedarf</source>
+  <translation>Calcium, share of the daily need</translation>
+ </message>
+ <message>
+  <source>Cholesterin</source>
+  <translation>Cholesterol</translation>
+ </message>
+ <message>
+  <source>Diabetes</source>
+  <translation>Diabetes</translation>
+ </message>
+ <message>
+  <source>Direkt übernehmen</source>
+  <translation>Load directly</translation>
+ </message>
+ <message>
+  <source>Eigenes Lebensmittel sichern …</source>
+  <translation>Save own food …</translation>
+ </message>
+ <message>
+  <source>Eisen</source>
+  <translation>Iron</translation>
+ </message>
+ <message>
+  <source>Eisen, Anteil am Tagesbedarf</source>
+  <translation>Iron, share of the daily need</translation>
+ </message>
+ <message>
+  <source>Empfehlung</source>
+  <translation>Recommended</translation>
+ </message>
+ <message>
+  <source>Energie</source>
+  <translation>Energy</translation>
+ </message>
+ <message>
+  <source>Energie in Kilojoule</source>
+  <translation>Energy in kilojoules</translation>
+ </message>
+ <message>
+  <source>Energie je 100 g</source>
+  <translation>Energy per 100 g</translation>
+ </message>
+ <message>
+  <source>Energie: größer, kleiner oder gleich</source>
+  <translation>Energy: greater, less or equal</translation>
+ </message>
+ <message>
+  <source>Energieanteile von Protein, Kohlenhydraten und Fett</source>
+  <translation>Energy shares of protein, carbohydrate and fat</translation>
+ </message>
+ <message>
+  <source>Fett</source>
+  <translation>Fat</translation>
+ </message>
+ <message>
+  <source>Fett je 100 g</source>
+  <translation>Fat per 100 g</translation>
+ </message>
+ <message>
+  <source>Gesamtbeurteilung</source>
+  <translation>Overall judgement</translation>
+ </message>
+ <message>
+  <source>Gesichert wird unter dem Namen oben, mit den Werten für 100 g.</source>
+  <translation>Saved under the name above, with the values for 100 g.</translation>
+ </message>
+ <message>
+  <source>Gezeigte Menge</source>
+  <translation>Amount shown</translation>
+ </message>
+ <message>
+  <source>Gicht</source>
+  <translation>Gout</translation>
+ </message>
+ <message>
+  <source>Herz und Kreislauf</source>
+  <translation>Heart and circulation</translation>
+ </message>
+ <message>
+  <source>Herz/Kreislauf</source>
+  <translation>Heart</translation>
+ </message>
+ <message>
+  <source>Kalium</source>
+  <translation>Potassium</translation>
+ </message>
+ <message>
+  <source>Kalium, Anteil am Tagesbedarf</source>
+  <translation>Potassium, share of the daily need</translation>
+ </message>
+ <message>
+  <source>Kohlenhydrate</source>
+  <translation>Carbohydrate</translation>
+ </message>
+ <message>
+  <source>Kohlenhydrate je 100 g</source>
+  <translation>Carbohydrate per 100 g</translation>
+ </message>
+ <message>
+  <source>Kohlenhydrateinheiten</source>
+  <translation>Carbohydrate units</translation>
+ </message>
+ <message>
+  <source>Körper und Energie</source>
+  <translation>Body and energy</translation>
+ </message>
+ <message>
+  <source>Lebensmittel</source>
+  <translation>Food</translation>
+ </message>
+ <message>
+  <source>Lebensmittel in der Tabelle:</source>
+  <translation>Foods in the table:</translation>
+ </message>
+ <message>
+  <source>Lebensmittel suchen</source>
+  <translation>Find food</translation>
+ </message>
+ <message>
+  <source>Löschen …</source>
+  <translation>Delete …</translation>
+ </message>
+ <message>
+  <source>Magnesium</source>
+  <translation>Magnesium</translation>
+ </message>
+ <message>
+  <source>Magnesium zu Calcium</source>
+  <translation>Magnesium to calcium</translation>
+ </message>
+ <message>
+  <source>Magnesium, Anteil am Tagesbedarf</source>
+  <translation>Magnesium, share of the daily need</translation>
+ </message>
+ <message>
+  <source>Menge des Lebensmittels in Gramm</source>
+  <translation>Amount of the food in grams</translation>
+ </message>
+ <message>
+  <source>Mittlere Deckung des Tagesbedarfs je 100 kcal. Unter 10: gering (rot), bis 45: mittel (blau), über 45: gut (grün).</source>
+  <translation>Mean coverage of the daily need per 100 kcal. Below 10: low (red), up to 45: medium (blue), above 45: good (green).</translation>
+ </message>
+ <message>
+  <source>Natrium</source>
+  <translation>Sodium</translation>
+ </message>
+ <message>
+  <source>Natrium zu Kalium</source>
+  <translation>Sodium to potassium</translation>
+ </message>
+ <message>
+  <source>Natrium, Anteil am Tagesbedarf</source>
+  <translation>Sodium, share of the daily need</translation>
+ </message>
+ <message>
+  <source>Nährstoffe</source>
+  <translation>Nutrients</translation>
+ </message>
+ <message>
+  <source>Phosphat</source>
+  <translation>Phosphate</translation>
+ </message>
+ <message>
+  <source>Phosphat, Anteil am Tagesbedarf</source>
+  <translation>Phosphate, share of the daily need</translation>
+ </message>
+ <message>
+  <source>Profil suchen</source>
+  <translation>Search profile</translation>
+ </message>
+ <message>
+  <source>Profilsuche</source>
+  <translation>Profile search</translation>
+ </message>
+ <message>
+  <source>Protein</source>
+  <translation>Protein</translation>
+ </message>
+ <message>
+  <source>Protein je 100 g</source>
+  <translation>Protein per 100 g</translation>
+ </message>
+ <message>
+  <source>Protein: größer, kleiner oder gleich</source>
+  <translation>Protein: greater, less or equal</translation>
+ </message>
+ <message>
+  <source>Quelle der Nährwerte</source>
+  <translation>Source of the values</translation>
+ </message>
+ <message>
+  <source>Rot: unter 10 % des Tagesbedarfs, grün: darüber.</source>
+  <translation>Red: below 10 % of the daily need, green: above.</translation>
+ </message>
+ <message>
+  <source>Sichern</source>
+  <translation>Save</translation>
+ </message>
+ <message>
+  <source>Suche läuft</source>
+  <translation>Searching</translation>
+ </message>
+ <message>
+  <source>Tagesbedarf</source>
+  <translation>Daily need</translation>
+ </message>
+ <message>
+  <source>Vitamin A</source>
+  <translation>Vitamin A</translation>
+ </message>
+ <message>
+  <source>Vitamin A, Anteil am Tagesbedarf</source>
+  <translation>Vitamin A, share of the daily need</translation>
+ </message>
+ <message>
+  <source>Vitamin B1</source>
+  <translation>Vitamin B1</translation>
+ </message>
+ <message>
+  <source>Vitamin B1, Anteil am Tagesbedarf</source>
+  <translation>Vitamin B1, share of the daily need</translation>
+ </message>
+ <message>
+  <source>Vitamin B2</source>
+  <translation>Vitamin B2</translation>
+ </message>
+ <message>
+  <source>Vitamin B2, Anteil am Tagesbedarf</source>
+  <translation>Vitamin B2, share of the daily need</translation>
+ </message>
+ <message>
+  <source>Vitamin B6</source>
+  <translation>Vitamin B6</translation>
+ </message>
+ <message>
+  <source>Vitamin B6, Anteil am Tagesbedarf</source>
+  <translation>Vitamin B6, share of the daily need</translation>
+ </message>
+ <message>
+  <source>Vitamin C</source>
+  <translation>Vitamin C</translation>
+ </message>
+ <message>
+  <source>Vitamin C, Anteil am Tagesbedarf</source>
+  <translation>Vitamin C, share of the daily need</translation>
+ </message>
+ <message>
+  <source>Werte je 100 g; nur Angekreuztes zählt.</source>
+  <translation>Values per 100 g; only what is ticked counts.</translation>
+ </message>
+ <message>
+  <source>unter 0,5 günstig (grün), darüber ungünstig (rot)</source>
+  <translation>below 0.5 favourable (green), above unfavourable (red)</translation>
+ </message>
+ <message>
+  <source>Übergewicht</source>
+  <translation>Overweight</translation>
+ </message>
+</context>
+<context>
+ <name>Mahlberg</name>
+ <message>
+  <source>% der Zufuhr in </source>
+  <translation>% of the daily need in </translation>
+ </message>
+ <message>
+  <source>%1 von %2</source>
+  <translation>%1 of %2</translation>
+ </message>
+ <message>
+  <source>%1 von %2, %3</source>
+  <translation>%1 of %2, %3</translation>
+ </message>
+ <message>
+  <source>&amp;Ablage</source>
+  <translation>&amp;File</translation>
+ </message>
+ <message>
+  <source>&amp;Ausschneiden</source>
+  <translation>Cu&amp;t</translation>
+ </message>
+ <message>
+  <source>&amp;Bearbeiten</source>
+  <translation>&amp;Edit</translation>
+ </message>
+ <message>
+  <source>&amp;Beenden</source>
+  <translation>&amp;Quit</translation>
+ </message>
+ <message>
+  <source>&amp;Darstellung</source>
+  <translation>&amp;View</translation>
+ </message>
+ <message>
+  <source>&amp;Dunkel</source>
+  <translation>&amp;Dark</translation>
+ </message>
+ <message>
+  <source>&amp;Eigenes Lebensmittel der Zeile zeigen</source>
+  <translation>&amp;Show own food of this row</translation>
+ </message>
+ <message>
+  <source>&amp;Einfügen</source>
+  <translation>&amp;Paste</translation>
+ </message>
+ <message>
+  <source>&amp;Fenster</source>
+  <translation>&amp;Window</translation>
+ </message>
+ <message>
+  <source>&amp;Hell</source>
+  <translation>&amp;Light</translation>
+ </message>
+ <message>
+  <source>&amp;Hilfe</source>
+  <translation>&amp;Help</translation>
+ </message>
+ <message>
+  <source>&amp;Kopieren</source>
+  <translation>&amp;Copy</translation>
+ </message>
+ <message>
+  <source>&amp;Minimieren</source>
+  <translation>&amp;Minimise</translation>
+ </message>
+ <message>
+  <source>&amp;Neues Lebensmittel …</source>
+  <translation>&amp;New food …</translation>
+ </message>
+ <message>
+  <source>&amp;Nächste Ansicht</source>
+  <translation>&amp;Next view</translation>
+ </message>
+ <message>
+  <source>&amp;Profilsuche</source>
+  <translation>Pr&amp;ofile search</translation>
+ </message>
+ <message>
+  <source>&amp;Rückgängig</source>
+  <translation>&amp;Undo</translation>
+ </message>
+ <message>
+  <source>&amp;Vollbild</source>
+  <translation>&amp;Full screen</translation>
+ </message>
+ <message>
+  <source>&amp;Wiederholen</source>
+  <translation>&amp;Redo</translation>
+ </message>
+ <message>
+  <source>&amp;Über Mahlberg</source>
+  <translation>&amp;About Mahlberg</translation>
+ </message>
+ <message>
+  <source>A&amp;lles auswählen</source>
+  <translation>Select &amp;all</translation>
+ </message>
+ <message>
+  <source>Achtung !</source>
+  <translation>Attention!</translation>
+ </message>
+ <message>
+  <source>Achtung !  Sie koennen nur eigene Lebensmittel loeschen !</source>
+  <translation>Attention! You can only delete foods of your own!</translation>
+ </message>
+ <message>
+  <source>Anpassen</source>
+  <translation>Customise</translation>
+ </message>
+ <message>
+  <source>Ansicht</source>
+  <translation>View</translation>
+ </message>
+ <message>
+  <source>Anzeigen:</source>
+  <translation>Show:</translation>
+ </message>
+ <message>
+  <source>Aus der Leiste entfernen</source>
+  <translation>Remove from the toolbar</translation>
+ </message>
+ <message>
+  <source>BE und Relationen in </source>
+  <translation>BE and ratios in </translation>
+ </message>
+ <message>
+  <source>Ballaststoffe</source>
+  <translation>Fibre</translation>
+ </message>
+ <message>
+  <source>Bitte einen Namen eingeben</source>
+  <translation>Please enter a name</translation>
+ </message>
+ <message>
+  <source>Bitte waehlen Sie zuerst ein eigenes Lebensmittel zum Loeschen aus </source>
+  <translation>Please choose a food of your own to delete first </translation>
+ </message>
+ <message>
+  <source>Calcium</source>
+  <translation>Calcium</translation>
+ </message>
+ <message>
+  <source>Cholesterin</source>
+  <translation>Cholesterol</translation>
+ </message>
+ <message>
+  <source>Datenpaket könnte beschädigt sein</source>
+  <translation>The data package may be damaged</translation>
+ </message>
+ <message>
+  <source>Diabetes</source>
+  <translation>Diabetes</translation>
+ </message>
+ <message>
+  <source>Die Sprache wechselt beim nächsten Start.</source>
+  <translation>The language changes at the next start.</translation>
+ </message>
+ <message>
+  <source>Drucken</source>
+  <translation>Print</translation>
+ </message>
+ <message>
+  <source>E&amp;rscheinungsbild</source>
+  <translation>&amp;Appearance</translation>
+ </message>
+ <message>
+  <source>Eigene</source>
+  <translation>Own</translation>
+ </message>
+ <message>
+  <source>Eigenes Lebensmittel &amp;löschen …</source>
+  <translation>&amp;Delete own food …</translation>
+ </message>
+ <message>
+  <source>Eigenes Lebensmittel &amp;sichern …</source>
+  <translation>&amp;Save own food …</translation>
+ </message>
+ <message>
+  <source>Eine Hilfe für die Beratung; sie ersetzt kein ärztliches Urteil. Lizenz: MIT.</source>
+  <translation>An aid for counselling; it does not replace a doctor’s judgement. Licence: MIT.</translation>
+ </message>
+ <message>
+  <source>Eisen</source>
+  <translation>Iron</translation>
+ </message>
+ <message>
+  <source>Energie</source>
+  <translation>Energy</translation>
+ </message>
+ <message>
+  <source>Ernährungsberatung und Diätplanung: Lebensmittel, ihre Nährwerte und ihre Eignung, Mahlzeitenpläne und der Energiebedarf.</source>
+  <translation>Nutrition counselling and diet planning: foods, their nutrients and their suitability, meal plans and the energy requirement.</translation>
+ </message>
+ <message>
+  <source>Fertig</source>
+  <translation>Done</translation>
+ </message>
+ <message>
+  <source>Fett</source>
+  <translation>Fat</translation>
+ </message>
+ <message>
+  <source>Flexibler Leerraum</source>
+  <translation>Flexible space</translation>
+ </message>
+ <message>
+  <source>Gesund sind %1 bis %2 kg.</source>
+  <translation>Healthy is %1 to %2 kg.</translation>
+ </message>
+ <message>
+  <source>Gewicht heute %1 kg, nach einer Woche %2 kg, nach zwei %3 kg, nach drei %4 kg, nach vier %5 kg.</source>
+  <translation>Weight today %1 kg, after one week %2 kg, after two %3 kg, after three %4 kg, after four %5 kg.</translation>
+ </message>
+ <message>
+  <source>Gicht</source>
+  <translation>Gout</translation>
+ </message>
+ <message>
+  <source>Herz und Kreislauf</source>
+  <translation>Heart and circulation</translation>
+ </message>
+ <message>
+  <source>Inhaltstoffe in </source>
+  <translation>Nutrients in </translation>
+ </message>
+ <message>
+  <source>Inhaltstoffe in 1 gramm</source>
+  <translation>Nutrients in 1 gram</translation>
+ </message>
+ <message>
+  <source>Ist: Protein %1 %, Kohlenhydrate %2 %, Fett %3 %.</source>
+  <translation>Actual: protein %1 %, carbohydrate %2 %, fat %3 %.</translation>
+ </message>
+ <message>
+  <source>Ja</source>
+  <translation>Yes</translation>
+ </message>
+ <message>
+  <source>Kalium</source>
+  <translation>Potassium</translation>
+ </message>
+ <message>
+  <source>Keine Lebensmittel gefunden!</source>
+  <translation>No foods found!</translation>
+ </message>
+ <message>
+  <source>Kohlenhydrate</source>
+  <translation>Carbohydrate</translation>
+ </message>
+ <message>
+  <source>LM anPlanmodul</source>
+  <translation>Food to plan</translation>
+ </message>
+ <message>
+  <source>LM loeschen</source>
+  <translation>Delete food</translation>
+ </message>
+ <message>
+  <source>Lebensmittel</source>
+  <translation>Food</translation>
+ </message>
+ <message>
+  <source>Lebensmittel &amp;suchen</source>
+  <translation>&amp;Find food</translation>
+ </message>
+ <message>
+  <source>Lebensmittel an Planmodul</source>
+  <translation>Food to the meal plan</translation>
+ </message>
+ <message>
+  <source>Leerraum</source>
+  <translation>Space</translation>
+ </message>
+ <message>
+  <source>Leiste anpassen …</source>
+  <translation>Customise toolbar …</translation>
+ </message>
+ <message>
+  <source>Ma&amp;ximieren</source>
+  <translation>Ma&amp;ximise</translation>
+ </message>
+ <message>
+  <source>Magnesium</source>
+  <translation>Magnesium</translation>
+ </message>
+ <message>
+  <source>Menge Lebensmittel (100g)</source>
+  <translation>Amount of food (100g)</translation>
+ </message>
+ <message>
+  <source>Moechten Sie dieses eigene Lebensmittel wirklich dauerhaft loeschen ?  </source>
+  <translation>Do you really want to delete this food of your own for good?  </translation>
+ </message>
+ <message>
+  <source>Natrium</source>
+  <translation>Sodium</translation>
+ </message>
+ <message>
+  <source>Nein</source>
+  <translation>No</translation>
+ </message>
+ <message>
+  <source>Neues LM</source>
+  <translation>New food</translation>
+ </message>
+ <message>
+  <source>Nur Symbol</source>
+  <translation>Icon only</translation>
+ </message>
+ <message>
+  <source>Nur Text</source>
+  <translation>Text only</translation>
+ </message>
+ <message>
+  <source>Nährwerte je 100 g: Schweizer Nährwertdatenbank, generische Lebensmittel, Version 7.0, Bundesamt für Lebensmittelsicherheit und Veterinärwesen BLV</source>
+  <translation>Values per 100 g: Swiss Food Composition Database, generic foods, version 7.0, Federal Food Safety and Veterinary Office FSVO</translation>
+ </message>
+ <message>
+  <source>Nährwerte: Schweizer Nährwertdatenbank, generische Lebensmittel, Version 7.0 vom 1. Juli 2025. Herausgeber: Bundesamt für Lebensmittelsicherheit und Veterinärwesen BLV, Schweiz. Freie Nutzung mit Angabe der Quelle. Namen, Auswahl und Bewertungen der Lebensmittel sind von Mahlberg.</source>
+  <translation>Values: Swiss Food Composition Database, generic foods, version 7.0 of 1 July 2025. Publisher: Federal Food Safety and Veterinary Office FSVO, Switzerland. Free use, subject to acknowledgment of the source. Names, choice and ratings of the foods are Mahlberg’s own.</translation>
+ </message>
+ <message>
+  <source>Phosphat</source>
+  <translation>Phosphate</translation>
+ </message>
+ <message>
+  <source>Planmodul</source>
+  <translation>Meal plan</translation>
+ </message>
+ <message>
+  <source>Protein</source>
+  <translation>Protein</translation>
+ </message>
+ <message>
+  <source>S&amp;prache</source>
+  <translation>&amp;Language</translation>
+ </message>
+ <message>
+  <source>Soll: Protein %1 %, Kohlenhydrate %2 %, Fett %3 %.</source>
+  <translation>Target: protein %1 %, carbohydrate %2 %, fat %3 %.</translation>
+ </message>
+ <message>
+  <source>Sport</source>
+  <translation>Sport</translation>
+ </message>
+ <message>
+  <source>Suche</source>
+  <translation>Search</translation>
+ </message>
+ <message>
+  <source>Sy&amp;mbolleiste zeigen</source>
+  <translation>Show &amp;toolbar</translation>
+ </message>
+ <message>
+  <source>Symbol und Text</source>
+  <translation>Icon and text</translation>
+ </message>
+ <message>
+  <source>Symbolleiste</source>
+  <translation>Toolbar</translation>
+ </message>
+ <message>
+  <source>Symbolleiste &amp;anpassen …</source>
+  <translation>&amp;Customise toolbar …</translation>
+ </message>
+ <message>
+  <source>Symbolleiste anpassen</source>
+  <translation>Customise toolbar</translation>
+ </message>
+ <message>
+  <source>Toolbar anpassen</source>
+  <translation>Customise toolbar</translation>
+ </message>
+ <message>
+  <source>Version %1</source>
+  <translation>Version %1</translation>
+ </message>
+ <message>
+  <source>Vitamin A</source>
+  <translation>Vitamin A</translation>
+ </message>
+ <message>
+  <source>Vitamin B1</source>
+  <translation>Vitamin B1</translation>
+ </message>
+ <message>
+  <source>Vitamin B2</source>
+  <translation>Vitamin B2</translation>
+ </message>
+ <message>
+  <source>Vitamin B6</source>
+  <translation>Vitamin B6</translation>
+ </message>
+ <message>
+  <source>Vitamin C</source>
+  <translation>Vitamin C</translation>
+ </message>
+ <message>
+  <source>Wie das &amp;System</source>
+  <translation>Like the &amp;system</translation>
+ </message>
+ <message>
+  <source>Ziehen Sie Ihre Lieblingsobjekte in die Symbolleiste …</source>
+  <translation>Drag your favourite items into the toolbar …</translation>
+ </message>
+ <message>
+  <source>blau</source>
+  <translation>blue</translation>
+ </message>
+ <message>
+  <source>grün</source>
+  <translation>green</translation>
+ </message>
+ <message>
+  <source>kein Balken</source>
+  <translation>no bar</translation>
+ </message>
+ <message>
+  <source>kein Gesicht</source>
+  <translation>no face</translation>
+ </message>
+ <message>
+  <source>keine Beurteilung möglich</source>
+  <translation>no judgement possible</translation>
+ </message>
+ <message>
+  <source>lächelndes Gesicht</source>
+  <translation>smiling face</translation>
+ </message>
+ <message>
+  <source>neutrales Gesicht</source>
+  <translation>neutral face</translation>
+ </message>
+ <message>
+  <source>ok</source>
+  <translation>OK</translation>
+ </message>
+ <message>
+  <source>rot</source>
+  <translation>red</translation>
+ </message>
+ <message>
+  <source>weinendes Gesicht</source>
+  <translation>crying face</translation>
+ </message>
+ <message>
+  <source>Über &amp;Qt</source>
+  <translation>About &amp;Qt</translation>
+ </message>
+ <message>
+  <source>Über Mahlberg</source>
+  <translation>About Mahlberg</translation>
+ </message>
+ <message>
+  <source>Übergewicht</source>
+  <translation>Overweight</translation>
+ </message>
+ <message>
+  <source>… oder ziehen Sie den Standardsatz in die Symbolleiste. Was Sie aus der Leiste herausziehen, verschwindet.</source>
+  <translation>… or drag the default set into the toolbar. What you drag out of the toolbar disappears.</translation>
+ </message>
+</context>
+</TS>

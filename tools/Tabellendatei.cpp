@@ -1,0 +1,171 @@
+#include "Tabellendatei.h"
+
+#include <QStringDecoder>
+
+#include <cmath>
+#include <utility>
+
+namespace {
+
+using namespace Qt::StringLiterals;
+
+const QString formel = u"format"_s;
+
+/// The columns around the seventeen values.
+const QStringList &vorneweg()
+{
+    static const QStringList namen = {u"name_de"_s, u"name_en"_s, u"group"_s, u"source_id"_s};
+    return namen;
+}
+
+const QStringList &hinterher()
+{
+    static const QStringList namen = {u"sugars"_s,  u"saturated"_s, u"alcohol"_s,
+                                      u"ready_g"_s, u"purine"_s,    u"sugar_kind"_s,
+                                      u"synonym"_s, u"exception"_s, u"note"_s};
+    return namen;
+}
+
+/// Takes the fields of one line apart, from left to right.
+class Zeilenleser
+{
+public:
+    Zeilenleser(const QStringList &felder, Tabellenzeile &ziel) : m_felder(felder), m_ziel(ziel) {}
+
+    /// What is wrong; empty when all could be read.
+    QStringList lesen();
+
+private:
+    QString text() { return m_felder.at(m_feld++); }
+    double zahl();
+    template <typename Wert>
+    Wert auswahl(const QList<std::pair<QString, Wert>> &moeglich);
+
+    const QStringList &m_felder;
+    Tabellenzeile &m_ziel;
+    qsizetype m_feld = 0;
+    QStringList m_fehler;
+};
+
+double Zeilenleser::zahl()
+{
+    const QString spalte = Tabellendatei::spalten().at(m_feld);
+    const QString feld = text();
+    bool gelungen = false;
+    const double wert = feld.toDouble(&gelungen);
+    if (!gelungen || !std::isfinite(wert)) {
+        m_fehler.append(u"\"%1\" is no number (column %2)"_s.arg(feld, spalte));
+        return 0;
+    }
+    return wert;
+}
+
+template <typename Wert>
+Wert Zeilenleser::auswahl(const QList<std::pair<QString, Wert>> &moeglich)
+{
+    const QString spalte = Tabellendatei::spalten().at(m_feld);
+    const QString feld = text();
+    for (const auto &[name, wert] : moeglich) {
+        if (feld == name) {
+            return wert;
+        }
+    }
+    m_fehler.append(u"\"%1\" is unknown (column %2)"_s.arg(feld, spalte));
+    return moeglich.first().second;
+}
+
+QStringList Zeilenleser::lesen()
+{
+    m_ziel.nameDe = text();
+    m_ziel.nameEn = text();
+    const QString gruppe = text();
+    m_ziel.gruppe = lebensmittelgruppe(gruppe);
+    if (m_ziel.gruppe == nullptr) {
+        m_fehler.append(u"\"%1\" is unknown (column group)"_s.arg(gruppe));
+    }
+    m_ziel.quelle = text();
+    for (double &wert : m_ziel.werte) {
+        wert = zahl();
+    }
+    for (double *wert : {&m_ziel.zucker, &m_ziel.gesaettigt, &m_ziel.alkohol}) {
+        *wert = zahl();
+    }
+    if (m_felder.at(m_feld).isEmpty()) {
+        ++m_feld;
+    } else {
+        m_ziel.verzehrfertig = zahl();
+    }
+    m_ziel.purin = auswahl<std::optional<Purinklasse>>({{QString(), std::nullopt},
+                                                        {u"low"_s, Purinklasse::Niedrig},
+                                                        {u"moderate"_s, Purinklasse::Mittel},
+                                                        {u"high"_s, Purinklasse::Hoch}});
+    m_ziel.zuckerart = auswahl<Zuckerart>({{QString(), Zuckerart::Ueblich},
+                                           {u"no fructose"_s, Zuckerart::OhneFruktose},
+                                           {u"all carbohydrate"_s, Zuckerart::AlleKohlenhydrate}});
+    m_ziel.synonymVon = text();
+    m_ziel.ausnahmen = text().split(u',', Qt::SkipEmptyParts);
+    m_ziel.notiz = text();
+    return m_fehler;
+}
+
+} // namespace
+
+QStringList Tabellendatei::spalten()
+{
+    static const QStringList namen = [] {
+        QStringList liste = vorneweg();
+        for (const auto &zeile : naehrwerte) {
+            liste.append(QString::fromLatin1(zeile.kennung));
+        }
+        return liste + hinterher();
+    }();
+    return namen;
+}
+
+Tabellendatei::Ergebnis Tabellendatei::lesen(QByteArrayView bytes)
+{
+    Ergebnis ergebnis;
+    QStringDecoder utf8(QStringDecoder::Utf8);
+    const QString text = utf8(bytes);
+    if (utf8.hasError()) {
+        ergebnis.beanstandungen.append({0, formel, u"The file is not in UTF-8"_s});
+    }
+
+    bool kopfGelesen = false;
+    int nummer = 0;
+    for (const QString &rohzeile : text.split(u'\n')) {
+        ++nummer;
+        const QString zeile = rohzeile.endsWith(u'\r') ? rohzeile.chopped(1) : rohzeile;
+        if (zeile.isEmpty() || zeile.startsWith(u'#')) {
+            continue;
+        }
+        const QStringList felder = zeile.split(u';');
+        if (!std::exchange(kopfGelesen, true)) {
+            if (felder != spalten()) {
+                const QString soll = spalten().join(u';');
+                ergebnis.beanstandungen.append({nummer, formel, u"The columns must be "_s + soll});
+                return ergebnis;
+            }
+            continue;
+        }
+        if (felder.size() != spalten().size()) {
+            const QString meldung = u"%1 fields instead of %2"_s;
+            ergebnis.beanstandungen.append(
+                {nummer, formel, meldung.arg(felder.size()).arg(spalten().size())});
+            continue;
+        }
+        Tabellenzeile gelesen;
+        gelesen.zeile = nummer;
+        const QStringList fehler = Zeilenleser(felder, gelesen).lesen();
+        for (const QString &meldung : fehler) {
+            ergebnis.beanstandungen.append({nummer, formel, meldung});
+        }
+        if (fehler.isEmpty()) {
+            ergebnis.tabelle.append(gelesen);
+        }
+    }
+    if (!kopfGelesen) {
+        ergebnis.beanstandungen.append({0, formel, u"The table is empty"_s});
+    }
+    return ergebnis;
+}

@@ -1,0 +1,48 @@
+#pragma once
+
+#include "Tabellenzeile.h"
+
+#include <array>
+
+/// What a rating rule can ask for in figures, per 100 g ready to eat.
+enum class Groesse {
+    Energie,                     ///< kcal
+    Protein,                     ///< g
+    Fett,                        ///< g
+    Gesaettigt,                  ///< saturated fat, g
+    GesaettigtAnteil,            ///< saturated fat in percent of fat
+    Kohlenhydrate,               ///< available carbohydrate, g
+    KohlenhydrateJeBallaststoff, ///< g of available carbohydrate for each g of fibre
+    Ballaststoffe,               ///< g
+    Zucker,                      ///< all sugars, g
+    FreierZucker,                ///< sugars that are not the food's own, g
+    FreierZuckerAnteil,          ///< energy from free sugars in percent
+    Fruktosezucker,              ///< sugars of which half is fructose, g
+    Cholesterin,                 ///< mg
+    Natrium,                     ///< mg
+    Alkohol,                     ///< g
+};
+inline constexpr std::size_t anzahlGroessen = static_cast<std::size_t>(Groesse::Alkohol) + 1;
+
+/// How a figure is called and counted where a rating is explained.
+struct Groessenbeschreibung
+{
+    Groesse groesse;
+    const char *name; ///< English
+    const char *einheit;
+};
+
+/// All of them, in the order of the enumeration.
+extern const std::array<Groessenbeschreibung, anzahlGroessen> groessen;
+
+/// A food as the rating rules see it.
+struct Wertungsgroessen
+{
+    std::array<double, anzahlGroessen> zahlen = {};
+    Merkmale merkmale;
+
+    double zahl(Groesse groesse) const { return zahlen[static_cast<std::size_t>(groesse)]; }
+};
+
+/// Works out what the rules ask for from a line of the table.
+Wertungsgroessen wertungsgroessen(const Tabellenzeile &zeile);

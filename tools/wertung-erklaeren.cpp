@@ -1,0 +1,128 @@
+// Prints for a food of the table why it is rated as it is.
+
+#include "Kommandozeile.h"
+#include "Regelblatt.h"
+#include "Wertungsregeln.h"
+
+#include <QCoreApplication>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+const QString gebrauch =
+    u"Usage: wertung-erklaeren [--table TABLE.csv] NAME\n"
+    "       wertung-erklaeren --rules\n"
+    "Prints the rule behind each of a food's four ratings. NAME is the German or English\n"
+    "name; a part of it lists the foods that have it. --rules prints all rules, the food\n"
+    "groups and the sources as they stand in docs/ratings.md.\n"
+    "Exit status: 0 explained, 1 no such food or no table, 2 wrong usage."_s;
+
+struct Auftrag
+{
+    QString tabelle = QStringLiteral(LEBENSMITTELTABELLE);
+    QString name;
+};
+
+std::optional<Auftrag> auftrag(QStringList argumente)
+{
+    Auftrag ergebnis;
+    argumente.removeFirst();
+    if (argumente.size() == 3 && argumente.first() == u"--table") {
+        ergebnis.tabelle = argumente.at(1);
+        argumente.remove(0, 2);
+    }
+    if (argumente.size() != 1 || argumente.first().isEmpty() || argumente.first() == u"--table") {
+        return std::nullopt;
+    }
+    ergebnis.name = argumente.first();
+    return ergebnis;
+}
+
+void regelErklaeren(const Wertungsregel &regel, const Wertungsgroessen &food)
+{
+    using Kommandozeile::drucken;
+    drucken(u"%1: \"%2\" by rule %3. %4"_s.arg(
+        QString::fromUtf8(beschreibung(regel.wertung).bezeichnung), QLatin1String(regel.urteil),
+        QLatin1String(regel.kennung), QString::fromUtf8(regel.satz)));
+    for (const QString &teil : begruendung(regel, food)) {
+        drucken(u"    "_s + teil);
+    }
+    for (const char *const schluessel : regel.quellen) {
+        if (const Quelle *const eine = quelle(schluessel)) {
+            drucken(
+                u"    [%1] %2"_s.arg(QLatin1String(schluessel), QString::fromUtf8(eine->angabe)));
+        }
+    }
+}
+
+void erklaeren(const Tabellenzeile &zeile)
+{
+    using Kommandozeile::drucken;
+    drucken(u"%1 (%2)"_s.arg(zeile.nameDe, zeile.nameEn));
+    drucken(u"Food group: "_s + QString::fromUtf8(zeile.gruppe->name));
+    if (!zeile.notiz.isEmpty()) {
+        drucken(u"Note: "_s + zeile.notiz);
+    }
+    const Wertungsgroessen food = wertungsgroessen(zeile);
+    for (const auto &wertung : wertungen) {
+        if (const auto *regel = entscheidendeRegel(wertung.wertung, food)) {
+            regelErklaeren(*regel, food);
+        }
+    }
+}
+
+void regelnDrucken()
+{
+    QStringList zeilen;
+    for (const auto &wertung : wertungen) {
+        zeilen += QStringList{QString::fromUtf8(wertung.bezeichnung), QString()};
+        zeilen += Regelblatt::regeltabelle(wertung.wertung) + QStringList{QString()};
+    }
+    zeilen += Regelblatt::gruppentabelle() + QStringList{QString()} + Regelblatt::quellenliste();
+    for (const QString &zeile : zeilen) {
+        Kommandozeile::drucken(zeile);
+    }
+}
+
+Kommandozeile::Ausgang suchen(const Tabelle &tabelle, const QString &name)
+{
+    QStringList aehnliche;
+    for (const Tabellenzeile &zeile : tabelle) {
+        for (const QString &einer : {zeile.nameDe, zeile.nameEn}) {
+            if (einer.compare(name, Qt::CaseInsensitive) == 0) {
+                erklaeren(zeile);
+                return Kommandozeile::Gelungen;
+            }
+            if (einer.contains(name, Qt::CaseInsensitive)) {
+                aehnliche.append(einer);
+            }
+        }
+    }
+    Kommandozeile::melden(u"There is no food \"%1\"."_s.arg(name));
+    if (!aehnliche.isEmpty()) {
+        Kommandozeile::melden(u"There are: "_s + aehnliche.join(u"; "));
+    }
+    return Kommandozeile::Misslungen;
+}
+
+} // namespace
+
+int main(int argc, char *argv[])
+{
+    const QCoreApplication app(argc, argv);
+    if (QCoreApplication::arguments().mid(1) == QStringList{u"--rules"_s}) {
+        regelnDrucken();
+        return Kommandozeile::Gelungen;
+    }
+    const auto was = auftrag(QCoreApplication::arguments());
+    if (!was) {
+        Kommandozeile::melden(gebrauch);
+        return Kommandozeile::FalscherAufruf;
+    }
+    const auto bytes = Kommandozeile::lesen(was->tabelle);
+    if (!bytes) {
+        return Kommandozeile::Misslungen;
+    }
+    return suchen(Tabellendatei::lesen(*bytes).tabelle, was->name);
+}
