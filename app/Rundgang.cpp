@@ -1,7 +1,7 @@
 #include "Rundgang.h"
 
-#include "AppController.h"
 #include "Erscheinungsbild.h"
+#include "Oberflaeche.h"
 #include "Zeichenkettentabelle.h"
 
 #include <QApplication>
@@ -10,8 +10,9 @@
 
 #include <utility>
 
-Rundgang::Rundgang(AppController &controller, const QDir &ordner, QStringList *meldungen)
-    : m_controller(controller)
+Rundgang::Rundgang(Oberflaeche &oberflaeche, const QDir &ordner, QStringList *meldungen)
+    : m_controller(oberflaeche.hauptfenster)
+    , m_rechner(oberflaeche.rechner)
     , m_ordner(ordner)
     , m_meldungen(meldungen)
 {
@@ -39,6 +40,8 @@ bool Rundgang::gehen()
                                          .arg(m_controller.DatenAnsicht->tabText(
                                              m_controller.DatenAnsicht->currentIndex())));
     }
+    rechne();
+    m_controller.zeigeAnsicht(AppController::ansichten.first());
     zeigeErscheinungsbild(Erscheinungsbild::Dunkel);
     halt(QStringLiteral("dark"), QStringLiteral("Switched to the dark appearance."));
     zeigeErscheinungsbild(m_controller.erscheinungsbild());
@@ -64,6 +67,33 @@ void Rundgang::setzeMenge(int gramm)
 {
     m_controller.lebensmittelmenge->setIntValue(gramm);
     m_controller.wieviellebensmittel(*m_controller.lebensmittelmenge);
+}
+
+/// Fills in both pages of the calculator for a client, as a user does with the sliders.
+void Rundgang::rechne()
+{
+    const std::pair<Schieber *, double> eingaben[] = {
+        {m_rechner.gewichtn, 80}, {m_rechner.groessen, 1.8}, {m_rechner.taillen, 71},
+        {m_rechner.hueftn, 86},   {m_rechner.alter, 42},     {m_rechner.zieher, 500},
+    };
+    for (const auto &[regler, zahl] : eingaben) {
+        regler->setDoubleValue(zahl);
+        Q_EMIT regler->betaetigt();
+    }
+    m_rechner.metrik(1);
+    m_controller.zeigeAnsicht(QStringLiteral("vier"));
+    halt(QStringLiteral("body"),
+         QStringLiteral("Client: BMI %1, %2 kcal per day.")
+             .arg(m_rechner.resultatbmi->stringValue(), m_rechner.resultatkal->stringValue()));
+    m_rechner.sport->setStringValue(m_rechner.sport->itemText(m_rechner.sport->count() / 2));
+    m_rechner.welchersport(*m_rechner.sport);
+    m_rechner.sportmenge->setDoubleValue(1.5);
+    m_rechner.wievielsport(*m_rechner.sportmenge);
+    m_controller.zeigeAnsicht(QStringLiteral("fünf"));
+    halt(QStringLiteral("lifestyle"),
+         QStringLiteral("%1 g of alcohol for %2 h; %3 takes %4 kcal.")
+             .arg(m_rechner.alkgramm->stringValue(), m_rechner.abbaudauer->stringValue(),
+                  m_rechner.sport->stringValue(), m_rechner.resultatsportkal->stringValue()));
 }
 
 void Rundgang::halt(const QString &name, const QString &worte)

@@ -1,5 +1,6 @@
 #include "Textfeld.h"
 
+#include <QCoreApplication>
 #include <QEvent>
 #include <QFocusEvent>
 #include <QGuiApplication>
@@ -78,6 +79,12 @@ void Textfeld::setUnit(const QString &unit)
     wertGesetzt();
 }
 
+void Textfeld::setUebersetzt(bool uebersetzt)
+{
+    m_uebersetzt = uebersetzt;
+    wertGesetzt();
+}
+
 void Textfeld::setTextColor(Textfarbe farbe)
 {
     if (m_farbe != farbe) {
@@ -148,6 +155,9 @@ QString Textfeld::zahlText(double zahl) const
 QString Textfeld::angezeigterText() const
 {
     const bool tippend = m_editable && hasFocus();
+    if (m_uebersetzt && !haeltZahl()) {
+        return QCoreApplication::translate("Mahlberg", stringValue().toUtf8().constData());
+    }
     return haeltZahl() && !m_unit.isEmpty() && !tippend
                ? stringValue() + QChar(QChar::Nbsp) + m_unit
                : stringValue();

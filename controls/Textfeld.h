@@ -24,6 +24,9 @@ class Textfeld : public QLineEdit, public Wertehalter
     Q_PROPERTY(bool trailingZeros READ trailingZeros WRITE setTrailingZeros)
     /// The unit behind a shown number, such as "mg"; empty for none.
     Q_PROPERTY(QString unit READ unit WRITE setUnit)
+    /// True: a held text is shown in the language of the windows. The field still holds the German
+    /// one, for rules that read it back.
+    Q_PROPERTY(bool uebersetzt READ uebersetzt WRITE setUebersetzt)
 
 public:
     explicit Textfeld(QWidget *parent = nullptr);
@@ -40,6 +43,8 @@ public:
     void setTrailingZeros(bool zeros);
     QString unit() const { return m_unit; }
     void setUnit(const QString &unit);
+    bool uebersetzt() const { return m_uebersetzt; }
+    void setUebersetzt(bool uebersetzt);
 
     Textfarbe textColor() const { return m_farbe; }
     void setTextColor(Textfarbe farbe);
@@ -71,6 +76,7 @@ private:
     int m_significantDigits = 0;
     bool m_trailingZeros = true;
     QString m_unit;
+    bool m_uebersetzt = false;
     Textfarbe m_farbe = Textfarbe::Standard;
     bool m_veraltet = false; ///< the shown text is older than the held value
 };
