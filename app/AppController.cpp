@@ -157,9 +157,14 @@ void AppController::verbindeSuche()
     m_tipppause.setSingleShot(true);
     m_tipppause.setInterval(tipppause);
     connect(suchfeld, &QLineEdit::textEdited, &m_tipppause, qOverload<>(&QTimer::start));
-    connect(suchfeld, &QLineEdit::returnPressed, &m_tipppause, &QTimer::stop);
     connect(suchfeld, &QLineEdit::returnPressed, this, [this] { suchen(*suchfeld); });
-    connect(&m_tipppause, &QTimer::timeout, this, [this] { suchen(*suchfeld); });
+    // Who types and leaves the box at once finds the results where they go to.
+    connect(suchfeld, &QLineEdit::editingFinished, this, [this] {
+        if (m_tipppause.isActive()) {
+            sucheGetipptes();
+        }
+    });
+    connect(&m_tipppause, &QTimer::timeout, this, &AppController::sucheGetipptes);
 
     suchprofileinaus->hide();
     schalteKriterien();
@@ -178,6 +183,9 @@ void AppController::verbindeSuche()
 
 void AppController::verbindeEigene()
 {
+    for (Textfeld *feld : m_wertfelder) {
+        feld->setNurZahlen(true); // they can be typed into while the save box is open
+    }
     connect(sichernaufzu, &QAbstractButton::clicked, this, &AppController::SichernFensterAuf);
     connect(sichernknopf, &QAbstractButton::clicked, this, &AppController::SicherneigeneLM);
     connect(loeschenknopf, &QAbstractButton::clicked, this, &AppController::LoescheneigeneLM);

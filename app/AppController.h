@@ -149,6 +149,7 @@ private:
     class Suchanzeige;
     void schalteKriterien();
     Profil gewaehltesProfil() const;
+    void sucheGetipptes();
     bool taste(int taste);
 
     // The meal plan

@@ -82,6 +82,11 @@ std::function<void()> AppController::werkzeugaktion(const QString &kennung)
             };
         }
     }
+    if (kennung == QLatin1String("loeschen")) {
+        return [this] {
+            LoescheneigeneLM();
+        };
+    }
     return {};
 }
 

@@ -1,16 +1,20 @@
 #include "Rundgang.h"
 
-#include "AppController.h"
 #include "Erscheinungsbild.h"
+#include "Oberflaeche.h"
 #include "Zeichenkettentabelle.h"
 
 #include <QApplication>
 #include <QFile>
 #include <QTextStream>
 
-Rundgang::Rundgang(AppController &controller, const QDir &ordner)
-    : m_controller(controller)
+#include <utility>
+
+Rundgang::Rundgang(Oberflaeche &oberflaeche, const QDir &ordner, QStringList *meldungen)
+    : m_controller(oberflaeche.hauptfenster)
+    , m_rechner(oberflaeche.rechner)
     , m_ordner(ordner)
+    , m_meldungen(meldungen)
 {
 }
 
@@ -36,6 +40,8 @@ bool Rundgang::gehen()
                                          .arg(m_controller.DatenAnsicht->tabText(
                                              m_controller.DatenAnsicht->currentIndex())));
     }
+    rechne();
+    m_controller.zeigeAnsicht(AppController::ansichten.first());
     zeigeErscheinungsbild(Erscheinungsbild::Dunkel);
     halt(QStringLiteral("dark"), QStringLiteral("Switched to the dark appearance."));
     zeigeErscheinungsbild(m_controller.erscheinungsbild());
@@ -63,10 +69,38 @@ void Rundgang::setzeMenge(int gramm)
     m_controller.wieviellebensmittel(*m_controller.lebensmittelmenge);
 }
 
+/// Fills in both pages of the calculator for a client, as a user does with the sliders.
+void Rundgang::rechne()
+{
+    const std::pair<Schieber *, double> eingaben[] = {
+        {m_rechner.gewichtn, 80}, {m_rechner.groessen, 1.8}, {m_rechner.taillen, 71},
+        {m_rechner.hueftn, 86},   {m_rechner.alter, 42},     {m_rechner.zieher, 500},
+    };
+    for (const auto &[regler, zahl] : eingaben) {
+        regler->setDoubleValue(zahl);
+        Q_EMIT regler->betaetigt();
+    }
+    m_rechner.metrik(1);
+    m_controller.zeigeAnsicht(QStringLiteral("vier"));
+    halt(QStringLiteral("body"),
+         QStringLiteral("Client: BMI %1, %2 kcal per day.")
+             .arg(m_rechner.resultatbmi->stringValue(), m_rechner.resultatkal->stringValue()));
+    m_rechner.sport->setStringValue(m_rechner.sport->itemText(m_rechner.sport->count() / 2));
+    m_rechner.welchersport(*m_rechner.sport);
+    m_rechner.sportmenge->setDoubleValue(1.5);
+    m_rechner.wievielsport(*m_rechner.sportmenge);
+    m_controller.zeigeAnsicht(QStringLiteral("fünf"));
+    halt(QStringLiteral("lifestyle"),
+         QStringLiteral("%1 g of alcohol for %2 h; %3 takes %4 kcal.")
+             .arg(m_rechner.alkgramm->stringValue(), m_rechner.abbaudauer->stringValue(),
+                  m_rechner.sport->stringValue(), m_rechner.resultatsportkal->stringValue()));
+}
+
 void Rundgang::halt(const QString &name, const QString &worte)
 {
     ++m_halt;
-    m_bericht << QStringLiteral("%1. %2").arg(m_halt).arg(worte) << angezeigteWerte() << QString();
+    m_bericht << QStringLiteral("%1. %2").arg(m_halt).arg(worte) << angezeigteWerte()
+              << neueMeldungen() << QString();
     bild(*m_controller.Hauptfenster,
          QStringLiteral("%1-%2.png").arg(m_halt, 2, 10, QLatin1Char('0')).arg(name));
 }
@@ -75,6 +109,17 @@ void Rundgang::bild(QWidget &fenster, const QString &name)
 {
     QApplication::processEvents();
     m_gelungen = fenster.grab().save(m_ordner.filePath(name)) && m_gelungen;
+}
+
+QStringList Rundgang::neueMeldungen()
+{
+    QStringList zeilen;
+    if (m_meldungen != nullptr) {
+        for (const QString &meldung : std::exchange(*m_meldungen, {})) {
+            zeilen << QStringLiteral("   Message: %1").arg(meldung);
+        }
+    }
+    return zeilen;
 }
 
 QString Rundgang::angezeigteWerte() const

@@ -1,7 +1,27 @@
 #include "Auswahlfeld.h"
 
+#include <QCompleter>
 #include <QLineEdit>
 #include <QSignalBlocker>
+#include <QStringListModel>
+
+namespace {
+
+/// Offers what its list holds, whatever was typed: the list is made anew with every letter.
+class Vorschlaege : public QCompleter
+{
+public:
+    explicit Vorschlaege(QObject *parent) : QCompleter(QStringList(), parent) {}
+
+    void setzeListe(const QStringList &liste)
+    {
+        static_cast<QStringListModel *>(model())->setStringList(liste);
+    }
+
+    QStringList splitPath(const QString & /*path*/) const override { return {QString()}; }
+};
+
+} // namespace
 
 Auswahlfeld::Auswahlfeld(QWidget *parent) : QComboBox(parent)
 {
@@ -23,6 +43,31 @@ void Auswahlfeld::setAuswahl(const QString &eintraege)
 {
     clear();
     addItems(eintraege.split(u'|'));
+}
+
+/// The chooser's own completion would take "wodka" for the entry "Wodka" by itself.
+void Auswahlfeld::setFreitext(bool frei)
+{
+    setEditable(frei);
+    if (!frei) {
+        return;
+    }
+    auto *vorschlaege = new Vorschlaege(this);
+    setCompleter(vorschlaege);
+    connect(lineEdit(), &QLineEdit::textEdited, vorschlaege,
+            [this, vorschlaege](const QString &text) {
+                vorschlaege->setzeListe(auswahl().split(u'|').filter(text, Qt::CaseInsensitive));
+            });
+    connect(lineEdit(), &QLineEdit::editingFinished, this, &Auswahlfeld::meldeEingabe);
+}
+
+/// An entry that was picked has been reported by then, and its text is no longer a typed one.
+void Auswahlfeld::meldeEingabe()
+{
+    if (lineEdit()->isModified()) {
+        lineEdit()->setModified(false);
+        Q_EMIT betaetigt();
+    }
 }
 
 void Auswahlfeld::textGeaendert(const QString &text)

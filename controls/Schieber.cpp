@@ -28,6 +28,8 @@ Schieber::Schieber(QWidget *parent)
     zeile->addWidget(m_eingabe);
     m_eingabe->setKeyboardTracking(false); // "30" is one amount, not first 3 and then 30
     m_eingabe->setAlignment(Qt::AlignRight);
+    // Sliders below one another end in line, whatever their numbers and units.
+    m_eingabe->setMinimumWidth(fontMetrics().horizontalAdvance(QStringLiteral("00000,00 Jahre")));
     setFocusProxy(m_regler);
     einteilen();
     connect(m_regler, &QSlider::valueChanged, this, &Schieber::reglerBewegt);
@@ -132,11 +134,26 @@ QString Schieber::zahlText(double zahl) const
     return locale.toString(zahl, 'g', QLocale::FloatingPointShortest);
 }
 
+/// The reader of the screen meets the two controls inside, so each says what it is for.
+void Schieber::benenne()
+{
+    m_regler->setAccessibleName(accessibleName());
+    m_eingabe->setAccessibleName(accessibleName());
+}
+
 bool Schieber::event(QEvent *event)
 {
+    if (event->type() == QEvent::Show) {
+        benenne();
+    }
     if (event->type() == auffrischen) {
         zeigen();
         return true;
+    }
+    if (event->type() == QEvent::Show) {
+        // Those who can't see the two controls hear their names, not the name of their frame.
+        m_regler->setAccessibleName(accessibleName());
+        m_eingabe->setAccessibleName(accessibleName());
     }
     return QWidget::event(event);
 }

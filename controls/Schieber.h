@@ -52,6 +52,7 @@ protected:
 private:
     void einteilen();
     void zeigen();
+    void benenne();
     void reglerBewegt(int stellung);
     void zahlEingegeben(double zahl);
 

@@ -1,5 +1,6 @@
 #include "Textfeld.h"
 
+#include <QCoreApplication>
 #include <QEvent>
 #include <QFocusEvent>
 #include <QGuiApplication>
@@ -45,6 +46,7 @@ void Textfeld::setEditable(bool editable)
     setFrame(editable);
     setFocusPolicy(editable ? Qt::StrongFocus : Qt::ClickFocus);
     einkleiden();
+    wertGesetzt();
 }
 
 void Textfeld::setNurZahlen(bool nurZahlen)
@@ -74,6 +76,12 @@ void Textfeld::setTrailingZeros(bool zeros)
 void Textfeld::setUnit(const QString &unit)
 {
     m_unit = unit;
+    wertGesetzt();
+}
+
+void Textfeld::setUebersetzt(bool uebersetzt)
+{
+    m_uebersetzt = uebersetzt;
     wertGesetzt();
 }
 
@@ -115,6 +123,14 @@ void Textfeld::wertGesetzt()
     }
 }
 
+double Textfeld::textZahl(const QString &text) const
+{
+    bool lesbar = false;
+    const double zahl =
+        nurZahlen() ? QLocale::c().toDouble(QString(text).replace(u',', u'.'), &lesbar) : 0;
+    return lesbar ? zahl : Wertehalter::textZahl(text);
+}
+
 QString Textfeld::zahlText(double zahl) const
 {
     if (m_decimals < 0) {
@@ -129,12 +145,19 @@ QString Textfeld::zahlText(double zahl) const
         stellen = std::clamp(m_significantDigits - 1 - fuehrend, m_decimals,
                              std::max(m_decimals, meisteNachkommastellen));
     }
-    return QLocale().toString(zahl, 'f', stellen);
+    QLocale locale;
+    if (m_editable) { // so that the text can be typed on
+        locale.setNumberOptions(QLocale::OmitGroupSeparator);
+    }
+    return locale.toString(zahl, 'f', stellen);
 }
 
 QString Textfeld::angezeigterText() const
 {
     const bool tippend = m_editable && hasFocus();
+    if (m_uebersetzt && !haeltZahl()) {
+        return QCoreApplication::translate("Mahlberg", stringValue().toUtf8().constData());
+    }
     return haeltZahl() && !m_unit.isEmpty() && !tippend
                ? stringValue() + QChar(QChar::Nbsp) + m_unit
                : stringValue();

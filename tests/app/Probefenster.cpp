@@ -68,6 +68,10 @@ Tueren Probeheim::tueren()
         meldungen << meldung;
         return antworten.isEmpty() ? 0 : antworten.takeFirst();
     };
+    tueren.protokolliere = [this](const QString &zeile) {
+        protokoll << zeile;
+        beimProtokoll();
+    };
     return tueren;
 }
 
@@ -96,6 +100,13 @@ void Probefenster::klickeDaneben() const
     const QWidget *flaeche = m_controller->Tabelle->viewport();
     QTest::mouseClick(m_controller->Tabelle->viewport(), Qt::LeftButton, {},
                       QPoint(20, flaeche->height() - 4));
+}
+
+void Probefenster::drueckeWerkzeug(const QString &kennung) const
+{
+    const Werkzeugleiste &leiste = *m_controller->toolbar;
+    const auto stelle = static_cast<int>(leiste.kennungen().indexOf(kennung));
+    QTest::mouseClick(leiste.werkzeugfeld(stelle), Qt::LeftButton);
 }
 
 void Probefenster::tippeMenge(const Schieber &schieber, const QString &gramm)

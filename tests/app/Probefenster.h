@@ -7,6 +7,7 @@
 #include <QTemporaryDir>
 #include <QTranslator>
 
+#include <functional>
 #include <memory>
 #include <utility>
 
@@ -36,6 +37,10 @@ public:
     Tueren tueren();
     QList<Meldung> meldungen;
     QList<int> antworten;
+    /// The lines that went to the system log; `beimProtokoll` runs at each.
+    QStringList protokoll;
+    std::function<void()> beimProtokoll = [] {
+    };
 
 private:
     QTemporaryDir m_ordner;
@@ -58,6 +63,9 @@ public:
     void klickeDaneben() const;
     /// The middle of the cell in the coordinates of the table's viewport.
     QPoint mitte(int zeile, int spalte) const;
+
+    /// Presses an item of the toolbar.
+    void drueckeWerkzeug(const QString &kennung) const;
 
     /// Types an amount behind the slider and presses Return.
     static void tippeMenge(const Schieber &schieber, const QString &gramm);
