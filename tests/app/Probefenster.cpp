@@ -167,6 +167,27 @@ Lebensmittelverzeichnis verzeichnis(const QList<Datenmodul> &lebensmittel)
     return alle;
 }
 
+QStringList inhalt(const Datenmodul &lebensmittel)
+{
+    QStringList felder = {lebensmittel.name()};
+    for (const auto &zeile : naehrwerte) {
+        felder << QString::number(static_cast<double>(lebensmittel.wert(zeile.wert)), 'g', 9);
+    }
+    for (const auto &zeile : wertungen) {
+        felder << lebensmittel.wertung(zeile.wertung);
+    }
+    return felder;
+}
+
+QList<QStringList> inhalt(const Lebensmittelverzeichnis &lebensmittel)
+{
+    QList<QStringList> alle;
+    for (auto eines = lebensmittel.begin(); eines != lebensmittel.end(); ++eines) {
+        alle << QStringList{eines.key()} + inhalt(*eines);
+    }
+    return alle;
+}
+
 QString zaehlname(int zeile)
 {
     return QStringLiteral("Speise %1").arg(zeile, 4, 10, QLatin1Char('0'));

@@ -100,6 +100,13 @@ Datenmodul lebensmittel(const QString &name, const Wertliste &werte = {},
 /// The foods by their names.
 Lebensmittelverzeichnis verzeichnis(const QList<Datenmodul> &lebensmittel);
 
+/// All that a record holds, to be compared and read: its name, its values to the last bit, its
+/// ratings.
+QStringList inhalt(const Datenmodul &lebensmittel);
+
+/// The same for all foods of a store, each with its key.
+QList<QStringList> inhalt(const Lebensmittelverzeichnis &lebensmittel);
+
 /// The name of the food in this row of a counted table: "Speise 0007".
 QString zaehlname(int zeile);
 
