@@ -68,13 +68,18 @@ Tueren Probeheim::tueren()
         meldungen << meldung;
         return antworten.isEmpty() ? 0 : antworten.takeFirst();
     };
+    tueren.protokolliere = [this](const QString &zeile) {
+        protokoll << zeile;
+        beimProtokoll();
+    };
     return tueren;
 }
 
 Probefenster::Probefenster(Probeheim &heim)
-    : m_controller(std::make_unique<AppController>(heim.tueren()))
+    : m_oberflaeche(std::make_unique<Oberflaeche>(heim.tueren()))
+    , m_controller(&m_oberflaeche->hauptfenster)
 {
-    m_controller->awakeFromNib();
+    m_oberflaeche->awakeFromNib();
     m_controller->Hauptfenster->show();
     QVERIFY(QTest::qWaitForWindowActive(m_controller->Hauptfenster));
 }
