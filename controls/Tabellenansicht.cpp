@@ -242,8 +242,8 @@ std::optional<int> Tabellenansicht::abwurfzeile(const QPoint &ort) const
 /// are always copied: what is dragged stays where it comes from.
 bool Tabellenansicht::pruefeAbwurf(QDropEvent &event)
 {
-    m_abwurfzeile =
-        event.mimeData()->hasText() ? abwurfzeile(event.position().toPoint()) : std::nullopt;
+    const bool text = event.mimeData()->hasFormat(m_modell->mimeTypes().constFirst());
+    m_abwurfzeile = text ? abwurfzeile(event.position().toPoint()) : std::nullopt;
     viewport()->update();
     if (!m_abwurfzeile) {
         event.ignore();

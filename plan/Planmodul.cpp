@@ -84,6 +84,11 @@ void Planmodul::ladeBilder()
 
 void Planmodul::verbinde()
 {
+    // These keys mean the plan only while it has the keyboard.
+    for (QAction *aktion : {aktionMenge, aktionEntfernen}) {
+        aktion->setShortcutContext(Qt::WidgetWithChildrenShortcut);
+        PlanTabelle->addAction(aktion);
+    }
     connect(PlanTabelle, &QAbstractItemView::clicked, this, &Planmodul::bearbeiteMenge);
     connect(aktionMenge, &QAction::triggered, this, [this] {
         const int spalte = PlanTabelle->modell()->spaltenstelle(QStringLiteral("menge"));
@@ -148,6 +153,9 @@ void Planmodul::nameimportvontoolbar(const QString &name)
 {
     anhaengen(name);
     uebernimmAenderung();
+    if (m_fenster != nullptr) {
+        PlanTabelle->scrollRowToVisible(numberOfRows() - 1);
+    }
 }
 
 void Planmodul::Lebensmittelentfernen()
