@@ -191,6 +191,7 @@ void AppController::verbindeEigene()
     connect(loeschenknopf, &QAbstractButton::clicked, this, &AppController::LoescheneigeneLM);
     connect(EingabeFensteruebernehmen, &QAbstractButton::clicked, this,
             &AppController::umschreibenDerEingabeFelder);
+    einfenster->installEventFilter(this);
     connect(EingabeFensterschliessen, &QAbstractButton::clicked, this,
             &AppController::Fensterschliessen);
     connect(EingabeFensterleeren, &QAbstractButton::clicked, this, [this] {
@@ -255,9 +256,15 @@ bool AppController::eventFilter(QObject *watched, QEvent *event)
 {
     if (watched == Hauptfenster && event->type() == QEvent::Close) {
         windowWillClose();
-    } else if (watched == suchfeld && event->type() == QEvent::KeyPress &&
-               taste(static_cast<QKeyEvent *>(event)->key())) {
-        return true;
+    } else if (event->type() == QEvent::KeyPress) {
+        const int gedrueckt = static_cast<QKeyEvent *>(event)->key();
+        if (watched == suchfeld && taste(gedrueckt)) {
+            return true;
+        }
+        if (watched == einfenster && gedrueckt == Qt::Key_Escape) {
+            Fensterschliessen();
+            return true;
+        }
     }
     return QObject::eventFilter(watched, event);
 }

@@ -47,7 +47,7 @@ bool istVollstaendig(const QString &pdf)
     QFile datei(pdf);
     return datei.open(QIODevice::ReadOnly) &&
            datei.seek(qMax<qint64>(0, datei.size() - endestelle)) &&
-           datei.readAll().contains("%%EOF");
+           datei.read(endestelle).contains("%%EOF");
 }
 
 QString fehler(QPrinter &drucker)

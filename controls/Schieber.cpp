@@ -134,18 +134,8 @@ QString Schieber::zahlText(double zahl) const
     return locale.toString(zahl, 'g', QLocale::FloatingPointShortest);
 }
 
-/// The reader of the screen meets the two controls inside, so each says what it is for.
-void Schieber::benenne()
-{
-    m_regler->setAccessibleName(accessibleName());
-    m_eingabe->setAccessibleName(accessibleName());
-}
-
 bool Schieber::event(QEvent *event)
 {
-    if (event->type() == QEvent::Show) {
-        benenne();
-    }
     if (event->type() == auffrischen) {
         zeigen();
         return true;

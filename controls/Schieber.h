@@ -52,7 +52,6 @@ protected:
 private:
     void einteilen();
     void zeigen();
-    void benenne();
     void reglerBewegt(int stellung);
     void zahlEingegeben(double zahl);
 

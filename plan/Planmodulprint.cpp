@@ -111,24 +111,29 @@ std::int32_t summe(const QList<float> &mengen)
 }
 
 /// Draws one line of text from the left upper corner of `platz`. Text that is wider than its place
-/// is narrowed, so that it runs neither over its neighbour nor off the paper.
+/// is narrowed, so that it runs neither into its neighbour nor off the paper.
 void zeichneText(QPainter &maler, const QRectF &platz, int groesse, const QString &text)
 {
     // How far letters reach above and below their line, in sizes: Ä and g of Helvetica.
     constexpr double hinauf = 0.92;
     constexpr double hinab = 0.23;
+    constexpr double spalt = 0.2; // what stays free before the neighbour
     // A font made this much larger and shrunk by the painter has its true widths on every device.
     constexpr int feinheit = 100;
 
-    QFont schrift(QStringLiteral("Helvetica"));
-    schrift.setPixelSize(groesse * feinheit);
-    schrift.setStyleStrategy(QFont::PreferOutline);
     QString ohneEnde = text;
     while (ohneEnde.endsWith(u' ')) {
         ohneEnde.chop(1);
     }
+    if (ohneEnde.isEmpty()) {
+        return;
+    }
+    QFont schrift(QStringLiteral("Helvetica"));
+    schrift.setPixelSize(groesse * feinheit);
+    schrift.setStyleStrategy(QFont::PreferOutline);
     const double breite = QFontMetricsF(schrift).horizontalAdvance(ohneEnde) / feinheit;
-    const double stauchung = breite > platz.width() ? platz.width() / breite : 1;
+    const double frei = platz.width() - spalt * groesse;
+    const double stauchung = frei > 0 && frei < breite ? frei / breite : 1;
     const double linie = std::min(hinauf * groesse, platz.height() - hinab * groesse);
 
     maler.save();

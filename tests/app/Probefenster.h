@@ -1,6 +1,6 @@
 #pragma once
 
-#include "AppController.h"
+#include "Oberflaeche.h"
 
 #include <QHash>
 #include <QSettings>
@@ -54,8 +54,10 @@ class Probefenster
 public:
     explicit Probefenster(Probeheim &heim);
 
-    AppController *operator->() const { return m_controller.get(); }
+    AppController *operator->() const { return m_controller; }
     AppController &controller() const { return *m_controller; }
+    AnthroController &rechner() const { return m_oberflaeche->rechner; }
+    Oberflaeche &oberflaeche() const { return *m_oberflaeche; }
 
     /// Clicks the cell with the mouse, after scrolling to it.
     void klicke(int zeile, int spalte) const;
@@ -82,7 +84,8 @@ public:
     QStringList gezeigteWerte() const;
 
 private:
-    std::unique_ptr<AppController> m_controller;
+    std::unique_ptr<Oberflaeche> m_oberflaeche;
+    AppController *m_controller;
 };
 
 /// The table's columns as a click counts them.
@@ -99,6 +102,13 @@ Datenmodul lebensmittel(const QString &name, const Wertliste &werte = {},
 
 /// The foods by their names.
 Lebensmittelverzeichnis verzeichnis(const QList<Datenmodul> &lebensmittel);
+
+/// All that a record holds, to be compared and read: its name, its values to the last bit, its
+/// ratings.
+QStringList inhalt(const Datenmodul &lebensmittel);
+
+/// The same for all foods of a store, each with its key.
+QList<QStringList> inhalt(const Lebensmittelverzeichnis &lebensmittel);
 
 /// The name of the food in this row of a counted table: "Speise 0007".
 QString zaehlname(int zeile);

@@ -155,8 +155,7 @@ void TestPlanmodulprintEinfach::whatIsWiderThanItsPlaceIsNarrowed()
     vergleiche(finde(worte, QStringLiteral("Reis")), 20, 0, 12);
     vergleiche(finde(worte, QStringLiteral("100")), 280, 0, 12);
     const Druckwort letztes = finde(worte, QStringLiteral("gekocht"));
-    QVERIFY(letztes.rechts < 280 + genau);
-    QVERIFY(letztes.rechts > 279);
+    QVERIFY(qAbs(letztes.rechts - (280 - 0.2 * 12)) < genau); // a little gap stays free
     QVERIFY(qAbs(letztes.groesse - 12) < genau);
 }
 
@@ -167,7 +166,7 @@ void TestPlanmodulprintEinfach::totalsThatAreTooWideStayOnThePaper()
     const Druckwort einheit = worte.last();
     QCOMPARE(einheit.text, QStringLiteral("kcal"));
     for (const Druckwort &wort : worte) {
-        QVERIFY2(wort.rechts < 595 + genau, qPrintable(wort.text));
+        QVERIFY2(wort.rechts < 595, qPrintable(wort.text));
     }
     QCOMPARE(finde(worte, QStringLiteral("50000")).seite, 1);
     QCOMPARE(finde(worte, QStringLiteral("123456")).seite, 1);
