@@ -92,8 +92,7 @@ void TestEigeneBlatt::trageEin(const QString &name, const QString &kilokalorien)
 void TestEigeneBlatt::withoutANameNothingHappens()
 {
     oeffne();
-    Probeplan plan;
-    controller().planmodul = &plan;
+    Probeplan &plan = Probeplan::bei(controller());
     controller().Fensterschliessen();
     m_fenster->klicke(1, inName);
     m_fenster->tippeMenge(QStringLiteral("30"));
@@ -368,8 +367,7 @@ void TestEigeneBlatt::theSheetStaysOpenAndKeepsItsText()
 void TestEigeneBlatt::thePlanIsToldFirst()
 {
     oeffne();
-    Probeplan plan;
-    controller().planmodul = &plan;
+    Probeplan &plan = Probeplan::bei(controller());
     bool vorher = false;
     plan.beimSichern = [this, &vorher] {
         vorher = controller().KundenArray.isEmpty() && controller().KundenDictionary.isEmpty() &&

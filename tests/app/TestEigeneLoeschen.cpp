@@ -102,8 +102,7 @@ void TestEigeneLoeschen::onlyOwnFoodsCanBeDeleted()
 {
     QFETCH(QString, anzeige);
     oeffne({a, b, c});
-    Probeplan plan;
-    controller().planmodul = &plan;
+    Probeplan &plan = Probeplan::bei(controller());
     const QByteArray vorher = bytes();
     controller().feldA->setStringValue(anzeige);
     m_heim->antworten = {ja};
@@ -161,8 +160,7 @@ void TestEigeneLoeschen::theTextsAreTranslated()
 void TestEigeneLoeschen::noLeavesAllAsItIs()
 {
     oeffne({a, b, c});
-    Probeplan plan;
-    controller().planmodul = &plan;
+    Probeplan &plan = Probeplan::bei(controller());
     m_fenster->klicke(1, inEigen);
     const QByteArray vorher = bytes();
     m_heim->antworten = {nein};
@@ -218,8 +216,7 @@ void TestEigeneLoeschen::everyWayToDelete()
 void TestEigeneLoeschen::thePlanIsToldLast()
 {
     oeffne({a, b});
-    Probeplan plan;
-    controller().planmodul = &plan;
+    Probeplan &plan = Probeplan::bei(controller());
     bool zuletzt = false;
     plan.beimLoeschen = [this, &zuletzt] {
         zuletzt = controller().KundenArray == QStringList{b} &&
@@ -286,8 +283,7 @@ void TestEigeneLoeschen::theListLosesTheSelectedRow()
 void TestEigeneLoeschen::beyondTheListNothingIsLost()
 {
     oeffne({a, b});
-    Probeplan plan;
-    controller().planmodul = &plan;
+    Probeplan &plan = Probeplan::bei(controller());
     m_fenster->klicke(0, inEigen);
     controller().Tabelle->selectRow(7);
     m_heim->antworten = {ja};

@@ -192,8 +192,7 @@ void TestEigeneSichern::onlyAHundredGramsCanBeSaved()
 void TestEigeneSichern::thePlanGetsWhatStandsInTheSheet()
 {
     oeffne();
-    Probeplan plan;
-    controller().planmodul = &plan;
+    Probeplan &plan = Probeplan::bei(controller());
     m_fenster->klicke(1, inName);
     oeffneKasten();
     sichere();
