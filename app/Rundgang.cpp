@@ -8,10 +8,13 @@
 #include <QFile>
 #include <QTextStream>
 
-Rundgang::Rundgang(Oberflaeche &oberflaeche, const QDir &ordner)
+#include <utility>
+
+Rundgang::Rundgang(Oberflaeche &oberflaeche, const QDir &ordner, QStringList *meldungen)
     : m_controller(oberflaeche.hauptfenster)
     , m_rechner(oberflaeche.rechner)
     , m_ordner(ordner)
+    , m_meldungen(meldungen)
 {
 }
 
@@ -96,7 +99,8 @@ void Rundgang::rechne()
 void Rundgang::halt(const QString &name, const QString &worte)
 {
     ++m_halt;
-    m_bericht << QStringLiteral("%1. %2").arg(m_halt).arg(worte) << angezeigteWerte() << QString();
+    m_bericht << QStringLiteral("%1. %2").arg(m_halt).arg(worte) << angezeigteWerte()
+              << neueMeldungen() << QString();
     bild(*m_controller.Hauptfenster,
          QStringLiteral("%1-%2.png").arg(m_halt, 2, 10, QLatin1Char('0')).arg(name));
 }
@@ -105,6 +109,17 @@ void Rundgang::bild(QWidget &fenster, const QString &name)
 {
     QApplication::processEvents();
     m_gelungen = fenster.grab().save(m_ordner.filePath(name)) && m_gelungen;
+}
+
+QStringList Rundgang::neueMeldungen()
+{
+    QStringList zeilen;
+    if (m_meldungen != nullptr) {
+        for (const QString &meldung : std::exchange(*m_meldungen, {})) {
+            zeilen << QStringLiteral("   Message: %1").arg(meldung);
+        }
+    }
+    return zeilen;
 }
 
 QString Rundgang::angezeigteWerte() const

@@ -14,7 +14,9 @@ class QWidget;
 class Rundgang
 {
 public:
-    Rundgang(Oberflaeche &oberflaeche, const QDir &ordner);
+    /// `meldungen` holds what the program had to say and nobody was there to read; each stop takes
+    /// its messages from there into the summary. Null: there are none.
+    Rundgang(Oberflaeche &oberflaeche, const QDir &ordner, QStringList *meldungen = nullptr);
 
     /// Goes the whole way. False when a picture or the summary could not be written.
     bool gehen();
@@ -26,10 +28,12 @@ private:
     void halt(const QString &name, const QString &worte);
     void bild(QWidget &fenster, const QString &name);
     QString angezeigteWerte() const;
+    QStringList neueMeldungen();
 
     AppController &m_controller;
     AnthroController &m_rechner;
     QDir m_ordner;
+    QStringList *m_meldungen;
     QStringList m_bericht;
     int m_halt = 0;
     bool m_gelungen = true;

@@ -68,16 +68,24 @@ int main(int argc, char **argv)
                               : auftrag.sprache);
     zeigeErscheinungsbild(gemerktesErscheinungsbild(*einstellungen));
 
+    // On the tour nobody is there to press a button: messages go into its summary.
+    QStringList ungelesen;
+    const Meldungstuer niemand = [&ungelesen](QWidget *, const Meldung &meldung) {
+        ungelesen << (QStringList{meldung.text, meldung.erklaerung} + meldung.knoepfe)
+                         .join(QStringLiteral(" | "));
+        return 0;
+    };
+
     Oberflaeche oberflaeche({
         .eingebauteTabelle = QStringLiteral(":/DatabaseIII.daten"),
         .datenordner = eigenesHeim ? Datenordner(eigenesHeim->path()) : Datenordner(),
-        .melde = zeigeMeldung,
+        .melde = eigenesHeim ? niemand : Meldungstuer(zeigeMeldung),
         .protokolliere = [](const QString &zeile) { qCDebug(protokoll).noquote() << zeile; },
         .einstellungen = einstellungen.get(),
     });
     oberflaeche.awakeFromNib();
     if (!auftrag.rundgang.isNull()) {
-        return Rundgang(oberflaeche, QDir(auftrag.rundgang)).gehen() ? 0 : 1;
+        return Rundgang(oberflaeche, QDir(auftrag.rundgang), &ungelesen).gehen() ? 0 : 1;
     }
     QObject::connect(&oberflaeche.hauptfenster, &AppController::beendet, &app, &QApplication::quit);
     oberflaeche.hauptfenster.Hauptfenster->show();

@@ -46,6 +46,7 @@ void Textfeld::setEditable(bool editable)
     setFrame(editable);
     setFocusPolicy(editable ? Qt::StrongFocus : Qt::ClickFocus);
     einkleiden();
+    wertGesetzt();
 }
 
 void Textfeld::setNurZahlen(bool nurZahlen)
@@ -63,6 +64,12 @@ void Textfeld::setDecimals(int decimals)
 void Textfeld::setSignificantDigits(int digits)
 {
     m_significantDigits = digits;
+    wertGesetzt();
+}
+
+void Textfeld::setTrailingZeros(bool zeros)
+{
+    m_trailingZeros = zeros;
     wertGesetzt();
 }
 
@@ -116,10 +123,21 @@ void Textfeld::wertGesetzt()
     }
 }
 
+double Textfeld::textZahl(const QString &text) const
+{
+    bool lesbar = false;
+    const double zahl =
+        nurZahlen() ? QLocale::c().toDouble(QString(text).replace(u',', u'.'), &lesbar) : 0;
+    return lesbar ? zahl : Wertehalter::textZahl(text);
+}
+
 QString Textfeld::zahlText(double zahl) const
 {
     if (m_decimals < 0) {
         return Wertehalter::zahlText(zahl);
+    }
+    if (!m_trailingZeros && zahl == std::trunc(zahl)) {
+        return QLocale().toString(zahl, 'f', 0);
     }
     int stellen = m_decimals;
     if (m_significantDigits > 0 && zahl != 0 && std::isfinite(zahl)) {
@@ -127,7 +145,11 @@ QString Textfeld::zahlText(double zahl) const
         stellen = std::clamp(m_significantDigits - 1 - fuehrend, m_decimals,
                              std::max(m_decimals, meisteNachkommastellen));
     }
-    return QLocale().toString(zahl, 'f', stellen);
+    QLocale locale;
+    if (m_editable) { // so that the text can be typed on
+        locale.setNumberOptions(QLocale::OmitGroupSeparator);
+    }
+    return locale.toString(zahl, 'f', stellen);
 }
 
 QString Textfeld::angezeigterText() const

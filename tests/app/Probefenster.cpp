@@ -103,6 +103,13 @@ void Probefenster::klickeDaneben() const
                       QPoint(20, flaeche->height() - 4));
 }
 
+void Probefenster::drueckeWerkzeug(const QString &kennung) const
+{
+    const Werkzeugleiste &leiste = *m_controller->toolbar;
+    const auto stelle = static_cast<int>(leiste.kennungen().indexOf(kennung));
+    QTest::mouseClick(leiste.werkzeugfeld(stelle), Qt::LeftButton);
+}
+
 void Probefenster::tippeMenge(const Schieber &schieber, const QString &gramm)
 {
     QDoubleSpinBox *eingabe = schieber.eingabe();
@@ -157,6 +164,27 @@ Lebensmittelverzeichnis verzeichnis(const QList<Datenmodul> &lebensmittel)
     Lebensmittelverzeichnis alle;
     for (const Datenmodul &eines : lebensmittel) {
         alle.insert(eines.name(), eines);
+    }
+    return alle;
+}
+
+QStringList inhalt(const Datenmodul &lebensmittel)
+{
+    QStringList felder = {lebensmittel.name()};
+    for (const auto &zeile : naehrwerte) {
+        felder << QString::number(static_cast<double>(lebensmittel.wert(zeile.wert)), 'g', 9);
+    }
+    for (const auto &zeile : wertungen) {
+        felder << lebensmittel.wertung(zeile.wertung);
+    }
+    return felder;
+}
+
+QList<QStringList> inhalt(const Lebensmittelverzeichnis &lebensmittel)
+{
+    QList<QStringList> alle;
+    for (auto eines = lebensmittel.begin(); eines != lebensmittel.end(); ++eines) {
+        alle << QStringList{eines.key()} + inhalt(*eines);
     }
     return alle;
 }

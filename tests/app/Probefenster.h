@@ -66,6 +66,9 @@ public:
     /// The middle of the cell in the coordinates of the table's viewport.
     QPoint mitte(int zeile, int spalte) const;
 
+    /// Presses an item of the toolbar.
+    void drueckeWerkzeug(const QString &kennung) const;
+
     /// Types an amount behind the slider and presses Return.
     static void tippeMenge(const Schieber &schieber, const QString &gramm);
     void tippeMenge(const QString &gramm) const { tippeMenge(*(*this)->lebensmittelmenge, gramm); }
@@ -99,6 +102,13 @@ Datenmodul lebensmittel(const QString &name, const Wertliste &werte = {},
 
 /// The foods by their names.
 Lebensmittelverzeichnis verzeichnis(const QList<Datenmodul> &lebensmittel);
+
+/// All that a record holds, to be compared and read: its name, its values to the last bit, its
+/// ratings.
+QStringList inhalt(const Datenmodul &lebensmittel);
+
+/// The same for all foods of a store, each with its key.
+QList<QStringList> inhalt(const Lebensmittelverzeichnis &lebensmittel);
 
 /// The name of the food in this row of a counted table: "Speise 0007".
 QString zaehlname(int zeile);
