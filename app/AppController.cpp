@@ -55,6 +55,7 @@ AppController::AppController(Tueren tueren)
 
 AppController::~AppController()
 {
+    delete planmodul;
     delete Hauptfenster;
 }
 
@@ -266,19 +267,4 @@ bool AppController::eventFilter(QObject *watched, QEvent *event)
         }
     }
     return QObject::eventFilter(watched, event);
-}
-
-Textfarbe textfarbe(Ampel ampel)
-{
-    switch (ampel) {
-    case Ampel::Rot:
-        return Textfarbe::Rot;
-    case Ampel::Blau:
-        return Textfarbe::Blau;
-    case Ampel::Gruen:
-        return Textfarbe::Gruen;
-    case Ampel::Schwarz:
-        break;
-    }
-    return Textfarbe::Schwarz;
 }

@@ -3,6 +3,7 @@
 
 #include "AppController.h"
 
+#include "Ampelfarbe.h"
 #include "Bedarfsbeurteilung.h"
 #include "Energieanteile.h"
 #include "Relationen.h"

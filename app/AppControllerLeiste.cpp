@@ -68,20 +68,19 @@ Werkzeug AppController::toolbarItem(const QString &kennung)
 
 std::function<void()> AppController::werkzeugaktion(const QString &kennung)
 {
-    if (kennung == QLatin1String("customize")) {
-        return [this] {
-            Leisteanpassen();
-        };
-    }
-    if (kennung == QLatin1String("bildschirm")) {
-        return [this] {
-            Ansichtdurchwechseln();
-        };
-    }
-    if (kennung == QLatin1String("neu")) {
-        return [this] {
-            Fenster();
-        };
+    const std::pair<const char *, void (AppController::*)()> aktionen[] = {
+        {"plan1", &AppController::Planmoduloeffnen},
+        {"export", &AppController::toolbarlebensmittelweitergabe},
+        {"customize", &AppController::Leisteanpassen},
+        {"bildschirm", &AppController::Ansichtdurchwechseln},
+        {"neu", &AppController::Fenster},
+    };
+    for (const auto &[name, aktion] : aktionen) {
+        if (kennung == QLatin1String(name)) {
+            return [this, aktion = aktion] {
+                (this->*aktion)();
+            };
+        }
     }
     if (kennung == QLatin1String("loeschen")) {
         return [this] {

@@ -1,5 +1,6 @@
 #include "Textfeld.h"
 
+#include <QCoreApplication>
 #include <QEvent>
 #include <QFocusEvent>
 #include <QGuiApplication>
@@ -66,9 +67,21 @@ void Textfeld::setSignificantDigits(int digits)
     wertGesetzt();
 }
 
+void Textfeld::setTrailingZeros(bool zeros)
+{
+    m_trailingZeros = zeros;
+    wertGesetzt();
+}
+
 void Textfeld::setUnit(const QString &unit)
 {
     m_unit = unit;
+    wertGesetzt();
+}
+
+void Textfeld::setUebersetzt(bool uebersetzt)
+{
+    m_uebersetzt = uebersetzt;
     wertGesetzt();
 }
 
@@ -123,6 +136,9 @@ QString Textfeld::zahlText(double zahl) const
     if (m_decimals < 0) {
         return Wertehalter::zahlText(zahl);
     }
+    if (!m_trailingZeros && zahl == std::trunc(zahl)) {
+        return QLocale().toString(zahl, 'f', 0);
+    }
     int stellen = m_decimals;
     if (m_significantDigits > 0 && zahl != 0 && std::isfinite(zahl)) {
         const int fuehrend = static_cast<int>(std::floor(std::log10(std::fabs(zahl))));
@@ -139,6 +155,9 @@ QString Textfeld::zahlText(double zahl) const
 QString Textfeld::angezeigterText() const
 {
     const bool tippend = m_editable && hasFocus();
+    if (m_uebersetzt && !haeltZahl()) {
+        return QCoreApplication::translate("Mahlberg", stringValue().toUtf8().constData());
+    }
     return haeltZahl() && !m_unit.isEmpty() && !tippend
                ? stringValue() + QChar(QChar::Nbsp) + m_unit
                : stringValue();

@@ -20,8 +20,13 @@ class Textfeld : public QLineEdit, public Wertehalter
     /// Small numbers get more digits behind the comma until this many that matter are seen
     /// (0: never); so 0.012 mg does not show as 0.
     Q_PROPERTY(int significantDigits READ significantDigits WRITE setSignificantDigits)
+    /// False: a whole number is shown without digits behind the comma.
+    Q_PROPERTY(bool trailingZeros READ trailingZeros WRITE setTrailingZeros)
     /// The unit behind a shown number, such as "mg"; empty for none.
     Q_PROPERTY(QString unit READ unit WRITE setUnit)
+    /// True: a held text is shown in the language of the windows. The field still holds the German
+    /// one, for rules that read it back.
+    Q_PROPERTY(bool uebersetzt READ uebersetzt WRITE setUebersetzt)
 
 public:
     explicit Textfeld(QWidget *parent = nullptr);
@@ -34,8 +39,12 @@ public:
     void setDecimals(int decimals);
     int significantDigits() const { return m_significantDigits; }
     void setSignificantDigits(int digits);
+    bool trailingZeros() const { return m_trailingZeros; }
+    void setTrailingZeros(bool zeros);
     QString unit() const { return m_unit; }
     void setUnit(const QString &unit);
+    bool uebersetzt() const { return m_uebersetzt; }
+    void setUebersetzt(bool uebersetzt);
 
     Textfarbe textColor() const { return m_farbe; }
     void setTextColor(Textfarbe farbe);
@@ -65,7 +74,9 @@ private:
     bool m_editable = false;
     int m_decimals = -1;
     int m_significantDigits = 0;
+    bool m_trailingZeros = true;
     QString m_unit;
+    bool m_uebersetzt = false;
     Textfarbe m_farbe = Textfarbe::Standard;
     bool m_veraltet = false; ///< the shown text is older than the held value
 };

@@ -76,9 +76,10 @@ Tueren Probeheim::tueren()
 }
 
 Probefenster::Probefenster(Probeheim &heim)
-    : m_controller(std::make_unique<AppController>(heim.tueren()))
+    : m_oberflaeche(std::make_unique<Oberflaeche>(heim.tueren()))
+    , m_controller(&m_oberflaeche->hauptfenster)
 {
-    m_controller->awakeFromNib();
+    m_oberflaeche->awakeFromNib();
     m_controller->Hauptfenster->show();
     QVERIFY(QTest::qWaitForWindowActive(m_controller->Hauptfenster));
 }

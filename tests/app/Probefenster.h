@@ -1,6 +1,6 @@
 #pragma once
 
-#include "AppController.h"
+#include "Oberflaeche.h"
 
 #include <QHash>
 #include <QSettings>
@@ -54,8 +54,10 @@ class Probefenster
 public:
     explicit Probefenster(Probeheim &heim);
 
-    AppController *operator->() const { return m_controller.get(); }
+    AppController *operator->() const { return m_controller; }
     AppController &controller() const { return *m_controller; }
+    AnthroController &rechner() const { return m_oberflaeche->rechner; }
+    Oberflaeche &oberflaeche() const { return *m_oberflaeche; }
 
     /// Clicks the cell with the mouse, after scrolling to it.
     void klicke(int zeile, int spalte) const;
@@ -82,7 +84,8 @@ public:
     QStringList gezeigteWerte() const;
 
 private:
-    std::unique_ptr<AppController> m_controller;
+    std::unique_ptr<Oberflaeche> m_oberflaeche;
+    AppController *m_controller;
 };
 
 /// The table's columns as a click counts them.
