@@ -55,9 +55,15 @@ void baueAblage(AppController &controller)
     eintrag(ablage, QT_TRANSLATE_NOOP("Mahlberg", "Eigenes Lebensmittel &löschen …"), {},
             [&controller] { controller.LoescheneigeneLM(); });
     ablage.addSeparator();
+    eintrag(ablage, QT_TRANSLATE_NOOP("Mahlberg", "In den Mahlzeiten&plan"),
+            QKeySequence(QStringLiteral("Ctrl+Return")),
+            [&controller] { controller.toolbarlebensmittelweitergabe(); });
+    ablage.addSeparator();
+    // A key of its own, which not every desktop has for this; from the plan's window as well.
     eintrag(ablage, QT_TRANSLATE_NOOP("Mahlberg", "&Beenden"),
-            QKeySequence(QStringLiteral("Ctrl+Q")), // not every desktop has a key of its own for it
-            [&controller] { controller.Hauptfenster->close(); });
+            QKeySequence(QStringLiteral("Ctrl+Q")),
+            [&controller] { controller.Hauptfenster->close(); })
+        ->setShortcutContext(Qt::ApplicationShortcut);
 }
 
 void baueBearbeiten(AppController &controller)
@@ -166,6 +172,10 @@ void baueFenster(AppController &controller)
     eintrag(fenster, QT_TRANSLATE_NOOP("Mahlberg", "&Vollbild"),
             QKeySequence(QStringLiteral("F11")),
             [haupt] { haupt->setWindowState(haupt->windowState() ^ Qt::WindowFullScreen); });
+    fenster.addSeparator();
+    eintrag(fenster, QT_TRANSLATE_NOOP("Mahlberg", "Mahlzeiten&plan"),
+            QKeySequence(QStringLiteral("Ctrl+0")),
+            [&controller] { controller.Planmoduloeffnen(); });
 }
 
 void baueHilfe(AppController &controller)

@@ -28,6 +28,8 @@ Schieber::Schieber(QWidget *parent)
     zeile->addWidget(m_eingabe);
     m_eingabe->setKeyboardTracking(false); // "30" is one amount, not first 3 and then 30
     m_eingabe->setAlignment(Qt::AlignRight);
+    // Sliders below one another end in line, whatever their numbers and units.
+    m_eingabe->setMinimumWidth(fontMetrics().horizontalAdvance(QStringLiteral("00000,00 Jahre")));
     setFocusProxy(m_regler);
     einteilen();
     connect(m_regler, &QSlider::valueChanged, this, &Schieber::reglerBewegt);

@@ -1,108 +1,23 @@
 #include "Tabellenansicht.h"
 
+#include "Tabellenkopf.h"
+#include "Zellenmaler.h"
+
 #include <QDrag>
+#include <QDragMoveEvent>
 #include <QHeaderView>
 #include <QKeyEvent>
 #include <QMimeData>
 #include <QMouseEvent>
 #include <QPainter>
-#include <QStyledItemDelegate>
 
 #include <utility>
-
-namespace {
-
-constexpr int zellenrand = 6;
-
-/// Paints a cell as its controller pictured it. The chosen food is marked by a border, not by a
-/// coloured row: a row holds three foods, and only one of them is on display.
-class Zellenmaler : public QStyledItemDelegate
-{
-public:
-    explicit Zellenmaler(Tabellenansicht *tabelle)
-        : QStyledItemDelegate(tabelle)
-        , m_tabelle(tabelle)
-    {
-    }
-
-    void paint(QPainter *painter, const QStyleOptionViewItem &option,
-               const QModelIndex &index) const override
-    {
-        const Zellenbild bild = m_tabelle->modell()->bild(index);
-        painter->save();
-        const bool gerade = (option.features & QStyleOptionViewItem::Alternate) != 0;
-        painter->fillRect(option.rect,
-                          gerade ? option.palette.alternateBase() : option.palette.base());
-        if (m_tabelle->gitter()) {
-            maleGitter(*painter, option);
-        }
-        if (bild.umrandet) {
-            maleRand(*painter, option);
-        }
-        maleText(*painter, option, bild);
-        if ((option.state & QStyle::State_HasFocus) != 0 && !bild.umrandet) {
-            maleTastaturmarke(*painter, option);
-        }
-        painter->restore();
-    }
-
-private:
-    static void maleGitter(QPainter &painter, const QStyleOptionViewItem &option)
-    {
-        const QRect &zelle = option.rect;
-        painter.setPen(QPen(option.palette.color(QPalette::Mid), 0));
-        painter.drawLine(zelle.topRight(), zelle.bottomRight());
-        painter.setPen(QPen(option.palette.color(QPalette::Mid), 0, Qt::DashLine));
-        painter.drawLine(zelle.bottomLeft(), zelle.bottomRight());
-    }
-
-    static void maleRand(QPainter &painter, const QStyleOptionViewItem &option)
-    {
-        painter.setPen(QPen(option.palette.color(QPalette::Highlight), 2));
-        painter.drawRect(QRectF(option.rect).adjusted(1.5, 1.5, -2.5, -2.5));
-    }
-
-    static void maleTastaturmarke(QPainter &painter, const QStyleOptionViewItem &option)
-    {
-        painter.setPen(QPen(option.palette.color(QPalette::Highlight), 1, Qt::DotLine));
-        painter.drawRect(option.rect.adjusted(1, 1, -3, -3));
-    }
-
-    static void maleText(QPainter &painter, const QStyleOptionViewItem &option,
-                         const Zellenbild &bild)
-    {
-        QRect platz = option.rect.adjusted(zellenrand, 0, -zellenrand, 0);
-        painter.setPen(option.palette.color(QPalette::Text));
-        painter.setFont(option.font);
-        QString rest = bild.text;
-        if (bild.anfang && !bild.text.isEmpty()) {
-            const qsizetype zeichen = bild.text.at(0).isHighSurrogate() ? 2 : 1;
-            const QString anfang = bild.text.left(zeichen);
-            rest = bild.text.mid(zeichen);
-            QFont schrift = option.font;
-            if (bild.anfangspunkte > 0) {
-                schrift.setPointSize(bild.anfangspunkte);
-            }
-            painter.setFont(schrift);
-            painter.setPen(farbeFuer(*bild.anfang, option.palette));
-            painter.drawText(platz, Qt::AlignLeft | Qt::AlignVCenter, anfang);
-            platz.setLeft(platz.left() + painter.fontMetrics().horizontalAdvance(anfang));
-            painter.setFont(option.font);
-            painter.setPen(option.palette.color(QPalette::Text));
-        }
-        painter.drawText(platz, Qt::AlignLeft | Qt::AlignVCenter,
-                         option.fontMetrics.elidedText(rest, Qt::ElideRight, platz.width()));
-    }
-
-    Tabellenansicht *m_tabelle;
-};
-
-} // namespace
 
 Tabellenansicht::Tabellenansicht(QWidget *parent)
     : QTableView(parent)
     , m_modell(new Tabellenmodell(this))
 {
+    setHorizontalHeader(new Tabellenkopf(this));
     setModel(m_modell);
     setItemDelegate(new Zellenmaler(this));
     setSelectionMode(QAbstractItemView::SingleSelection);
@@ -115,7 +30,6 @@ Tabellenansicht::Tabellenansicht(QWidget *parent)
     setWordWrap(false);
     verticalHeader()->hide();
     verticalHeader()->setMinimumSectionSize(8);
-    horizontalHeader()->setHighlightSections(false);
 }
 
 void Tabellenansicht::setQuelle(Tabellenquelle *quelle, const QList<Spalte> &spalten)
@@ -152,6 +66,13 @@ QItemSelectionModel::SelectionFlags Tabellenansicht::selectionCommand(const QMod
     return QTableView::selectionCommand(index, event);
 }
 
+/// In place of what was selected; a whole row where rows are selected.
+QItemSelectionModel::SelectionFlags Tabellenansicht::neueAuswahl() const
+{
+    const QItemSelectionModel::SelectionFlags neu = QItemSelectionModel::ClearAndSelect;
+    return selectionBehavior() == SelectRows ? neu | QItemSelectionModel::Rows : neu;
+}
+
 void Tabellenansicht::setzeSchreibmarke(int zeile, const QString &kennung)
 {
     const QModelIndex index = m_modell->index(zeile, m_modell->spaltenstelle(kennung));
@@ -172,9 +93,9 @@ void Tabellenansicht::selectRow(int zeile)
         return;
     }
     if (nurMitReturn(m_clickedColumn)) { // who walks through results finds the cursor there again
-        selectionModel()->select(index, QItemSelectionModel::ClearAndSelect);
+        selectionModel()->select(index, neueAuswahl());
     } else {
-        selectionModel()->setCurrentIndex(index, QItemSelectionModel::ClearAndSelect);
+        selectionModel()->setCurrentIndex(index, neueAuswahl());
     }
     viewport()->update();
 }
@@ -192,6 +113,12 @@ void Tabellenansicht::scrollRowToVisible(int zeile)
 void Tabellenansicht::setGitter(bool gitter)
 {
     m_gitter = gitter;
+    viewport()->update();
+}
+
+void Tabellenansicht::setHinweis(const QString &hinweis)
+{
+    m_hinweis = hinweis;
     viewport()->update();
 }
 
@@ -255,8 +182,11 @@ void Tabellenansicht::keyPressEvent(QKeyEvent *event)
     if (!jetzt.isValid()) {
         return;
     }
-    if (bestaetigt) {
-        selectionModel()->select(jetzt, QItemSelectionModel::ClearAndSelect);
+    if (bestaetigt && state() != EditingState && editTriggers() != NoEditTriggers &&
+        (m_modell->flags(jetzt) & Qt::ItemIsEditable) != 0) {
+        edit(jetzt);
+    } else if (bestaetigt) {
+        selectionModel()->select(jetzt, neueAuswahl());
         melde(jetzt.column());
     } else if (jetzt != vorher && !nurMitReturn(jetzt.column())) {
         melde(jetzt.column());
@@ -283,9 +213,98 @@ void Tabellenansicht::startDrag(Qt::DropActions supportedActions)
     }
     // The press has selected what is being dragged. The food on display stays chosen.
     m_gedrueckt = false;
-    selectionModel()->setCurrentIndex(m_vorDruck, QItemSelectionModel::ClearAndSelect);
+    selectionModel()->setCurrentIndex(m_vorDruck, neueAuswahl());
     viewport()->update();
     auto *zug = new QDrag(this);
     zug->setMimeData(daten);
     zug->exec(supportedActions | Qt::CopyAction, Qt::CopyAction);
+}
+
+std::optional<int> Tabellenansicht::abwurfzeile(const QPoint &ort) const
+{
+    if (m_modell->quelle() == nullptr) {
+        return std::nullopt;
+    }
+    const int unter = rowAt(ort.y());
+    if (unter < 0) {
+        return m_modell->quelle()->validateDrop(m_modell->rowCount(), false);
+    }
+    // The edges of a row are meant where the mouse is near them, else the row itself.
+    const int oben = rowViewportPosition(unter);
+    const int rand = rowHeight() / 4;
+    const bool obererRand = ort.y() < oben + rand;
+    const bool untererRand = ort.y() >= oben + rowHeight() - rand;
+    return m_modell->quelle()->validateDrop(untererRand ? unter + 1 : unter,
+                                            !obererRand && !untererRand);
+}
+
+/// Answers a drag over the table, and remembers where it would go. Only texts are taken, and they
+/// are always copied: what is dragged stays where it comes from.
+bool Tabellenansicht::pruefeAbwurf(QDropEvent &event)
+{
+    const bool text = event.mimeData()->hasFormat(m_modell->mimeTypes().constFirst());
+    m_abwurfzeile = text ? abwurfzeile(event.position().toPoint()) : std::nullopt;
+    viewport()->update();
+    if (!m_abwurfzeile) {
+        event.ignore();
+        return false;
+    }
+    event.setDropAction(Qt::CopyAction);
+    event.accept();
+    return true;
+}
+
+void Tabellenansicht::dragEnterEvent(QDragEnterEvent *event)
+{
+    QTableView::dragEnterEvent(event);
+    pruefeAbwurf(*event);
+}
+
+void Tabellenansicht::dragMoveEvent(QDragMoveEvent *event)
+{
+    QTableView::dragMoveEvent(event); // scrolls near the edges
+    pruefeAbwurf(*event);
+}
+
+void Tabellenansicht::dragLeaveEvent(QDragLeaveEvent *event)
+{
+    m_abwurfzeile.reset();
+    QTableView::dragLeaveEvent(event);
+}
+
+void Tabellenansicht::dropEvent(QDropEvent *event)
+{
+    const bool angenommen = pruefeAbwurf(*event);
+    const int zeile = m_abwurfzeile.value_or(0);
+    const QString text = event->mimeData()->text(); // what is dragged may be gone afterwards
+    QDragLeaveEvent ende;
+    dragLeaveEvent(&ende); // stops the scrolling and takes the line away
+    if (angenommen) {
+        m_modell->quelle()->acceptDrop(zeile, text);
+    }
+}
+
+/// The upper edge of a row, or the lower edge of the last one.
+int Tabellenansicht::oberkante(int zeile) const
+{
+    const int zeilen = m_modell->rowCount();
+    return zeile < zeilen ? rowViewportPosition(zeile)
+           : zeilen > 0   ? rowViewportPosition(zeilen - 1) + rowHeight()
+                          : 0;
+}
+
+void Tabellenansicht::paintEvent(QPaintEvent *event)
+{
+    QTableView::paintEvent(event);
+    QPainter painter(viewport());
+    if (m_modell->rowCount() == 0 && !m_hinweis.isEmpty()) {
+        painter.setPen(palette().color(QPalette::PlaceholderText));
+        painter.drawText(viewport()->rect(), Qt::AlignCenter | Qt::TextWordWrap, m_hinweis);
+    }
+    if (m_abwurfzeile) {
+        constexpr int strich = 3;
+        const int y = qMax(1, oberkante(*m_abwurfzeile));
+        painter.fillRect(0, y - strich / 2, viewport()->width(), strich,
+                         palette().color(QPalette::Highlight));
+    }
 }

@@ -5,8 +5,11 @@
 #include <QPersistentModelIndex>
 #include <QTableView>
 
+#include <optional>
+
 /// A table that follows its controller (`Tabellenquelle`). A cell is chosen with the mouse or the
-/// arrow keys; the action then finds the chosen row and the column in which it was chosen.
+/// arrow keys; the action then finds the chosen row and the column in which it was chosen. Where
+/// the controller takes drops (and `acceptDrops` is on), a line shows where they go.
 class Tabellenansicht : public QTableView
 {
     Q_OBJECT
@@ -14,6 +17,8 @@ class Tabellenansicht : public QTableView
     Q_PROPERTY(bool gitter READ gitter WRITE setGitter)
     /// Height of a row in points of the layout.
     Q_PROPERTY(int rowHeight READ rowHeight WRITE setRowHeight)
+    /// What stands in the middle of a table without rows.
+    Q_PROPERTY(QString hinweis READ hinweis WRITE setHinweis)
 
 public:
     explicit Tabellenansicht(QWidget *parent = nullptr);
@@ -46,7 +51,14 @@ public:
     int rowHeight() const;
     void setRowHeight(int hoehe);
 
+    QString hinweis() const { return m_hinweis; }
+    void setHinweis(const QString &hinweis);
+
     Tabellenmodell *modell() const { return m_modell; }
+
+    /// The row above which something dropped at this place of the table would stand; absent when
+    /// nothing can be dropped there.
+    std::optional<int> abwurfzeile(const QPoint &ort) const;
 
     /// What a drag from this place of the table carries, null when nothing can be dragged there:
     /// the row that was pressed, the column that lies under the mouse.
@@ -66,9 +78,17 @@ protected:
     QItemSelectionModel::SelectionFlags selectionCommand(const QModelIndex &index,
                                                          const QEvent *event) const override;
     void startDrag(Qt::DropActions supportedActions) override;
+    void dragEnterEvent(QDragEnterEvent *event) override;
+    void dragMoveEvent(QDragMoveEvent *event) override;
+    void dragLeaveEvent(QDragLeaveEvent *event) override;
+    void dropEvent(QDropEvent *event) override;
+    void paintEvent(QPaintEvent *event) override;
 
 private:
+    QItemSelectionModel::SelectionFlags neueAuswahl() const;
     void melde(int spalte);
+    bool pruefeAbwurf(QDropEvent &event);
+    int oberkante(int zeile) const;
     bool nurMitReturn(int spalte) const;
 
     Tabellenmodell *m_modell;
@@ -76,6 +96,8 @@ private:
     int m_gewaehlt = -1;
     int m_clickedColumn = -1;
     bool m_gitter = false;
+    QString m_hinweis;
+    std::optional<int> m_abwurfzeile; ///< while something is held over the table
     QPoint m_mausort;
     int m_gedrueckteZeile = -1;
     bool m_gedrueckt = false;         ///< the left button is down, and no drag has begun

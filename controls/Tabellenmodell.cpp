@@ -14,6 +14,15 @@ QString Tabellenquelle::writeRows(const QString &, int)
 
 Tabellenmodell::Tabellenmodell(QObject *parent) : QAbstractTableModel(parent) {}
 
+void Tabellenquelle::setObjectValue(const QString &, int, const QString &) {}
+
+std::optional<int> Tabellenquelle::validateDrop(int, bool)
+{
+    return std::nullopt;
+}
+
+void Tabellenquelle::acceptDrop(int, const QString &) {}
+
 void Tabellenmodell::setQuelle(Tabellenquelle *quelle, const QList<Spalte> &spalten)
 {
     beginResetModel();
@@ -82,31 +91,66 @@ int Tabellenmodell::columnCount(const QModelIndex &parent) const
     return parent.isValid() ? 0 : static_cast<int>(m_spalten.size());
 }
 
+/// What stands in the cell is what is painted there; what the user edits is the value behind it.
 QVariant Tabellenmodell::data(const QModelIndex &index, int role) const
 {
     if (m_quelle == nullptr || !index.isValid() || index.row() >= m_zeilen) {
         return {};
     }
-    if (role == Qt::DisplayRole) {
-        const QString wert = m_quelle->objectValue(kennung(index.column()), index.row());
-        return wert.isNull() ? QVariant() : QVariant(wert);
+    const QString spalte = kennung(index.column());
+    if (role == Qt::DisplayRole || role == Qt::EditRole) {
+        const QString wert = m_quelle->objectValue(spalte, index.row());
+        if (wert.isNull()) {
+            return {};
+        }
+        return role == Qt::EditRole ? wert
+                                    : m_quelle->willDisplayCell(spalte, index.row(), wert).text;
+    }
+    if (role == Qt::TextAlignmentRole) {
+        return QVariant::fromValue(m_spalten[index.column()].ausrichtung);
     }
     return {};
+}
+
+bool Tabellenmodell::setData(const QModelIndex &index, const QVariant &wert, int role)
+{
+    if (role != Qt::EditRole || (flags(index) & Qt::ItemIsEditable) == 0) {
+        return false;
+    }
+    m_quelle->setObjectValue(kennung(index.column()), index.row(), wert.toString());
+    // One value moves others of its row with it.
+    Q_EMIT dataChanged(index.siblingAtColumn(0), index.siblingAtColumn(columnCount() - 1));
+    return true;
 }
 
 QVariant Tabellenmodell::headerData(int section, Qt::Orientation orientation, int role) const
 {
-    if (orientation == Qt::Horizontal && role == Qt::DisplayRole && section >= 0 &&
-        section < m_spalten.size()) {
-        return m_spalten[section].titel;
+    if (orientation != Qt::Horizontal || section < 0 || section >= m_spalten.size()) {
+        return {};
     }
-    return {};
+    const Spalte &spalte = m_spalten[section];
+    const auto wennVorhanden = [](const QString &text) {
+        return text.isNull() ? QVariant() : QVariant(text);
+    };
+    switch (role) {
+    case Qt::DisplayRole:
+        return spalte.titel;
+    case Qt::ToolTipRole:
+        return wennVorhanden(spalte.erklaerung);
+    case kurztitelrolle:
+        return wennVorhanden(spalte.kurztitel);
+    default:
+        return {};
+    }
 }
 
 Qt::ItemFlags Tabellenmodell::flags(const QModelIndex &index) const
 {
-    return index.isValid() ? Qt::ItemIsEnabled | Qt::ItemIsSelectable | Qt::ItemIsDragEnabled
-                           : Qt::NoItemFlags;
+    if (!index.isValid()) {
+        return Qt::NoItemFlags;
+    }
+    const Qt::ItemFlags jede = Qt::ItemIsEnabled | Qt::ItemIsSelectable | Qt::ItemIsDragEnabled;
+    return m_spalten[index.column()].bearbeitbar ? jede | Qt::ItemIsEditable : jede;
 }
 
 QStringList Tabellenmodell::mimeTypes() const

@@ -23,6 +23,10 @@ struct Spalte
 {
     QString kennung;
     QString titel;
+    QString kurztitel = {};  ///< what is left of the title in a narrow column; null: the title
+    QString erklaerung = {}; ///< what the heading says when the mouse rests on it; null: nothing
+    Qt::Alignment ausrichtung = Qt::AlignLeft | Qt::AlignVCenter;
+    bool bearbeitbar = false; ///< true: the user can type into its cells
 };
 
 /// What a controller answers for its table. Rows beyond the controller's lists give absent values.
@@ -42,6 +46,17 @@ public:
     /// The text that a drag of this cell carries; null: nothing can be dragged from here.
     virtual QString writeRows(const QString &spalte, int zeile);
 
+    /// The user has typed a text into a cell of an editable column.
+    virtual void setObjectValue(const QString &spalte, int zeile, const QString &text);
+
+    /// Something is held over a row, on it (`auf`) or over the edge above it; below all rows it is
+    /// the edge above the row that does not exist yet. Answers above which row it is going to
+    /// stand; absent when the table takes nothing.
+    virtual std::optional<int> validateDrop(int zeile, bool auf);
+
+    /// A text was dropped above this row.
+    virtual void acceptDrop(int zeile, const QString &text);
+
 protected:
     Tabellenquelle() = default;
     Tabellenquelle(const Tabellenquelle &) = default;
@@ -55,6 +70,9 @@ class Tabellenmodell : public QAbstractTableModel
     Q_OBJECT
 
 public:
+    /// A column's short title; invalid when it has none.
+    static constexpr int kurztitelrolle = Qt::UserRole;
+
     explicit Tabellenmodell(QObject *parent = nullptr);
 
     void setQuelle(Tabellenquelle *quelle, const QList<Spalte> &spalten);
@@ -62,6 +80,7 @@ public:
 
     QString kennung(int spalte) const;
     int spaltenstelle(const QString &kennung) const;
+    Tabellenquelle *quelle() const { return m_quelle; }
     Zellenbild bild(const QModelIndex &index) const;
 
     /// What a drag of this cell carries; null outside of the table and where nothing can be
@@ -72,6 +91,7 @@ public:
     int columnCount(const QModelIndex &parent = {}) const override;
     QVariant data(const QModelIndex &index, int role) const override;
     QVariant headerData(int section, Qt::Orientation orientation, int role) const override;
+    bool setData(const QModelIndex &index, const QVariant &wert, int role) override;
     Qt::ItemFlags flags(const QModelIndex &index) const override;
     QStringList mimeTypes() const override;
 

@@ -51,7 +51,7 @@ void TestRundgang::everyStopHasItsPictureAndItsWords()
     heim.schreibeTabelle(zaehltabelle(40));
     const Probefenster fenster(heim);
     const QDir ordner(heim.pfad(QStringLiteral("a/tour"))); // made with the folders above it
-    QVERIFY(Rundgang(fenster.controller(), ordner).gehen());
+    QVERIFY(Rundgang(fenster.oberflaeche(), ordner).gehen());
     const QStringList bilder = ordner.entryList({QStringLiteral("*.png")}, QDir::Files, QDir::Name);
     const QStringList worte = halte(lies(ordner.filePath(QStringLiteral("summary.txt"))));
     QVERIFY(bilder.size() >= 11);
@@ -79,7 +79,7 @@ void TestRundgang::theSummaryTellsWhatIsSeen()
     heim.schreibeTabelle(zaehltabelle(40));
     const Probefenster fenster(heim);
     const QDir ordner(heim.pfad(QStringLiteral("tour")));
-    QVERIFY(Rundgang(fenster.controller(), ordner).gehen());
+    QVERIFY(Rundgang(fenster.oberflaeche(), ordner).gehen());
     const QString bericht = lies(ordner.filePath(QStringLiteral("summary.txt")));
     QVERIFY(halte(bericht)[0].contains(QStringLiteral("40 rows")));
     for (const int zeile : {8, 20, 32}) {
@@ -91,6 +91,8 @@ void TestRundgang::theSummaryTellsWhatIsSeen()
     for (int i = 0; i < 5; ++i) {
         QVERIFY(bericht.contains(fenster->DatenAnsicht->tabText(i)));
     }
+    QVERIFY(bericht.contains(QStringLiteral("BMI 24,69, 2.112 kcal per day")));
+    QVERIFY(bericht.contains(QStringLiteral("20,0 g of alcohol for 5,0 h")));
     QVERIFY(heim.meldungen.isEmpty());
 }
 
@@ -100,7 +102,7 @@ void TestRundgang::itLeavesTheSettingsAndFilesAlone()
     heim.schreibeTabelle(zaehltabelle(40));
     heim.einstellungen().setValue(QStringLiteral("Erscheinungsbild"), 1);
     const Probefenster fenster(heim);
-    QVERIFY(Rundgang(fenster.controller(), QDir(heim.pfad(QStringLiteral("tour")))).gehen());
+    QVERIFY(Rundgang(fenster.oberflaeche(), QDir(heim.pfad(QStringLiteral("tour")))).gehen());
     QCOMPARE(heim.einstellungen().value(QStringLiteral("Erscheinungsbild")).toInt(), 1);
     QVERIFY(fenster->erscheinungsbild() == Erscheinungsbild::Hell);
 }
@@ -110,7 +112,7 @@ void TestRundgang::itGoesAlsoWithoutFoods()
     Probeheim heim;
     const Probefenster fenster(heim);
     const QDir ordner(heim.pfad(QStringLiteral("tour")));
-    QVERIFY(Rundgang(fenster.controller(), ordner).gehen());
+    QVERIFY(Rundgang(fenster.oberflaeche(), ordner).gehen());
     QVERIFY(
         lies(ordner.filePath(QStringLiteral("summary.txt"))).contains(QStringLiteral("0 rows")));
 }
@@ -122,7 +124,7 @@ void TestRundgang::aFolderThatCantBeMadeIsReported()
     const Probefenster fenster(heim);
     QFile imWeg(heim.pfad(QStringLiteral("tour")));
     QVERIFY(imWeg.open(QIODevice::WriteOnly));
-    QVERIFY(!Rundgang(fenster.controller(), QDir(heim.pfad(QStringLiteral("tour/hier")))).gehen());
+    QVERIFY(!Rundgang(fenster.oberflaeche(), QDir(heim.pfad(QStringLiteral("tour/hier")))).gehen());
 }
 
 QTEST_MAIN(TestRundgang)

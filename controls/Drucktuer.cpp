@@ -1,0 +1,185 @@
+#include "Drucktuer.h"
+
+#include "Seiteneinrichtung.h"
+
+#include <QCoreApplication>
+#include <QFile>
+#include <QPaintEngine>
+#include <QPainter>
+#include <QPrintPreviewDialog>
+#include <QPrinter>
+#include <QSettings>
+
+#include <algorithm>
+
+namespace {
+
+constexpr double punkteJeZoll = 72;
+
+QString uebersetzt(const char *text)
+{
+    return QCoreApplication::translate("Mahlberg", text);
+}
+
+/// The paper with the margins that hold: the chosen ones, but no smaller than the printer's own.
+QPageLayout bedruckbareSeite(const QPrinter &drucker)
+{
+    QPageLayout seite = drucker.pageLayout();
+    seite.setUnits(QPageLayout::Point);
+    const QMarginsF gewaehlt = seite.margins();
+    const QMarginsF kleinste = seite.minimumMargins();
+    seite.setMode(QPageLayout::StandardMode);
+    seite.setMinimumMargins({});
+    seite.setMargins(gewaehlt | kleinste);
+    return seite;
+}
+
+bool schreibtPdf(QPrinter &drucker)
+{
+    return drucker.paintEngine()->type() == QPaintEngine::Pdf &&
+           !drucker.outputFileName().isEmpty();
+}
+
+/// A full disk goes unnoticed while a PDF is written, but then its end is missing.
+bool istVollstaendig(const QString &pdf)
+{
+    constexpr qint64 endestelle = 32;
+    QFile datei(pdf);
+    return datei.open(QIODevice::ReadOnly) &&
+           datei.seek(qMax<qint64>(0, datei.size() - endestelle)) &&
+           datei.read(endestelle).contains("%%EOF");
+}
+
+QString fehler(QPrinter &drucker)
+{
+    if (schreibtPdf(drucker)) {
+        return uebersetzt(QT_TRANSLATE_NOOP("Mahlberg",
+                                            "Die Datei „%1“ lässt sich nicht schreiben. Vielleicht "
+                                            "ist der Ordner geschützt oder kein Platz mehr frei."))
+            .arg(drucker.outputFileName());
+    }
+    return uebersetzt(QT_TRANSLATE_NOOP("Mahlberg",
+                                        "Der Drucker „%1“ nimmt den Auftrag nicht an. Vielleicht "
+                                        "ist er ausgeschaltet oder nicht mehr angeschlossen."))
+        .arg(drucker.printerName());
+}
+
+bool maleSeiten(QPrinter &drucker, const Druckauftrag &auftrag, const QPageLayout &seite,
+                const QList<int> &folge)
+{
+    QPainter maler;
+    if (!maler.begin(&drucker)) {
+        return false;
+    }
+    for (qsizetype i = 0; i < folge.size(); ++i) {
+        if (i > 0 && !drucker.newPage()) {
+            return false;
+        }
+        maler.save();
+        maler.scale(drucker.logicalDpiX() / punkteJeZoll, drucker.logicalDpiY() / punkteJeZoll);
+        auftrag.male(maler, seite, folge[i]);
+        maler.restore();
+    }
+    return maler.end() && drucker.printerState() != QPrinter::Error;
+}
+
+/// The preview needs its printer from its first to its last moment.
+struct Druckerhalter
+{
+    QPrinter drucker{QPrinter::HighResolution};
+};
+
+class Druckvorschau : private Druckerhalter, public QPrintPreviewDialog
+{
+public:
+    Druckvorschau(const QPageLayout &seite, const Druckauftrag &auftrag, const Meldungstuer &melde,
+                  QWidget *fenster)
+        : QPrintPreviewDialog(eingerichtet(drucker, seite, auftrag.titel), fenster)
+    {
+        connect(this, &QPrintPreviewDialog::paintRequested, this,
+                [this, auftrag, melde](QPrinter *geraet) {
+                    if (const auto grund = drucke(*geraet, auftrag)) {
+                        melde(this, {uebersetzt(QT_TRANSLATE_NOOP(
+                                         "Mahlberg", "Das Drucken ist nicht gelungen.")),
+                                     *grund,
+                                     {uebersetzt("ok")}});
+                    }
+                });
+    }
+
+    QPageLayout seite() const { return drucker.pageLayout(); }
+
+private:
+    static QPrinter *eingerichtet(QPrinter &geraet, const QPageLayout &seite, const QString &titel)
+    {
+        QPageLayout ganz = seite;
+        ganz.setMode(
+            QPageLayout::FullPageMode); // else a margin smaller than the printer's is refused
+        geraet.setPageLayout(ganz);
+        geraet.setDocName(titel);
+        return &geraet;
+    }
+};
+
+} // namespace
+
+QList<int> druckfolge(int seitenzahl, const QPageRanges &bereiche, bool letzteZuerst, int kopien)
+{
+    QList<int> einmal;
+    for (int nummer = 1; nummer <= seitenzahl; ++nummer) {
+        if (bereiche.isEmpty() || bereiche.contains(nummer)) {
+            einmal << nummer;
+        }
+    }
+    if (letzteZuerst) {
+        std::reverse(einmal.begin(), einmal.end());
+    }
+    QList<int> folge;
+    for (int i = 0; i < kopien; ++i) {
+        folge << einmal;
+    }
+    return folge;
+}
+
+void passeEin(QPainter &maler, const QRectF &quelle, const QRectF &ziel)
+{
+    if (quelle.isEmpty() || ziel.isEmpty()) {
+        return;
+    }
+    const double mass = std::min(ziel.width() / quelle.width(), ziel.height() / quelle.height());
+    maler.translate(ziel.topLeft());
+    maler.scale(mass, mass);
+    maler.translate(-quelle.topLeft());
+}
+
+std::optional<QString> drucke(QPrinter &drucker, const Druckauftrag &auftrag)
+{
+    drucker.setFullPage(true); // the painter's origin is the paper's corner
+    const QPageLayout seite = bedruckbareSeite(drucker);
+    const bool auswahl = drucker.printRange() == QPrinter::PageRange;
+    const QList<int> folge =
+        druckfolge(auftrag.seitenzahl(seite), auswahl ? drucker.pageRanges() : QPageRanges(),
+                   drucker.pageOrder() == QPrinter::LastPageFirst,
+                   drucker.supportsMultipleCopies() ? 1 : drucker.copyCount());
+    if (folge.isEmpty()) {
+        return uebersetzt(QT_TRANSLATE_NOOP("Mahlberg", "Die gewählten Seiten gibt es nicht."));
+    }
+    if (!maleSeiten(drucker, auftrag, seite, folge) ||
+        (schreibtPdf(drucker) && !istVollstaendig(drucker.outputFileName()))) {
+        return fehler(drucker);
+    }
+    return {};
+}
+
+Drucktuer systemdrucktuer(QSettings &einstellungen, const Meldungstuer &melde)
+{
+    return [&einstellungen, melde](QWidget *fenster, const Druckauftrag &auftrag) {
+        auto *vorschau = new Druckvorschau(gemerkteSeite(einstellungen), auftrag, melde, fenster);
+        vorschau->setAttribute(Qt::WA_DeleteOnClose);
+        vorschau->setWindowModality(Qt::ApplicationModal); // what is printed stays as it is
+        QObject::connect(vorschau, &QDialog::finished, vorschau, [vorschau, &einstellungen] {
+            merkeSeite(einstellungen, vorschau->seite());
+        });
+        vorschau->show();
+    };
+}

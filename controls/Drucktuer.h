@@ -1,0 +1,49 @@
+#pragma once
+
+#include "Meldung.h"
+
+#include <QPageLayout>
+#include <QPageRanges>
+#include <QString>
+
+#include <functional>
+#include <optional>
+
+class QPainter;
+class QPrinter;
+class QSettings;
+class QWidget;
+
+/// Something to be printed. It may be painted several times, on a screen for a preview as well as
+/// on paper, and on another paper each time.
+struct Druckauftrag
+{
+    /// How the print is called in the preview, in a printer's queue and in a PDF.
+    QString titel;
+    /// How many pages it takes on such a paper.
+    std::function<int(const QPageLayout &seite)> seitenzahl;
+    /// Paints a page, counted from 1. The painter's unit is the point, its origin the paper's top
+    /// left corner, and nothing is to stand outside of the margins.
+    std::function<void(QPainter &maler, const QPageLayout &seite, int nummer)> male;
+};
+
+/// Prints over a window, after asking the user how. Made in `main`, so that a test can print to a
+/// file without being asked.
+using Drucktuer = std::function<void(QWidget *fenster, const Druckauftrag &auftrag)>;
+
+/// The door that shows a preview with the page setup, and from there the system's print dialog or,
+/// without a printer, the question for a PDF. Paper, orientation and margins come from the settings
+/// and go back there. Printing that fails is told through `melde`; cancelling does nothing. The
+/// settings outlive the door.
+Drucktuer systemdrucktuer(QSettings &einstellungen, const Meldungstuer &melde);
+
+/// Prints on a printer as it is set up: its paper, its range of pages, their order and copies.
+/// Returns what went wrong, in the user's language, and nothing when all went well.
+std::optional<QString> drucke(QPrinter &drucker, const Druckauftrag &auftrag);
+
+/// The numbers of the pages in the order in which they leave the printer. No ranges mean all pages.
+QList<int> druckfolge(int seitenzahl, const QPageRanges &bereiche, bool letzteZuerst, int kopien);
+
+/// Moves and shrinks the painter's coordinates so that `quelle` lies within `ziel` as large as it
+/// can, at its top left corner, with its proportions kept.
+void passeEin(QPainter &maler, const QRectF &quelle, const QRectF &ziel);

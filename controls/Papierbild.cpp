@@ -1,0 +1,113 @@
+#include "Papierbild.h"
+
+#include <QApplication>
+#include <QPainter>
+#include <QPalette>
+#include <QWidget>
+
+#include <array>
+
+namespace {
+
+/// Pictures within the part are kept with this many pixels for each point of the layout.
+constexpr int feinheit = 8;
+
+/// A part of a window has no margin of its own; half an inch, in points.
+constexpr double kleinsterRand = 36;
+
+// The lines above the picture, in points.
+constexpr std::array<double, 2> schriftgroessen = {16, 11};
+constexpr double zeilenabstand = 1.3;
+constexpr double luecke = 10;
+
+QPalette papierpalette()
+{
+    QPalette palette;
+    for (const auto rolle : {QPalette::Window, QPalette::Base, QPalette::AlternateBase,
+                             QPalette::Button, QPalette::Light, QPalette::Midlight}) {
+        palette.setColor(rolle, Qt::white);
+    }
+    for (const auto rolle : {QPalette::WindowText, QPalette::Text, QPalette::ButtonText}) {
+        palette.setColor(rolle, Qt::black);
+        palette.setColor(QPalette::Disabled, rolle, QColor(0x55, 0x55, 0x55));
+    }
+    palette.setColor(QPalette::PlaceholderText, QColor(0x55, 0x55, 0x55));
+    palette.setColor(QPalette::Mid, QColor(0xaa, 0xaa, 0xaa));
+    palette.setColor(QPalette::Dark, QColor(0x88, 0x88, 0x88));
+    palette.setColor(QPalette::Shadow, QColor(0x66, 0x66, 0x66));
+    // What is selected on the screen is nothing special on paper.
+    palette.setColor(QPalette::Highlight, Qt::white);
+    palette.setColor(QPalette::HighlightedText, Qt::black);
+    return palette;
+}
+
+/// Dresses the whole program for paper while it lives. A colour that carries a verdict is chosen
+/// for the program's palette, so a palette for the part alone would not do. Nothing of this is
+/// seen: the windows are painted again when everything is as it was.
+class Papierkleid
+{
+public:
+    Papierkleid() { QApplication::setPalette(papierpalette()); }
+    ~Papierkleid() { QApplication::setPalette(m_vorher); }
+    Papierkleid(const Papierkleid &) = delete;
+    Papierkleid &operator=(const Papierkleid &) = delete;
+
+private:
+    QPalette m_vorher = QApplication::palette();
+};
+
+/// Writes the lines from the top of `platz` down and returns the height that they take.
+double maleUeberschriften(QPainter &maler, const QRectF &platz, const QStringList &zeilen)
+{
+    double unten = platz.top();
+    for (qsizetype i = 0; i < zeilen.size(); ++i) {
+        const double groesse = schriftgroessen[i == 0 ? 0 : 1];
+        QFont schrift(QStringLiteral("Helvetica"));
+        schrift.setPixelSize(static_cast<int>(groesse));
+        maler.setFont(schrift);
+        maler.setPen(Qt::black);
+        unten += groesse * zeilenabstand;
+        maler.drawText(QPointF(platz.left(), unten - groesse * (zeilenabstand - 1)), zeilen[i]);
+    }
+    return zeilen.isEmpty() ? 0 : unten - platz.top() + luecke;
+}
+
+/// Where a page has room for a picture of a window.
+QRectF platzAuf(const QPageLayout &seite)
+{
+    const QRectF papier = seite.fullRect(QPageLayout::Point);
+    const QMarginsF rand(kleinsterRand, kleinsterRand, kleinsterRand, kleinsterRand);
+    return papier.marginsRemoved(seite.margins(QPageLayout::Point) | rand);
+}
+
+} // namespace
+
+Papierbild::Papierbild(QWidget &flaeche) : m_groesse(flaeche.size())
+{
+    const Papierkleid kleid;
+    QPainter maler(&m_bild);
+    maler.scale(feinheit, feinheit);
+    flaeche.render(&maler, QPoint(), QRegion(), QWidget::DrawChildren);
+}
+
+void Papierbild::male(QPainter &maler, const QRectF &ziel) const
+{
+    maler.save();
+    passeEin(maler, QRectF(QPointF(), m_groesse), ziel);
+    // A picture enlarges itself by the resolution of what it is drawn on.
+    maler.scale(1.0 * m_bild.logicalDpiX() / maler.device()->logicalDpiX() / feinheit,
+                1.0 * m_bild.logicalDpiY() / maler.device()->logicalDpiY() / feinheit);
+    maler.drawPicture(0, 0, m_bild);
+    maler.restore();
+}
+
+Druckauftrag bildauftrag(const QStringList &ueberschriften, QWidget &flaeche)
+{
+    const Papierbild bild(flaeche);
+    return {ueberschriften.value(0), [](const QPageLayout &) { return 1; },
+            [ueberschriften, bild](QPainter &maler, const QPageLayout &seite, int) {
+                QRectF platz = platzAuf(seite);
+                platz.setTop(platz.top() + maleUeberschriften(maler, platz, ueberschriften));
+                bild.male(maler, platz);
+            }};
+}

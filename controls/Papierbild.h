@@ -1,0 +1,31 @@
+#pragma once
+
+#include "Drucktuer.h"
+
+#include <QPicture>
+#include <QSizeF>
+#include <QStringList>
+
+class QWidget;
+
+/// How a part of a window looks on paper: as on the screen at the moment of asking, but black on
+/// white under every theme, and drawn in lines and letters rather than in pixels.
+class Papierbild
+{
+public:
+    explicit Papierbild(QWidget &flaeche);
+
+    /// The size of the part on the screen, in points of the layout.
+    QSizeF groesse() const { return m_groesse; }
+
+    /// Draws the picture into `ziel`, as large as it fits there, at its top left corner.
+    void male(QPainter &maler, const QRectF &ziel) const;
+
+private:
+    QPicture m_bild;
+    QSizeF m_groesse;
+};
+
+/// A print of a part of a window as it looks now, on one page, below lines that say what it is. The
+/// first of them is the name of the print.
+Druckauftrag bildauftrag(const QStringList &ueberschriften, QWidget &flaeche);

@@ -1,0 +1,134 @@
+#include "Zellenmaler.h"
+
+#include "Tabellenansicht.h"
+
+#include <QLineEdit>
+#include <QPainter>
+
+namespace {
+
+constexpr int zellenrand = 6;
+
+bool istBearbeitbar(const QModelIndex &index)
+{
+    return (index.flags() & Qt::ItemIsEditable) != 0;
+}
+
+Qt::Alignment ausrichtung(const QModelIndex &index)
+{
+    return index.data(Qt::TextAlignmentRole).value<Qt::Alignment>();
+}
+
+void maleRand(QPainter &painter, const QStyleOptionViewItem &option)
+{
+    painter.setPen(QPen(option.palette.color(QPalette::Highlight), 2));
+    painter.drawRect(QRectF(option.rect).adjusted(1.5, 1.5, -2.5, -2.5));
+}
+
+void maleEingabefeld(QPainter &painter, const QStyleOptionViewItem &option)
+{
+    painter.setPen(QPen(option.palette.color(QPalette::Mid), 1));
+    painter.setBrush(option.palette.base());
+    painter.drawRect(QRectF(option.rect).adjusted(1.5, 1.5, -2.5, -2.5));
+    painter.setBrush(Qt::NoBrush);
+}
+
+void maleTastaturmarke(QPainter &painter, const QStyleOptionViewItem &option)
+{
+    painter.setPen(QPen(option.palette.color(QPalette::Highlight), 1, Qt::DotLine));
+    painter.drawRect(option.rect.adjusted(1, 1, -3, -3));
+}
+
+} // namespace
+
+Zellenmaler::Zellenmaler(Tabellenansicht *tabelle)
+    : QStyledItemDelegate(tabelle)
+    , m_tabelle(tabelle)
+{
+}
+
+void Zellenmaler::paint(QPainter *painter, const QStyleOptionViewItem &option,
+                        const QModelIndex &index) const
+{
+    const Zellenbild bild = m_tabelle->modell()->bild(index);
+    painter->save();
+    maleGrund(*painter, option);
+    if (m_tabelle->gitter()) {
+        maleGitter(*painter, option);
+    }
+    if (istBearbeitbar(index)) {
+        maleEingabefeld(*painter, option);
+    }
+    if (bild.umrandet) {
+        maleRand(*painter, option);
+    }
+    maleText(*painter, option, bild, index);
+    if ((option.state & QStyle::State_HasFocus) != 0 && !bild.umrandet) {
+        maleTastaturmarke(*painter, option);
+    }
+    painter->restore();
+}
+
+QWidget *Zellenmaler::createEditor(QWidget *parent, const QStyleOptionViewItem &option,
+                                   const QModelIndex &index) const
+{
+    QWidget *feld = QStyledItemDelegate::createEditor(parent, option, index);
+    if (auto *zeile = qobject_cast<QLineEdit *>(feld)) {
+        zeile->setAlignment(ausrichtung(index));
+        zeile->setAccessibleName(
+            index.model()->headerData(index.column(), Qt::Horizontal).toString());
+    }
+    return feld;
+}
+
+bool Zellenmaler::istGewaehlt(const QStyleOptionViewItem &option) const
+{
+    return (option.state & QStyle::State_Selected) != 0 &&
+           m_tabelle->selectionBehavior() == QAbstractItemView::SelectRows;
+}
+
+void Zellenmaler::maleGrund(QPainter &painter, const QStyleOptionViewItem &option) const
+{
+    const bool gerade = (option.features & QStyleOptionViewItem::Alternate) != 0;
+    painter.fillRect(option.rect, istGewaehlt(option) ? option.palette.highlight()
+                                  : gerade            ? option.palette.alternateBase()
+                                                      : option.palette.base());
+}
+
+void Zellenmaler::maleGitter(QPainter &painter, const QStyleOptionViewItem &option) const
+{
+    const QRect &zelle = option.rect;
+    painter.setPen(QPen(option.palette.color(QPalette::Mid), 0));
+    painter.drawLine(zelle.topRight(), zelle.bottomRight());
+    painter.setPen(QPen(option.palette.color(QPalette::Mid), 0, Qt::DashLine));
+    painter.drawLine(zelle.bottomLeft(), zelle.bottomRight());
+}
+
+void Zellenmaler::maleText(QPainter &painter, const QStyleOptionViewItem &option,
+                           const Zellenbild &bild, const QModelIndex &index) const
+{
+    const bool aufFarbe = istGewaehlt(option) && !istBearbeitbar(index);
+    const QColor farbe =
+        option.palette.color(aufFarbe ? QPalette::HighlightedText : QPalette::Text);
+    QRect platz = option.rect.adjusted(zellenrand, 0, -zellenrand, 0);
+    painter.setPen(farbe);
+    painter.setFont(option.font);
+    QString rest = bild.text;
+    if (bild.anfang && !bild.text.isEmpty()) {
+        const qsizetype zeichen = bild.text.at(0).isHighSurrogate() ? 2 : 1;
+        const QString anfang = bild.text.left(zeichen);
+        rest = bild.text.mid(zeichen);
+        QFont schrift = option.font;
+        if (bild.anfangspunkte > 0) {
+            schrift.setPointSize(bild.anfangspunkte);
+        }
+        painter.setFont(schrift);
+        painter.setPen(farbeFuer(*bild.anfang, option.palette));
+        painter.drawText(platz, Qt::AlignLeft | Qt::AlignVCenter, anfang);
+        platz.setLeft(platz.left() + painter.fontMetrics().horizontalAdvance(anfang));
+        painter.setFont(option.font);
+        painter.setPen(farbe);
+    }
+    painter.drawText(platz, static_cast<int>(ausrichtung(index)),
+                     option.fontMetrics.elidedText(rest, Qt::ElideRight, platz.width()));
+}

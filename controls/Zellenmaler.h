@@ -1,0 +1,30 @@
+#pragma once
+
+#include <QStyledItemDelegate>
+
+class Tabellenansicht;
+struct Zellenbild;
+
+/// Paints a cell as its controller pictured it. Where single cells are selected, the chosen one is
+/// marked by a border, not by a coloured row: a row then holds several foods, and only one of them
+/// is on display. Where whole rows are selected, the row is coloured. A cell that can be edited
+/// looks like a field to type into.
+class Zellenmaler : public QStyledItemDelegate
+{
+public:
+    explicit Zellenmaler(Tabellenansicht *tabelle);
+
+    void paint(QPainter *painter, const QStyleOptionViewItem &option,
+               const QModelIndex &index) const override;
+    QWidget *createEditor(QWidget *parent, const QStyleOptionViewItem &option,
+                          const QModelIndex &index) const override;
+
+private:
+    bool istGewaehlt(const QStyleOptionViewItem &option) const;
+    void maleGrund(QPainter &painter, const QStyleOptionViewItem &option) const;
+    void maleGitter(QPainter &painter, const QStyleOptionViewItem &option) const;
+    void maleText(QPainter &painter, const QStyleOptionViewItem &option, const Zellenbild &bild,
+                  const QModelIndex &index) const;
+
+    Tabellenansicht *m_tabelle;
+};

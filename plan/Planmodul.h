@@ -1,0 +1,129 @@
+#pragma once
+
+#include "Bestandsdatei.h"
+#include "Datenmodul.h"
+#include "Datenordner.h"
+#include "Meldung.h"
+#include "Planauswertung.h"
+#include "Planliste.h"
+#include "Tabellenmodell.h"
+#include "ui_Planmodul1.h"
+
+#include <QObject>
+
+#include <cstdint>
+#include <vector>
+
+/// The doors through which a plan reaches the world outside of its window.
+struct Plantueren
+{
+    QString eingebauteTabelle; ///< path of the built-in food table, a file or a resource
+    Datenordner datenordner;   ///< the user's data folder
+    Meldungstuer melde;        ///< shows a message and waits for its answer
+};
+
+/// What the calculator told about the client. There is one client at a time, so every plan window
+/// of the program shares it, and it outlives them all. 0 until it was told.
+struct Klient
+{
+    std::int32_t bedarf = 0;      ///< kcal per day that the plan is measured against
+    std::int32_t unbereinigt = 0; ///< kcal per day before any reduction
+    float gewicht = 0;            ///< kg
+    float groesse = 0;            ///< m
+};
+
+/// Runs the meal plan: a list of foods with an amount of grams each, kept in a file that is written
+/// after every change, and the window that shows and evaluates it. Its outlets are the objects of
+/// the interface description, under their names. They exist from the first `window()` or
+/// `showWindow()` on and are null before; until then the lists and files are kept all the same.
+class Planmodul : public QObject,
+                  public Planliste,
+                  public Ui::PlanmodulGestalt,
+                  private Tabellenquelle
+{
+    Q_OBJECT
+
+public:
+    /// Reads the foods and the plan; the window comes later.
+    explicit Planmodul(Plantueren tueren);
+    ~Planmodul() override;
+
+    static Klient klient;
+
+    Lebensmittelverzeichnis Dictionary;       ///< the built-in foods
+    Lebensmittelverzeichnis KundenDictionary; ///< a copy of the user's own foods
+
+    /// The window; made and filled when it is first asked for.
+    QMainWindow *window();
+    /// Shows the window, in front of others.
+    virtual void showWindow();
+
+    // What the calculator says. Nothing is drawn anew before the next evaluation but the BMI.
+    virtual void anthrouebergabe(int kilokalorien);
+    virtual void anthrouebergabe2(int kilokalorien);
+    virtual void anthrouebergabegewicht(float kilogramm);
+    virtual void anthrouebergabegroesse(float meter);
+
+    // What the main window says.
+    /// An own food was saved, with these values and ratings under this name. The table shows it the
+    /// next time that it asks; nothing is evaluated.
+    virtual void umschreibungMitName(const Datenmodul &lebensmittel);
+    /// The own food of this name was deleted; its first row in the plan goes with it.
+    virtual void loeschenvonkundeneintraegen(const QString &name);
+    /// A food is wanted in the plan, named by its key. It comes last, with 100 g.
+    virtual void nameimportvontoolbar(const QString &name);
+
+    // Actions of the window
+    /// Takes the selected row out of the plan; without one, nothing happens.
+    void Lebensmittelentfernen();
+    /// Projects the weight from what stands in the window's fields.
+    void verlustberechnen();
+    /// Writes into `Tage` how long it takes to lose the kilograms of the sender.
+    void tageberechnen(const Wertehalter &sender);
+    /// Makes the rows as high, and the columns of values and ratings as wide, as the sender says.
+    void tabgroesseaendern(const Wertehalter &sender);
+
+    /// Evaluates the plan and shows the result.
+    void datenberechnen();
+
+    /// The record of a food: from the built-in table or else from the own foods; null when neither
+    /// has it.
+    const Datenmodul *lebensmittel(const QString &name) const;
+
+private:
+    void awakeFromNib();
+    void verbinde();
+    void ladeBilder();
+    void bearbeiteMenge(const QModelIndex &zelle);
+
+    // The table
+    void beschrifteTabelle();
+    void reloadData();
+    int numberOfRows() const override;
+    QString objectValue(const QString &spalte, int zeile) override;
+    Zellenbild willDisplayCell(const QString &spalte, int zeile, const QString &wert) override;
+    QString writeRows(const QString &spalte, int zeile) override;
+    void setObjectValue(const QString &spalte, int zeile, const QString &text) override;
+    std::optional<int> validateDrop(int zeile, bool auf) override;
+    void acceptDrop(int zeile, const QString &text) override;
+
+    // The files
+    void schreibePlan() const;
+    void schreibeEigeneLebensmittel();
+    void uebernimmAenderung();
+
+    // The evaluation
+    std::vector<Planzeile> zeilen() const;
+    void zeigeNaehrwerte(const Planauswertung &auswertung);
+    void zeigeWertungen(const Planauswertung &auswertung);
+    void zeigeBeurteilung(const Planauswertung &auswertung);
+    void zeigeBmi();
+
+    Plantueren m_tueren;
+    QMainWindow *m_fenster = nullptr;
+    Bestandsdatei m_eigeneDatei;
+
+    // What the table shows: the rows of the last reload, and the amounts typed since.
+    QStringList m_gezeigteNamen;
+    QList<float> m_gezeigteMengen;
+};

@@ -1,0 +1,327 @@
+#include "Druckprobe.h"
+#include "Seiteneinrichtung.h"
+
+#include <QAction>
+#include <QApplication>
+#include <QFile>
+#include <QLineEdit>
+#include <QPainter>
+#include <QPrintDialog>
+#include <QPrintPreviewDialog>
+#include <QPrintPreviewWidget>
+#include <QPrinter>
+#include <QSettings>
+#include <QTest>
+#include <QTimer>
+
+class TestDrucktuer : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void initTestCase();
+    void init();
+    void pagesLeaveThePrinterInOrder_data();
+    void pagesLeaveThePrinterInOrder();
+    void aPieceFitsWithItsProportions();
+    void pagesArePaintedInPointsFromThePapersCorner();
+    void theJobSeesTheMarginsThatHold();
+    void onlyTheChosenPagesArePrinted();
+    void pagesThatDoNotExistAreNotPrinted();
+    void anUnwritablePdfIsTold_data();
+    void anUnwritablePdfIsTold();
+    void thePreviewBeginsWithTheSharedPageSetup();
+    void thePageSetupIsKeptForTheNextPrint();
+    void closingThePreviewPrintsNothing();
+    void thePreviewShowsEveryPage();
+    void withoutAPrinterItPrintsToAPdf();
+    void cancellingGoesBackToThePreview();
+    void aPdfThatFailsIsToldAndTheProgramGoesOn();
+
+private:
+    QPrintPreviewDialog *oeffne(const Druckauftrag &auftrag);
+
+    QTemporaryDir m_ordner;
+    std::unique_ptr<QSettings> m_einstellungen;
+    QList<Meldung> m_meldungen;
+    QWidget m_fenster;
+};
+
+namespace {
+
+/// Pages that say which they are: "Seite 1" with its line 100 points from the left and from the
+/// top.
+Druckauftrag beziffert(int seiten)
+{
+    return {QStringLiteral("Probe"), [seiten](const QPageLayout &) { return seiten; },
+            [](QPainter &maler, const QPageLayout &, int nummer) {
+                QFont schrift(QStringLiteral("Helvetica"));
+                schrift.setPixelSize(20);
+                maler.setFont(schrift);
+                maler.drawText(QPointF(100, 100), QStringLiteral("Seite %1").arg(nummer));
+            }};
+}
+
+QAction *aktion(QPrintPreviewDialog &vorschau, const char *text)
+{
+    for (QAction *aktion : vorschau.findChildren<QAction *>()) {
+        if (aktion->text() == QLatin1String(text)) {
+            return aktion;
+        }
+    }
+    return nullptr;
+}
+
+/// Answers the system's print dialog when it comes: prints to this file, or cancels for a null
+/// name.
+void beantworteDruckfrage(const QString &pdf)
+{
+    QTimer::singleShot(0, qApp, [pdf] {
+        auto *frage = qobject_cast<QPrintDialog *>(QApplication::activeModalWidget());
+        if (frage == nullptr) {
+            beantworteDruckfrage(pdf);
+        } else if (pdf.isNull()) {
+            frage->reject();
+        } else {
+            frage->findChild<QLineEdit *>(QStringLiteral("filename"))->setText(pdf);
+            frage->accept();
+        }
+    });
+}
+
+} // namespace
+
+void TestDrucktuer::initTestCase()
+{
+    QVERIFY(m_ordner.isValid());
+}
+
+void TestDrucktuer::init()
+{
+    QLocale::setDefault(QLocale(QLocale::German, QLocale::Germany));
+    m_meldungen.clear();
+    m_einstellungen = std::make_unique<QSettings>(m_ordner.filePath(QStringLiteral("e.ini")),
+                                                  QSettings::IniFormat);
+    m_einstellungen->clear();
+    m_fenster.show();
+}
+
+QPrintPreviewDialog *TestDrucktuer::oeffne(const Druckauftrag &auftrag)
+{
+    const Drucktuer tuer = systemdrucktuer(*m_einstellungen, [this](QWidget *, const Meldung &m) {
+        m_meldungen << m;
+        return 0;
+    });
+    tuer(&m_fenster, auftrag);
+    auto *vorschau = m_fenster.findChild<QPrintPreviewDialog *>();
+    // A machine with printers asks for one of them; these tests are about files.
+    vorschau->printer()->setOutputFormat(QPrinter::PdfFormat);
+    return QTest::qWaitForWindowExposed(vorschau) ? vorschau : nullptr;
+}
+
+void TestDrucktuer::pagesLeaveThePrinterInOrder_data()
+{
+    QTest::addColumn<QString>("bereiche");
+    QTest::addColumn<bool>("letzteZuerst");
+    QTest::addColumn<int>("kopien");
+    QTest::addColumn<QList<int>>("folge");
+    QTest::newRow("all of them") << QString() << false << 1 << QList<int>({1, 2, 3, 4});
+    QTest::newRow("the last first") << QString() << true << 1 << QList<int>({4, 3, 2, 1});
+    QTest::newRow("some of them") << QStringLiteral("2,4-9") << false << 1 << QList<int>({2, 4});
+    QTest::newRow("two copies, one after the other")
+        << QStringLiteral("1-2") << false << 2 << QList<int>({1, 2, 1, 2});
+    QTest::newRow("none that exists") << QStringLiteral("5-9") << false << 1 << QList<int>();
+}
+
+void TestDrucktuer::pagesLeaveThePrinterInOrder()
+{
+    QFETCH(QString, bereiche);
+    QFETCH(bool, letzteZuerst);
+    QFETCH(int, kopien);
+    QFETCH(QList<int>, folge);
+    QCOMPARE(druckfolge(4, QPageRanges::fromString(bereiche), letzteZuerst, kopien), folge);
+}
+
+void TestDrucktuer::aPieceFitsWithItsProportions()
+{
+    QImage bild(200, 200, QImage::Format_ARGB32_Premultiplied);
+    QPainter maler(&bild);
+    passeEin(maler, QRectF(10, 20, 100, 50), QRectF(30, 40, 50, 50));
+    QCOMPARE(maler.transform().map(QPointF(10, 20)), QPointF(30, 40));
+    QCOMPARE(maler.transform().map(QPointF(110, 70)), QPointF(80, 65));
+    maler.resetTransform();
+    passeEin(maler, QRectF(0, 0, 0, 0), QRectF(30, 40, 50, 50)); // nothing to fit
+    QVERIFY(maler.transform().isIdentity());
+}
+
+void TestDrucktuer::pagesArePaintedInPointsFromThePapersCorner()
+{
+    // Margins of 40 points move nothing: they are the job's to keep.
+    Druckprobe probe(Druckprobe::papier(QPageSize::A4, QPageLayout::Portrait, {40, 40, 40, 40}));
+    probe.drucke(beziffert(2));
+    QCOMPARE(probe.seiten(), 2);
+    const QList<Druckwort> worte = probe.worte();
+    QCOMPARE(worte.size(), 4);
+    QVERIFY(qAbs(worte[0].x - 100) < 0.05);
+    QVERIFY(qAbs(worte[0].grundlinie - 100) < 0.05);
+    QVERIFY(qAbs(worte[0].groesse - 20) < 0.05);
+    QCOMPARE(probe.zeilen(1), QStringList({QStringLiteral("Seite 1")}));
+    QCOMPARE(probe.zeilen(2), QStringList({QStringLiteral("Seite 2")}));
+}
+
+void TestDrucktuer::theJobSeesTheMarginsThatHold()
+{
+    QPageLayout gesehen;
+    Druckauftrag auftrag = beziffert(1);
+    auftrag.seitenzahl = [&gesehen](const QPageLayout &seite) {
+        gesehen = seite;
+        return 1;
+    };
+    Druckprobe probe(
+        Druckprobe::papier(QPageSize::Letter, QPageLayout::Landscape, {10, 20, 30, 40}));
+    probe.drucke(auftrag);
+    QCOMPARE(gesehen.fullRect(QPageLayout::Point), QRectF(0, 0, 792, 612));
+    QCOMPARE(gesehen.paintRect(QPageLayout::Point), QRectF(10, 20, 752, 552));
+}
+
+void TestDrucktuer::onlyTheChosenPagesArePrinted()
+{
+    QPrinter drucker(QPrinter::HighResolution);
+    drucker.setOutputFormat(QPrinter::PdfFormat);
+    Druckprobe probe(Druckprobe::papier(QPageSize::A4, QPageLayout::Portrait));
+    drucker.setOutputFileName(probe.pdf());
+    drucker.setPrintRange(QPrinter::PageRange);
+    drucker.setPageRanges(QPageRanges::fromString(QStringLiteral("2-3")));
+    QVERIFY(!drucke(drucker, beziffert(5)));
+    QCOMPARE(probe.seiten(), 2);
+    QCOMPARE(probe.zeilen(1), QStringList({QStringLiteral("Seite 2")}));
+    QCOMPARE(probe.zeilen(2), QStringList({QStringLiteral("Seite 3")}));
+}
+
+void TestDrucktuer::pagesThatDoNotExistAreNotPrinted()
+{
+    QPrinter drucker(QPrinter::HighResolution);
+    drucker.setOutputFormat(QPrinter::PdfFormat);
+    const QString pdf = m_ordner.filePath(QStringLiteral("keine.pdf"));
+    drucker.setOutputFileName(pdf);
+    drucker.setPrintRange(QPrinter::PageRange);
+    drucker.setPageRanges(QPageRanges::fromString(QStringLiteral("6-9")));
+    QCOMPARE(drucke(drucker, beziffert(5)),
+             std::optional(QStringLiteral("Die gewählten Seiten gibt es nicht.")));
+    QVERIFY(!QFile::exists(pdf));
+}
+
+void TestDrucktuer::anUnwritablePdfIsTold_data()
+{
+    QTest::addColumn<QString>("pdf");
+    QTest::newRow("a folder that does not exist")
+        << m_ordner.filePath(QStringLiteral("fehlt/plan.pdf"));
+    QTest::newRow("a folder in the place of the file") << m_ordner.path();
+    QTest::newRow("a full disk") << QStringLiteral("/dev/full");
+}
+
+void TestDrucktuer::anUnwritablePdfIsTold()
+{
+    QFETCH(QString, pdf);
+    QPrinter drucker(QPrinter::HighResolution);
+    drucker.setOutputFormat(QPrinter::PdfFormat);
+    drucker.setOutputFileName(pdf);
+    const auto grund = drucke(drucker, beziffert(1));
+    QVERIFY(grund);
+    QVERIFY2(grund->contains(pdf), qPrintable(*grund));
+}
+
+void TestDrucktuer::thePreviewBeginsWithTheSharedPageSetup()
+{
+    merkeSeite(*m_einstellungen,
+               Druckprobe::papier(QPageSize::Letter, QPageLayout::Landscape, {72, 36, 18, 9}));
+    QPrintPreviewDialog *vorschau = oeffne(beziffert(1));
+    QVERIFY(vorschau);
+    const QPageLayout seite = vorschau->printer()->pageLayout();
+    QCOMPARE(seite.pageSize().id(), QPageSize::Letter);
+    QCOMPARE(seite.orientation(), QPageLayout::Landscape);
+    QCOMPARE(seite.margins(QPageLayout::Point), QMarginsF(72, 36, 18, 9));
+    QVERIFY(vorschau->windowTitle().contains(QLatin1String("Probe")));
+    vorschau->close();
+}
+
+void TestDrucktuer::thePageSetupIsKeptForTheNextPrint()
+{
+    QPrintPreviewDialog *vorschau = oeffne(beziffert(1));
+    QVERIFY(vorschau);
+    QCOMPARE(vorschau->printer()->pageLayout().orientation(), QPageLayout::Portrait);
+    vorschau->findChild<QPrintPreviewWidget *>()->setLandscapeOrientation();
+    vorschau->close();
+    QCOMPARE(gemerkteSeite(*m_einstellungen).orientation(), QPageLayout::Landscape);
+    QTRY_VERIFY(m_fenster.findChild<QPrintPreviewDialog *>() == nullptr);
+
+    vorschau = oeffne(beziffert(1));
+    QVERIFY(vorschau);
+    QCOMPARE(vorschau->printer()->pageLayout().orientation(), QPageLayout::Landscape);
+    QCOMPARE(vorschau->printer()->pageLayout().pageSize().id(), QPageSize::A4);
+    vorschau->close();
+}
+
+void TestDrucktuer::closingThePreviewPrintsNothing()
+{
+    QPrintPreviewDialog *vorschau = oeffne(beziffert(1));
+    QVERIFY(vorschau);
+    QVERIFY(vorschau->isModal()); // what is about to be printed can't change behind it
+    vorschau->close();
+    QTRY_VERIFY(m_fenster.findChild<QPrintPreviewDialog *>() == nullptr);
+    QVERIFY(m_meldungen.isEmpty());
+}
+
+void TestDrucktuer::thePreviewShowsEveryPage()
+{
+    QPrintPreviewDialog *vorschau = oeffne(beziffert(3));
+    QVERIFY(vorschau);
+    QTRY_COMPARE(vorschau->findChild<QPrintPreviewWidget *>()->pageCount(), 3);
+    vorschau->close();
+}
+
+void TestDrucktuer::withoutAPrinterItPrintsToAPdf()
+{
+    Druckprobe probe(Druckprobe::papier(QPageSize::A4, QPageLayout::Portrait));
+    QPrintPreviewDialog *vorschau = oeffne(beziffert(2));
+    QVERIFY(vorschau);
+    beantworteDruckfrage(probe.pdf());
+    aktion(*vorschau, "Print")->trigger();
+    QCOMPARE(probe.seiten(), 2);
+    QCOMPARE(probe.zeilen(2), QStringList({QStringLiteral("Seite 2")}));
+    QVERIFY(m_meldungen.isEmpty());
+    QTRY_VERIFY(m_fenster.findChild<QPrintPreviewDialog *>() == nullptr);
+}
+
+void TestDrucktuer::cancellingGoesBackToThePreview()
+{
+    QPrintPreviewDialog *vorschau = oeffne(beziffert(2));
+    QVERIFY(vorschau);
+    beantworteDruckfrage(QString());
+    aktion(*vorschau, "Print")->trigger();
+    QVERIFY(m_meldungen.isEmpty());
+    QVERIFY(vorschau->isVisible()); // the user may look on
+    vorschau->close();
+    QTRY_VERIFY(m_fenster.findChild<QPrintPreviewDialog *>() == nullptr);
+}
+
+void TestDrucktuer::aPdfThatFailsIsToldAndTheProgramGoesOn()
+{
+    QPrintPreviewDialog *vorschau = oeffne(beziffert(2));
+    QVERIFY(vorschau);
+    vorschau->printer()->setOutputFileName(m_ordner.filePath(QStringLiteral("fehlt/plan.pdf")));
+    vorschau->findChild<QPrintPreviewWidget *>()->print();
+    QCOMPARE(m_meldungen.size(), 1);
+    QCOMPARE(m_meldungen[0].text, QStringLiteral("Das Drucken ist nicht gelungen."));
+    QVERIFY(m_meldungen[0].erklaerung.contains(QLatin1String("fehlt/plan.pdf")));
+    QCOMPARE(m_meldungen[0].knoepfe, QStringList({QStringLiteral("ok")}));
+    vorschau->close();
+    QTRY_VERIFY(m_fenster.findChild<QPrintPreviewDialog *>() == nullptr);
+
+    Druckprobe probe(Druckprobe::papier(QPageSize::A4, QPageLayout::Portrait));
+    probe.drucke(beziffert(1));
+    QCOMPARE(probe.seiten(), 1);
+}
+
+QTEST_MAIN(TestDrucktuer)
+#include "TestDrucktuer.moc"
