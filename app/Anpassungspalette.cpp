@@ -65,6 +65,16 @@ protected:
         zug->exec(Qt::CopyAction | Qt::MoveAction, Qt::CopyAction);
     }
 
+    /// Return would go to the dialog's default button, which closes the palette.
+    void keyPressEvent(QKeyEvent *event) override
+    {
+        if (event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter) {
+            click();
+        } else {
+            QToolButton::keyPressEvent(event);
+        }
+    }
+
 private:
     QString m_kennung;
     QPoint m_druckort;

@@ -55,6 +55,7 @@ AppController::AppController(Tueren tueren)
 
 AppController::~AppController()
 {
+    delete planmodul;
     delete Hauptfenster;
 }
 
@@ -156,9 +157,14 @@ void AppController::verbindeSuche()
     m_tipppause.setSingleShot(true);
     m_tipppause.setInterval(tipppause);
     connect(suchfeld, &QLineEdit::textEdited, &m_tipppause, qOverload<>(&QTimer::start));
-    connect(suchfeld, &QLineEdit::returnPressed, &m_tipppause, &QTimer::stop);
     connect(suchfeld, &QLineEdit::returnPressed, this, [this] { suchen(*suchfeld); });
-    connect(&m_tipppause, &QTimer::timeout, this, [this] { suchen(*suchfeld); });
+    // Who types and leaves the box at once finds the results where they go to.
+    connect(suchfeld, &QLineEdit::editingFinished, this, [this] {
+        if (m_tipppause.isActive()) {
+            sucheGetipptes();
+        }
+    });
+    connect(&m_tipppause, &QTimer::timeout, this, &AppController::sucheGetipptes);
 
     suchprofileinaus->hide();
     schalteKriterien();
@@ -177,11 +183,15 @@ void AppController::verbindeSuche()
 
 void AppController::verbindeEigene()
 {
+    for (Textfeld *feld : m_wertfelder) {
+        feld->setNurZahlen(true); // they can be typed into while the save box is open
+    }
     connect(sichernaufzu, &QAbstractButton::clicked, this, &AppController::SichernFensterAuf);
     connect(sichernknopf, &QAbstractButton::clicked, this, &AppController::SicherneigeneLM);
     connect(loeschenknopf, &QAbstractButton::clicked, this, &AppController::LoescheneigeneLM);
     connect(EingabeFensteruebernehmen, &QAbstractButton::clicked, this,
             &AppController::umschreibenDerEingabeFelder);
+    einfenster->installEventFilter(this);
     connect(EingabeFensterschliessen, &QAbstractButton::clicked, this,
             &AppController::Fensterschliessen);
     connect(EingabeFensterleeren, &QAbstractButton::clicked, this, [this] {
@@ -246,24 +256,15 @@ bool AppController::eventFilter(QObject *watched, QEvent *event)
 {
     if (watched == Hauptfenster && event->type() == QEvent::Close) {
         windowWillClose();
-    } else if (watched == suchfeld && event->type() == QEvent::KeyPress &&
-               taste(static_cast<QKeyEvent *>(event)->key())) {
-        return true;
+    } else if (event->type() == QEvent::KeyPress) {
+        const int gedrueckt = static_cast<QKeyEvent *>(event)->key();
+        if (watched == suchfeld && taste(gedrueckt)) {
+            return true;
+        }
+        if (watched == einfenster && gedrueckt == Qt::Key_Escape) {
+            Fensterschliessen();
+            return true;
+        }
     }
     return QObject::eventFilter(watched, event);
-}
-
-Textfarbe textfarbe(Ampel ampel)
-{
-    switch (ampel) {
-    case Ampel::Rot:
-        return Textfarbe::Rot;
-    case Ampel::Blau:
-        return Textfarbe::Blau;
-    case Ampel::Gruen:
-        return Textfarbe::Gruen;
-    case Ampel::Schwarz:
-        break;
-    }
-    return Textfarbe::Schwarz;
 }

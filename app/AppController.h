@@ -4,7 +4,7 @@
 #include "Datenmodul.h"
 #include "Energieanteile.h"
 #include "Erscheinungsbild.h"
-#include "Plantuer.h"
+#include "Planmodul.h"
 #include "Profilsuche.h"
 #include "Skalierung.h"
 #include "Tabellenmodell.h"
@@ -43,8 +43,8 @@ public:
     QDialog *einfenster;
     Werkzeugleiste *toolbar = nullptr;
 
-    /// The meal plan; null until there is one. What it is told while it is null goes nowhere.
-    Plantuer *planmodul = nullptr;
+    /// The meal plan; null until it is first wanted. What it is told while it is null goes nowhere.
+    Planmodul *planmodul = nullptr;
 
     // The stores: from a food's name to its record, and the names in the order of display.
     Lebensmittelverzeichnis Dictionary;
@@ -82,6 +82,8 @@ public:
     void SicherneigeneLM();
     void LoescheneigeneLM();
     void Ansichtdurchwechseln();
+    void Planmoduloeffnen();
+    void toolbarlebensmittelweitergabe();
     void zeigeAnsicht(const QString &kennung);
     void Fenster();
     void Fensterschliessen();
@@ -147,7 +149,11 @@ private:
     class Suchanzeige;
     void schalteKriterien();
     Profil gewaehltesProfil() const;
+    void sucheGetipptes();
     bool taste(int taste);
+
+    // The meal plan
+    void stellePlanDaneben();
 
     // Own foods
     Datenmodul eingegebenesLebensmittel() const;
@@ -184,6 +190,3 @@ private:
     std::array<Textfeld *, 3> m_mengenanzeigen = {};
     std::array<Schieber *, 3> m_mengenregler = {};
 };
-
-/// The colour in which a judgement is written.
-Textfarbe textfarbe(Ampel ampel);

@@ -3,6 +3,7 @@
 
 #include "AppController.h"
 
+#include "Ampelfarbe.h"
 #include "Bedarfsbeurteilung.h"
 #include "Energieanteile.h"
 #include "Relationen.h"
@@ -182,7 +183,10 @@ void AppController::rechnen()
         m_bedarfsfelder[i]->setIntValue(urteil.zeilen[i].prozent);
     }
     if (urteil.boxtitel) {
-        beurteilungbox->setTitle(localizedString(*urteil.boxtitel));
+        const QString titel = localizedString(*urteil.boxtitel);
+        if (titel != beurteilungbox->title()) { // a title set anew lays the window out anew
+            beurteilungbox->setTitle(titel);
+        }
     }
     gesamtbeurteilungfeld->setVisible(urteil.gesamt.has_value());
     if (urteil.gesamt) {

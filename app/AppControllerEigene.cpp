@@ -14,6 +14,7 @@ constexpr int eingegebeneMenge = 100;
 
 void AppController::Fenster()
 {
+    EingabeFensterfeldA->setFocus();
     einfenster->open();
 }
 
@@ -28,6 +29,7 @@ void AppController::umschreibenDerEingabeFelder()
         m_tueren.melde(einfenster, {QString(),
                                     localizedString(QStringLiteral("Bitte einen Namen eingeben")),
                                     {QStringLiteral("ok")}});
+        EingabeFensterfeldA->setFocus();
         return;
     }
     for (Schieber *regler : m_mengenregler) {

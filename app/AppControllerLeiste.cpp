@@ -68,19 +68,23 @@ Werkzeug AppController::toolbarItem(const QString &kennung)
 
 std::function<void()> AppController::werkzeugaktion(const QString &kennung)
 {
-    if (kennung == QLatin1String("customize")) {
-        return [this] {
-            Leisteanpassen();
-        };
+    const std::pair<const char *, void (AppController::*)()> aktionen[] = {
+        {"plan1", &AppController::Planmoduloeffnen},
+        {"export", &AppController::toolbarlebensmittelweitergabe},
+        {"customize", &AppController::Leisteanpassen},
+        {"bildschirm", &AppController::Ansichtdurchwechseln},
+        {"neu", &AppController::Fenster},
+    };
+    for (const auto &[name, aktion] : aktionen) {
+        if (kennung == QLatin1String(name)) {
+            return [this, aktion = aktion] {
+                (this->*aktion)();
+            };
+        }
     }
-    if (kennung == QLatin1String("bildschirm")) {
+    if (kennung == QLatin1String("loeschen")) {
         return [this] {
-            Ansichtdurchwechseln();
-        };
-    }
-    if (kennung == QLatin1String("neu")) {
-        return [this] {
-            Fenster();
+            LoescheneigeneLM();
         };
     }
     return {};

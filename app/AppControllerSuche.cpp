@@ -6,6 +6,7 @@
 #include "Profilsuche.h"
 #include "Zeichenkettentabelle.h"
 
+#include <QApplication>
 #include <QElapsedTimer>
 
 namespace {
@@ -23,6 +24,7 @@ class AppController::Suchanzeige
 public:
     explicit Suchanzeige(AppController &controller) : m_controller(controller)
     {
+        m_controller.m_tipppause.stop();
         m_controller.suchfortschritt->show();
         m_controller.suchArray.clear();
         m_controller.suchArray2.clear();
@@ -121,6 +123,15 @@ Profil AppController::gewaehltesProfil() const
         }
     }
     return profil;
+}
+
+/// Searches for what was typed without Return. A search shows another food, and a question that is
+/// open may be about the one on display: then it does not begin by itself.
+void AppController::sucheGetipptes()
+{
+    if (QApplication::activeModalWidget() == nullptr) {
+        suchen(*suchfeld);
+    }
 }
 
 /// The search box's keys: down into the results, Escape for an empty box and an empty search.

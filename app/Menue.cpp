@@ -55,8 +55,15 @@ void baueAblage(AppController &controller)
     eintrag(ablage, QT_TRANSLATE_NOOP("Mahlberg", "Eigenes Lebensmittel &löschen …"), {},
             [&controller] { controller.LoescheneigeneLM(); });
     ablage.addSeparator();
-    eintrag(ablage, QT_TRANSLATE_NOOP("Mahlberg", "&Beenden"), QKeySequence::Quit,
-            [&controller] { controller.Hauptfenster->close(); });
+    eintrag(ablage, QT_TRANSLATE_NOOP("Mahlberg", "In den Mahlzeiten&plan"),
+            QKeySequence(QStringLiteral("Ctrl+Return")),
+            [&controller] { controller.toolbarlebensmittelweitergabe(); });
+    ablage.addSeparator();
+    // A key of its own, which not every desktop has for this; from the plan's window as well.
+    eintrag(ablage, QT_TRANSLATE_NOOP("Mahlberg", "&Beenden"),
+            QKeySequence(QStringLiteral("Ctrl+Q")),
+            [&controller] { controller.Hauptfenster->close(); })
+        ->setShortcutContext(Qt::ApplicationShortcut);
 }
 
 void baueBearbeiten(AppController &controller)
@@ -96,7 +103,7 @@ void baueBearbeiten(AppController &controller)
 
 void baueErscheinungsbild(QMenu &darstellung, AppController &controller)
 {
-    QMenu &auswahl = *darstellung.addMenu(localizedString(QStringLiteral("&Erscheinungsbild")));
+    QMenu &auswahl = *darstellung.addMenu(localizedString(QStringLiteral("E&rscheinungsbild")));
     auto *gruppe = new QActionGroup(&auswahl);
     const std::pair<const char *, Erscheinungsbild> zeilen[] = {
         {QT_TRANSLATE_NOOP("Mahlberg", "Wie das &System"), Erscheinungsbild::System},
@@ -162,8 +169,13 @@ void baueFenster(AppController &controller)
             QKeySequence(QStringLiteral("Ctrl+M")), [haupt] { haupt->showMinimized(); });
     eintrag(fenster, QT_TRANSLATE_NOOP("Mahlberg", "Ma&ximieren"), {},
             [haupt] { haupt->setWindowState(haupt->windowState() ^ Qt::WindowMaximized); });
-    eintrag(fenster, QT_TRANSLATE_NOOP("Mahlberg", "&Vollbild"), QKeySequence::FullScreen,
+    eintrag(fenster, QT_TRANSLATE_NOOP("Mahlberg", "&Vollbild"),
+            QKeySequence(QStringLiteral("F11")),
             [haupt] { haupt->setWindowState(haupt->windowState() ^ Qt::WindowFullScreen); });
+    fenster.addSeparator();
+    eintrag(fenster, QT_TRANSLATE_NOOP("Mahlberg", "Mahlzeiten&plan"),
+            QKeySequence(QStringLiteral("Ctrl+0")),
+            [&controller] { controller.Planmoduloeffnen(); });
 }
 
 void baueHilfe(AppController &controller)

@@ -1,16 +1,48 @@
 #include "Rundgang.h"
 
-#include "AppController.h"
 #include "Erscheinungsbild.h"
+#include "Oberflaeche.h"
 #include "Zeichenkettentabelle.h"
 
 #include <QApplication>
 #include <QFile>
 #include <QTextStream>
 
-Rundgang::Rundgang(AppController &controller, const QDir &ordner)
-    : m_controller(controller)
+#include <utility>
+
+namespace {
+
+struct Tagesration
+{
+    const char *name;
+    int gramm;
+};
+
+/// What a day may look like that covers its needs.
+constexpr Tagesration guterTag[] = {
+    {"Haferflocken", 50},
+    {"Milch, 1,5 % Fett (fettarm)", 250},
+    {"Mandel", 25},
+    {"Walnussbrot", 30},
+    {"Konfitüre (Marmelade)", 120},
+    {"Joghurt, natur", 70},
+    {"Nudeln ohne Ei, roh", 150},
+    {"Hähnchenbrust, ohne Haut, gebraten", 125},
+    {"Brokkoli, gedämpft", 80},
+    {"Möhre (Karotte), gedämpft", 50},
+    {"Rapsöl", 40},
+    {"Reis, weiß, roh", 30},
+    {"Quark (Topfen), mager (Magerquark)", 80},
+    {"Apfelmus, gezuckert", 50},
+};
+
+} // namespace
+
+Rundgang::Rundgang(Oberflaeche &oberflaeche, const QDir &ordner, QStringList *meldungen)
+    : m_controller(oberflaeche.hauptfenster)
+    , m_rechner(oberflaeche.rechner)
     , m_ordner(ordner)
+    , m_meldungen(meldungen)
 {
 }
 
@@ -36,8 +68,12 @@ bool Rundgang::gehen()
                                          .arg(m_controller.DatenAnsicht->tabText(
                                              m_controller.DatenAnsicht->currentIndex())));
     }
+    rechne();
+    plane();
+    m_controller.zeigeAnsicht(AppController::ansichten.first());
     zeigeErscheinungsbild(Erscheinungsbild::Dunkel);
     halt(QStringLiteral("dark"), QStringLiteral("Switched to the dark appearance."));
+    haltBeimPlan(QStringLiteral("plan-dark"), QStringLiteral("The meal plan in the dark:"));
     zeigeErscheinungsbild(m_controller.erscheinungsbild());
 
     QFile datei(m_ordner.filePath(QStringLiteral("summary.txt")));
@@ -63,18 +99,108 @@ void Rundgang::setzeMenge(int gramm)
     m_controller.wieviellebensmittel(*m_controller.lebensmittelmenge);
 }
 
+/// Fills in both pages of the calculator for a client, as a user does with the sliders.
+void Rundgang::rechne()
+{
+    const std::pair<Schieber *, double> eingaben[] = {
+        {m_rechner.gewichtn, 80}, {m_rechner.groessen, 1.8}, {m_rechner.taillen, 71},
+        {m_rechner.hueftn, 86},   {m_rechner.alter, 42},     {m_rechner.zieher, 500},
+    };
+    for (const auto &[regler, zahl] : eingaben) {
+        regler->setDoubleValue(zahl);
+        Q_EMIT regler->betaetigt();
+    }
+    m_rechner.metrik(1);
+    m_controller.zeigeAnsicht(QStringLiteral("vier"));
+    halt(QStringLiteral("body"),
+         QStringLiteral("Client: BMI %1, %2 kcal per day.")
+             .arg(m_rechner.resultatbmi->stringValue(), m_rechner.resultatkal->stringValue()));
+    m_rechner.sport->setStringValue(m_rechner.sport->itemText(m_rechner.sport->count() / 2));
+    m_rechner.welchersport(*m_rechner.sport);
+    m_rechner.sportmenge->setDoubleValue(1.5);
+    m_rechner.wievielsport(*m_rechner.sportmenge);
+    m_controller.zeigeAnsicht(QStringLiteral("fünf"));
+    halt(QStringLiteral("lifestyle"),
+         QStringLiteral("%1 g of alcohol for %2 h; %3 takes %4 kcal.")
+             .arg(m_rechner.alkgramm->stringValue(), m_rechner.abbaudauer->stringValue(),
+                  m_rechner.sport->stringValue(), m_rechner.resultatsportkal->stringValue()));
+}
+
+/// Sends foods to the plan as a user does, then plans a day that does well.
+void Rundgang::plane()
+{
+    m_controller.Planmoduloeffnen();
+    haltBeimPlan(QStringLiteral("plan-empty"), QStringLiteral("Opened the meal plan, empty yet."));
+    const qsizetype zeilen = m_controller.Array.size();
+    for (const qsizetype zeile : {zeilen / 5, zeilen / 2, zeilen * 4 / 5}) {
+        waehle(m_controller.Array.value(zeile));
+        m_controller.toolbarlebensmittelweitergabe();
+    }
+    haltBeimPlan(QStringLiteral("plan-few"), QStringLiteral("Three foods in the plan:"));
+
+    Planmodul &plan = *m_controller.planmodul;
+    while (!plan.Arrayrausgeben().isEmpty()) {
+        plan.PlanTabelle->selectRow(0);
+        plan.Lebensmittelentfernen();
+    }
+    Tabellenmodell &tabelle = *plan.PlanTabelle->modell();
+    const int menge = tabelle.spaltenstelle(QStringLiteral("menge"));
+    for (const Tagesration &ration : guterTag) {
+        const QString name = QString::fromUtf8(ration.name);
+        if (m_controller.Dictionary.contains(name)) {
+            plan.nameimportvontoolbar(name);
+            tabelle.setData(tabelle.index(tabelle.rowCount() - 1, menge),
+                            QString::number(ration.gramm), Qt::EditRole);
+        }
+    }
+    haltBeimPlan(QStringLiteral("plan-day"), QStringLiteral("A day that does well:"));
+}
+
+void Rundgang::haltBeimPlan(const QString &name, const QString &worte)
+{
+    const Planmodul &plan = *m_controller.planmodul;
+    ++m_halt;
+    m_bericht << QStringLiteral("%1. %2").arg(m_halt).arg(worte);
+    for (qsizetype i = 0; i < plan.PlanArray.size(); ++i) {
+        m_bericht << QStringLiteral("   %1 g %2")
+                         .arg(QLocale().toString(plan.mengenarray[i]),
+                              localizedString(plan.PlanArray[i]));
+    }
+    m_bericht << QStringLiteral("   %1; %2 of %3 kcal")
+                     .arg(plan.planworte->text().replace(u'\n', QStringLiteral(", ")),
+                          plan.Kalorienerrechnet->stringValue(), plan.Kalorienbedarf->stringValue())
+              << QString();
+    bild(*m_controller.planmodul->window(), bildname(name));
+}
+
+QString Rundgang::bildname(const QString &name) const
+{
+    return QStringLiteral("%1-%2.png").arg(m_halt, 2, 10, QLatin1Char('0')).arg(name);
+}
+
 void Rundgang::halt(const QString &name, const QString &worte)
 {
     ++m_halt;
-    m_bericht << QStringLiteral("%1. %2").arg(m_halt).arg(worte) << angezeigteWerte() << QString();
-    bild(*m_controller.Hauptfenster,
-         QStringLiteral("%1-%2.png").arg(m_halt, 2, 10, QLatin1Char('0')).arg(name));
+    m_bericht << QStringLiteral("%1. %2").arg(m_halt).arg(worte) << angezeigteWerte()
+              << neueMeldungen() << QString();
+    bild(*m_controller.Hauptfenster, bildname(name));
 }
 
 void Rundgang::bild(QWidget &fenster, const QString &name)
 {
     QApplication::processEvents();
     m_gelungen = fenster.grab().save(m_ordner.filePath(name)) && m_gelungen;
+}
+
+QStringList Rundgang::neueMeldungen()
+{
+    QStringList zeilen;
+    if (m_meldungen != nullptr) {
+        for (const QString &meldung : std::exchange(*m_meldungen, {})) {
+            zeilen << QStringLiteral("   Message: %1").arg(meldung);
+        }
+    }
+    return zeilen;
 }
 
 QString Rundgang::angezeigteWerte() const

@@ -3,7 +3,9 @@
 #include <QDir>
 #include <QStringList>
 
+class AnthroController;
 class AppController;
+class Oberflaeche;
 class QWidget;
 
 /// A short tour of the program without anyone at the keys: it starts, chooses foods, sets amounts
@@ -12,7 +14,9 @@ class QWidget;
 class Rundgang
 {
 public:
-    Rundgang(AppController &controller, const QDir &ordner);
+    /// `meldungen` holds what the program had to say and nobody was there to read; each stop takes
+    /// its messages from there into the summary. Null: there are none.
+    Rundgang(Oberflaeche &oberflaeche, const QDir &ordner, QStringList *meldungen = nullptr);
 
     /// Goes the whole way. False when a picture or the summary could not be written.
     bool gehen();
@@ -20,12 +24,19 @@ public:
 private:
     void waehle(const QString &name);
     void setzeMenge(int gramm);
+    void rechne();
+    void plane();
     void halt(const QString &name, const QString &worte);
+    void haltBeimPlan(const QString &name, const QString &worte);
+    QString bildname(const QString &name) const;
     void bild(QWidget &fenster, const QString &name);
     QString angezeigteWerte() const;
+    QStringList neueMeldungen();
 
     AppController &m_controller;
+    AnthroController &m_rechner;
     QDir m_ordner;
+    QStringList *m_meldungen;
     QStringList m_bericht;
     int m_halt = 0;
     bool m_gelungen = true;

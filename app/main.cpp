@@ -1,12 +1,12 @@
-#include "AppController.h"
+#include "Einstellungen.h"
 #include "Erscheinungsbild.h"
+#include "Oberflaeche.h"
 #include "Rundgang.h"
 #include "Sprache.h"
 
 #include <QApplication>
 #include <QCommandLineParser>
 #include <QLoggingCategory>
-#include <QSettings>
 #include <QStyleFactory>
 #include <QTemporaryDir>
 
@@ -55,12 +55,12 @@ int main(int argc, char **argv)
 
     // The tour leaves the user's own foods and settings alone: it has a home of its own.
     std::unique_ptr<QTemporaryDir> eigenesHeim;
-    std::unique_ptr<QSettings> einstellungen;
+    std::unique_ptr<Einstellungen> einstellungen;
     if (auftrag.rundgang.isNull()) {
-        einstellungen = std::make_unique<QSettings>();
+        einstellungen = std::make_unique<Einstellungen>();
     } else {
         eigenesHeim = std::make_unique<QTemporaryDir>();
-        einstellungen = std::make_unique<QSettings>(
+        einstellungen = std::make_unique<Einstellungen>(
             eigenesHeim->filePath(QStringLiteral("Mahlberg.conf")), QSettings::IniFormat);
     }
     const Sprache sprache(auftrag.sprache.isEmpty()
@@ -68,18 +68,26 @@ int main(int argc, char **argv)
                               : auftrag.sprache);
     zeigeErscheinungsbild(gemerktesErscheinungsbild(*einstellungen));
 
-    AppController controller({
+    // On the tour nobody is there to press a button: messages go into its summary.
+    QStringList ungelesen;
+    const Meldungstuer niemand = [&ungelesen](QWidget *, const Meldung &meldung) {
+        ungelesen << (QStringList{meldung.text, meldung.erklaerung} + meldung.knoepfe)
+                         .join(QStringLiteral(" | "));
+        return 0;
+    };
+
+    Oberflaeche oberflaeche({
         .eingebauteTabelle = QStringLiteral(":/DatabaseIII.daten"),
         .datenordner = eigenesHeim ? Datenordner(eigenesHeim->path()) : Datenordner(),
-        .melde = zeigeMeldung,
+        .melde = eigenesHeim ? niemand : Meldungstuer(zeigeMeldung),
         .protokolliere = [](const QString &zeile) { qCDebug(protokoll).noquote() << zeile; },
         .einstellungen = einstellungen.get(),
     });
-    controller.awakeFromNib();
+    oberflaeche.awakeFromNib();
     if (!auftrag.rundgang.isNull()) {
-        return Rundgang(controller, QDir(auftrag.rundgang)).gehen() ? 0 : 1;
+        return Rundgang(oberflaeche, QDir(auftrag.rundgang), &ungelesen).gehen() ? 0 : 1;
     }
-    QObject::connect(&controller, &AppController::beendet, &app, &QApplication::quit);
-    controller.Hauptfenster->show();
+    QObject::connect(&oberflaeche.hauptfenster, &AppController::beendet, &app, &QApplication::quit);
+    oberflaeche.hauptfenster.Hauptfenster->show();
     return QApplication::exec();
 }

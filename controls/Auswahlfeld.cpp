@@ -1,13 +1,53 @@
 #include "Auswahlfeld.h"
 
+#include <QAbstractItemView>
+#include <QCompleter>
+#include <QItemSelectionModel>
+#include <QKeyEvent>
 #include <QLineEdit>
 #include <QSignalBlocker>
+#include <QStringListModel>
+
+namespace {
+
+/// Offers what its list holds, whatever was typed: the list is made anew with every letter.
+class Vorschlaege : public QCompleter
+{
+public:
+    explicit Vorschlaege(QObject *parent) : QCompleter(QStringList(), parent) {}
+
+    void setzeListe(const QStringList &liste)
+    {
+        static_cast<QStringListModel *>(model())->setStringList(liste);
+    }
+
+    QStringList splitPath(const QString & /*path*/) const override { return {QString()}; }
+
+protected:
+    /// Return picks the marked entry. The field itself would take it for the end of a typed text,
+    /// and the entry would count twice.
+    bool eventFilter(QObject *watched, QEvent *event) override
+    {
+        if (watched != widget() && event->type() == QEvent::KeyPress) {
+            const int taste = static_cast<QKeyEvent *>(event)->key();
+            const QModelIndex markiert = popup()->selectionModel()->selectedIndexes().value(0);
+            if (markiert.isValid() && (taste == Qt::Key_Return || taste == Qt::Key_Enter)) {
+                popup()->hide();
+                Q_EMIT activated(markiert);
+                return true;
+            }
+        }
+        return QCompleter::eventFilter(watched, event);
+    }
+};
+
+} // namespace
 
 Auswahlfeld::Auswahlfeld(QWidget *parent) : QComboBox(parent)
 {
     setInsertPolicy(QComboBox::NoInsert);
     connect(this, &QComboBox::currentTextChanged, this, &Auswahlfeld::textGeaendert);
-    connect(this, &QComboBox::activated, this, &Auswahlfeld::betaetigt);
+    connect(this, &QComboBox::activated, this, &Auswahlfeld::meldeAuswahl);
 }
 
 QString Auswahlfeld::auswahl() const
@@ -23,6 +63,38 @@ void Auswahlfeld::setAuswahl(const QString &eintraege)
 {
     clear();
     addItems(eintraege.split(u'|'));
+}
+
+/// The chooser's own completion would take "wodka" for the entry "Wodka" by itself.
+void Auswahlfeld::setFreitext(bool frei)
+{
+    setEditable(frei);
+    if (!frei) {
+        return;
+    }
+    auto *vorschlaege = new Vorschlaege(this);
+    setCompleter(vorschlaege);
+    connect(lineEdit(), &QLineEdit::textEdited, vorschlaege,
+            [this, vorschlaege](const QString &text) {
+                vorschlaege->setzeListe(auswahl().split(u'|').filter(text, Qt::CaseInsensitive));
+            });
+    connect(lineEdit(), &QLineEdit::editingFinished, this, &Auswahlfeld::meldeEingabe);
+}
+
+void Auswahlfeld::meldeAuswahl()
+{
+    if (isEditable()) {
+        lineEdit()->setModified(false); // what was typed has become an entry
+    }
+    Q_EMIT betaetigt();
+}
+
+void Auswahlfeld::meldeEingabe()
+{
+    if (lineEdit()->isModified()) {
+        lineEdit()->setModified(false);
+        Q_EMIT betaetigt();
+    }
 }
 
 void Auswahlfeld::textGeaendert(const QString &text)

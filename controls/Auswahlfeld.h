@@ -4,18 +4,24 @@
 
 #include <QComboBox>
 
-/// A chooser whose value is its text: chosen from the list or, where it is editable, typed freely.
-/// `auswahl` fills the list from one line, entries parted by "|".
+/// A chooser whose value is its text: chosen from the list or, where `freitext` is on, typed
+/// freely. `auswahl` fills the list from one line, entries parted by "|".
 class Auswahlfeld : public QComboBox, public Wertehalter
 {
     Q_OBJECT
     Q_PROPERTY(QString auswahl READ auswahl WRITE setAuswahl)
+    /// True: any text can be typed and counts letter by letter. Entries that contain it are offered
+    /// below, whatever their case, and one of them counts once it is picked.
+    Q_PROPERTY(bool freitext READ freitext WRITE setFreitext)
 
 public:
     explicit Auswahlfeld(QWidget *parent = nullptr);
 
     QString auswahl() const;
     void setAuswahl(const QString &eintraege);
+
+    bool freitext() const { return isEditable(); }
+    void setFreitext(bool frei);
 
 Q_SIGNALS:
     /// The user has chosen an entry, or typed a text and left the field or pressed Return.
@@ -26,4 +32,6 @@ protected:
 
 private:
     void textGeaendert(const QString &text);
+    void meldeAuswahl();
+    void meldeEingabe();
 };

@@ -28,6 +28,8 @@ Schieber::Schieber(QWidget *parent)
     zeile->addWidget(m_eingabe);
     m_eingabe->setKeyboardTracking(false); // "30" is one amount, not first 3 and then 30
     m_eingabe->setAlignment(Qt::AlignRight);
+    // Sliders below one another end in line, whatever their numbers and units.
+    m_eingabe->setMinimumWidth(fontMetrics().horizontalAdvance(QStringLiteral("00000,00 Jahre")));
     setFocusProxy(m_regler);
     einteilen();
     connect(m_regler, &QSlider::valueChanged, this, &Schieber::reglerBewegt);
@@ -137,6 +139,11 @@ bool Schieber::event(QEvent *event)
     if (event->type() == auffrischen) {
         zeigen();
         return true;
+    }
+    if (event->type() == QEvent::Show) {
+        // Those who can't see the two controls hear their names, not the name of their frame.
+        m_regler->setAccessibleName(accessibleName());
+        m_eingabe->setAccessibleName(accessibleName());
     }
     return QWidget::event(event);
 }

@@ -1,5 +1,6 @@
 #include "Tabellenansicht.h"
 
+#include "Tabellenkopf.h"
 #include "Zellenmaler.h"
 
 #include <QDrag>
@@ -16,6 +17,7 @@ Tabellenansicht::Tabellenansicht(QWidget *parent)
     : QTableView(parent)
     , m_modell(new Tabellenmodell(this))
 {
+    setHorizontalHeader(new Tabellenkopf(this));
     setModel(m_modell);
     setItemDelegate(new Zellenmaler(this));
     setSelectionMode(QAbstractItemView::SingleSelection);
@@ -28,7 +30,6 @@ Tabellenansicht::Tabellenansicht(QWidget *parent)
     setWordWrap(false);
     verticalHeader()->hide();
     verticalHeader()->setMinimumSectionSize(8);
-    horizontalHeader()->setHighlightSections(false);
 }
 
 void Tabellenansicht::setQuelle(Tabellenquelle *quelle, const QList<Spalte> &spalten)
@@ -241,8 +242,8 @@ std::optional<int> Tabellenansicht::abwurfzeile(const QPoint &ort) const
 /// are always copied: what is dragged stays where it comes from.
 bool Tabellenansicht::pruefeAbwurf(QDropEvent &event)
 {
-    m_abwurfzeile =
-        event.mimeData()->hasText() ? abwurfzeile(event.position().toPoint()) : std::nullopt;
+    const bool text = event.mimeData()->hasFormat(m_modell->mimeTypes().constFirst());
+    m_abwurfzeile = text ? abwurfzeile(event.position().toPoint()) : std::nullopt;
     viewport()->update();
     if (!m_abwurfzeile) {
         event.ignore();

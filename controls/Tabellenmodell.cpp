@@ -107,7 +107,7 @@ QVariant Tabellenmodell::data(const QModelIndex &index, int role) const
                                     : m_quelle->willDisplayCell(spalte, index.row(), wert).text;
     }
     if (role == Qt::TextAlignmentRole) {
-        return ausrichtung(index.column());
+        return QVariant::fromValue(m_spalten[index.column()].ausrichtung);
     }
     return {};
 }
@@ -123,26 +123,22 @@ bool Tabellenmodell::setData(const QModelIndex &index, const QVariant &wert, int
     return true;
 }
 
-QVariant Tabellenmodell::ausrichtung(int spalte) const
-{
-    const bool rechts = m_spalten[spalte].rechtsbuendig;
-    return QVariant::fromValue(Qt::AlignVCenter | (rechts ? Qt::AlignRight : Qt::AlignLeft));
-}
-
 QVariant Tabellenmodell::headerData(int section, Qt::Orientation orientation, int role) const
 {
     if (orientation != Qt::Horizontal || section < 0 || section >= m_spalten.size()) {
         return {};
     }
     const Spalte &spalte = m_spalten[section];
+    const auto wennVorhanden = [](const QString &text) {
+        return text.isNull() ? QVariant() : QVariant(text);
+    };
     switch (role) {
     case Qt::DisplayRole:
         return spalte.titel;
     case Qt::ToolTipRole:
-        return spalte.erklaerung.isNull() ? QVariant() : QVariant(spalte.erklaerung);
-    case Qt::TextAlignmentRole:
-        // Headings of words keep the place that the header gives them.
-        return spalte.rechtsbuendig ? ausrichtung(section) : QVariant();
+        return wennVorhanden(spalte.erklaerung);
+    case kurztitelrolle:
+        return wennVorhanden(spalte.kurztitel);
     default:
         return {};
     }

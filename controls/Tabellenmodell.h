@@ -23,9 +23,10 @@ struct Spalte
 {
     QString kennung;
     QString titel;
-    QString erklaerung = {};    ///< the title in full, where it has to be short; null: none needed
-    bool rechtsbuendig = false; ///< true: its numbers stand under each other
-    bool bearbeitbar = false;   ///< true: the user can type into its cells
+    QString kurztitel = {};  ///< what is left of the title in a narrow column; null: the title
+    QString erklaerung = {}; ///< what the heading says when the mouse rests on it; null: nothing
+    Qt::Alignment ausrichtung = Qt::AlignLeft | Qt::AlignVCenter;
+    bool bearbeitbar = false; ///< true: the user can type into its cells
 };
 
 /// What a controller answers for its table. Rows beyond the controller's lists give absent values.
@@ -69,6 +70,9 @@ class Tabellenmodell : public QAbstractTableModel
     Q_OBJECT
 
 public:
+    /// A column's short title; invalid when it has none.
+    static constexpr int kurztitelrolle = Qt::UserRole;
+
     explicit Tabellenmodell(QObject *parent = nullptr);
 
     void setQuelle(Tabellenquelle *quelle, const QList<Spalte> &spalten);
@@ -92,8 +96,6 @@ public:
     QStringList mimeTypes() const override;
 
 private:
-    QVariant ausrichtung(int spalte) const;
-
     Tabellenquelle *m_quelle = nullptr;
     QList<Spalte> m_spalten;
     int m_zeilen = 0;

@@ -1,5 +1,6 @@
 #include "Textfeld.h"
 
+#include <QCoreApplication>
 #include <QEvent>
 #include <QFocusEvent>
 #include <QGuiApplication>
@@ -45,6 +46,7 @@ void Textfeld::setEditable(bool editable)
     setFrame(editable);
     setFocusPolicy(editable ? Qt::StrongFocus : Qt::ClickFocus);
     einkleiden();
+    wertGesetzt();
 }
 
 void Textfeld::setNurZahlen(bool nurZahlen)
@@ -65,9 +67,21 @@ void Textfeld::setSignificantDigits(int digits)
     wertGesetzt();
 }
 
+void Textfeld::setTrailingZeros(bool zeros)
+{
+    m_trailingZeros = zeros;
+    wertGesetzt();
+}
+
 void Textfeld::setUnit(const QString &unit)
 {
     m_unit = unit;
+    wertGesetzt();
+}
+
+void Textfeld::setUebersetzt(bool uebersetzt)
+{
+    m_uebersetzt = uebersetzt;
     wertGesetzt();
 }
 
@@ -109,10 +123,21 @@ void Textfeld::wertGesetzt()
     }
 }
 
+double Textfeld::textZahl(const QString &text) const
+{
+    bool lesbar = false;
+    const double zahl =
+        nurZahlen() ? QLocale::c().toDouble(QString(text).replace(u',', u'.'), &lesbar) : 0;
+    return lesbar ? zahl : Wertehalter::textZahl(text);
+}
+
 QString Textfeld::zahlText(double zahl) const
 {
     if (m_decimals < 0) {
         return Wertehalter::zahlText(zahl);
+    }
+    if (!m_trailingZeros && zahl == std::trunc(zahl)) {
+        return QLocale().toString(zahl, 'f', 0);
     }
     int stellen = m_decimals;
     if (m_significantDigits > 0 && zahl != 0 && std::isfinite(zahl)) {
@@ -120,12 +145,19 @@ QString Textfeld::zahlText(double zahl) const
         stellen = std::clamp(m_significantDigits - 1 - fuehrend, m_decimals,
                              std::max(m_decimals, meisteNachkommastellen));
     }
-    return QLocale().toString(zahl, 'f', stellen);
+    QLocale locale;
+    if (m_editable) { // so that the text can be typed on
+        locale.setNumberOptions(QLocale::OmitGroupSeparator);
+    }
+    return locale.toString(zahl, 'f', stellen);
 }
 
 QString Textfeld::angezeigterText() const
 {
     const bool tippend = m_editable && hasFocus();
+    if (m_uebersetzt && !haeltZahl()) {
+        return QCoreApplication::translate("Mahlberg", stringValue().toUtf8().constData());
+    }
     return haeltZahl() && !m_unit.isEmpty() && !tippend
                ? stringValue() + QChar(QChar::Nbsp) + m_unit
                : stringValue();

@@ -12,15 +12,21 @@ class Textfeld : public QLineEdit, public Wertehalter
     Q_OBJECT
     /// False: a flat display that is no stop of the Tab key. True: an entry field.
     Q_PROPERTY(bool editable READ isEditable WRITE setEditable)
-    /// True: nothing but a number can be typed, with a comma or a point.
+    /// True: nothing but a number can be typed. A comma and a point both mean the decimals, in
+    /// every language: thousands can't be parted in such a field.
     Q_PROPERTY(bool nurZahlen READ nurZahlen WRITE setNurZahlen)
     /// Digits behind the comma of a shown number; −1 writes it as short as it is.
     Q_PROPERTY(int decimals READ decimals WRITE setDecimals)
     /// Small numbers get more digits behind the comma until this many that matter are seen
     /// (0: never); so 0.012 mg does not show as 0.
     Q_PROPERTY(int significantDigits READ significantDigits WRITE setSignificantDigits)
+    /// False: a whole number is shown without digits behind the comma.
+    Q_PROPERTY(bool trailingZeros READ trailingZeros WRITE setTrailingZeros)
     /// The unit behind a shown number, such as "mg"; empty for none.
     Q_PROPERTY(QString unit READ unit WRITE setUnit)
+    /// True: a held text is shown in the language of the windows. The field still holds the German
+    /// one, for rules that read it back.
+    Q_PROPERTY(bool uebersetzt READ uebersetzt WRITE setUebersetzt)
 
 public:
     explicit Textfeld(QWidget *parent = nullptr);
@@ -33,8 +39,12 @@ public:
     void setDecimals(int decimals);
     int significantDigits() const { return m_significantDigits; }
     void setSignificantDigits(int digits);
+    bool trailingZeros() const { return m_trailingZeros; }
+    void setTrailingZeros(bool zeros);
     QString unit() const { return m_unit; }
     void setUnit(const QString &unit);
+    bool uebersetzt() const { return m_uebersetzt; }
+    void setUebersetzt(bool uebersetzt);
 
     Textfarbe textColor() const { return m_farbe; }
     void setTextColor(Textfarbe farbe);
@@ -48,6 +58,7 @@ Q_SIGNALS:
 
 protected:
     void wertGesetzt() override;
+    double textZahl(const QString &text) const override;
     QString zahlText(double zahl) const override;
     bool event(QEvent *event) override;
     void changeEvent(QEvent *event) override;
@@ -63,7 +74,9 @@ private:
     bool m_editable = false;
     int m_decimals = -1;
     int m_significantDigits = 0;
+    bool m_trailingZeros = true;
     QString m_unit;
+    bool m_uebersetzt = false;
     Textfarbe m_farbe = Textfarbe::Standard;
     bool m_veraltet = false; ///< the shown text is older than the held value
 };

@@ -40,7 +40,7 @@ double Wertehalter::doubleValue() const
     if (const auto *zahl = std::get_if<double>(&m_wert)) {
         return *zahl;
     }
-    return zahlAusText(std::get<QString>(m_wert));
+    return textZahl(std::get<QString>(m_wert));
 }
 
 int Wertehalter::intValue() const

@@ -46,6 +46,9 @@ protected:
     /// Called after each change from the program's side; the control shows the new value.
     virtual void wertGesetzt() = 0;
 
+    /// The number that a held text stands for.
+    virtual double textZahl(const QString &text) const { return zahlAusText(text); }
+
     /// How this control writes a number.
     virtual QString zahlText(double zahl) const;
 

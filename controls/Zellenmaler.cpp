@@ -27,7 +27,7 @@ void maleRand(QPainter &painter, const QStyleOptionViewItem &option)
 
 void maleEingabefeld(QPainter &painter, const QStyleOptionViewItem &option)
 {
-    painter.setPen(QPen(option.palette.color(QPalette::Dark), 1));
+    painter.setPen(QPen(option.palette.color(QPalette::Mid), 1));
     painter.setBrush(option.palette.base());
     painter.drawRect(QRectF(option.rect).adjusted(1.5, 1.5, -2.5, -2.5));
     painter.setBrush(Qt::NoBrush);

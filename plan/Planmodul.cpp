@@ -1,15 +1,35 @@
 #include "Planmodul.h"
 
-#include "Lebensmittelbestand.h"
+#include "Ampel.h"
+#include "Archivdatei.h"
+#include "Zeichenkettentabelle.h"
+
+#include <QImage>
+#include <QPushButton>
 
 Klient Planmodul::klient;
 
+namespace {
+
+/// Days over which the weight is projected until the user says otherwise.
+constexpr int ersteTage = 7;
+
+QImage gesicht(const char *name)
+{
+    return QImage(QStringLiteral(":/bilder/%1.png").arg(QLatin1String(name)));
+}
+
+} // namespace
+
 Planmodul::Planmodul(Plantueren tueren) : PlanmodulGestalt(), m_tueren(std::move(tueren))
 {
-    Dictionary = ladeBestand(m_tueren.eingebauteTabelle).verzeichnis;
-    KundenDictionary =
-        ladeEigenenBestand(m_tueren.datenordner.pathForDataFile(QStringLiteral("customdaten")))
-            .verzeichnis;
+    const Datenordner &ordner = m_tueren.datenordner;
+    const auto lies = [](const QString &path) {
+        return Archivdatei::lesen(path).archiv.verzeichnis;
+    };
+    Dictionary = lies(m_tueren.eingebauteTabelle);
+    KundenDictionary = lies(ordner.pathForDataFile(QStringLiteral("customdaten")));
+    laden(lies(ordner.pathForDataFile(QStringLiteral("plandaten"))));
 }
 
 Planmodul::~Planmodul()
@@ -22,6 +42,7 @@ QMainWindow *Planmodul::window()
     if (m_fenster == nullptr) {
         m_fenster = new QMainWindow;
         setupUi(m_fenster);
+        awakeFromNib();
     }
     return m_fenster;
 }
@@ -29,8 +50,70 @@ QMainWindow *Planmodul::window()
 void Planmodul::showWindow()
 {
     window()->show();
+    m_fenster->setWindowState(m_fenster->windowState() & ~Qt::WindowMinimized);
     m_fenster->raise();
     m_fenster->activateWindow();
+}
+
+void Planmodul::awakeFromNib()
+{
+    beschrifteTabelle();
+    verbinde();
+    reloadData();
+    ladeBilder();
+    planbeurteilungfaceview->entscheidung(Gesichtscode::lachend);
+    Kalorienbedarf->setIntValue(klient.unbereinigt);
+    for (Textfeld *feld : {Kalorienerrechnet, Gewichtsverlust, BMI, BMIneu, wunschverlust}) {
+        feld->setIntValue(0);
+    }
+    Tage->setIntValue(ersteTage);
+    datenberechnen();
+}
+
+void Planmodul::ladeBilder()
+{
+    planbeurteilungfaceview->setImage(gesicht("smile"));
+    planbeurteilungfaceview->setImage2(gesicht("nocrie-nosmile"));
+    planbeurteilungfaceview->setImage3(gesicht("crie"));
+    kreisfarben->setEintraege({
+        {QColor(0, 255, 0), localizedString(QStringLiteral("Protein"))},
+        {QColor(0, 0, 255), localizedString(QStringLiteral("Kohlenhydrate"))},
+        {QColor(255, 255, 0), localizedString(QStringLiteral("Fett"))},
+    });
+}
+
+void Planmodul::verbinde()
+{
+    // These keys mean the plan only while it has the keyboard.
+    for (QAction *aktion : {aktionMenge, aktionEntfernen}) {
+        aktion->setShortcutContext(Qt::WidgetWithChildrenShortcut);
+        PlanTabelle->addAction(aktion);
+    }
+    connect(PlanTabelle, &QAbstractItemView::clicked, this, &Planmodul::bearbeiteMenge);
+    connect(aktionMenge, &QAction::triggered, this, [this] {
+        const int spalte = PlanTabelle->modell()->spaltenstelle(QStringLiteral("menge"));
+        bearbeiteMenge(PlanTabelle->currentIndex().siblingAtColumn(spalte));
+    });
+    connect(entfernenknopf, &QPushButton::clicked, this, &Planmodul::Lebensmittelentfernen);
+    connect(aktionEntfernen, &QAction::triggered, entfernenknopf, &QPushButton::click);
+    connect(aktionDrucken, &QAction::triggered, druckknopf, &QPushButton::click);
+    connect(aktionSchliessen, &QAction::triggered, m_fenster, &QWidget::close);
+    connect(tabellengroesse, &Schieber::betaetigt, this,
+            [this] { tabgroesseaendern(*tabellengroesse); });
+    for (const Textfeld *feld : {Kalorienbedarf, Tage}) {
+        connect(feld, &Textfeld::betaetigt, this, &Planmodul::verlustberechnen);
+    }
+    connect(wunschverlust, &Textfeld::betaetigt, this, [this] { tageberechnen(*wunschverlust); });
+    connect(tageknopf, &QPushButton::clicked, this, [this] { tageberechnen(*wunschverlust); });
+}
+
+/// A click on an amount begins to change it: it looks like a field to type into, and is one.
+void Planmodul::bearbeiteMenge(const QModelIndex &zelle)
+{
+    if ((zelle.flags() & Qt::ItemIsEditable) != 0) {
+        PlanTabelle->setCurrentIndex(zelle);
+        PlanTabelle->edit(zelle);
+    }
 }
 
 void Planmodul::anthrouebergabe(int kilokalorien)
@@ -46,18 +129,14 @@ void Planmodul::anthrouebergabe2(int kilokalorien)
 void Planmodul::anthrouebergabegewicht(float kilogramm)
 {
     klient.gewicht = kilogramm;
+    zeigeBmi();
 }
 
 void Planmodul::anthrouebergabegroesse(float meter)
 {
     klient.groesse = meter;
+    zeigeBmi();
 }
-
-void Planmodul::umschreibungMitName(const Datenmodul & /*lebensmittel*/) {}
-
-void Planmodul::loeschenvonkundeneintraegen(const QString & /*name*/) {}
-
-void Planmodul::nameimportvontoolbar(const QString & /*name*/) {}
 
 const Datenmodul *Planmodul::lebensmittel(const QString &name) const
 {
@@ -70,14 +149,56 @@ const Datenmodul *Planmodul::lebensmittel(const QString &name) const
     return nullptr;
 }
 
-void Planmodul::datenberechnen() {}
-
-int Planmodul::numberOfRows() const
+void Planmodul::nameimportvontoolbar(const QString &name)
 {
-    return static_cast<int>(PlanArray.size());
+    anhaengen(name);
+    uebernimmAenderung();
+    if (m_fenster != nullptr) {
+        PlanTabelle->scrollRowToVisible(numberOfRows() - 1);
+    }
 }
 
-QString Planmodul::objectValue(const QString & /*spalte*/, int /*zeile*/)
+void Planmodul::Lebensmittelentfernen()
 {
-    return {};
+    if (m_fenster != nullptr && zeileEntfernen(PlanTabelle->selectedRow())) {
+        uebernimmAenderung();
+    }
+}
+
+void Planmodul::umschreibungMitName(const Datenmodul &lebensmittel)
+{
+    KundenDictionary.insert(lebensmittel.name(), lebensmittel);
+    schreibeEigeneLebensmittel();
+}
+
+void Planmodul::loeschenvonkundeneintraegen(const QString &name)
+{
+    KundenDictionary.remove(name);
+    schreibeEigeneLebensmittel();
+    const auto zeile = zeileVon(name);
+    if (zeile && zeileEntfernen(*zeile)) {
+        uebernimmAenderung();
+    }
+}
+
+// Whether writing worked is not asked: the plan goes on with what it holds in memory.
+
+void Planmodul::schreibePlan() const
+{
+    Archivdatei::schreiben(m_tueren.datenordner.pathForDataFile(QStringLiteral("plandaten")),
+                           plansavedictionary);
+}
+
+void Planmodul::schreibeEigeneLebensmittel()
+{
+    m_eigeneDatei.halte(m_tueren.datenordner.pathForDataFile(QStringLiteral("customdaten")),
+                        KundenDictionary);
+}
+
+/// What follows a change of the rows that ran through.
+void Planmodul::uebernimmAenderung()
+{
+    schreibePlan();
+    reloadData();
+    datenberechnen();
 }

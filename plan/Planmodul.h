@@ -1,16 +1,18 @@
 #pragma once
 
+#include "Bestandsdatei.h"
 #include "Datenmodul.h"
 #include "Datenordner.h"
 #include "Meldung.h"
+#include "Planauswertung.h"
+#include "Planliste.h"
 #include "Tabellenmodell.h"
 #include "ui_Planmodul1.h"
 
-#include <QList>
 #include <QObject>
-#include <QStringList>
 
 #include <cstdint>
+#include <vector>
 
 /// The doors through which a plan reaches the world outside of its window.
 struct Plantueren
@@ -34,7 +36,10 @@ struct Klient
 /// after every change, and the window that shows and evaluates it. Its outlets are the objects of
 /// the interface description, under their names. They exist from the first `window()` or
 /// `showWindow()` on and are null before; until then the lists and files are kept all the same.
-class Planmodul : public QObject, public Ui::PlanmodulGestalt, private Tabellenquelle
+class Planmodul : public QObject,
+                  public Planliste,
+                  public Ui::PlanmodulGestalt,
+                  private Tabellenquelle
 {
     Q_OBJECT
 
@@ -45,14 +50,8 @@ public:
 
     static Klient klient;
 
-    // The plan, row by row, and the foods that it names.
-    Lebensmittelverzeichnis Dictionary;
-    Lebensmittelverzeichnis KundenDictionary;
-    /// From a food's name to a record of that name that carries the amount of grams in `kal`, and
-    /// nothing else: the form of the plan file.
-    Lebensmittelverzeichnis plansavedictionary;
-    QStringList PlanArray;
-    QList<float> mengenarray; ///< grams of each row
+    Lebensmittelverzeichnis Dictionary;       ///< the built-in foods
+    Lebensmittelverzeichnis KundenDictionary; ///< a copy of the user's own foods
 
     /// The window; made and filled when it is first asked for.
     QMainWindow *window();
@@ -66,24 +65,65 @@ public:
     virtual void anthrouebergabegroesse(float meter);
 
     // What the main window says.
-    /// An own food was saved, with these values and ratings under this name.
+    /// An own food was saved, with these values and ratings under this name. The table shows it the
+    /// next time that it asks; nothing is evaluated.
     virtual void umschreibungMitName(const Datenmodul &lebensmittel);
-    /// The own food of this name was deleted.
+    /// The own food of this name was deleted; its first row in the plan goes with it.
     virtual void loeschenvonkundeneintraegen(const QString &name);
-    /// A food is wanted in the plan, named by its key.
+    /// A food is wanted in the plan, named by its key. It comes last, with 100 g.
     virtual void nameimportvontoolbar(const QString &name);
+
+    // Actions of the window
+    /// Takes the selected row out of the plan; without one, nothing happens.
+    void Lebensmittelentfernen();
+    /// Projects the weight from what stands in the window's fields.
+    void verlustberechnen();
+    /// Writes into `Tage` how long it takes to lose the kilograms of the sender.
+    void tageberechnen(const Wertehalter &sender);
+    /// Makes the rows as high, and the columns of values and ratings as wide, as the sender says.
+    void tabgroesseaendern(const Wertehalter &sender);
+
+    /// Evaluates the plan and shows the result.
+    void datenberechnen();
 
     /// The record of a food: from the built-in table or else from the own foods; null when neither
     /// has it.
     const Datenmodul *lebensmittel(const QString &name) const;
 
-    /// Evaluates the plan and shows the result.
-    void datenberechnen();
-
 private:
+    void awakeFromNib();
+    void verbinde();
+    void ladeBilder();
+    void bearbeiteMenge(const QModelIndex &zelle);
+
+    // The table
+    void beschrifteTabelle();
+    void reloadData();
     int numberOfRows() const override;
     QString objectValue(const QString &spalte, int zeile) override;
+    Zellenbild willDisplayCell(const QString &spalte, int zeile, const QString &wert) override;
+    QString writeRows(const QString &spalte, int zeile) override;
+    void setObjectValue(const QString &spalte, int zeile, const QString &text) override;
+    std::optional<int> validateDrop(int zeile, bool auf) override;
+    void acceptDrop(int zeile, const QString &text) override;
+
+    // The files
+    void schreibePlan() const;
+    void schreibeEigeneLebensmittel();
+    void uebernimmAenderung();
+
+    // The evaluation
+    std::vector<Planzeile> zeilen() const;
+    void zeigeNaehrwerte(const Planauswertung &auswertung);
+    void zeigeWertungen(const Planauswertung &auswertung);
+    void zeigeBeurteilung(const Planauswertung &auswertung);
+    void zeigeBmi();
 
     Plantueren m_tueren;
     QMainWindow *m_fenster = nullptr;
+    Bestandsdatei m_eigeneDatei;
+
+    // What the table shows: the rows of the last reload, and the amounts typed since.
+    QStringList m_gezeigteNamen;
+    QList<float> m_gezeigteMengen;
 };

@@ -315,6 +315,10 @@
   <translation>Saved under the name above, with the values for 100 g.</translation>
  </message>
  <message>
+  <source>Gezeigte Menge</source>
+  <translation>Amount shown</translation>
+ </message>
+ <message>
   <source>Gicht</source>
   <translation>Gout</translation>
  </message>
@@ -550,10 +554,6 @@
   <translation>&amp;Paste</translation>
  </message>
  <message>
-  <source>&amp;Erscheinungsbild</source>
-  <translation>&amp;Appearance</translation>
- </message>
- <message>
   <source>&amp;Fenster</source>
   <translation>&amp;Window</translation>
  </message>
@@ -668,6 +668,10 @@
  <message>
   <source>Drucken</source>
   <translation>Print</translation>
+ </message>
+ <message>
+  <source>E&amp;rscheinungsbild</source>
+  <translation>&amp;Appearance</translation>
  </message>
  <message>
   <source>Eigene</source>

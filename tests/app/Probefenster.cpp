@@ -68,13 +68,18 @@ Tueren Probeheim::tueren()
         meldungen << meldung;
         return antworten.isEmpty() ? 0 : antworten.takeFirst();
     };
+    tueren.protokolliere = [this](const QString &zeile) {
+        protokoll << zeile;
+        beimProtokoll();
+    };
     return tueren;
 }
 
 Probefenster::Probefenster(Probeheim &heim)
-    : m_controller(std::make_unique<AppController>(heim.tueren()))
+    : m_oberflaeche(std::make_unique<Oberflaeche>(heim.tueren()))
+    , m_controller(&m_oberflaeche->hauptfenster)
 {
-    m_controller->awakeFromNib();
+    m_oberflaeche->awakeFromNib();
     m_controller->Hauptfenster->show();
     QVERIFY(QTest::qWaitForWindowActive(m_controller->Hauptfenster));
 }
@@ -96,6 +101,13 @@ void Probefenster::klickeDaneben() const
     const QWidget *flaeche = m_controller->Tabelle->viewport();
     QTest::mouseClick(m_controller->Tabelle->viewport(), Qt::LeftButton, {},
                       QPoint(20, flaeche->height() - 4));
+}
+
+void Probefenster::drueckeWerkzeug(const QString &kennung) const
+{
+    const Werkzeugleiste &leiste = *m_controller->toolbar;
+    const auto stelle = static_cast<int>(leiste.kennungen().indexOf(kennung));
+    QTest::mouseClick(leiste.werkzeugfeld(stelle), Qt::LeftButton);
 }
 
 void Probefenster::tippeMenge(const Schieber &schieber, const QString &gramm)
@@ -152,6 +164,27 @@ Lebensmittelverzeichnis verzeichnis(const QList<Datenmodul> &lebensmittel)
     Lebensmittelverzeichnis alle;
     for (const Datenmodul &eines : lebensmittel) {
         alle.insert(eines.name(), eines);
+    }
+    return alle;
+}
+
+QStringList inhalt(const Datenmodul &lebensmittel)
+{
+    QStringList felder = {lebensmittel.name()};
+    for (const auto &zeile : naehrwerte) {
+        felder << QString::number(static_cast<double>(lebensmittel.wert(zeile.wert)), 'g', 9);
+    }
+    for (const auto &zeile : wertungen) {
+        felder << lebensmittel.wertung(zeile.wertung);
+    }
+    return felder;
+}
+
+QList<QStringList> inhalt(const Lebensmittelverzeichnis &lebensmittel)
+{
+    QList<QStringList> alle;
+    for (auto eines = lebensmittel.begin(); eines != lebensmittel.end(); ++eines) {
+        alle << QStringList{eines.key()} + inhalt(*eines);
     }
     return alle;
 }

@@ -1,12 +1,13 @@
 #pragma once
 
-#include "AppController.h"
+#include "Oberflaeche.h"
 
 #include <QHash>
 #include <QSettings>
 #include <QTemporaryDir>
 #include <QTranslator>
 
+#include <functional>
 #include <memory>
 #include <utility>
 
@@ -36,6 +37,10 @@ public:
     Tueren tueren();
     QList<Meldung> meldungen;
     QList<int> antworten;
+    /// The lines that went to the system log; `beimProtokoll` runs at each.
+    QStringList protokoll;
+    std::function<void()> beimProtokoll = [] {
+    };
 
 private:
     QTemporaryDir m_ordner;
@@ -49,8 +54,10 @@ class Probefenster
 public:
     explicit Probefenster(Probeheim &heim);
 
-    AppController *operator->() const { return m_controller.get(); }
+    AppController *operator->() const { return m_controller; }
     AppController &controller() const { return *m_controller; }
+    AnthroController &rechner() const { return m_oberflaeche->rechner; }
+    Oberflaeche &oberflaeche() const { return *m_oberflaeche; }
 
     /// Clicks the cell with the mouse, after scrolling to it.
     void klicke(int zeile, int spalte) const;
@@ -58,6 +65,9 @@ public:
     void klickeDaneben() const;
     /// The middle of the cell in the coordinates of the table's viewport.
     QPoint mitte(int zeile, int spalte) const;
+
+    /// Presses an item of the toolbar.
+    void drueckeWerkzeug(const QString &kennung) const;
 
     /// Types an amount behind the slider and presses Return.
     static void tippeMenge(const Schieber &schieber, const QString &gramm);
@@ -74,7 +84,8 @@ public:
     QStringList gezeigteWerte() const;
 
 private:
-    std::unique_ptr<AppController> m_controller;
+    std::unique_ptr<Oberflaeche> m_oberflaeche;
+    AppController *m_controller;
 };
 
 /// The table's columns as a click counts them.
@@ -91,6 +102,13 @@ Datenmodul lebensmittel(const QString &name, const Wertliste &werte = {},
 
 /// The foods by their names.
 Lebensmittelverzeichnis verzeichnis(const QList<Datenmodul> &lebensmittel);
+
+/// All that a record holds, to be compared and read: its name, its values to the last bit, its
+/// ratings.
+QStringList inhalt(const Datenmodul &lebensmittel);
+
+/// The same for all foods of a store, each with its key.
+QList<QStringList> inhalt(const Lebensmittelverzeichnis &lebensmittel);
 
 /// The name of the food in this row of a counted table: "Speise 0007".
 QString zaehlname(int zeile);

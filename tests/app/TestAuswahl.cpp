@@ -34,6 +34,7 @@ private Q_SLOTS:
     void everyValueFindsItsField();
     void theTextsAreThoseOfTheRecord();
     void theNumberOfFoodsIsShownAgain();
+    void whatIsDisplayedGoesBackIntoARecord();
 
 private:
     void oeffne(const Lebensmittelverzeichnis &eingebaut,
@@ -430,6 +431,34 @@ void TestAuswahl::theNumberOfFoodsIsShownAgain()
     controller().LManzahl->setStringValue(QStringLiteral("12 Treffer"));
     m_fenster->klicke(2, inName);
     QCOMPARE(Probefenster::text(*controller().LManzahl), QStringLiteral("4"));
+}
+
+/// The values go back as they stand, not worked back to 100 g, and the name as it reads.
+void TestAuswahl::whatIsDisplayedGoesBackIntoARecord()
+{
+    const Probeuebersetzer englisch({{QStringLiteral("Brot"), QStringLiteral("Bread")}});
+    Datenmodul brot =
+        lebensmittel(QStringLiteral("Brot"), {},
+                     {QStringLiteral("-"), QStringLiteral("x"), QString(), QStringLiteral("0")});
+    for (std::size_t i = 0; i < anzahlNaehrwerte; ++i) {
+        brot.setWert(static_cast<Naehrwert>(i), static_cast<float>(i) * 2.0F + 1.0F);
+    }
+    oeffne(verzeichnis({brot}));
+    m_fenster->tippeMenge(QStringLiteral("50"));
+    controller().vitcfeld->setStringValue(QStringLiteral("-"));
+    controller().b6feld->setStringValue(QStringLiteral("1,25 mg"));
+    Datenmodul neu;
+    controller().eintragen(neu);
+    QCOMPARE(neu.name(), QStringLiteral("Bread"));
+    for (std::size_t i = 0; i < stelle(b6); ++i) {
+        QCOMPARE(neu.wert(static_cast<Naehrwert>(i)), static_cast<float>(i) + 0.5F);
+    }
+    QCOMPARE(neu.b6(), 1.25F);
+    QCOMPARE(neu.vitc(), 0.0F);
+    QCOMPARE(neu.uebergewicht(), QStringLiteral("-"));
+    QCOMPARE(neu.diabetes(), QStringLiteral("x"));
+    QCOMPARE(neu.gicht(), QString());
+    QCOMPARE(neu.hkk(), QStringLiteral("0"));
 }
 
 QTEST_MAIN(TestAuswahl)

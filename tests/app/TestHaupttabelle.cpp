@@ -25,6 +25,7 @@ private Q_SLOTS:
     void aRowBelowItsListIsNotMarked();
     void withoutAClickTheBuiltInColumnIsMarked();
     void theChosenRowIsNotPaintedAsASelection();
+    void theMarkCanBeSeen();
     void twoWindowsShareTheClickedColumn();
     void theArrowKeysChooseInTheirColumn();
     void aClickWithATremblingHandIsAClick();
@@ -192,6 +193,26 @@ void TestHaupttabelle::theChosenRowIsNotPaintedAsASelection()
     QCOMPARE(grund(4, inName), grund(6, inName));
     QCOMPARE(grund(4, inEigen), grund(6, inEigen));
     QVERIFY(grund(4, inName) != grund(5, inName)); // every second row has another ground
+}
+
+void TestHaupttabelle::theMarkCanBeSeen()
+{
+    m_fenster->klicke(4, inName);
+    const Tabellenansicht &tabelle = *(*m_fenster)->Tabelle;
+    const QImage bild = tabelle.viewport()->grab().toImage();
+    const QColor rand = tabelle.palette().color(QPalette::Highlight);
+    for (const int zeile : {3, 4, 5}) {
+        const QRect zelle = tabelle.visualRect(tabelle.model()->index(zeile, inName));
+        QCOMPARE(bild.pixelColor(zelle.left() + 1, zelle.center().y()) == rand, zeile == 4);
+        int gruene = 0; // of the first letter
+        for (int x = zelle.left() + 4; x < zelle.left() + 18; ++x) {
+            for (int y = zelle.top() + 4; y < zelle.bottom() - 4; ++y) {
+                const QColor farbe = bild.pixelColor(x, y);
+                gruene += farbe.green() > farbe.red() + 40 && farbe.green() > farbe.blue() + 20;
+            }
+        }
+        QCOMPARE(gruene > 5, zeile == 4);
+    }
 }
 
 void TestHaupttabelle::twoWindowsShareTheClickedColumn()

@@ -24,6 +24,7 @@ private Q_SLOTS:
     void whatTheUserTypesKeepsToTheRange();
     void itsTextIsTheNumber();
     void itsPartsGoOffWithIt();
+    void itsPartsHaveItsName();
 };
 
 void TestSchieber::itHoldsWhatItWasGiven_data()
@@ -169,6 +170,15 @@ void TestSchieber::itsPartsGoOffWithIt()
     schieber.setEnabled(false);
     QVERIFY(!schieber.regler()->isEnabled());
     QVERIFY(!schieber.eingabe()->isEnabled());
+}
+
+void TestSchieber::itsPartsHaveItsName()
+{
+    Schieber schieber;
+    schieber.setAccessibleName(QStringLiteral("Menge"));
+    schieber.show();
+    QCOMPARE(schieber.regler()->accessibleName(), QStringLiteral("Menge"));
+    QCOMPARE(schieber.eingabe()->accessibleName(), QStringLiteral("Menge"));
 }
 
 QTEST_MAIN(TestSchieber)

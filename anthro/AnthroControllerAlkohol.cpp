@@ -1,0 +1,66 @@
+// Alcohol: how much there is in a drink, and how long the body needs for it.
+
+#include "AnthroController.h"
+
+#include "Alkohol.h"
+#include "Getraenke.h"
+
+namespace {
+
+Textfarbe textfarbe(Ampel ampel)
+{
+    switch (ampel) {
+    case Ampel::Rot:
+        return Textfarbe::Rot;
+    case Ampel::Blau:
+        return Textfarbe::Blau;
+    case Ampel::Gruen:
+        return Textfarbe::Gruen;
+    case Ampel::Schwarz:
+        break;
+    }
+    return Textfarbe::Schwarz;
+}
+
+} // namespace
+
+void AnthroController::welcheralkohol()
+{
+    name = alkohol->stringValue();
+    nimmGetraenk(Alkoholanlass::Wahl, zieher->intValue());
+}
+
+void AnthroController::wievielalkohol(const Wertehalter &sender)
+{
+    const std::int32_t milliliter = sender.intValue();
+    if (const std::optional<Ampel> farbe = mengenfarbe(milliliter)) {
+        ml->setTextColor(textfarbe(*farbe));
+    }
+    ml->setIntValue(milliliter);
+    nimmGetraenk(Alkoholanlass::Menge, milliliter);
+}
+
+/// A name that is no drink leaves the alcohol of the previous one and the grams as they stand; the
+/// time is computed all the same.
+void AnthroController::nimmGetraenk(Alkoholanlass anlass, std::int32_t milliliter)
+{
+    if (const Getraenk *getrunken = getraenk(name, anlass)) {
+        if (!getrunken->protokollzeile.isNull()) {
+            m_tueren.protokolliere(getrunken->protokollzeile.toString());
+        }
+        alk = getrunken->alkohol;
+        alkgramm->setFloatValue(alkoholgramm(milliliter, alk));
+    }
+    zwischenvariable = abbaurate(gewicht->floatValue(), anlass);
+    abbaudauer->setFloatValue(::abbaudauer(alkoholgramm(milliliter, alk), zwischenvariable));
+    gewicht2->setFloatValue(gewicht->floatValue());
+    faerbeAlkohol(Ampel::Schwarz);
+}
+
+void AnthroController::faerbeAlkohol(Ampel darunter)
+{
+    geschlechtname = geschlecht->stringValue();
+    if (const auto farbe = alkoholfarbe(geschlechtname, alkgramm->floatValue(), darunter)) {
+        alkgramm->setTextColor(textfarbe(*farbe));
+    }
+}

@@ -1,0 +1,247 @@
+// How the calculator begins: its choosers, its start values and what the settings hold.
+
+#include "AnthroController.h"
+
+#include "Energiebedarf.h"
+#include "Ganzzahl.h"
+#include "Getraenke.h"
+#include "Sportarten.h"
+#include "Zeichenkettentabelle.h"
+
+#include <QAbstractButton>
+#include <QCollator>
+#include <QCoreApplication>
+#include <QLabel>
+#include <QLineEdit>
+#include <QLocale>
+#include <QSettings>
+
+#include <algorithm>
+#include <array>
+#include <charconv>
+
+namespace {
+
+constexpr float startgewicht = 80.0F;   // kg
+constexpr float startgroesse = 1.8F;    // m
+constexpr float starthuefte = 86.0F;    // cm
+constexpr float starttaille = 71.0F;    // cm
+constexpr int startalter = 25;          // years
+constexpr float startgeschlecht = 1.2F; // a man
+constexpr float startarbeit = 1.1F;     // light work
+
+const QString startgetraenk = QStringLiteral("Kölsch");
+
+/// What stands beside each face, in the order of the faces' codes.
+constexpr std::array<const char *, 3> urteile = {
+    QT_TRANSLATE_NOOP("Mahlberg", "im günstigen Bereich"),
+    QT_TRANSLATE_NOOP("Mahlberg", "außerhalb des günstigen Bereichs"),
+    QT_TRANSLATE_NOOP("Mahlberg", "weit außerhalb des günstigen Bereichs"),
+};
+
+/// The names of a table in the language on screen, in its alphabetical order.
+template <typename Tabelle>
+QStringList namen(const Tabelle &tabelle)
+{
+    const bool englisch = QLocale().language() == QLocale::English;
+    QStringList ergebnis;
+    for (const auto &zeile : tabelle) {
+        const bool uebersetzt = englisch && !zeile.englisch.isNull();
+        ergebnis << (uebersetzt ? zeile.englisch : zeile.deutsch).toString();
+    }
+    std::sort(ergebnis.begin(), ergebnis.end(), QCollator(QLocale()));
+    return ergebnis;
+}
+
+/// The shortest decimal number that reads back as the same single-precision one: other programs
+/// find 1.8 in the settings, not 1.7999999523162842.
+double kuerzeste(float zahl)
+{
+    std::array<char, 32> ziffern = {};
+    const auto ende = std::to_chars(ziffern.data(), ziffern.data() + ziffern.size(), zahl).ptr;
+    double ergebnis = 0;
+    std::from_chars(ziffern.data(), ende, ergebnis);
+    return ergebnis;
+}
+
+} // namespace
+
+AnthroController::AnthroController(Anthrotueren tueren)
+    : KoerperGestalt()
+    , LebensweiseGestalt()
+    , koerperseite(new QWidget)
+    , lebensweiseseite(new QWidget)
+    , m_tueren(std::move(tueren))
+{
+    KoerperGestalt::setupUi(koerperseite);
+    LebensweiseGestalt::setupUi(lebensweiseseite);
+    fuelleAuswahlen();
+    verbinde();
+}
+
+AnthroController::~AnthroController()
+{
+    delete koerperseite;
+    delete lebensweiseseite;
+}
+
+void AnthroController::fuelleAuswahlen()
+{
+    alkohol->addItems(namen(getraenke));
+    alkohol->setStringValue(startgetraenk);
+    sport->addItems(namen(sportarten));
+    sport->setStringValue(QString());
+    sport->lineEdit()->setPlaceholderText(
+        localizedString(QString::fromUtf8(QT_TRANSLATE_NOOP("Mahlberg", "kein Sport"))));
+    for (Textfeld *feld : {ml, alkgramm, abbaudauer, resultatsportkal}) {
+        feld->setIntValue(0);
+    }
+    // Metric and imperial fields take each other's place.
+    for (QWidget *feld :
+         std::initializer_list<QWidget *>{groessedeutscheinaus, gewichtdeutscheinaus, gewicht,
+                                          groesse, feeteinaus, lbseinaus, feet, inch, lbs}) {
+        QSizePolicy policy = feld->sizePolicy();
+        policy.setRetainSizeWhenHidden(false);
+        feld->setSizePolicy(policy);
+    }
+}
+
+void AnthroController::verbinde()
+{
+    const std::pair<Schieber *, void (AnthroController::*)(const Wertehalter &)> regler[] = {
+        {gewichtn, &AnthroController::slidergewicht},
+        {groessen, &AnthroController::slidergroesse},
+        {hueftn, &AnthroController::sliderhuefte},
+        {taillen, &AnthroController::slidertaille},
+        {alter, &AnthroController::wiealt},
+        {zieher, &AnthroController::wievielalkohol},
+        {sportmenge, &AnthroController::wievielsport},
+    };
+    for (const auto &[schieber, aktion] : regler) {
+        connect(schieber, &Schieber::betaetigt, this,
+                [this, schieber = schieber, aktion = aktion] { (this->*aktion)(*schieber); });
+    }
+    verbindeGruppe(*geschlechte, &AnthroController::geschlechtAktion);
+    verbindeGruppe(*arbeit, &AnthroController::arbeitAktion);
+    connect(metrikeinaus, &QAbstractButton::clicked, this,
+            [this](bool ein) { metrik(ein ? 1 : 0); });
+    connect(gewichtredu, &QAbstractButton::clicked, this,
+            [this](bool ein) { gewichtreduktion(ein ? 1 : 0); });
+    connect(alkohol, &Auswahlfeld::betaetigt, this, &AnthroController::welcheralkohol);
+    connect(sport, &Auswahlfeld::betaetigt, this, [this] { welchersport(*sport); });
+}
+
+void AnthroController::verbindeGruppe(const Matrix &gruppe, void (AnthroController::*aktion)(int))
+{
+    for (const QAbstractButton *zelle : gruppe.zellen()) {
+        connect(zelle, &QAbstractButton::clicked, this,
+                [this, &gruppe, aktion] { (this->*aktion)(gruppe.gewaehlterTag()); });
+    }
+}
+
+void AnthroController::awakeFromNib()
+{
+    ladeBilder();
+    setzeStartwerte();
+    liesEinstellungen();
+}
+
+void AnthroController::ladeBilder()
+{
+    bilda = QImage(QStringLiteral(":/bilder/smile.png"));
+    bildb = QImage(QStringLiteral(":/bilder/nocrie-nosmile.png"));
+    bildc = QImage(QStringLiteral(":/bilder/crie.png"));
+    for (FaceView *gesicht : {kalfaceview, bmifaceview, whfaceview}) {
+        gesicht->setImage(bilda);
+        gesicht->setImage2(bildb);
+        gesicht->setImage3(bildc);
+    }
+}
+
+/// The plan gets the start value alone; the rest follows with the stored settings.
+void AnthroController::setzeStartwerte()
+{
+    gewicht->setFloatValue(startgewicht);
+    gewichtbmi->setFloatValue(startgewicht);
+    groesse->setFloatValue(startgroesse);
+    zeigeBmi();
+    zeigeUrteil(*bmifaceview, *bmiworte, Gesichtscode::lachend);
+    hueftumfang->setFloatValue(starthuefte);
+    taillenumfang->setFloatValue(starttaille);
+    zeigeVerhaeltnis();
+    zeigeUrteil(*whfaceview, *whworte, Gesichtscode::lachend);
+
+    geschlechtauswahl = startgeschlecht;
+    arbeitauswahl = startarbeit;
+    kal = ganzzahl(static_cast<double>(
+        energiegrundbedarf(gewichtbmi->floatValue(), arbeitauswahl, geschlechtauswahl)));
+    resultatkal->setIntValue(kal);
+    zeigeUrteil(*kalfaceview, *kalworte, Gesichtscode::lachend);
+    if (plan == nullptr) {
+        m_eigenerPlan = m_tueren.neuerPlan();
+        plan = m_eigenerPlan.get();
+    }
+    plan->anthrouebergabe(kal);
+
+    ml->setTextColor(Textfarbe::Schwarz);
+    name = startgetraenk;
+    gewicht2->setFloatValue(gewicht->floatValue());
+    zeigeGeschlecht();
+    sportmenge->setEnabled(false);
+    sportstunden->setStringValue(localizedString(QStringLiteral("Zeit(h)")));
+    alteranzeige->setIntValue(startalter);
+    alter->setIntValue(startalter);
+}
+
+void AnthroController::liesEinstellungen()
+{
+    for (Wertehalter *feld : std::initializer_list<Wertehalter *>{groesse, groessen}) {
+        feld->setFloatValue(gemerkt("Groesse"));
+    }
+    for (Wertehalter *feld : std::initializer_list<Wertehalter *>{gewicht, gewichtn, gewichtbmi}) {
+        feld->setFloatValue(gemerkt("Gewicht"));
+    }
+    gewichtredu->setChecked(ganzzahl(static_cast<double>(gemerkt("Gewichtredukt"))) != 0);
+    metrikeinaus->setChecked(ganzzahl(static_cast<double>(gemerkt("metrik"))) != 0);
+
+    zeigeImperial();
+    zeigeMasssystem(metrikeinaus->isChecked());
+    rechneEnergie();
+    zeigeReduktion();
+    uebergibEnergie();
+    plan->anthrouebergabegewicht(gewicht->floatValue());
+    plan->anthrouebergabegroesse(groesse->floatValue());
+    zeigeBmi();
+    rateBmi();
+    rateEnergie();
+    gewicht2->setFloatValue(gewicht->floatValue());
+
+    for (Wertehalter *feld : std::initializer_list<Wertehalter *>{hueftumfang, hueftn}) {
+        feld->setFloatValue(gemerkt("Huefte"));
+    }
+    for (Wertehalter *feld : std::initializer_list<Wertehalter *>{taillenumfang, taillen}) {
+        feld->setFloatValue(gemerkt("Taille"));
+    }
+    zeigeVerhaeltnis();
+    rateVerhaeltnis();
+}
+
+float AnthroController::gemerkt(const char *schluessel) const
+{
+    return m_tueren.einstellungen->value(QLatin1String(schluessel)).toFloat();
+}
+
+void AnthroController::merke(const char *schluessel, float zahl)
+{
+    m_tueren.einstellungen->setValue(QLatin1String(schluessel), kuerzeste(zahl));
+}
+
+/// Chooses the face and the words beside it. Without a code both stay as they are.
+void AnthroController::zeigeUrteil(FaceView &gesicht, QLabel &worte, std::optional<int> code)
+{
+    if (code) {
+        gesicht.entscheidung(*code);
+        worte.setText(
+            localizedString(QString::fromUtf8(urteile.at(static_cast<std::size_t>(*code - 1)))));
+    }
+}

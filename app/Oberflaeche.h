@@ -1,0 +1,18 @@
+#pragma once
+
+#include "AnthroController.h"
+#include "AppController.h"
+
+/// All that is there once the program has started: the main window with its controller, and the
+/// calculator, whose two pages lie in the last two tabs of that window.
+class Oberflaeche
+{
+public:
+    explicit Oberflaeche(const Tueren &tueren);
+
+    /// Start-up of the main window, then of the calculator. Called once, after construction.
+    void awakeFromNib();
+
+    AppController hauptfenster;
+    AnthroController rechner;
+};

@@ -1,0 +1,176 @@
+// What the plan window shows about its rows: shares of the day's needs, counted ratings, the
+// circle, the face, and what becomes of the weight.
+
+#include "Planmodul.h"
+
+#include "Ampelfarbe.h"
+#include "Bmi.h"
+#include "Ganzzahl.h"
+#include "Prognose.h"
+#include "Zeichenkettentabelle.h"
+
+namespace {
+
+using Gestalt = Ui::PlanmodulGestalt;
+
+/// The outlets of a nutrient's share, in the record's order.
+struct Naehrwertfelder
+{
+    Textfeld *Gestalt::*prozent;
+    WertungView *Gestalt::*balken;
+};
+
+constexpr std::array<Naehrwertfelder, anzahlNaehrwerte> naehrwertfelder = {{
+    {&Gestalt::gesamtkal, &Gestalt::gesamtkalview},
+    {&Gestalt::gesamtprotein, &Gestalt::gesamtproteinview},
+    {&Gestalt::gesamtfett, &Gestalt::gesamtfettview},
+    {&Gestalt::gesamtkohlenhydrate, &Gestalt::gesamtkohlenhydrateview},
+    {&Gestalt::gesamtballaststoffe, &Gestalt::gesamtballaststoffeview},
+    {&Gestalt::gesamtcholesterin, &Gestalt::gesamtcholesterinview},
+    {&Gestalt::gesamtnatrium, &Gestalt::gesamtnatriumview},
+    {&Gestalt::gesamtkalium, &Gestalt::gesamtkaliumview},
+    {&Gestalt::gesamtcalcium, &Gestalt::gesamtcalciumview},
+    {&Gestalt::gesamtphosphor, &Gestalt::gesamtphosphorview},
+    {&Gestalt::gesamtmagnesium, &Gestalt::gesamtmagnesiumview},
+    {&Gestalt::gesamteisen, &Gestalt::gesamteisenview},
+    {&Gestalt::gesamtvitamina, &Gestalt::gesamtvitaminaview},
+    {&Gestalt::gesamtvitaminb1, &Gestalt::gesamtvitaminb1view},
+    {&Gestalt::gesamtvitaminb2, &Gestalt::gesamtvitaminb2view},
+    {&Gestalt::gesamtvitaminb6, &Gestalt::gesamtvitaminb6view},
+    {&Gestalt::gesamtvitaminc, &Gestalt::gesamtvitamincview},
+}};
+
+/// The outlets of a rating's counts, in the record's order.
+struct Wertungsfelder
+{
+    Zaehlfeld *Gestalt::*plus;
+    Zaehlfeld *Gestalt::*neutral;
+    Zaehlfeld *Gestalt::*minus;
+};
+
+constexpr std::array<Wertungsfelder, anzahlWertungen> wertungsfelder = {{
+    {&Gestalt::uebergewichtpos, &Gestalt::uebergewichtneutral, &Gestalt::uebergewichtneg},
+    {&Gestalt::diabetespos, &Gestalt::diabetesneutral, &Gestalt::diabetesneg},
+    {&Gestalt::gichtpos, &Gestalt::gichtneutral, &Gestalt::gichtneg},
+    {&Gestalt::hkkpos, &Gestalt::hkkneutral, &Gestalt::hkkneg},
+}};
+
+void setzeStil(Zaehlfeld &feld, const Zeichenstil &stil)
+{
+    feld.setAnfang(textfarbe(stil.farbe), stil.punktgroesse);
+}
+
+/// What the face says, for those who can't see it.
+QString urteil(int gesicht)
+{
+    return gesicht == Gesichtscode::lachend ? localizedString(QStringLiteral("Ein guter Plan"))
+           : gesicht == Gesichtscode::neutral
+               ? localizedString(QStringLiteral("Ein Plan mit Lücken"))
+               : localizedString(QStringLiteral("Ein unausgewogener Plan"));
+}
+
+} // namespace
+
+std::vector<Planzeile> Planmodul::zeilen() const
+{
+    std::vector<Planzeile> ergebnis;
+    ergebnis.reserve(static_cast<std::size_t>(PlanArray.size()));
+    for (qsizetype i = 0; i < PlanArray.size(); ++i) {
+        ergebnis.push_back({lebensmittel(PlanArray[i]), mengenarray[i]});
+    }
+    return ergebnis;
+}
+
+void Planmodul::datenberechnen()
+{
+    if (m_fenster == nullptr) {
+        return;
+    }
+    const Planauswertung auswertung = planAuswerten(zeilen(), klient.bedarf, klient.unbereinigt);
+    zeigeNaehrwerte(auswertung);
+    zeigeWertungen(auswertung);
+    if (auswertung.energie) {
+        Kalorienbedarf->setIntValue(auswertung.energie->bedarf);
+        Kalorienerrechnet->setIntValue(auswertung.energie->errechnet);
+        verlustberechnen();
+    }
+    kreisansicht->wert1(auswertung.proteinanteil);
+    kreisansicht->wert2(auswertung.khanteil);
+    kreisansicht->wert3(auswertung.fettanteil);
+    kreisworte->setText(kreisansicht->beschreibung());
+    zeigeBeurteilung(auswertung);
+}
+
+void Planmodul::zeigeNaehrwerte(const Planauswertung &auswertung)
+{
+    for (std::size_t i = 0; i < anzahlNaehrwerte; ++i) {
+        const Plannaehrwert &naehrwert = auswertung.naehrwerte[i];
+        (this->*naehrwertfelder[i].prozent)->setDoubleValue(naehrwert.prozent);
+        WertungView &balken = *(this->*naehrwertfelder[i].balken);
+        if (naehrwert.balken) {
+            balken.drawaRect(naehrwert.balken->code.value_or(Balkencode::unveraendert));
+            balken.drawabalken(naehrwert.balken->laenge);
+        }
+    }
+}
+
+void Planmodul::zeigeWertungen(const Planauswertung &auswertung)
+{
+    for (std::size_t i = 0; i < anzahlWertungen; ++i) {
+        const Planwertung &wertung = auswertung.wertungen[i];
+        Zaehlfeld &plus = *(this->*wertungsfelder[i].plus);
+        Zaehlfeld &neutral = *(this->*wertungsfelder[i].neutral);
+        Zaehlfeld &minus = *(this->*wertungsfelder[i].minus);
+        plus.setIntValue(wertung.plus);
+        neutral.setIntValue(wertung.neutral);
+        minus.setIntValue(wertung.minus);
+        if (wertung.sieger) {
+            const Wertungsstil stil = wertungsstil(*wertung.sieger);
+            setzeStil(plus, stil.plus);
+            setzeStil(neutral, stil.neutral);
+            setzeStil(minus, stil.minus);
+        }
+    }
+}
+
+void Planmodul::zeigeBeurteilung(const Planauswertung &auswertung)
+{
+    planbeurteilungfaceview->entscheidung(auswertung.gesicht);
+    planworte->setText(urteil(auswertung.gesicht) + u'\n' +
+                       localizedString(QStringLiteral("%1 von 21 Punkten")).arg(auswertung.punkte));
+}
+
+void Planmodul::zeigeBmi()
+{
+    if (m_fenster != nullptr) {
+        BMI->setFloatValue(bmi(klient.gewicht, klient.groesse));
+    }
+}
+
+void Planmodul::verlustberechnen()
+{
+    const Prognose::Verlauf verlauf =
+        Prognose::verlustberechnen({.tage = Tage->floatValue(),
+                                    .bedarf = Kalorienbedarf->intValue(),
+                                    .errechnet = Kalorienerrechnet->intValue(),
+                                    .gewicht = klient.gewicht,
+                                    .groesse = klient.groesse});
+    if (verlauf.tage) {
+        Tage->setFloatValue(*verlauf.tage);
+    }
+    Gewichtsverlust->setFloatValue(verlauf.gewichtsverlust);
+    BMI->setFloatValue(verlauf.bmi);
+    BMIneu->setFloatValue(verlauf.bmiNeu);
+    gewichtview->wert1(ganzzahl(static_cast<double>(klient.gewicht)));
+    gewichtview->wert2(Kalorienbedarf->intValue());
+    gewichtview->wert3(Kalorienerrechnet->intValue());
+    gewichtview->wert4(klient.groesse);
+    verlaufworte->setText(gewichtview->beschreibung());
+}
+
+void Planmodul::tageberechnen(const Wertehalter &sender)
+{
+    Tage->setFloatValue(Prognose::tageberechnen(sender.floatValue(), Kalorienbedarf->intValue(),
+                                                Kalorienerrechnet->intValue()));
+    verlustberechnen();
+}

@@ -1,0 +1,131 @@
+#include "Probefenster.h"
+
+#include "Rundgang.h"
+
+#include <QDir>
+#include <QFile>
+#include <QImage>
+#include <QRegularExpression>
+#include <QTest>
+
+using enum Naehrwert;
+
+/// The tour that the program takes by itself, for those who have no display.
+class TestRundgang : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void everyStopHasItsPictureAndItsWords();
+    void theSummaryTellsWhatIsSeen();
+    void itLeavesTheSettingsAndFilesAlone();
+    void itGoesAlsoWithoutFoods();
+    void aFolderThatCantBeMadeIsReported();
+};
+
+namespace {
+
+QString lies(const QString &datei)
+{
+    QFile gelesen(datei);
+    return gelesen.open(QIODevice::ReadOnly) ? QString::fromUtf8(gelesen.readAll()) : QString();
+}
+
+/// The numbered lines of a summary, one for each stop.
+QStringList halte(const QString &bericht)
+{
+    static const QRegularExpression nummeriert(QStringLiteral("^\\d+\\. .+$"),
+                                               QRegularExpression::MultilineOption);
+    QStringList zeilen;
+    for (const auto &treffer : nummeriert.globalMatch(bericht)) {
+        zeilen << treffer.captured();
+    }
+    return zeilen;
+}
+
+} // namespace
+
+void TestRundgang::everyStopHasItsPictureAndItsWords()
+{
+    Probeheim heim;
+    heim.schreibeTabelle(zaehltabelle(40));
+    const Probefenster fenster(heim);
+    const QDir ordner(heim.pfad(QStringLiteral("a/tour"))); // made with the folders above it
+    QVERIFY(Rundgang(fenster.oberflaeche(), ordner).gehen());
+    const QStringList bilder = ordner.entryList({QStringLiteral("*.png")}, QDir::Files, QDir::Name);
+    const QStringList worte = halte(lies(ordner.filePath(QStringLiteral("summary.txt"))));
+    QVERIFY(bilder.size() >= 11);
+    QCOMPARE(worte.size(), bilder.size());
+    QList<QImage> gesehen;
+    for (int i = 0; i < bilder.size(); ++i) {
+        QVERIFY(bilder[i].startsWith(QStringLiteral("%1-").arg(i + 1, 2, 10, QLatin1Char('0'))));
+        QVERIFY(worte[i].startsWith(QStringLiteral("%1. ").arg(i + 1)));
+        const QImage bild(ordner.filePath(bilder[i]));
+        QCOMPARE(bild.size(), fenster->Hauptfenster->size());
+        gesehen << bild;
+    }
+    for (qsizetype i = 1; i < gesehen.size(); ++i) {
+        QVERIFY2(gesehen[i] != gesehen[i - 1], qPrintable(bilder[i])); // something has happened
+    }
+    const QString dunkel = bilder.filter(QStringLiteral("dark")).value(0);
+    QVERIFY(QImage(ordner.filePath(dunkel)).pixelColor(5, 400).lightness() < 128);
+    QVERIFY(gesehen[0].pixelColor(5, 400).lightness() > 128);
+    QVERIFY(QApplication::palette().color(QPalette::Window).lightness() > 128); // and back again
+}
+
+void TestRundgang::theSummaryTellsWhatIsSeen()
+{
+    Probeheim heim;
+    heim.schreibeTabelle(zaehltabelle(40));
+    const Probefenster fenster(heim);
+    const QDir ordner(heim.pfad(QStringLiteral("tour")));
+    QVERIFY(Rundgang(fenster.oberflaeche(), ordner).gehen());
+    const QString bericht = lies(ordner.filePath(QStringLiteral("summary.txt")));
+    QVERIFY(halte(bericht)[0].contains(QStringLiteral("40 rows")));
+    for (const int zeile : {8, 20, 32}) {
+        QVERIFY(bericht.contains(zaehlname(zeile)));
+    }
+    QVERIFY(bericht.contains(QStringLiteral("30 g")));
+    QVERIFY(bericht.contains(QStringLiteral("Energie: 21 kcal")));
+    QVERIFY(!bericht.contains(QStringLiteral("Vitamin C"))); // there is none in these foods
+    for (int i = 0; i < 5; ++i) {
+        QVERIFY(bericht.contains(fenster->DatenAnsicht->tabText(i)));
+    }
+    QVERIFY(bericht.contains(QStringLiteral("BMI 24,69, 2.112 kcal per day")));
+    QVERIFY(bericht.contains(QStringLiteral("20,0 g of alcohol for 5,0 h")));
+    QVERIFY(heim.meldungen.isEmpty());
+}
+
+void TestRundgang::itLeavesTheSettingsAndFilesAlone()
+{
+    Probeheim heim;
+    heim.schreibeTabelle(zaehltabelle(40));
+    heim.einstellungen().setValue(QStringLiteral("Erscheinungsbild"), 1);
+    const Probefenster fenster(heim);
+    QVERIFY(Rundgang(fenster.oberflaeche(), QDir(heim.pfad(QStringLiteral("tour")))).gehen());
+    QCOMPARE(heim.einstellungen().value(QStringLiteral("Erscheinungsbild")).toInt(), 1);
+    QVERIFY(fenster->erscheinungsbild() == Erscheinungsbild::Hell);
+}
+
+void TestRundgang::itGoesAlsoWithoutFoods()
+{
+    Probeheim heim;
+    const Probefenster fenster(heim);
+    const QDir ordner(heim.pfad(QStringLiteral("tour")));
+    QVERIFY(Rundgang(fenster.oberflaeche(), ordner).gehen());
+    QVERIFY(
+        lies(ordner.filePath(QStringLiteral("summary.txt"))).contains(QStringLiteral("0 rows")));
+}
+
+void TestRundgang::aFolderThatCantBeMadeIsReported()
+{
+    Probeheim heim;
+    heim.schreibeTabelle(zaehltabelle(3));
+    const Probefenster fenster(heim);
+    QFile imWeg(heim.pfad(QStringLiteral("tour")));
+    QVERIFY(imWeg.open(QIODevice::WriteOnly));
+    QVERIFY(!Rundgang(fenster.oberflaeche(), QDir(heim.pfad(QStringLiteral("tour/hier")))).gehen());
+}
+
+QTEST_MAIN(TestRundgang)
+#include "TestRundgang.moc"

@@ -1,0 +1,357 @@
+#include "Listenmodell.h"
+#include "Planprobe.h"
+
+#include <QApplication>
+#include <QDragEnterEvent>
+#include <QFile>
+#include <QFileInfo>
+#include <QMimeData>
+#include <QPushButton>
+#include <QRandomGenerator>
+#include <QTest>
+
+#include <algorithm>
+
+using namespace Qt::StringLiterals;
+
+/// The plan's rows in its window and in its file.
+class TestPlanmodulListe : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void init();
+    void aPlanComesBackInAlphabeticalOrder();
+    void aSavedAmountIsCutOff();
+    void missingFilesGiveAnEmptyPlan();
+    void damagedFilesGiveAnEmptyPlan();
+    void theDataFolderIsMadeAtOnce();
+    void openingAPlanWritesNoPlanFile();
+    void aFoodFromTheMainWindowComesLast();
+    void aFoodAlreadyInThePlanMovesToTheEnd();
+    void withoutAWindowTheListsAreKeptAllTheSame();
+    void theButtonRemovesTheSelectedRow();
+    void theDeleteKeyRemovesTheSelectedRow();
+    void removingWithNothingSelectedDoesNothing();
+    void removingTwiceTakesTheNextRow();
+    void aDropGoesAboveARow();
+    void aDropOnARowGoesBehindIt();
+    void aDropBelowAllRowsGoesLast();
+    void onlyTextsAreTaken();
+    void aDropThatRunsOutOfTheListIsNeitherSavedNorShown();
+    void afterAFailedDropTheWindowGoesOn();
+    void randomOperationsGoAsToldToAColleague();
+
+private:
+    void oeffne() { m_fenster = std::make_unique<Planfenster>(*m_heim); }
+    QStringList gezeigt() const { return m_fenster->spalte(u"name"_s); }
+
+    std::unique_ptr<Planheim> m_heim;
+    std::unique_ptr<Planfenster> m_fenster;
+};
+
+void TestPlanmodulListe::init()
+{
+    vergissKlient();
+    m_fenster.reset();
+    m_heim = std::make_unique<Planheim>();
+    m_heim->schreibeTabelle({speise(u"apfel"_s), speise(u"Brot"_s), speise(u"Ei"_s),
+                             speise(u"Milch"_s), speise(u"Zucker"_s)});
+}
+
+void TestPlanmodulListe::aPlanComesBackInAlphabeticalOrder()
+{
+    {
+        oeffne();
+        for (const QString &name : {u"Zucker"_s, u"apfel"_s, u"Brot"_s}) {
+            (*m_fenster)->nameimportvontoolbar(name);
+        }
+        QCOMPARE(gezeigt(), QStringList({u"Zucker"_s, u"apfel"_s, u"Brot"_s}));
+    }
+    oeffne();
+    QCOMPARE(gezeigt(), QStringList({u"apfel"_s, u"Brot"_s, u"Zucker"_s}));
+    QCOMPARE((*m_fenster)->Arrayrausgeben(), gezeigt());
+}
+
+void TestPlanmodulListe::aSavedAmountIsCutOff()
+{
+    m_heim->schreibePlan({{u"Brot"_s, 150.7F}, {u"Ei"_s, 0.9F}});
+    oeffne();
+    QCOMPARE(m_fenster->spalte(u"menge"_s), QStringList({u"150"_s, u"0"_s}));
+    QCOMPARE(m_heim->plan()[u"Brot"_s], 150.7F); // the file stays as it is until something changes
+}
+
+void TestPlanmodulListe::missingFilesGiveAnEmptyPlan()
+{
+    QVERIFY(QFile::remove(m_heim->tabelle()));
+    oeffne();
+    QVERIFY((*m_fenster)->Dictionary.isEmpty());
+    QVERIFY((*m_fenster)->KundenDictionary.isEmpty());
+    QVERIFY((*m_fenster)->plansavedictionary.isEmpty());
+    QVERIFY(gezeigt().isEmpty());
+}
+
+void TestPlanmodulListe::damagedFilesGiveAnEmptyPlan()
+{
+    for (const QString &pfad : {m_heim->tabelle(), m_heim->eigeneDatei(), m_heim->plandatei()}) {
+        QFile datei(pfad);
+        QVERIFY(datei.open(QIODevice::WriteOnly));
+        QVERIFY(datei.write("no foods") > 0);
+    }
+    oeffne();
+    QVERIFY((*m_fenster)->Dictionary.isEmpty());
+    QVERIFY((*m_fenster)->KundenDictionary.isEmpty());
+    QVERIFY(gezeigt().isEmpty());
+}
+
+void TestPlanmodulListe::theDataFolderIsMadeAtOnce()
+{
+    const Planmodul plan(m_heim->tueren());
+    QVERIFY(
+        QFileInfo(QFileInfo(m_heim->tabelle()).path() + u"/Library/Application Support/Mahlberg"_s)
+            .isDir());
+}
+
+void TestPlanmodulListe::openingAPlanWritesNoPlanFile()
+{
+    oeffne();
+    QVERIFY(!QFile::exists(m_heim->plandatei()));
+    QVERIFY(!QFile::exists(m_heim->eigeneDatei()));
+}
+
+void TestPlanmodulListe::aFoodFromTheMainWindowComesLast()
+{
+    oeffne();
+    (*m_fenster)->nameimportvontoolbar(u"Ei"_s);
+    (*m_fenster)->nameimportvontoolbar(u"apfel"_s);
+    QCOMPARE(gezeigt(), QStringList({u"Ei"_s, u"apfel"_s}));
+    QCOMPARE(m_fenster->spalte(u"menge"_s), QStringList({u"100"_s, u"100"_s}));
+    QCOMPARE(m_heim->plan(), (QMap<QString, float>{{u"Ei"_s, 100.0F}, {u"apfel"_s, 100.0F}}));
+}
+
+void TestPlanmodulListe::aFoodAlreadyInThePlanMovesToTheEnd()
+{
+    m_heim->schreibePlan({{u"apfel"_s, 50}, {u"Brot"_s, 60}});
+    oeffne();
+    (*m_fenster)->nameimportvontoolbar(u"apfel"_s);
+    QCOMPARE(gezeigt(), QStringList({u"Brot"_s, u"apfel"_s}));
+    QCOMPARE(m_fenster->spalte(u"menge"_s), QStringList({u"60"_s, u"100"_s}));
+    QCOMPARE(m_heim->plan(), (QMap<QString, float>{{u"Brot"_s, 60.0F}, {u"apfel"_s, 100.0F}}));
+}
+
+void TestPlanmodulListe::withoutAWindowTheListsAreKeptAllTheSame()
+{
+    Planmodul plan(m_heim->tueren());
+    plan.nameimportvontoolbar(u"Ei"_s);
+    plan.anthrouebergabegewicht(80);
+    plan.anthrouebergabegroesse(1.8F);
+    plan.Lebensmittelentfernen(); // nothing can be selected yet
+    plan.datenberechnen();
+    QVERIFY(plan.PlanTabelle == nullptr);
+    QCOMPARE(m_heim->plan().keys(), QStringList(u"Ei"_s));
+    plan.window();
+    QCOMPARE(plan.PlanTabelle->model()->rowCount(), 1);
+}
+
+void TestPlanmodulListe::theButtonRemovesTheSelectedRow()
+{
+    m_heim->schreibePlan({{u"apfel"_s, 50}, {u"Brot"_s, 60}, {u"Ei"_s, 70}});
+    oeffne();
+    QTest::mouseClick((*m_fenster)->PlanTabelle->viewport(), Qt::LeftButton, {},
+                      m_fenster->mitte(1, u"name"_s));
+    QTest::mouseClick((*m_fenster)->entfernenknopf, Qt::LeftButton);
+    QCOMPARE(gezeigt(), QStringList({u"apfel"_s, u"Ei"_s}));
+    QCOMPARE(m_fenster->spalte(u"menge"_s), QStringList({u"50"_s, u"70"_s}));
+    QCOMPARE(m_heim->plan().keys(), QStringList({u"Ei"_s, u"apfel"_s}));
+}
+
+void TestPlanmodulListe::theDeleteKeyRemovesTheSelectedRow()
+{
+    m_heim->schreibePlan({{u"apfel"_s, 50}, {u"Brot"_s, 60}});
+    oeffne();
+    QTest::mouseClick((*m_fenster)->PlanTabelle->viewport(), Qt::LeftButton, {},
+                      m_fenster->mitte(0, u"fett"_s));
+    QTest::keyClick((*m_fenster)->PlanTabelle, Qt::Key_Delete);
+    QCOMPARE(gezeigt(), QStringList(u"Brot"_s));
+}
+
+void TestPlanmodulListe::removingWithNothingSelectedDoesNothing()
+{
+    m_heim->schreibePlan({{u"apfel"_s, 50.5F}});
+    oeffne();
+    QTest::mouseClick((*m_fenster)->entfernenknopf, Qt::LeftButton);
+    QCOMPARE(gezeigt(), QStringList(u"apfel"_s));
+    QCOMPARE(m_heim->plan()[u"apfel"_s], 50.5F); // not written either
+    QVERIFY((*m_fenster)->window()->isVisible());
+}
+
+void TestPlanmodulListe::removingTwiceTakesTheNextRow()
+{
+    m_heim->schreibePlan({{u"apfel"_s, 50}, {u"Brot"_s, 60}, {u"Ei"_s, 70}});
+    oeffne();
+    (*m_fenster)->PlanTabelle->selectRow(0);
+    (*m_fenster)->Lebensmittelentfernen();
+    (*m_fenster)->Lebensmittelentfernen();
+    QCOMPARE(gezeigt(), QStringList(u"Ei"_s));
+    (*m_fenster)->Lebensmittelentfernen();
+    (*m_fenster)->Lebensmittelentfernen(); // with the last row its selection is gone
+    QVERIFY(gezeigt().isEmpty());
+    QVERIFY(m_heim->plan().isEmpty());
+}
+
+void TestPlanmodulListe::aDropGoesAboveARow()
+{
+    m_heim->schreibePlan({{u"apfel"_s, 50}, {u"Brot"_s, 60}});
+    oeffne();
+    QVERIFY(m_fenster->wirfAbUeber(u"Ei"_s, 1));
+    QCOMPARE(gezeigt(), QStringList({u"apfel"_s, u"Ei"_s, u"Brot"_s}));
+    QVERIFY(m_fenster->wirfAbUeber(u"Milch"_s, 0));
+    QCOMPARE(gezeigt(), QStringList({u"Milch"_s, u"apfel"_s, u"Ei"_s, u"Brot"_s}));
+    QCOMPARE(m_fenster->spalte(u"menge"_s), QStringList({u"100"_s, u"50"_s, u"100"_s, u"60"_s}));
+    QCOMPARE(m_heim->plan().size(), 4);
+}
+
+void TestPlanmodulListe::aDropOnARowGoesBehindIt()
+{
+    m_heim->schreibePlan(
+        {{u"apfel"_s, 1}, {u"Brot"_s, 1}, {u"Ei"_s, 1}, {u"Milch"_s, 1}, {u"X"_s, 1}});
+    oeffne();
+    QVERIFY(m_fenster->wirfAb(u"Zucker"_s, m_fenster->mitte(3, u"name"_s)));
+    QCOMPARE((*m_fenster)->PlanArray.indexOf(u"Zucker"_s), 4);
+    QCOMPARE((*m_fenster)->PlanArray.indexOf(u"X"_s), 5);
+}
+
+void TestPlanmodulListe::aDropBelowAllRowsGoesLast()
+{
+    oeffne();
+    const int unten = (*m_fenster)->PlanTabelle->viewport()->height() - 2;
+    QVERIFY(m_fenster->wirfAb(u"Ei"_s, QPoint(700, unten))); // into an empty plan
+    QVERIFY(m_fenster->wirfAb(u"apfel"_s, QPoint(30, unten)));
+    QCOMPARE(gezeigt(), QStringList({u"Ei"_s, u"apfel"_s}));
+}
+
+void TestPlanmodulListe::onlyTextsAreTaken()
+{
+    oeffne();
+    QMimeData daten;
+    daten.setUrls({QUrl(u"file:///tmp/apfel"_s)});
+    QWidget *flaeche = (*m_fenster)->PlanTabelle->viewport();
+    QDragEnterEvent herein(QPoint(9, 9), Qt::CopyAction, &daten, Qt::LeftButton, {});
+    QApplication::sendEvent(flaeche, &herein);
+    QVERIFY(!herein.isAccepted());
+    QDropEvent abwurf(QPoint(9, 9), Qt::CopyAction, &daten, Qt::LeftButton, {});
+    QApplication::sendEvent(flaeche, &abwurf);
+    QVERIFY(!abwurf.isAccepted());
+    QVERIFY((*m_fenster)->PlanArray.isEmpty());
+}
+
+void TestPlanmodulListe::aDropThatRunsOutOfTheListIsNeitherSavedNorShown()
+{
+    m_heim->schreibePlan({{u"apfel"_s, 50}, {u"Brot"_s, 60}, {u"Ei"_s, 70}});
+    oeffne();
+    QVERIFY(m_fenster->wirfAbUeber(u"apfel"_s, 2)); // a drop is always answered with yes
+    QCOMPARE((*m_fenster)->PlanArray, QStringList({u"Brot"_s, u"apfel"_s, u"Ei"_s}));
+    QCOMPARE((*m_fenster)->mengenarray, QList<float>({60, 100, 70}));
+    QCOMPARE((*m_fenster)->plansavedictionary.keys(), QStringList({u"Brot"_s, u"apfel"_s}));
+    QCOMPARE(m_heim->plan().keys(), QStringList({u"Brot"_s, u"Ei"_s, u"apfel"_s}));
+    QCOMPARE(gezeigt(), QStringList({u"apfel"_s, u"Brot"_s, u"Ei"_s}));
+    QCOMPARE(m_fenster->spalte(u"menge"_s), QStringList({u"50"_s, u"60"_s, u"70"_s}));
+    QVERIFY(!(*m_fenster)->window()->grab().isNull());
+    QCOMPARE(gezeigt(), QStringList({u"apfel"_s, u"Brot"_s, u"Ei"_s}));
+}
+
+void TestPlanmodulListe::afterAFailedDropTheWindowGoesOn()
+{
+    m_heim->schreibePlan({{u"apfel"_s, 50}, {u"Brot"_s, 60}, {u"Ei"_s, 70}});
+    oeffne();
+    QVERIFY(m_fenster->wirfAbUeber(u"apfel"_s, 2));
+    m_fenster->tippeMenge(0, u"30"_s); // the row is Brot's by now, and says so
+    QCOMPARE(gezeigt(), QStringList({u"Brot"_s, u"Brot"_s, u"Ei"_s}));
+    QCOMPARE((*m_fenster)->mengenarray, QList<float>({30, 100, 70}));
+    (*m_fenster)->nameimportvontoolbar(u"Milch"_s);
+    QCOMPARE(gezeigt(), QStringList({u"Brot"_s, u"apfel"_s, u"Ei"_s, u"Milch"_s}));
+    // Ei had lost its entry, and apfel still has that of its old row.
+    QCOMPARE(m_heim->plan(),
+             (QMap<QString, float>{{u"Brot"_s, 30.0F}, {u"Milch"_s, 100.0F}, {u"apfel"_s, 50.0F}}));
+}
+
+void TestPlanmodulListe::randomOperationsGoAsToldToAColleague()
+{
+    QRandomGenerator zufall(8711);
+    const QStringList speisen = {u"apfel"_s, u"Brot"_s, u"Ei"_s, u"Milch"_s, u"Eigenes"_s, u"?"_s};
+    m_heim->schreibeEigene({speise(u"Eigenes"_s)});
+    oeffne();
+    Listenmodell modell;
+    std::vector<QString> tabelle; // the names that the table shows
+    for (int schritt = 0; schritt < 2000; ++schritt) {
+        const auto gezeigte = static_cast<int>(tabelle.size());
+        const QString name = speisen[zufall.bounded(static_cast<int>(speisen.size()))];
+        const int zeile = zufall.bounded(gezeigte + 1);
+        const auto stelle = static_cast<std::size_t>(zeile);
+        try {
+            switch (zufall.bounded(8)) {
+            case 0:
+            case 1: // from the main table
+                QVERIFY(m_fenster->wirfAbUeber(name, zeile));
+                modell.abwurf(name, stelle);
+                tabelle = modell.namen;
+                break;
+            case 2: // within the plan
+                if (gezeigte > 0) {
+                    const auto von = static_cast<std::size_t>(zufall.bounded(gezeigte));
+                    const std::unique_ptr<QMimeData> daten(
+                        (*m_fenster)->PlanTabelle->ziehdaten(static_cast<int>(von), QPoint(30, 1)));
+                    QCOMPARE(daten->text(), tabelle[von]);
+                    QVERIFY(m_fenster->wirfAbUeber(daten->text(), zeile));
+                    modell.abwurf(daten->text(), stelle);
+                    tabelle = modell.namen;
+                }
+                break;
+            case 3:
+                (*m_fenster)->nameimportvontoolbar(name);
+                modell.uebernahme(name);
+                tabelle = modell.namen;
+                break;
+            case 4:
+                if (zeile < gezeigte) {
+                    const int gramm = zufall.bounded(500);
+                    (*m_fenster)
+                        ->PlanTabelle->model()
+                        ->setData(m_fenster->index(zeile, u"menge"_s), QString::number(gramm),
+                                  Qt::EditRole);
+                    modell.aendere(stelle, static_cast<float>(gramm));
+                    tabelle.at(stelle) = modell.namen.at(stelle);
+                }
+                break;
+            case 5:
+            case 6:
+                (*m_fenster)->PlanTabelle->clearSelection();
+                (*m_fenster)->PlanTabelle->selectRow(zeile);
+                (*m_fenster)->Lebensmittelentfernen();
+                modell.entferne(zeile < gezeigte ? stelle : static_cast<std::size_t>(-1));
+                tabelle = modell.namen;
+                break;
+            default: {
+                (*m_fenster)->loeschenvonkundeneintraegen(name);
+                const auto gefunden = std::find(modell.namen.begin(), modell.namen.end(), name);
+                modell.entferne(static_cast<std::size_t>(gefunden - modell.namen.begin()));
+                tabelle = modell.namen;
+            }
+            }
+        } catch (const std::out_of_range &) {
+            // The operation ended there; the window goes on, and so does the comparison.
+        }
+        QCOMPARE((*m_fenster)->PlanArray, QStringList(modell.namen.begin(), modell.namen.end()));
+        QCOMPARE((*m_fenster)->mengenarray,
+                 QList<float>(modell.mengen.begin(), modell.mengen.end()));
+        QCOMPARE(m_heim->plan(), (QMap<QString, float>(modell.datei)));
+        QStringList lesbar;
+        for (const QString &eine : tabelle) {
+            lesbar << ((*m_fenster)->lebensmittel(eine) != nullptr ? eine : QString());
+        }
+        QCOMPARE(gezeigt(), lesbar);
+    }
+}
+
+QTEST_MAIN(TestPlanmodulListe)
+#include "TestPlanmodulListe.moc"
