@@ -1,6 +1,9 @@
 #include "Auswahlfeld.h"
 
+#include <QAbstractItemView>
 #include <QCompleter>
+#include <QItemSelectionModel>
+#include <QKeyEvent>
 #include <QLineEdit>
 #include <QSignalBlocker>
 #include <QStringListModel>
@@ -19,6 +22,23 @@ public:
     }
 
     QStringList splitPath(const QString & /*path*/) const override { return {QString()}; }
+
+protected:
+    /// Return picks the marked entry. The field itself would take it for the end of a typed text,
+    /// and the entry would count twice.
+    bool eventFilter(QObject *watched, QEvent *event) override
+    {
+        if (watched != widget() && event->type() == QEvent::KeyPress) {
+            const int taste = static_cast<QKeyEvent *>(event)->key();
+            const QModelIndex markiert = popup()->selectionModel()->selectedIndexes().value(0);
+            if (markiert.isValid() && (taste == Qt::Key_Return || taste == Qt::Key_Enter)) {
+                popup()->hide();
+                Q_EMIT activated(markiert);
+                return true;
+            }
+        }
+        return QCompleter::eventFilter(watched, event);
+    }
 };
 
 } // namespace
@@ -27,7 +47,7 @@ Auswahlfeld::Auswahlfeld(QWidget *parent) : QComboBox(parent)
 {
     setInsertPolicy(QComboBox::NoInsert);
     connect(this, &QComboBox::currentTextChanged, this, &Auswahlfeld::textGeaendert);
-    connect(this, &QComboBox::activated, this, &Auswahlfeld::betaetigt);
+    connect(this, &QComboBox::activated, this, &Auswahlfeld::meldeAuswahl);
 }
 
 QString Auswahlfeld::auswahl() const
@@ -61,7 +81,14 @@ void Auswahlfeld::setFreitext(bool frei)
     connect(lineEdit(), &QLineEdit::editingFinished, this, &Auswahlfeld::meldeEingabe);
 }
 
-/// An entry that was picked has been reported by then, and its text is no longer a typed one.
+void Auswahlfeld::meldeAuswahl()
+{
+    if (isEditable()) {
+        lineEdit()->setModified(false); // what was typed has become an entry
+    }
+    Q_EMIT betaetigt();
+}
+
 void Auswahlfeld::meldeEingabe()
 {
     if (lineEdit()->isModified()) {

@@ -32,5 +32,6 @@ protected:
 
 private:
     void textGeaendert(const QString &text);
+    void meldeAuswahl();
     void meldeEingabe();
 };

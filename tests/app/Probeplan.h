@@ -1,7 +1,8 @@
 #pragma once
 
-#include "AppController.h"
+#include "Planmodul.h"
 
+#include <QDir>
 #include <QList>
 #include <QStringList>
 
@@ -12,12 +13,14 @@
 class Probeplan : public Planmodul
 {
 public:
-    /// Gives the controller such a plan, which is the controller's from then on.
-    static Probeplan &bei(AppController &controller)
+    /// Without foods, and with a home of its own that no test looks at.
+    Probeplan()
+        : Planmodul({.eingebauteTabelle = QString(),
+                     .datenordner = Datenordner(QDir::temp().filePath(QStringLiteral("planheim"))),
+                     .melde = [](QWidget *, const Meldung &) {
+                         return 0;
+                     }})
     {
-        auto *plan = new Probeplan;
-        controller.planmodul = plan;
-        return *plan;
     }
 
     void umschreibungMitName(const Datenmodul &lebensmittel) override
@@ -39,13 +42,4 @@ public:
     };
     std::function<void()> beimLoeschen = [] {
     };
-
-private:
-    /// It has no foods and no place to keep any.
-    Probeplan()
-        : Planmodul({.eingebauteTabelle = {},
-                     .datenordner = Datenordner(QStringLiteral("/dev/null")),
-                     .melde = {}})
-    {
-    }
 };

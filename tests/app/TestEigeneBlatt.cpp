@@ -92,7 +92,8 @@ void TestEigeneBlatt::trageEin(const QString &name, const QString &kilokalorien)
 void TestEigeneBlatt::withoutANameNothingHappens()
 {
     oeffne();
-    Probeplan &plan = Probeplan::bei(controller());
+    Probeplan &plan = *new Probeplan; // the window takes it over
+    controller().planmodul = &plan;
     controller().Fensterschliessen();
     m_fenster->klicke(1, inName);
     m_fenster->tippeMenge(QStringLiteral("30"));
@@ -367,7 +368,8 @@ void TestEigeneBlatt::theSheetStaysOpenAndKeepsItsText()
 void TestEigeneBlatt::thePlanIsToldFirst()
 {
     oeffne();
-    Probeplan &plan = Probeplan::bei(controller());
+    Probeplan &plan = *new Probeplan; // the window takes it over
+    controller().planmodul = &plan;
     bool vorher = false;
     plan.beimSichern = [this, &vorher] {
         vorher = controller().KundenArray.isEmpty() && controller().KundenDictionary.isEmpty() &&

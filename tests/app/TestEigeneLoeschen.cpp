@@ -102,7 +102,8 @@ void TestEigeneLoeschen::onlyOwnFoodsCanBeDeleted()
 {
     QFETCH(QString, anzeige);
     oeffne({a, b, c});
-    Probeplan &plan = Probeplan::bei(controller());
+    Probeplan &plan = *new Probeplan; // the window takes it over
+    controller().planmodul = &plan;
     const QByteArray vorher = bytes();
     controller().feldA->setStringValue(anzeige);
     m_heim->antworten = {ja};
@@ -160,7 +161,8 @@ void TestEigeneLoeschen::theTextsAreTranslated()
 void TestEigeneLoeschen::noLeavesAllAsItIs()
 {
     oeffne({a, b, c});
-    Probeplan &plan = Probeplan::bei(controller());
+    Probeplan &plan = *new Probeplan; // the window takes it over
+    controller().planmodul = &plan;
     m_fenster->klicke(1, inEigen);
     const QByteArray vorher = bytes();
     m_heim->antworten = {nein};
@@ -216,7 +218,8 @@ void TestEigeneLoeschen::everyWayToDelete()
 void TestEigeneLoeschen::thePlanIsToldLast()
 {
     oeffne({a, b});
-    Probeplan &plan = Probeplan::bei(controller());
+    Probeplan &plan = *new Probeplan; // the window takes it over
+    controller().planmodul = &plan;
     bool zuletzt = false;
     plan.beimLoeschen = [this, &zuletzt] {
         zuletzt = controller().KundenArray == QStringList{b} &&
@@ -283,7 +286,8 @@ void TestEigeneLoeschen::theListLosesTheSelectedRow()
 void TestEigeneLoeschen::beyondTheListNothingIsLost()
 {
     oeffne({a, b});
-    Probeplan &plan = Probeplan::bei(controller());
+    Probeplan &plan = *new Probeplan; // the window takes it over
+    controller().planmodul = &plan;
     m_fenster->klicke(0, inEigen);
     controller().Tabelle->selectRow(7);
     m_heim->antworten = {ja};

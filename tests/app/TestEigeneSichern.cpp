@@ -192,7 +192,8 @@ void TestEigeneSichern::onlyAHundredGramsCanBeSaved()
 void TestEigeneSichern::thePlanGetsWhatStandsInTheSheet()
 {
     oeffne();
-    Probeplan &plan = Probeplan::bei(controller());
+    Probeplan &plan = *new Probeplan; // the window takes it over
+    controller().planmodul = &plan;
     m_fenster->klicke(1, inName);
     oeffneKasten();
     sichere();

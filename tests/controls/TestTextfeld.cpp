@@ -4,6 +4,7 @@
 #include <QLocale>
 #include <QSignalSpy>
 #include <QTest>
+#include <QTranslator>
 #include <QVBoxLayout>
 
 class TestTextfeld : public QObject
@@ -24,6 +25,7 @@ private Q_SLOTS:
     void leavingWithoutTypingReportsNothing();
     void aHiddenFieldKeepsItsPlace();
     void theVerdictFollowsTheTheme();
+    void aTextIsShownInTheWindowsLanguage();
 };
 
 namespace {
@@ -225,6 +227,34 @@ void TestTextfeld::theVerdictFollowsTheTheme()
     feld->setTextColor(Textfarbe::Standard);
     QCOMPARE(feld->textColor(), Textfarbe::Standard);
     QGuiApplication::setPalette(vorher);
+}
+
+void TestTextfeld::aTextIsShownInTheWindowsLanguage()
+{
+    class Woerterbuch : public QTranslator
+    {
+    public:
+        QString translate(const char *context, const char *sourceText, const char * /*unused*/,
+                          int /*n*/) const override
+        {
+            const bool kennt =
+                qstrcmp(context, "Mahlberg") == 0 && qstrcmp(sourceText, "Frau") == 0;
+            return kennt ? QStringLiteral("Woman") : QString();
+        }
+        bool isEmpty() const override { return false; }
+    };
+    Woerterbuch woerterbuch;
+    QCoreApplication::installTranslator(&woerterbuch);
+    Textfeld feld;
+    feld.setStringValue(QStringLiteral("Frau"));
+    QTRY_COMPARE(feld.text(), QStringLiteral("Frau"));
+    feld.setUebersetzt(true);
+    QTRY_COMPARE(feld.text(), QStringLiteral("Woman"));
+    QCOMPARE(feld.stringValue(), QStringLiteral("Frau"));
+    feld.setStringValue(QStringLiteral("Mann"));
+    QTRY_COMPARE(feld.text(), QStringLiteral("Mann")); // no translation: as it stands
+    feld.setIntValue(3);
+    QTRY_COMPARE(feld.text(), QStringLiteral("3"));
 }
 
 QTEST_MAIN(TestTextfeld)

@@ -1,0 +1,198 @@
+#include "Auswahlfeld.h"
+
+#include <QAbstractItemView>
+#include <QCompleter>
+#include <QLineEdit>
+#include <QSignalSpy>
+#include <QTest>
+
+class TestAuswahlfeld : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void itHoldsWhatItWasGiven();
+    void settingRunsNoAction();
+    void anEntryIsChosenByKey();
+    void aTypedTextCountsWithReturn_data();
+    void aTypedTextCountsWithReturn();
+    void aTypedTextCountsWhenTheFieldIsLeft();
+    void aTextIsReportedOnce();
+    void entriesThatContainTheTextAreOffered();
+    void anOfferIsPickedByKey();
+    void anOfferIsPickedByMouse();
+    void theSameEntryCanBePickedAgain();
+    void anOfferThatIsNotPickedIsNotTaken();
+    void anEmptiedFieldCounts();
+};
+
+namespace {
+
+/// A shown and focused chooser of drinks in which one can type.
+class Getraenkefeld
+{
+public:
+    Getraenkefeld() : gemeldet(&feld, &Auswahlfeld::betaetigt)
+    {
+        feld.setFreitext(true);
+        feld.setAuswahl(QStringLiteral("|Apfelwein|Pils|Wodka|Wodka Lemon"));
+        feld.setStringValue(QStringLiteral("Pils"));
+        feld.show();
+        feld.activateWindow();
+        feld.setFocus();
+        feld.lineEdit()->selectAll();
+    }
+
+    QStringList angebot() const
+    {
+        QStringList texte;
+        const QAbstractItemView *liste = feld.completer()->popup();
+        for (int zeile = 0; liste->isVisible() && zeile < liste->model()->rowCount(); ++zeile) {
+            texte << liste->model()->index(zeile, 0).data().toString();
+        }
+        return texte;
+    }
+
+    Auswahlfeld feld;
+    QSignalSpy gemeldet;
+};
+
+} // namespace
+
+void TestAuswahlfeld::itHoldsWhatItWasGiven()
+{
+    Getraenkefeld probe;
+    for (const QString &text :
+         {QStringLiteral("Wodka"), QStringLiteral("wodka"), QStringLiteral("Met"), QString()}) {
+        probe.feld.setStringValue(text);
+        QCOMPARE(probe.feld.stringValue(), text);
+        QCOMPARE(probe.feld.currentText(), text);
+    }
+}
+
+void TestAuswahlfeld::settingRunsNoAction()
+{
+    Getraenkefeld probe;
+    probe.feld.setStringValue(QStringLiteral("Wodka"));
+    probe.feld.clearFocus();
+    QCOMPARE(probe.gemeldet.count(), 0);
+}
+
+void TestAuswahlfeld::anEntryIsChosenByKey()
+{
+    Getraenkefeld probe;
+    QTest::keyClick(&probe.feld, Qt::Key_Down);
+    QCOMPARE(probe.feld.stringValue(), QStringLiteral("Wodka"));
+    QCOMPARE(probe.gemeldet.count(), 1);
+}
+
+void TestAuswahlfeld::aTypedTextCountsWithReturn_data()
+{
+    QTest::addColumn<QString>("text");
+    QTest::newRow("an entry") << QStringLiteral("Wodka");
+    QTest::newRow("an entry in other case stays as typed") << QStringLiteral("wodka");
+    QTest::newRow("the beginning of an entry stays as typed") << QStringLiteral("Wod");
+    QTest::newRow("no entry") << QStringLiteral("cider");
+    QTest::newRow("the entry that stood there") << QStringLiteral("Pils");
+}
+
+void TestAuswahlfeld::aTypedTextCountsWithReturn()
+{
+    QFETCH(QString, text);
+    Getraenkefeld probe;
+    QTest::keyClicks(&probe.feld, text);
+    QTest::keyClick(&probe.feld, Qt::Key_Return);
+    QCOMPARE(probe.feld.stringValue(), text);
+    QCOMPARE(probe.feld.currentText(), text);
+    QCOMPARE(probe.gemeldet.count(), 1);
+}
+
+void TestAuswahlfeld::aTypedTextCountsWhenTheFieldIsLeft()
+{
+    Getraenkefeld probe;
+    QVERIFY(QTest::qWaitForWindowActive(&probe.feld));
+    QTest::keyClicks(&probe.feld, QStringLiteral("cider"));
+    QCOMPARE(probe.gemeldet.count(), 0);
+    probe.feld.clearFocus();
+    QCOMPARE(probe.feld.stringValue(), QStringLiteral("cider"));
+    QCOMPARE(probe.gemeldet.count(), 1);
+}
+
+void TestAuswahlfeld::aTextIsReportedOnce()
+{
+    Getraenkefeld probe;
+    QVERIFY(QTest::qWaitForWindowActive(&probe.feld));
+    QTest::keyClicks(&probe.feld, QStringLiteral("Wodka"));
+    QTest::keyClick(&probe.feld, Qt::Key_Return);
+    QTest::keyClick(&probe.feld, Qt::Key_Return);
+    probe.feld.clearFocus();
+    QCOMPARE(probe.gemeldet.count(), 1);
+}
+
+void TestAuswahlfeld::entriesThatContainTheTextAreOffered()
+{
+    Getraenkefeld probe;
+    QTest::keyClicks(&probe.feld, QStringLiteral("wo"));
+    const QStringList beide = {QStringLiteral("Wodka"), QStringLiteral("Wodka Lemon")};
+    QCOMPARE(probe.angebot(), beide);
+    QTest::keyClick(&probe.feld, Qt::Key_Backspace);
+    const QStringList mitW = {QStringLiteral("Apfelwein"), QStringLiteral("Wodka"),
+                              QStringLiteral("Wodka Lemon")};
+    QCOMPARE(probe.angebot(), mitW);
+    QTest::keyClicks(&probe.feld, QStringLiteral("x"));
+    QCOMPARE(probe.angebot(), QStringList());
+}
+
+void TestAuswahlfeld::anOfferIsPickedByKey()
+{
+    Getraenkefeld probe;
+    QTest::keyClicks(&probe.feld, QStringLiteral("lem"));
+    QTest::keyClick(probe.feld.completer()->popup(), Qt::Key_Down);
+    QTest::keyClick(probe.feld.completer()->popup(), Qt::Key_Return);
+    QCOMPARE(probe.feld.stringValue(), QStringLiteral("Wodka Lemon"));
+    QCOMPARE(probe.feld.currentText(), QStringLiteral("Wodka Lemon"));
+    QCOMPARE(probe.gemeldet.count(), 1);
+}
+
+void TestAuswahlfeld::anOfferIsPickedByMouse()
+{
+    Getraenkefeld probe;
+    QTest::keyClicks(&probe.feld, QStringLiteral("wo"));
+    QAbstractItemView *liste = probe.feld.completer()->popup();
+    const QPoint ort = liste->visualRect(liste->model()->index(1, 0)).center();
+    QTest::mouseClick(liste->viewport(), Qt::LeftButton, {}, ort);
+    QCOMPARE(probe.feld.stringValue(), QStringLiteral("Wodka Lemon"));
+    QCOMPARE(probe.gemeldet.count(), 1);
+    QVERIFY(!liste->isVisible());
+}
+
+void TestAuswahlfeld::theSameEntryCanBePickedAgain()
+{
+    Getraenkefeld probe;
+    QTest::keyClicks(&probe.feld, QStringLiteral("il"));
+    QTest::keyClick(probe.feld.completer()->popup(), Qt::Key_Down);
+    QTest::keyClick(probe.feld.completer()->popup(), Qt::Key_Return);
+    QCOMPARE(probe.feld.stringValue(), QStringLiteral("Pils"));
+    QCOMPARE(probe.gemeldet.count(), 1);
+}
+
+void TestAuswahlfeld::anOfferThatIsNotPickedIsNotTaken()
+{
+    Getraenkefeld probe;
+    QTest::keyClicks(&probe.feld, QStringLiteral("wodka l"));
+    QTest::keyClick(probe.feld.completer()->popup(), Qt::Key_Return);
+    QCOMPARE(probe.feld.stringValue(), QStringLiteral("wodka l"));
+    QCOMPARE(probe.gemeldet.count(), 1);
+}
+
+void TestAuswahlfeld::anEmptiedFieldCounts()
+{
+    Getraenkefeld probe;
+    QTest::keyClick(&probe.feld, Qt::Key_Delete);
+    QTest::keyClick(&probe.feld, Qt::Key_Return);
+    QCOMPARE(probe.feld.stringValue(), QString());
+    QVERIFY(!probe.gemeldet.isEmpty());
+}
+
+QTEST_MAIN(TestAuswahlfeld)
+#include "TestAuswahlfeld.moc"
