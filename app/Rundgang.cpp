@@ -10,6 +10,34 @@
 
 #include <utility>
 
+namespace {
+
+struct Tagesration
+{
+    const char *name;
+    int gramm;
+};
+
+/// What a day may look like that covers its needs.
+constexpr Tagesration guterTag[] = {
+    {"Haferflocken", 50},
+    {"Milch, 1,5 % Fett (fettarm)", 250},
+    {"Mandel", 25},
+    {"Walnussbrot", 30},
+    {"Konfitüre (Marmelade)", 120},
+    {"Joghurt, natur", 70},
+    {"Nudeln ohne Ei, roh", 150},
+    {"Hähnchenbrust, ohne Haut, gebraten", 125},
+    {"Brokkoli, gedämpft", 80},
+    {"Möhre (Karotte), gedämpft", 50},
+    {"Rapsöl", 40},
+    {"Reis, weiß, roh", 30},
+    {"Quark (Topfen), mager (Magerquark)", 80},
+    {"Apfelmus, gezuckert", 50},
+};
+
+} // namespace
+
 Rundgang::Rundgang(Oberflaeche &oberflaeche, const QDir &ordner, QStringList *meldungen)
     : m_controller(oberflaeche.hauptfenster)
     , m_rechner(oberflaeche.rechner)
@@ -41,9 +69,11 @@ bool Rundgang::gehen()
                                              m_controller.DatenAnsicht->currentIndex())));
     }
     rechne();
+    plane();
     m_controller.zeigeAnsicht(AppController::ansichten.first());
     zeigeErscheinungsbild(Erscheinungsbild::Dunkel);
     halt(QStringLiteral("dark"), QStringLiteral("Switched to the dark appearance."));
+    haltBeimPlan(QStringLiteral("plan-dark"), QStringLiteral("The meal plan in the dark:"));
     zeigeErscheinungsbild(m_controller.erscheinungsbild());
 
     QFile datei(m_ordner.filePath(QStringLiteral("summary.txt")));
@@ -96,13 +126,65 @@ void Rundgang::rechne()
                   m_rechner.sport->stringValue(), m_rechner.resultatsportkal->stringValue()));
 }
 
+/// Sends foods to the plan as a user does, then plans a day that does well.
+void Rundgang::plane()
+{
+    m_controller.Planmoduloeffnen();
+    m_controller.planmodul->window()->resize(m_controller.Hauptfenster->size());
+    haltBeimPlan(QStringLiteral("plan-empty"), QStringLiteral("Opened the meal plan, empty yet."));
+    const qsizetype zeilen = m_controller.Array.size();
+    for (const qsizetype zeile : {zeilen / 5, zeilen / 2, zeilen * 4 / 5}) {
+        waehle(m_controller.Array.value(zeile));
+        m_controller.toolbarlebensmittelweitergabe();
+    }
+    haltBeimPlan(QStringLiteral("plan-few"), QStringLiteral("Three foods in the plan:"));
+
+    Planmodul &plan = *m_controller.planmodul;
+    while (!plan.Arrayrausgeben().isEmpty()) {
+        plan.PlanTabelle->selectRow(0);
+        plan.Lebensmittelentfernen();
+    }
+    Tabellenmodell &tabelle = *plan.PlanTabelle->modell();
+    const int menge = tabelle.spaltenstelle(QStringLiteral("menge"));
+    for (const Tagesration &ration : guterTag) {
+        const QString name = QString::fromUtf8(ration.name);
+        if (m_controller.Dictionary.contains(name)) {
+            plan.nameimportvontoolbar(name);
+            tabelle.setData(tabelle.index(tabelle.rowCount() - 1, menge),
+                            QString::number(ration.gramm), Qt::EditRole);
+        }
+    }
+    haltBeimPlan(QStringLiteral("plan-day"), QStringLiteral("A day that does well:"));
+}
+
+void Rundgang::haltBeimPlan(const QString &name, const QString &worte)
+{
+    const Planmodul &plan = *m_controller.planmodul;
+    ++m_halt;
+    m_bericht << QStringLiteral("%1. %2").arg(m_halt).arg(worte);
+    for (qsizetype i = 0; i < plan.PlanArray.size(); ++i) {
+        m_bericht << QStringLiteral("   %1 g %2")
+                         .arg(QLocale().toString(plan.mengenarray[i]),
+                              localizedString(plan.PlanArray[i]));
+    }
+    m_bericht << QStringLiteral("   %1; %2 of %3 kcal")
+                     .arg(plan.planworte->text().replace(u'\n', QStringLiteral(", ")),
+                          plan.Kalorienerrechnet->stringValue(), plan.Kalorienbedarf->stringValue())
+              << QString();
+    bild(*m_controller.planmodul->window(), bildname(name));
+}
+
+QString Rundgang::bildname(const QString &name) const
+{
+    return QStringLiteral("%1-%2.png").arg(m_halt, 2, 10, QLatin1Char('0')).arg(name);
+}
+
 void Rundgang::halt(const QString &name, const QString &worte)
 {
     ++m_halt;
     m_bericht << QStringLiteral("%1. %2").arg(m_halt).arg(worte) << angezeigteWerte()
               << neueMeldungen() << QString();
-    bild(*m_controller.Hauptfenster,
-         QStringLiteral("%1-%2.png").arg(m_halt, 2, 10, QLatin1Char('0')).arg(name));
+    bild(*m_controller.Hauptfenster, bildname(name));
 }
 
 void Rundgang::bild(QWidget &fenster, const QString &name)

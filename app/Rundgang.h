@@ -25,7 +25,10 @@ private:
     void waehle(const QString &name);
     void setzeMenge(int gramm);
     void rechne();
+    void plane();
     void halt(const QString &name, const QString &worte);
+    void haltBeimPlan(const QString &name, const QString &worte);
+    QString bildname(const QString &name) const;
     void bild(QWidget &fenster, const QString &name);
     QString angezeigteWerte() const;
     QStringList neueMeldungen();

@@ -1,6 +1,7 @@
 #include "Papierbild.h"
 
 #include <QApplication>
+#include <QEvent>
 #include <QPainter>
 #include <QPalette>
 #include <QWidget>
@@ -41,18 +42,26 @@ QPalette papierpalette()
     return palette;
 }
 
-/// Dresses the whole program for paper while it lives. A colour that carries a verdict is chosen
-/// for the program's palette, so a palette for the part alone would not do. Nothing of this is
-/// seen: the windows are painted again when everything is as it was.
+/// Dresses a window for paper while it lives. A colour that carries a verdict is chosen for the
+/// program's palette, so a palette for the window alone would not do. Nothing of this is seen: the
+/// windows are painted again when everything is as it was.
 class Papierkleid
 {
 public:
-    Papierkleid() { QApplication::setPalette(papierpalette()); }
-    ~Papierkleid() { QApplication::setPalette(m_vorher); }
+    explicit Papierkleid(QWidget &fenster) : m_fenster(fenster) { trage(papierpalette()); }
+    ~Papierkleid() { trage(m_vorher); }
     Papierkleid(const Papierkleid &) = delete;
     Papierkleid &operator=(const Papierkleid &) = delete;
 
 private:
+    void trage(const QPalette &palette)
+    {
+        QApplication::setPalette(palette);
+        QEvent jetzt(QEvent::ApplicationPaletteChange); // windows hear of it later otherwise
+        QCoreApplication::sendEvent(&m_fenster, &jetzt);
+    }
+
+    QWidget &m_fenster;
     QPalette m_vorher = QApplication::palette();
 };
 
@@ -84,7 +93,7 @@ QRectF platzAuf(const QPageLayout &seite)
 
 Papierbild::Papierbild(QWidget &flaeche) : m_groesse(flaeche.size())
 {
-    const Papierkleid kleid;
+    const Papierkleid kleid(*flaeche.window());
     QPainter maler(&m_bild);
     maler.scale(feinheit, feinheit);
     flaeche.render(&maler, QPoint(), QRegion(), QWidget::DrawChildren);

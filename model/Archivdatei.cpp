@@ -4,6 +4,8 @@
 #include <QFileInfo>
 #include <QSaveFile>
 
+#include <cstdio>
+
 #include <unistd.h>
 
 namespace Archivdatei {
@@ -58,11 +60,26 @@ QString kopiename(const QFileInfo &original, const QDateTime &jetzt, int nummer)
            jetzt.toString(QStringLiteral("yyyy-MM-dd HH.mm.ss")) + zusatz + endung;
 }
 
+constexpr int meisteKopien = 100; // within one second
+
+/// Moves a file that can't even be read out of the way of the new one, to a name of its own.
+bool stelleBeiseite(const QString &path, const QDateTime &jetzt)
+{
+    const QFileInfo original(path);
+    for (int nummer = 1; original.isFile() && nummer <= meisteKopien; ++nummer) {
+        const QString name = kopiename(original, jetzt, nummer);
+        if (!QFileInfo::exists(name)) {
+            return std::rename(QFile::encodeName(path).constData(),
+                               QFile::encodeName(name).constData()) == 0;
+        }
+    }
+    return false;
+}
+
 /// Puts a copy of a file's bytes beside it, safely on the disk and never in the place of an earlier
 /// copy.
 bool bewahreAuf(const QString &path, const QByteArray &bytes, const QDateTime &jetzt)
 {
-    constexpr int meisteKopien = 100; // within one second
     const QFileInfo original(path);
     for (int nummer = 1; nummer <= meisteKopien; ++nummer) {
         QFile kopie(kopiename(original, jetzt, nummer));
@@ -100,7 +117,7 @@ bool schreiben(const QString &path, const Lebensmittelverzeichnis &verzeichnis,
                const QDateTime &jetzt)
 {
     const Rohdaten alt = leseBytes(path);
-    if (path.isEmpty() || alt.zustand == Zustand::Unlesbar) {
+    if (path.isEmpty() || (alt.zustand == Zustand::Unlesbar && !stelleBeiseite(path, jetzt))) {
         return false;
     }
     const QByteArray bytes = Archiver::write(verzeichnis);

@@ -36,8 +36,8 @@ Inhalt lesen(const QString &path);
 ///
 /// A file whose bytes would not change is not touched at all. A file that holds no store of foods
 /// is damaged, but may be all that is left of somebody's work: it is overwritten only after a copy
-/// of it was put beside it, with the moment `jetzt` in the copy's name. Something at this path that
-/// can't be read, or that is no file, is not overwritten.
+/// of it was put beside it, with the moment `jetzt` in the copy's name. A file that can't even be
+/// opened is moved to such a name. Something at this path that is no file is not overwritten.
 bool schreiben(const QString &path, const Lebensmittelverzeichnis &verzeichnis,
                const QDateTime &jetzt = QDateTime::currentDateTime());
 

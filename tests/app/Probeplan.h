@@ -1,7 +1,8 @@
 #pragma once
 
-#include "Plantuer.h"
+#include "Planmodul.h"
 
+#include <QDir>
 #include <QList>
 #include <QStringList>
 
@@ -9,9 +10,19 @@
 
 /// A meal plan that only keeps what it is told; `beimSichern` and `beimLoeschen` run at the moment
 /// of telling.
-class Probeplan : public Plantuer
+class Probeplan : public Planmodul
 {
 public:
+    /// Without foods, and with a home of its own that no test looks at.
+    Probeplan()
+        : Planmodul({.eingebauteTabelle = QString(),
+                     .datenordner = Datenordner(QDir::temp().filePath(QStringLiteral("planheim"))),
+                     .melde = [](QWidget *, const Meldung &) {
+                         return 0;
+                     }})
+    {
+    }
+
     void umschreibungMitName(const Datenmodul &lebensmittel) override
     {
         gesichert << lebensmittel;
@@ -22,9 +33,11 @@ public:
         geloescht << name;
         beimLoeschen();
     }
+    void nameimportvontoolbar(const QString &name) override { geschickt << name; }
 
     QList<Datenmodul> gesichert;
     QStringList geloescht;
+    QStringList geschickt; ///< foods wanted in the plan
     std::function<void()> beimSichern = [] {
     };
     std::function<void()> beimLoeschen = [] {

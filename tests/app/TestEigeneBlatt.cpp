@@ -92,7 +92,7 @@ void TestEigeneBlatt::trageEin(const QString &name, const QString &kilokalorien)
 void TestEigeneBlatt::withoutANameNothingHappens()
 {
     oeffne();
-    Probeplan plan;
+    Probeplan &plan = *new Probeplan; // the window takes it over
     controller().planmodul = &plan;
     controller().Fensterschliessen();
     m_fenster->klicke(1, inName);
@@ -368,7 +368,7 @@ void TestEigeneBlatt::theSheetStaysOpenAndKeepsItsText()
 void TestEigeneBlatt::thePlanIsToldFirst()
 {
     oeffne();
-    Probeplan plan;
+    Probeplan &plan = *new Probeplan; // the window takes it over
     controller().planmodul = &plan;
     bool vorher = false;
     plan.beimSichern = [this, &vorher] {

@@ -102,7 +102,7 @@ void TestEigeneLoeschen::onlyOwnFoodsCanBeDeleted()
 {
     QFETCH(QString, anzeige);
     oeffne({a, b, c});
-    Probeplan plan;
+    Probeplan &plan = *new Probeplan; // the window takes it over
     controller().planmodul = &plan;
     const QByteArray vorher = bytes();
     controller().feldA->setStringValue(anzeige);
@@ -161,7 +161,7 @@ void TestEigeneLoeschen::theTextsAreTranslated()
 void TestEigeneLoeschen::noLeavesAllAsItIs()
 {
     oeffne({a, b, c});
-    Probeplan plan;
+    Probeplan &plan = *new Probeplan; // the window takes it over
     controller().planmodul = &plan;
     m_fenster->klicke(1, inEigen);
     const QByteArray vorher = bytes();
@@ -218,7 +218,7 @@ void TestEigeneLoeschen::everyWayToDelete()
 void TestEigeneLoeschen::thePlanIsToldLast()
 {
     oeffne({a, b});
-    Probeplan plan;
+    Probeplan &plan = *new Probeplan; // the window takes it over
     controller().planmodul = &plan;
     bool zuletzt = false;
     plan.beimLoeschen = [this, &zuletzt] {
@@ -286,7 +286,7 @@ void TestEigeneLoeschen::theListLosesTheSelectedRow()
 void TestEigeneLoeschen::beyondTheListNothingIsLost()
 {
     oeffne({a, b});
-    Probeplan plan;
+    Probeplan &plan = *new Probeplan; // the window takes it over
     controller().planmodul = &plan;
     m_fenster->klicke(0, inEigen);
     controller().Tabelle->selectRow(7);

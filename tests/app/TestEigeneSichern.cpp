@@ -192,7 +192,7 @@ void TestEigeneSichern::onlyAHundredGramsCanBeSaved()
 void TestEigeneSichern::thePlanGetsWhatStandsInTheSheet()
 {
     oeffne();
-    Probeplan plan;
+    Probeplan &plan = *new Probeplan; // the window takes it over
     controller().planmodul = &plan;
     m_fenster->klicke(1, inName);
     oeffneKasten();

@@ -155,6 +155,14 @@ QStringList Druckprobe::schriften() const
     return namen;
 }
 
+int Druckprobe::bilder() const
+{
+    constexpr qsizetype kopfzeilen = 2;
+    const QString text =
+        QString::fromUtf8(befrage(QStringLiteral("pdfimages"), {QStringLiteral("-list"), pdf()}));
+    return static_cast<int>(text.split(u'\n', Qt::SkipEmptyParts).mid(kopfzeilen).size());
+}
+
 Druckwort finde(const QList<Druckwort> &worte, const QString &text)
 {
     const auto treffer = std::find_if(worte.begin(), worte.end(),

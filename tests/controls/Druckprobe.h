@@ -53,6 +53,8 @@ public:
     QImage bild(int seite, int pixelJePunkt = 2) const;
     /// The names of the fonts that the file brings along.
     QStringList schriften() const;
+    /// How many pictures made of pixels the file holds.
+    int bilder() const;
 
 private:
     QByteArray befrage(const QString &programm, const QStringList &argumente) const;

@@ -28,6 +28,7 @@ private Q_SLOTS:
     void whatIsNoFileIsNotOpened_data();
     void whatIsNoFileIsNotOpened();
     void aFileOfSomebodyElseIsUnreadable();
+    void whatCantBeMovedAsideStays();
     void aHugeFileIsUnreadable();
 
     void aNewFileIsWritten();
@@ -184,8 +185,29 @@ void TestArchivdatei::aFileOfSomebodyElseIsUnreadable()
         const auto inhalt = Archivdatei::lesen(ort);
         QVERIFY(inhalt.zustand == Zustand::Unlesbar);
         QVERIFY(!inhalt.grund.isEmpty());
+        QVERIFY(Archivdatei::schreiben(ort, beispielVerzeichnis(), moment));
+        QCOMPARE(leseRoh(ort), beispielBytes());
+        QVERIFY(Archivdatei::schreiben(ort, {}, moment));
+        QVERIFY(Archivdatei::lesen(ort).zustand == Zustand::Gelesen);
+    }
+    const QString beiseite = path(kopiename);
+    QVERIFY(QFile::setPermissions(beiseite, QFile::ReadOwner | QFile::WriteOwner));
+    QCOMPARE(leseRoh(beiseite), beispielBytes());
+    QCOMPARE(dateien().size(), 2);
+}
+
+void TestArchivdatei::whatCantBeMovedAsideStays()
+{
+    const QString ort = path("Eigene.daten");
+    schreibeRoh(ort, beispielBytes());
+    QVERIFY(QFile::setPermissions(ort, QFileDevice::Permissions()));
+    QCOMPARE(chmod(QFile::encodeName(m_ordner->path()).constData(), 0555), 0);
+    {
+        const OhneRechte einfach;
+        QVERIFY(einfach.gelungen());
         QVERIFY(!Archivdatei::schreiben(ort, {}));
     }
+    QCOMPARE(chmod(QFile::encodeName(m_ordner->path()).constData(), 0700), 0);
     QVERIFY(QFile::setPermissions(ort, QFile::ReadOwner | QFile::WriteOwner));
     QCOMPARE(leseRoh(ort), beispielBytes());
     QCOMPARE(dateien().size(), 1);
@@ -198,8 +220,9 @@ void TestArchivdatei::aHugeFileIsUnreadable()
     QVERIFY(datei.resize((qint64(1) << 30) + 1)); // no more than its size is ever on the disk
     datei.close();
     QVERIFY(Archivdatei::lesen(datei.fileName()).zustand == Zustand::Unlesbar);
-    QVERIFY(!Archivdatei::schreiben(datei.fileName(), {}));
-    QCOMPARE(datei.size(), (qint64(1) << 30) + 1);
+    QVERIFY(Archivdatei::schreiben(datei.fileName(), beispielVerzeichnis(), moment));
+    QCOMPARE(leseRoh(datei.fileName()), beispielBytes());
+    QCOMPARE(QFileInfo(path(kopiename)).size(), (qint64(1) << 30) + 1);
 }
 
 void TestArchivdatei::aNewFileIsWritten()

@@ -6,6 +6,7 @@
 #include <QDragEnterEvent>
 #include <QDragMoveEvent>
 #include <QDropEvent>
+#include <QLocale>
 #include <QMimeData>
 #include <QTest>
 
@@ -21,6 +22,11 @@ Lebensmittelverzeichnis verzeichnis(const QList<Datenmodul> &lebensmittel)
 }
 
 } // namespace
+
+Planheim::Planheim()
+{
+    QLocale::setDefault(QLocale(QLocale::German, QLocale::Germany));
+}
 
 QString Planheim::plandatei() const
 {
@@ -114,6 +120,7 @@ void Planfenster::tippeMenge(int zeile, const QString &gramm) const
     QWidget *eingabe = QApplication::focusWidget();
     QVERIFY(qobject_cast<QLineEdit *>(eingabe) != nullptr);
     QTest::keyClick(eingabe, Qt::Key_A, Qt::ControlModifier);
+    QTest::keyClick(eingabe, Qt::Key_Delete);
     QTest::keyClicks(eingabe, gramm);
     QTest::keyClick(eingabe, Qt::Key_Return);
     QCoreApplication::processEvents(); // the editor goes

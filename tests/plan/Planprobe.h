@@ -12,6 +12,9 @@
 class Planheim
 {
 public:
+    /// A home at a German desk.
+    Planheim();
+
     QString tabelle() const { return m_ordner.filePath(QStringLiteral("DatabaseIII.daten")); }
     QString plandatei() const;
     QString eigeneDatei() const;
