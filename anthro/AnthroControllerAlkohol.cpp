@@ -3,26 +3,8 @@
 #include "AnthroController.h"
 
 #include "Alkohol.h"
+#include "Ampelfarbe.h"
 #include "Getraenke.h"
-
-namespace {
-
-Textfarbe textfarbe(Ampel ampel)
-{
-    switch (ampel) {
-    case Ampel::Rot:
-        return Textfarbe::Rot;
-    case Ampel::Blau:
-        return Textfarbe::Blau;
-    case Ampel::Gruen:
-        return Textfarbe::Gruen;
-    case Ampel::Schwarz:
-        break;
-    }
-    return Textfarbe::Schwarz;
-}
-
-} // namespace
 
 void AnthroController::welcheralkohol()
 {
