@@ -130,6 +130,7 @@ void Rundgang::rechne()
 void Rundgang::plane()
 {
     m_controller.Planmoduloeffnen();
+    m_controller.planmodul->window()->resize(m_controller.Hauptfenster->size());
     haltBeimPlan(QStringLiteral("plan-empty"), QStringLiteral("Opened the meal plan, empty yet."));
     const qsizetype zeilen = m_controller.Array.size();
     for (const qsizetype zeile : {zeilen / 5, zeilen / 2, zeilen * 4 / 5}) {

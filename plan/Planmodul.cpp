@@ -68,6 +68,8 @@ void Planmodul::awakeFromNib()
     }
     Tage->setIntValue(ersteTage);
     datenberechnen();
+    // The sentences set here need room; without this the first picture would be laid out too small.
+    boxinhalt->layout()->activate();
 }
 
 void Planmodul::ladeBilder()

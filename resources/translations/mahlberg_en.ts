@@ -316,7 +316,7 @@
  </message>
  <message>
   <source>Gezeigte Menge</source>
-  <translation>Amount shown</translation>
+  <translation>Shown amount</translation>
  </message>
  <message>
   <source>Gicht</source>
@@ -508,6 +508,244 @@
  </message>
 </context>
 <context>
+ <name>KoerperGestalt</name>
+ <message>
+  <source>Abnehmen</source>
+  <translation>Weight loss</translation>
+ </message>
+ <message>
+  <source>Alter</source>
+  <translation>Age</translation>
+ </message>
+ <message>
+  <source>Alter in Jahren</source>
+  <translation>Age in years</translation>
+ </message>
+ <message>
+  <source>Body-Mass-Index</source>
+  <translation>Body mass index</translation>
+ </message>
+ <message>
+  <source>Energiebedarf am Tag</source>
+  <translation>Daily energy need</translation>
+ </message>
+ <message>
+  <source>Frau</source>
+  <translation>Woman</translation>
+ </message>
+ <message>
+  <source>Gerechnet für</source>
+  <translation>Worked out for</translation>
+ </message>
+ <message>
+  <source>Gerechnet für das Geschlecht</source>
+  <translation>Gender it is worked out for</translation>
+ </message>
+ <message>
+  <source>Gerechnet für das Gewicht</source>
+  <translation>Weight it is worked out for</translation>
+ </message>
+ <message>
+  <source>Geschlecht</source>
+  <translation>Gender</translation>
+ </message>
+ <message>
+  <source>Gewicht</source>
+  <translation>Weight</translation>
+ </message>
+ <message>
+  <source>Gewicht in Kilogramm</source>
+  <translation>Weight in kilograms</translation>
+ </message>
+ <message>
+  <source>Gewicht in Pfund</source>
+  <translation>Weight in pounds</translation>
+ </message>
+ <message>
+  <source>Größe</source>
+  <translation>Height</translation>
+ </message>
+ <message>
+  <source>Größe in Metern</source>
+  <translation>Height in metres</translation>
+ </message>
+ <message>
+  <source>Größe, ganze Fuß</source>
+  <translation>Height, whole feet</translation>
+ </message>
+ <message>
+  <source>Größe, übrige Zoll</source>
+  <translation>Height, remaining inches</translation>
+ </message>
+ <message>
+  <source>Hüfte</source>
+  <translation>Hip</translation>
+ </message>
+ <message>
+  <source>Hüftumfang</source>
+  <translation>Hip circumference</translation>
+ </message>
+ <message>
+  <source>Hüftumfang in Zentimetern</source>
+  <translation>Hip circumference in centimetres</translation>
+ </message>
+ <message>
+  <source>Jahre</source>
+  <translation>years</translation>
+ </message>
+ <message>
+  <source>Körpermaße</source>
+  <translation>Body measures</translation>
+ </message>
+ <message>
+  <source>Mann</source>
+  <translation>Man</translation>
+ </message>
+ <message>
+  <source>Metrisch anzeigen</source>
+  <translation>Show metric units</translation>
+ </message>
+ <message>
+  <source>Taille</source>
+  <translation>Waist</translation>
+ </message>
+ <message>
+  <source>Taille zu Hüfte</source>
+  <translation>Waist to hip</translation>
+ </message>
+ <message>
+  <source>Taillenumfang</source>
+  <translation>Waist circumference</translation>
+ </message>
+ <message>
+  <source>Taillenumfang in Zentimetern</source>
+  <translation>Waist circumference in centimetres</translation>
+ </message>
+ <message>
+  <source>Tätigkeit</source>
+  <translation>Activity</translation>
+ </message>
+ <message>
+  <source>Urteil über das Verhältnis von Taille zu Hüfte</source>
+  <translation>Judgement of the waist-hip ratio</translation>
+ </message>
+ <message>
+  <source>Urteil über den Body-Mass-Index</source>
+  <translation>Judgement of the body mass index</translation>
+ </message>
+ <message>
+  <source>Urteil über den Energiebedarf</source>
+  <translation>Judgement of the energy need</translation>
+ </message>
+ <message>
+  <source>Verhältnis von Taille zu Hüfte</source>
+  <translation>Waist-hip ratio</translation>
+ </message>
+ <message>
+  <source>aus</source>
+  <translation>off</translation>
+ </message>
+ <message>
+  <source>imperial</source>
+  <translation>imperial</translation>
+ </message>
+ <message>
+  <source>leicht, meist im Sitzen</source>
+  <translation>light, mostly sitting</translation>
+ </message>
+ <message>
+  <source>metrisch</source>
+  <translation>metric</translation>
+ </message>
+ <message>
+  <source>mittel, viel im Stehen und Gehen</source>
+  <translation>medium, much standing and walking</translation>
+ </message>
+ <message>
+  <source>schwer, körperlich anstrengend</source>
+  <translation>heavy, physically demanding</translation>
+ </message>
+</context>
+<context>
+ <name>LebensweiseGestalt</name>
+ <message>
+  <source>Abbau</source>
+  <translation>Breakdown</translation>
+ </message>
+ <message>
+  <source>Alkohol</source>
+  <translation>Alcohol</translation>
+ </message>
+ <message>
+  <source>Dauer</source>
+  <translation>Duration</translation>
+ </message>
+ <message>
+  <source>Dauer des Abbaus</source>
+  <translation>Time of the breakdown</translation>
+ </message>
+ <message>
+  <source>Dauer des Sports</source>
+  <translation>Duration of the sport</translation>
+ </message>
+ <message>
+  <source>Dauer des Sports in Stunden</source>
+  <translation>Duration of the sport in hours</translation>
+ </message>
+ <message>
+  <source>Energieverbrauch durch Sport</source>
+  <translation>Energy used by sport</translation>
+ </message>
+ <message>
+  <source>Es zählen nur volle 100 ml. Rot: Alkohol über 20 g am Tag (Frau) oder 30 g (Mann), Menge über 600 ml. Abbau je kg und Stunde: 0,1 g nach der Wahl des Getränks, 0,05 g nach dem Einstellen der Menge.</source>
+  <translation>Only whole 100 ml count. Red: alcohol above 20 g a day (woman) or 30 g (man), amount above 600 ml. Breakdown per kg and hour: 0.1 g after choosing the drink, 0.05 g after setting the amount.</translation>
+ </message>
+ <message>
+  <source>Getränk</source>
+  <translation>Drink</translation>
+ </message>
+ <message>
+  <source>Gewicht</source>
+  <translation>Weight</translation>
+ </message>
+ <message>
+  <source>Menge</source>
+  <translation>Amount</translation>
+ </message>
+ <message>
+  <source>Menge des Getränks</source>
+  <translation>Amount of the drink</translation>
+ </message>
+ <message>
+  <source>Menge des Getränks in Millilitern</source>
+  <translation>Amount of the drink in millilitres</translation>
+ </message>
+ <message>
+  <source>Reiner Alkohol</source>
+  <translation>Pure alcohol</translation>
+ </message>
+ <message>
+  <source>Sport</source>
+  <translation>Sport</translation>
+ </message>
+ <message>
+  <source>Sportart</source>
+  <translation>Kind of sport</translation>
+ </message>
+ <message>
+  <source>Verbrauch</source>
+  <translation>Energy used</translation>
+ </message>
+ <message>
+  <source>Zum Energiebedarf am Tag kommen die vollen Stunden hinzu.</source>
+  <translation>The whole hours are added to the daily energy need.</translation>
+ </message>
+ <message>
+  <source>bei einem Gewicht von</source>
+  <translation>at a weight of</translation>
+ </message>
+</context>
+<context>
  <name>Mahlberg</name>
  <message>
   <source>% der Zufuhr in </source>
@@ -520,6 +758,10 @@
  <message>
   <source>%1 von %2, %3</source>
   <translation>%1 of %2, %3</translation>
+ </message>
+ <message>
+  <source>%1 von 21 Punkten</source>
+  <translation>%1 of 21 points</translation>
  </message>
  <message>
   <source>&amp;Ablage</source>
@@ -630,8 +872,24 @@
   <translation>Remove from the toolbar</translation>
  </message>
  <message>
+  <source>B1</source>
+  <translation>B1</translation>
+ </message>
+ <message>
+  <source>B2</source>
+  <translation>B2</translation>
+ </message>
+ <message>
+  <source>B6</source>
+  <translation>B6</translation>
+ </message>
+ <message>
   <source>BE und Relationen in </source>
   <translation>BE and ratios in </translation>
+ </message>
+ <message>
+  <source>BS</source>
+  <translation>Fibre</translation>
  </message>
  <message>
   <source>Ballaststoffe</source>
@@ -646,24 +904,52 @@
   <translation>Please choose a food of your own to delete first </translation>
  </message>
  <message>
+  <source>Ca</source>
+  <translation>Ca</translation>
+ </message>
+ <message>
   <source>Calcium</source>
   <translation>Calcium</translation>
+ </message>
+ <message>
+  <source>Chol</source>
+  <translation>Chol</translation>
  </message>
  <message>
   <source>Cholesterin</source>
   <translation>Cholesterol</translation>
  </message>
  <message>
+  <source>Das Drucken ist nicht gelungen.</source>
+  <translation>Printing did not succeed.</translation>
+ </message>
+ <message>
   <source>Datenpaket könnte beschädigt sein</source>
   <translation>The data package may be damaged</translation>
+ </message>
+ <message>
+  <source>Der Drucker „%1“ nimmt den Auftrag nicht an. Vielleicht ist er ausgeschaltet oder nicht mehr angeschlossen.</source>
+  <translation>The printer “%1” does not take the job. Perhaps it is switched off or no longer connected.</translation>
+ </message>
+ <message>
+  <source>Diab.</source>
+  <translation>Diab.</translation>
  </message>
  <message>
   <source>Diabetes</source>
   <translation>Diabetes</translation>
  </message>
  <message>
+  <source>Die Datei „%1“ lässt sich nicht schreiben. Vielleicht ist der Ordner geschützt oder kein Platz mehr frei.</source>
+  <translation>The file “%1” cannot be written. Perhaps the folder is protected or there is no space left.</translation>
+ </message>
+ <message>
   <source>Die Sprache wechselt beim nächsten Start.</source>
   <translation>The language changes at the next start.</translation>
+ </message>
+ <message>
+  <source>Die gewählten Seiten gibt es nicht.</source>
+  <translation>The chosen pages do not exist.</translation>
  </message>
  <message>
   <source>Drucken</source>
@@ -686,6 +972,18 @@
   <translation>&amp;Save own food …</translation>
  </message>
  <message>
+  <source>Ein Plan mit Lücken</source>
+  <translation>A plan with gaps</translation>
+ </message>
+ <message>
+  <source>Ein guter Plan</source>
+  <translation>A good plan</translation>
+ </message>
+ <message>
+  <source>Ein unausgewogener Plan</source>
+  <translation>An unbalanced plan</translation>
+ </message>
+ <message>
   <source>Eine Hilfe für die Beratung; sie ersetzt kein ärztliches Urteil. Lizenz: MIT.</source>
   <translation>An aid for counselling; it does not replace a doctor’s judgement. Licence: MIT.</translation>
  </message>
@@ -694,12 +992,20 @@
   <translation>Iron</translation>
  </message>
  <message>
+  <source>En.</source>
+  <translation>En.</translation>
+ </message>
+ <message>
   <source>Energie</source>
   <translation>Energy</translation>
  </message>
  <message>
   <source>Ernährungsberatung und Diätplanung: Lebensmittel, ihre Nährwerte und ihre Eignung, Mahlzeitenpläne und der Energiebedarf.</source>
   <translation>Nutrition counselling and diet planning: foods, their nutrients and their suitability, meal plans and the energy requirement.</translation>
+ </message>
+ <message>
+  <source>Fe</source>
+  <translation>Fe</translation>
  </message>
  <message>
   <source>Fertig</source>
@@ -714,8 +1020,16 @@
   <translation>Flexible space</translation>
  </message>
  <message>
+  <source>Gesamt</source>
+  <translation>Total</translation>
+ </message>
+ <message>
   <source>Gesund sind %1 bis %2 kg.</source>
   <translation>Healthy is %1 to %2 kg.</translation>
+ </message>
+ <message>
+  <source>Gew.</source>
+  <translation>Ovw.</translation>
  </message>
  <message>
   <source>Gewicht heute %1 kg, nach einer Woche %2 kg, nach zwei %3 kg, nach drei %4 kg, nach vier %5 kg.</source>
@@ -726,8 +1040,20 @@
   <translation>Gout</translation>
  </message>
  <message>
+  <source>Gramm</source>
+  <translation>Grams</translation>
+ </message>
+ <message>
+  <source>HKK</source>
+  <translation>CVD</translation>
+ </message>
+ <message>
   <source>Herz und Kreislauf</source>
   <translation>Heart and circulation</translation>
+ </message>
+ <message>
+  <source>In den Mahlzeiten&amp;plan</source>
+  <translation>To the meal &amp;plan</translation>
  </message>
  <message>
   <source>Inhaltstoffe in </source>
@@ -746,8 +1072,24 @@
   <translation>Yes</translation>
  </message>
  <message>
+  <source>KH</source>
+  <translation>Carb</translation>
+ </message>
+ <message>
+  <source>Ka</source>
+  <translation>K</translation>
+ </message>
+ <message>
   <source>Kalium</source>
   <translation>Potassium</translation>
+ </message>
+ <message>
+  <source>Kalorien</source>
+  <translation>Calories</translation>
+ </message>
+ <message>
+  <source>Kcal</source>
+  <translation>Kcal</translation>
  </message>
  <message>
   <source>Keine Lebensmittel gefunden!</source>
@@ -794,12 +1136,28 @@
   <translation>Magnesium</translation>
  </message>
  <message>
+  <source>Mahlzeiten&amp;plan</source>
+  <translation>Meal &amp;plan</translation>
+ </message>
+ <message>
+  <source>Menge</source>
+  <translation>Amount</translation>
+ </message>
+ <message>
   <source>Menge Lebensmittel (100g)</source>
   <translation>Amount of food (100g)</translation>
  </message>
  <message>
+  <source>Mg</source>
+  <translation>Mg</translation>
+ </message>
+ <message>
   <source>Moechten Sie dieses eigene Lebensmittel wirklich dauerhaft loeschen ?  </source>
   <translation>Do you really want to delete this food of your own for good?  </translation>
+ </message>
+ <message>
+  <source>Na</source>
+  <translation>Na</translation>
  </message>
  <message>
   <source>Natrium</source>
@@ -830,6 +1188,10 @@
   <translation>Values: Swiss Food Composition Database, generic foods, version 7.0 of 1 July 2025. Publisher: Federal Food Safety and Veterinary Office FSVO, Switzerland. Free use, subject to acknowledgment of the source. Names, choice and ratings of the foods are Mahlberg’s own.</translation>
  </message>
  <message>
+  <source>Ph</source>
+  <translation>Ph</translation>
+ </message>
+ <message>
   <source>Phosphat</source>
   <translation>Phosphate</translation>
  </message>
@@ -838,12 +1200,20 @@
   <translation>Meal plan</translation>
  </message>
  <message>
+  <source>Prot</source>
+  <translation>Prot</translation>
+ </message>
+ <message>
   <source>Protein</source>
   <translation>Protein</translation>
  </message>
  <message>
   <source>S&amp;prache</source>
   <translation>&amp;Language</translation>
+ </message>
+ <message>
+  <source>Soll</source>
+  <translation>Target</translation>
  </message>
  <message>
   <source>Soll: Protein %1 %, Kohlenhydrate %2 %, Fett %3 %.</source>
@@ -882,8 +1252,32 @@
   <translation>Customise toolbar</translation>
  </message>
  <message>
+  <source>Ueberg.</source>
+  <translation>Overw.</translation>
+ </message>
+ <message>
   <source>Version %1</source>
   <translation>Version %1</translation>
+ </message>
+ <message>
+  <source>VitA</source>
+  <translation>VitA</translation>
+ </message>
+ <message>
+  <source>VitB1</source>
+  <translation>VitB1</translation>
+ </message>
+ <message>
+  <source>VitB2</source>
+  <translation>VitB2</translation>
+ </message>
+ <message>
+  <source>VitB6</source>
+  <translation>VitB6</translation>
+ </message>
+ <message>
+  <source>VitC</source>
+  <translation>VitC</translation>
  </message>
  <message>
   <source>Vitamin A</source>
@@ -910,8 +1304,20 @@
   <translation>Like the &amp;system</translation>
  </message>
  <message>
+  <source>Zeit(h)</source>
+  <translation>Time(h)</translation>
+ </message>
+ <message>
   <source>Ziehen Sie Ihre Lieblingsobjekte in die Symbolleiste …</source>
   <translation>Drag your favourite items into the toolbar …</translation>
+ </message>
+ <message>
+  <source>aus</source>
+  <translation>off</translation>
+ </message>
+ <message>
+  <source>außerhalb des günstigen Bereichs</source>
+  <translation>outside the favourable range</translation>
  </message>
  <message>
   <source>blau</source>
@@ -922,6 +1328,10 @@
   <translation>green</translation>
  </message>
  <message>
+  <source>im günstigen Bereich</source>
+  <translation>within the favourable range</translation>
+ </message>
+ <message>
   <source>kein Balken</source>
   <translation>no bar</translation>
  </message>
@@ -930,12 +1340,20 @@
   <translation>no face</translation>
  </message>
  <message>
+  <source>kein Sport</source>
+  <translation>no sport</translation>
+ </message>
+ <message>
   <source>keine Beurteilung möglich</source>
   <translation>no judgement possible</translation>
  </message>
  <message>
   <source>lächelndes Gesicht</source>
   <translation>smiling face</translation>
+ </message>
+ <message>
+  <source>moderat ( -1/5 Kcal)</source>
+  <translation>moderate ( -1/5 kcal)</translation>
  </message>
  <message>
   <source>neutrales Gesicht</source>
@@ -954,6 +1372,10 @@
   <translation>crying face</translation>
  </message>
  <message>
+  <source>weit außerhalb des günstigen Bereichs</source>
+  <translation>far outside the favourable range</translation>
+ </message>
+ <message>
   <source>Über &amp;Qt</source>
   <translation>About &amp;Qt</translation>
  </message>
@@ -968,6 +1390,449 @@
  <message>
   <source>… oder ziehen Sie den Standardsatz in die Symbolleiste. Was Sie aus der Leiste herausziehen, verschwindet.</source>
   <translation>… or drag the default set into the toolbar. What you drag out of the toolbar disappears.</translation>
+ </message>
+</context>
+<context>
+ <name>PlanmodulGestalt</name>
+ <message>
+  <source>&amp;Ablage</source>
+  <translation>&amp;File</translation>
+ </message>
+ <message>
+  <source>&amp;Bearbeiten</source>
+  <translation>&amp;Edit</translation>
+ </message>
+ <message>
+  <source>&amp;Drucken …</source>
+  <translation>&amp;Print …</translation>
+ </message>
+ <message>
+  <source>&amp;Entfernen</source>
+  <translation>&amp;Remove</translation>
+ </message>
+ <message>
+  <source>&amp;Größe der Tabelle</source>
+  <translation>&amp;Size of the table</translation>
+ </message>
+ <message>
+  <source>&amp;Menge ändern</source>
+  <translation>Change &amp;amount</translation>
+ </message>
+ <message>
+  <source>&amp;Tage berechnen</source>
+  <translation>Work out the &amp;days</translation>
+ </message>
+ <message>
+  <source>&amp;Wunschverlust</source>
+  <translation>&amp;Wanted loss</translation>
+ </message>
+ <message>
+  <source>&amp;Zeitraum</source>
+  <translation>&amp;Period</translation>
+ </message>
+ <message>
+  <source>4 Wochen</source>
+  <translation>4 weeks</translation>
+ </message>
+ <message>
+  <source>Anteil am Tagesbedarf</source>
+  <translation>Share of the daily need</translation>
+ </message>
+ <message>
+  <source>BMI danach</source>
+  <translation>BMI afterwards</translation>
+ </message>
+ <message>
+  <source>BMI heute</source>
+  <translation>BMI today</translation>
+ </message>
+ <message>
+  <source>Ballaststoffe</source>
+  <translation>Fibre</translation>
+ </message>
+ <message>
+  <source>Ballaststoffe, Anteil am Tagesbedarf</source>
+  <translation>Fibre, share of the daily need</translation>
+ </message>
+ <message>
+  <source>Ballaststoffe, Balken</source>
+  <translation>Fibre, bar</translation>
+ </message>
+ <message>
+  <source>Calcium</source>
+  <translation>Calcium</translation>
+ </message>
+ <message>
+  <source>Calcium, Anteil am Tagesbedarf</source>
+  <translation>Calcium, share of the daily need</translation>
+ </message>
+ <message>
+  <source>Calcium, Balken</source>
+  <translation>Calcium, bar</translation>
+ </message>
+ <message>
+  <source>Cholesterin</source>
+  <translation>Cholesterol</translation>
+ </message>
+ <message>
+  <source>Cholesterin, Anteil am Tagesbedarf</source>
+  <translation>Cholesterol, share of the daily need</translation>
+ </message>
+ <message>
+  <source>Cholesterin, Balken</source>
+  <translation>Cholesterol, bar</translation>
+ </message>
+ <message>
+  <source>Diabetes</source>
+  <translation>Diabetes</translation>
+ </message>
+ <message>
+  <source>Diabetes, geeignete Lebensmittel</source>
+  <translation>Diabetes, suitable foods</translation>
+ </message>
+ <message>
+  <source>Diabetes, neutrale Lebensmittel</source>
+  <translation>Diabetes, neutral foods</translation>
+ </message>
+ <message>
+  <source>Diabetes, ungeeignete Lebensmittel</source>
+  <translation>Diabetes, unsuitable foods</translation>
+ </message>
+ <message>
+  <source>Eisen</source>
+  <translation>Iron</translation>
+ </message>
+ <message>
+  <source>Eisen, Anteil am Tagesbedarf</source>
+  <translation>Iron, share of the daily need</translation>
+ </message>
+ <message>
+  <source>Eisen, Balken</source>
+  <translation>Iron, bar</translation>
+ </message>
+ <message>
+  <source>Empfehlung</source>
+  <translation>Recommended</translation>
+ </message>
+ <message>
+  <source>Energie</source>
+  <translation>Energy</translation>
+ </message>
+ <message>
+  <source>Energie im Plan</source>
+  <translation>Energy of the plan</translation>
+ </message>
+ <message>
+  <source>Energie&amp;bedarf</source>
+  <translation>Energy &amp;need</translation>
+ </message>
+ <message>
+  <source>Energie, Anteil am Tagesbedarf</source>
+  <translation>Energy, share of the daily need</translation>
+ </message>
+ <message>
+  <source>Energie, Balken</source>
+  <translation>Energy, bar</translation>
+ </message>
+ <message>
+  <source>Energieanteile von Protein, Kohlenhydraten und Fett im Plan</source>
+  <translation>Energy shares of protein, carbohydrate and fat in the plan</translation>
+ </message>
+ <message>
+  <source>Energiebedarf am Tag</source>
+  <translation>Daily energy need</translation>
+ </message>
+ <message>
+  <source>Energieverteilung</source>
+  <translation>Energy split</translation>
+ </message>
+ <message>
+  <source>Fett</source>
+  <translation>Fat</translation>
+ </message>
+ <message>
+  <source>Fett, Anteil am Tagesbedarf</source>
+  <translation>Fat, share of the daily need</translation>
+ </message>
+ <message>
+  <source>Fett, Balken</source>
+  <translation>Fat, bar</translation>
+ </message>
+ <message>
+  <source>Gesamtbeurteilung</source>
+  <translation>Overall judgement</translation>
+ </message>
+ <message>
+  <source>Gesamtbeurteilung des Plans</source>
+  <translation>Overall judgement of the plan</translation>
+ </message>
+ <message>
+  <source>Gewichtsverlauf mit diesem Plan</source>
+  <translation>Weight course with this plan</translation>
+ </message>
+ <message>
+  <source>Gewichtsverlauf über vier Wochen</source>
+  <translation>Weight course over four weeks</translation>
+ </message>
+ <message>
+  <source>Gewünschter Gewichtsverlust</source>
+  <translation>Wanted weight loss</translation>
+ </message>
+ <message>
+  <source>Gicht</source>
+  <translation>Gout</translation>
+ </message>
+ <message>
+  <source>Gicht, geeignete Lebensmittel</source>
+  <translation>Gout, suitable foods</translation>
+ </message>
+ <message>
+  <source>Gicht, neutrale Lebensmittel</source>
+  <translation>Gout, neutral foods</translation>
+ </message>
+ <message>
+  <source>Gicht, ungeeignete Lebensmittel</source>
+  <translation>Gout, unsuitable foods</translation>
+ </message>
+ <message>
+  <source>Grün: im Ziel, blau: knapp daneben, rot: verfehlt.</source>
+  <translation>Green: on target, blue: just beside, red: missed.</translation>
+ </message>
+ <message>
+  <source>Herz und Kreislauf</source>
+  <translation>Heart and circulation</translation>
+ </message>
+ <message>
+  <source>Herz und Kreislauf, geeignete Lebensmittel</source>
+  <translation>Heart and circulation, suitable foods</translation>
+ </message>
+ <message>
+  <source>Herz und Kreislauf, neutrale Lebensmittel</source>
+  <translation>Heart and circulation, neutral foods</translation>
+ </message>
+ <message>
+  <source>Herz und Kreislauf, ungeeignete Lebensmittel</source>
+  <translation>Heart and circulation, unsuitable foods</translation>
+ </message>
+ <message>
+  <source>Höhe der Zeilen und Breite der Wertespalten</source>
+  <translation>Height of the rows and width of the value columns</translation>
+ </message>
+ <message>
+  <source>Kalium</source>
+  <translation>Potassium</translation>
+ </message>
+ <message>
+  <source>Kalium, Anteil am Tagesbedarf</source>
+  <translation>Potassium, share of the daily need</translation>
+ </message>
+ <message>
+  <source>Kalium, Balken</source>
+  <translation>Potassium, bar</translation>
+ </message>
+ <message>
+  <source>Kohlenhydrate</source>
+  <translation>Carbohydrate</translation>
+ </message>
+ <message>
+  <source>Kohlenhydrate, Anteil am Tagesbedarf</source>
+  <translation>Carbohydrate, share of the daily need</translation>
+ </message>
+ <message>
+  <source>Kohlenhydrate, Balken</source>
+  <translation>Carbohydrate, bar</translation>
+ </message>
+ <message>
+  <source>Lebensmittel &amp;entfernen</source>
+  <translation>&amp;Remove food</translation>
+ </message>
+ <message>
+  <source>Lebensmittel im Plan</source>
+  <translation>Foods in the plan</translation>
+ </message>
+ <message>
+  <source>Lebensmittel im Plan, nach ihrer Bewertung</source>
+  <translation>Foods in the plan, by their rating</translation>
+ </message>
+ <message>
+  <source>Magnesium</source>
+  <translation>Magnesium</translation>
+ </message>
+ <message>
+  <source>Magnesium, Anteil am Tagesbedarf</source>
+  <translation>Magnesium, share of the daily need</translation>
+ </message>
+ <message>
+  <source>Magnesium, Balken</source>
+  <translation>Magnesium, bar</translation>
+ </message>
+ <message>
+  <source>Mahlzeitenplan</source>
+  <translation>Meal plan</translation>
+ </message>
+ <message>
+  <source>Natrium</source>
+  <translation>Sodium</translation>
+ </message>
+ <message>
+  <source>Natrium, Anteil am Tagesbedarf</source>
+  <translation>Sodium, share of the daily need</translation>
+ </message>
+ <message>
+  <source>Natrium, Balken</source>
+  <translation>Sodium, bar</translation>
+ </message>
+ <message>
+  <source>Nimmt das ausgewählte Lebensmittel aus dem Plan</source>
+  <translation>Takes the selected food out of the plan</translation>
+ </message>
+ <message>
+  <source>Noch keine Lebensmittel im Plan. Ziehen Sie welche aus dem Hauptfenster hierher.</source>
+  <translation>No foods in the plan yet. Drag some here from the main window.</translation>
+ </message>
+ <message>
+  <source>Phosphat</source>
+  <translation>Phosphate</translation>
+ </message>
+ <message>
+  <source>Phosphat, Anteil am Tagesbedarf</source>
+  <translation>Phosphate, share of the daily need</translation>
+ </message>
+ <message>
+  <source>Phosphat, Balken</source>
+  <translation>Phosphate, bar</translation>
+ </message>
+ <message>
+  <source>Plan</source>
+  <translation>Plan</translation>
+ </message>
+ <message>
+  <source>Protein</source>
+  <translation>Protein</translation>
+ </message>
+ <message>
+  <source>Protein, Anteil am Tagesbedarf</source>
+  <translation>Protein, share of the daily need</translation>
+ </message>
+ <message>
+  <source>Protein, Balken</source>
+  <translation>Protein, bar</translation>
+ </message>
+ <message>
+  <source>S&amp;chließen</source>
+  <translation>&amp;Close</translation>
+ </message>
+ <message>
+  <source>Tage</source>
+  <translation>days</translation>
+ </message>
+ <message>
+  <source>Vitamin A</source>
+  <translation>Vitamin A</translation>
+ </message>
+ <message>
+  <source>Vitamin A, Anteil am Tagesbedarf</source>
+  <translation>Vitamin A, share of the daily need</translation>
+ </message>
+ <message>
+  <source>Vitamin A, Balken</source>
+  <translation>Vitamin A, bar</translation>
+ </message>
+ <message>
+  <source>Vitamin B1</source>
+  <translation>Vitamin B1</translation>
+ </message>
+ <message>
+  <source>Vitamin B1, Anteil am Tagesbedarf</source>
+  <translation>Vitamin B1, share of the daily need</translation>
+ </message>
+ <message>
+  <source>Vitamin B1, Balken</source>
+  <translation>Vitamin B1, bar</translation>
+ </message>
+ <message>
+  <source>Vitamin B2</source>
+  <translation>Vitamin B2</translation>
+ </message>
+ <message>
+  <source>Vitamin B2, Anteil am Tagesbedarf</source>
+  <translation>Vitamin B2, share of the daily need</translation>
+ </message>
+ <message>
+  <source>Vitamin B2, Balken</source>
+  <translation>Vitamin B2, bar</translation>
+ </message>
+ <message>
+  <source>Vitamin B6</source>
+  <translation>Vitamin B6</translation>
+ </message>
+ <message>
+  <source>Vitamin B6, Anteil am Tagesbedarf</source>
+  <translation>Vitamin B6, share of the daily need</translation>
+ </message>
+ <message>
+  <source>Vitamin B6, Balken</source>
+  <translation>Vitamin B6, bar</translation>
+ </message>
+ <message>
+  <source>Vitamin C</source>
+  <translation>Vitamin C</translation>
+ </message>
+ <message>
+  <source>Vitamin C, Anteil am Tagesbedarf</source>
+  <translation>Vitamin C, share of the daily need</translation>
+ </message>
+ <message>
+  <source>Vitamin C, Balken</source>
+  <translation>Vitamin C, bar</translation>
+ </message>
+ <message>
+  <source>Wie viele Tage dieser Plan für den gewünschten Verlust braucht</source>
+  <translation>How many days this plan takes for the wanted loss</translation>
+ </message>
+ <message>
+  <source>Zeitraum in Tagen</source>
+  <translation>Period in days</translation>
+ </message>
+ <message>
+  <source>geeignet (+)</source>
+  <translation>suitable (+)</translation>
+ </message>
+ <message>
+  <source>heute</source>
+  <translation>today</translation>
+ </message>
+ <message>
+  <source>neutral (0)</source>
+  <translation>neutral (0)</translation>
+ </message>
+ <message>
+  <source>ungeeignet (−)</source>
+  <translation>unsuitable (−)</translation>
+ </message>
+ <message>
+  <source>Änderung</source>
+  <translation>Change</translation>
+ </message>
+ <message>
+  <source>Änderung des Gewichts in diesem Zeitraum</source>
+  <translation>Change of weight in this period</translation>
+ </message>
+ <message>
+  <source>Übergewicht</source>
+  <translation>Overweight</translation>
+ </message>
+ <message>
+  <source>Übergewicht, geeignete Lebensmittel</source>
+  <translation>Overweight, suitable foods</translation>
+ </message>
+ <message>
+  <source>Übergewicht, neutrale Lebensmittel</source>
+  <translation>Overweight, neutral foods</translation>
+ </message>
+ <message>
+  <source>Übergewicht, ungeeignete Lebensmittel</source>
+  <translation>Overweight, unsuitable foods</translation>
  </message>
 </context>
 </TS>

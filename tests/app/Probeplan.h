@@ -33,9 +33,11 @@ public:
         geloescht << name;
         beimLoeschen();
     }
+    void nameimportvontoolbar(const QString &name) override { geschickt << name; }
 
     QList<Datenmodul> gesichert;
     QStringList geloescht;
+    QStringList geschickt; ///< foods wanted in the plan
     std::function<void()> beimSichern = [] {
     };
     std::function<void()> beimLoeschen = [] {

@@ -163,7 +163,8 @@ void TestEnergieanzeige::theRatingsAreColoured_data()
     using enum Textfarbe;
     QTest::addColumn<QStringList>("urteile");
     QTest::addColumn<QList<Textfarbe>>("farben");
-    const auto zeile = [](const char *name, const QString &urteile, QList<Textfarbe> farben) {
+    const auto zeile = [](const char *name, const QString &urteile,
+                          const QList<Textfarbe> &farben) {
         QTest::newRow(name) << urteile.split(QLatin1Char('|')) << farben;
     };
     zeile("green, red and blue", QStringLiteral("+|-|0|+"), {Gruen, Rot, Blau, Gruen});

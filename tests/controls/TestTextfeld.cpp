@@ -16,6 +16,7 @@ private Q_SLOTS:
     void aNumberIsShownInItsFormatWithItsUnit_data();
     void aNumberIsShownInItsFormatWithItsUnit();
     void theFormatOnlyChangesWhatIsPainted();
+    void wholeNumbersCanBeShownWithoutAComma();
     void aTextIsShownWithoutTheUnit();
     void theTextIsMadeOnceForAThousandValues();
     void aDisplayIsNoStopOfTheTabKey();
@@ -83,6 +84,22 @@ void TestTextfeld::theFormatOnlyChangesWhatIsPainted()
     QTRY_COMPARE(feld.text(), QStringLiteral("100"));
     QCOMPARE(feld.doubleValue(), 99.6);
     QCOMPARE(feld.intValue(), 99);
+}
+
+void TestTextfeld::wholeNumbersCanBeShownWithoutAComma()
+{
+    Textfeld feld;
+    feld.setDecimals(1);
+    feld.setTrailingZeros(false);
+    feld.setDoubleValue(7);
+    QCOMPARE(feld.stringValue(), QStringLiteral("7"));
+    feld.setDoubleValue(-1200);
+    QCOMPARE(feld.stringValue(), QStringLiteral("-1.200"));
+    feld.setDoubleValue(7.25);
+    QCOMPARE(feld.stringValue(), QStringLiteral("7,3"));
+    feld.setTrailingZeros(true);
+    feld.setDoubleValue(7);
+    QCOMPARE(feld.stringValue(), QStringLiteral("7,0"));
 }
 
 void TestTextfeld::aTextIsShownWithoutTheUnit()
