@@ -84,6 +84,7 @@ public:
     void Ansichtdurchwechseln();
     void Planmoduloeffnen();
     void toolbarlebensmittelweitergabe();
+    void drucken();
     void zeigeAnsicht(const QString &kennung);
     void Fenster();
     void Fensterschliessen();

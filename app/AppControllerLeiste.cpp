@@ -70,6 +70,7 @@ std::function<void()> AppController::werkzeugaktion(const QString &kennung)
 {
     const std::pair<const char *, void (AppController::*)()> aktionen[] = {
         {"plan1", &AppController::Planmoduloeffnen},
+        {"drucken", &AppController::drucken},
         {"export", &AppController::toolbarlebensmittelweitergabe},
         {"customize", &AppController::Leisteanpassen},
         {"bildschirm", &AppController::Ansichtdurchwechseln},

@@ -9,7 +9,8 @@ void AppController::Planmoduloeffnen()
     if (planmodul == nullptr) {
         planmodul = new Planmodul({.eingebauteTabelle = m_tueren.eingebauteTabelle,
                                    .datenordner = m_tueren.datenordner,
-                                   .melde = m_tueren.melde});
+                                   .melde = m_tueren.melde,
+                                   .drucke = m_tueren.drucke});
         stellePlanDaneben();
     }
     planmodul->showWindow();

@@ -59,6 +59,9 @@ void baueAblage(AppController &controller)
             QKeySequence(QStringLiteral("Ctrl+Return")),
             [&controller] { controller.toolbarlebensmittelweitergabe(); });
     ablage.addSeparator();
+    eintrag(ablage, QT_TRANSLATE_NOOP("Mahlberg", "&Drucken …"),
+            QKeySequence(QStringLiteral("Ctrl+P")), [&controller] { controller.drucken(); });
+    ablage.addSeparator();
     // A key of its own, which not every desktop has for this; from the plan's window as well.
     eintrag(ablage, QT_TRANSLATE_NOOP("Mahlberg", "&Beenden"),
             QKeySequence(QStringLiteral("Ctrl+Q")),

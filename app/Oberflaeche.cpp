@@ -15,6 +15,7 @@ Anthrotueren anthrotueren(const Tueren &tueren)
                     .eingebauteTabelle = tueren.eingebauteTabelle,
                     .datenordner = tueren.datenordner,
                     .melde = tueren.melde,
+                    .drucke = tueren.drucke,
                 });
             },
     };

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "Datenordner.h"
+#include "Drucktuer.h"
 #include "Meldung.h"
 
 #include <QString>
@@ -18,4 +19,5 @@ struct Tueren
     Meldungstuer melde;        ///< shows a message and waits for its answer
     std::function<void(const QString &)> protokolliere; ///< writes a line to the system log
     QSettings *einstellungen; ///< the user defaults; outlives all controllers
+    Drucktuer drucke = {};    ///< prints; while it is absent, nothing does
 };

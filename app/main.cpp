@@ -82,6 +82,7 @@ int main(int argc, char **argv)
         .melde = eigenesHeim ? niemand : Meldungstuer(zeigeMeldung),
         .protokolliere = [](const QString &zeile) { qCDebug(protokoll).noquote() << zeile; },
         .einstellungen = einstellungen.get(),
+        .drucke = eigenesHeim ? Drucktuer() : systemdrucktuer(*einstellungen, zeigeMeldung),
     });
     oberflaeche.awakeFromNib();
     if (!auftrag.rundgang.isNull()) {

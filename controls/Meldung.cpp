@@ -6,7 +6,7 @@
 int zeigeMeldung(QWidget *fenster, const Meldung &meldung)
 {
     QMessageBox kasten(fenster);
-    kasten.setIcon(QMessageBox::Warning);
+    kasten.setIcon(meldung.verwerfbar ? QMessageBox::Question : QMessageBox::Warning);
     // A message without a heading says its explanation where the heading would stand.
     kasten.setText(meldung.text.isEmpty() ? meldung.erklaerung : meldung.text);
     kasten.setInformativeText(meldung.text.isEmpty() ? QString() : meldung.erklaerung);
@@ -20,12 +20,17 @@ int zeigeMeldung(QWidget *fenster, const Meldung &meldung)
         return 0;
     }
     kasten.setDefaultButton(knoepfe.first());
-    kasten.setEscapeButton(knoepfe.first());
+    QPushButton *escape = knoepfe.first();
+    if (meldung.verwerfbar) {
+        escape = kasten.addButton(QMessageBox::Cancel); // a box without one can't be closed
+        escape->hide();
+    }
+    kasten.setEscapeButton(escape);
     kasten.exec();
     for (int i = 0; i < knoepfe.size(); ++i) {
         if (kasten.clickedButton() == knoepfe[i]) {
             return i;
         }
     }
-    return 0;
+    return meldung.verwerfbar ? -1 : 0;
 }

@@ -14,12 +14,14 @@ struct Meldung
     QString text;
     QString erklaerung;
     QStringList knoepfe;
+    bool verwerfbar = false; ///< it may be closed without an answer
 };
 
 /// Shows a message over the window and answers with the number of the pressed button, counted
-/// from 0. Made in `main`, so that a test can look at the message and give the answer.
+/// from 0, or with −1 when it was closed without one. Made in `main`, so that a test can look at
+/// the message and give the answer.
 using Meldungstuer = std::function<int(QWidget *fenster, const Meldung &meldung)>;
 
 /// The door that shows a real message box. Escape or closing it presses the first button, which is
-/// the harmless one in every message of this program.
+/// the harmless one in every message that asks for an answer.
 int zeigeMeldung(QWidget *fenster, const Meldung &meldung);

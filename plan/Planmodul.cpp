@@ -98,6 +98,7 @@ void Planmodul::verbinde()
     });
     connect(entfernenknopf, &QPushButton::clicked, this, &Planmodul::Lebensmittelentfernen);
     connect(aktionEntfernen, &QAction::triggered, entfernenknopf, &QPushButton::click);
+    connect(druckknopf, &QPushButton::clicked, this, &Planmodul::druckenentscheidung);
     connect(aktionDrucken, &QAction::triggered, druckknopf, &QPushButton::click);
     connect(aktionSchliessen, &QAction::triggered, m_fenster, &QWidget::close);
     connect(tabellengroesse, &Schieber::betaetigt, this,

@@ -3,9 +3,11 @@
 #include "Bestandsdatei.h"
 #include "Datenmodul.h"
 #include "Datenordner.h"
+#include "Drucktuer.h"
 #include "Meldung.h"
 #include "Planauswertung.h"
 #include "Planliste.h"
+#include "Planuebergabe.h"
 #include "Tabellenmodell.h"
 #include "ui_Planmodul1.h"
 
@@ -20,6 +22,7 @@ struct Plantueren
     QString eingebauteTabelle; ///< path of the built-in food table, a file or a resource
     Datenordner datenordner;   ///< the user's data folder
     Meldungstuer melde;        ///< shows a message and waits for its answer
+    Drucktuer drucke = {};     ///< prints; while it is absent, nothing does
 };
 
 /// What the calculator told about the client. There is one client at a time, so every plan window
@@ -38,6 +41,7 @@ struct Klient
 /// `showWindow()` on and are null before; until then the lists and files are kept all the same.
 class Planmodul : public QObject,
                   public Planliste,
+                  public Planuebergabe,
                   public Ui::PlanmodulGestalt,
                   private Tabellenquelle
 {
@@ -83,6 +87,16 @@ public:
     /// Makes the rows as high, and the columns of values and ratings as wide, as the sender says.
     void tabgroesseaendern(const Wertehalter &sender);
 
+    // Printing
+    /// Asks which of the three forms is wanted, and prints it.
+    void druckenentscheidung();
+    /// Prints the simple list: foods, grams and kilocalories, and the day's requirement.
+    void drucken();
+    /// Prints the evaluation as the window shows it.
+    void drucken2();
+    /// Prints the detailed list: all values and ratings of the foods.
+    void drucken3();
+
     /// Evaluates the plan and shows the result.
     void datenberechnen();
 
@@ -118,6 +132,8 @@ private:
     void zeigeWertungen(const Planauswertung &auswertung);
     void zeigeBeurteilung(const Planauswertung &auswertung);
     void zeigeBmi();
+
+    void drucke(const Druckauftrag &auftrag);
 
     Plantueren m_tueren;
     QMainWindow *m_fenster = nullptr;

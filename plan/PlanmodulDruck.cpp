@@ -1,0 +1,98 @@
+// The meal plan on paper: a simple list, a detailed one, or the evaluation as it looks.
+
+#include "Planmodul.h"
+
+#include "Papierbild.h"
+#include "Plandruckwerte.h"
+#include "Planmodulprint.h"
+#include "Zeichenkettentabelle.h"
+
+#include <algorithm>
+
+namespace {
+
+QString planname()
+{
+    return localizedString(QStringLiteral("Mahlzeitenplan"));
+}
+
+/// A print of a list that is laid out anew for every paper.
+Druckauftrag listenauftrag(const std::function<Planmodulprint(const QPageLayout &)> &liste)
+{
+    return {planname(), [liste](const QPageLayout &seite) { return liste(seite).pages; },
+            [liste](QPainter &maler, const QPageLayout &seite, int nummer) {
+                liste(seite).maleSeite(maler, nummer);
+            }};
+}
+
+/// The first time there is nothing to refresh, and the copy is made; later ones only empty it.
+template <typename Liste>
+void frischeAuf(std::optional<Liste> &kopie, const Liste &jetzt)
+{
+    kopie = kopie ? Liste() : jetzt;
+}
+
+} // namespace
+
+void Planmodul::druckenentscheidung()
+{
+    void (Planmodul::*const formen[])() = {&Planmodul::drucken, &Planmodul::drucken3,
+                                           &Planmodul::drucken2};
+    const int wahl = m_tueren.melde(
+        m_fenster, {.text = localizedString(QStringLiteral("Drucken")),
+                    .erklaerung = localizedString(QStringLiteral("Was moechten Sie drucken ? ")),
+                    .knoepfe = {localizedString(QStringLiteral("Einfache Liste")),
+                                localizedString(QStringLiteral("Detaillierte Liste")),
+                                localizedString(QStringLiteral("Grafische Darstellung"))},
+                    .verwerfbar = true});
+    if (wahl >= 0 && wahl < std::ssize(formen)) {
+        (this->*formen[wahl])();
+    }
+}
+
+void Planmodul::drucken()
+{
+    kalorienuebergabe = druckwerte(zeilen(), Naehrwert::kal);
+    frischeAuf(plancopy, PlanArray);
+    frischeAuf(mengencopy, mengenarray);
+    frischeAuf(kaloriencopy, kalorienuebergabe);
+    drucke(listenauftrag([namen = PlanArray, mengen = mengenarray, kals = kalorienuebergabe,
+                          soll = klient.bedarf](const QPageLayout &seite) {
+        return Planmodulprint::initWithPeople(namen, mengen, kals, soll, seite);
+    }));
+}
+
+void Planmodul::drucken2()
+{
+    window(); // makes what is to be printed
+    drucke(bildauftrag({planname()}, *boxinhalt));
+}
+
+void Planmodul::drucken3()
+{
+    const std::vector<Planzeile> reihe = zeilen();
+    for (const auto &zeile : naehrwerte) {
+        this->*naehrwertuebergaben[stelle(zeile.wert)] = druckwerte(reihe, zeile.wert);
+    }
+    for (const auto &zeile : wertungen) {
+        this->*wertungsuebergaben[stelle(zeile.wertung)] = druckwertungen(reihe, zeile.wertung);
+    }
+    std::array<Zahlen, Planmodulprint::anzahlNaehrstoffe> naehrstoffe; // all values but the energy
+    std::transform(naehrwertuebergaben.begin() + 1, naehrwertuebergaben.end(), naehrstoffe.begin(),
+                   [this](auto liste) { return this->*liste; });
+    std::array<QStringList, anzahlWertungen> urteile;
+    std::transform(wertungsuebergaben.begin(), wertungsuebergaben.end(), urteile.begin(),
+                   [this](auto liste) { return this->*liste; });
+    drucke(listenauftrag([namen = PlanArray, mengen = mengenarray, kals = kalorienuebergabe,
+                          soll = klient.bedarf, naehrstoffe, urteile](const QPageLayout &seite) {
+        return Planmodulprint::initWithPeople2(namen, mengen, kals, soll, naehrstoffe, urteile,
+                                               seite);
+    }));
+}
+
+void Planmodul::drucke(const Druckauftrag &auftrag)
+{
+    if (m_tueren.drucke) {
+        m_tueren.drucke(m_fenster, auftrag);
+    }
+}
