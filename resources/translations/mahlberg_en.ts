@@ -784,6 +784,10 @@
   <translation>&amp;View</translation>
  </message>
  <message>
+  <source>&amp;Drucken …</source>
+  <translation>&amp;Print …</translation>
+ </message>
+ <message>
   <source>&amp;Dunkel</source>
   <translation>&amp;Dark</translation>
  </message>
@@ -932,6 +936,10 @@
   <translation>The printer “%1” does not take the job. Perhaps it is switched off or no longer connected.</translation>
  </message>
  <message>
+  <source>Detaillierte Liste</source>
+  <translation>Detailed list</translation>
+ </message>
+ <message>
   <source>Diab.</source>
   <translation>Diab.</translation>
  </message>
@@ -988,6 +996,10 @@
   <translation>An aid for counselling; it does not replace a doctor’s judgement. Licence: MIT.</translation>
  </message>
  <message>
+  <source>Einfache Liste</source>
+  <translation>Simple list</translation>
+ </message>
+ <message>
   <source>Eisen</source>
   <translation>Iron</translation>
  </message>
@@ -1002,6 +1014,10 @@
  <message>
   <source>Ernährungsberatung und Diätplanung: Lebensmittel, ihre Nährwerte und ihre Eignung, Mahlzeitenpläne und der Energiebedarf.</source>
   <translation>Nutrition counselling and diet planning: foods, their nutrients and their suitability, meal plans and the energy requirement.</translation>
+ </message>
+ <message>
+  <source>Es wird nichts angezeigt, das gedruckt werden könnte.</source>
+  <translation>Nothing is displayed that could be printed.</translation>
  </message>
  <message>
   <source>Fe</source>
@@ -1038,6 +1054,10 @@
  <message>
   <source>Gicht</source>
   <translation>Gout</translation>
+ </message>
+ <message>
+  <source>Grafische Darstellung</source>
+  <translation>Graphic</translation>
  </message>
  <message>
   <source>Gramm</source>
@@ -1138,6 +1158,10 @@
  <message>
   <source>Mahlzeiten&amp;plan</source>
   <translation>Meal &amp;plan</translation>
+ </message>
+ <message>
+  <source>Mahlzeitenplan</source>
+  <translation>Meal plan</translation>
  </message>
  <message>
   <source>Menge</source>
@@ -1298,6 +1322,10 @@
  <message>
   <source>Vitamin C</source>
   <translation>Vitamin C</translation>
+ </message>
+ <message>
+  <source>Was moechten Sie drucken ? </source>
+  <translation>What would you like to print? </translation>
  </message>
  <message>
   <source>Wie das &amp;System</source>
