@@ -23,8 +23,8 @@ constexpr int zeilenhoehe = 23;
 /// A search begins when the user has not typed for this long, in milliseconds.
 constexpr int tipppause = 350;
 
-constexpr int fensterteilung[] = {590, 680};
-constexpr int spaltenbreiten[] = {225, 115, 215};
+constexpr int fensterteilung[] = {640, 630};
+constexpr int spaltenbreiten[] = {245, 115, 240};
 
 const char *const quellenangabe =
     QT_TRANSLATE_NOOP("Mahlberg", "Nährwerte je 100 g: Schweizer Nährwertdatenbank, generische "
