@@ -900,6 +900,10 @@
   <translation>Fibre</translation>
  </message>
  <message>
+  <source>Beenden</source>
+  <translation>Quit</translation>
+ </message>
+ <message>
   <source>Bitte einen Namen eingeben</source>
   <translation>Please enter a name</translation>
  </message>
@@ -1156,6 +1160,10 @@
   <translation>Magnesium</translation>
  </message>
  <message>
+  <source>Mahlberg ist schon geöffnet.</source>
+  <translation>Mahlberg is already open.</translation>
+ </message>
+ <message>
   <source>Mahlzeiten&amp;plan</source>
   <translation>Meal &amp;plan</translation>
  </message>
@@ -1276,6 +1284,10 @@
   <translation>Customise toolbar</translation>
  </message>
  <message>
+  <source>Trotzdem öffnen</source>
+  <translation>Open anyway</translation>
+ </message>
+ <message>
   <source>Ueberg.</source>
   <translation>Overw.</translation>
  </message>
@@ -1338,6 +1350,10 @@
  <message>
   <source>Ziehen Sie Ihre Lieblingsobjekte in die Symbolleiste …</source>
   <translation>Drag your favourite items into the toolbar …</translation>
+ </message>
+ <message>
+  <source>Zweimal zugleich geöffnet, überschreibt das eine die Lebensmittel und den Plan des anderen.</source>
+  <translation>Opened twice at once, one overwrites the foods and the plan of the other.</translation>
  </message>
  <message>
   <source>aus</source>
