@@ -163,8 +163,7 @@ void TestPlanmodulprintEinfach::totalsThatAreTooWideStayOnThePaper()
 {
     const QList<Druckwort> worte = gedruckt(
         Planmodulprint::initWithPeople({QStringLiteral("Vorrat")}, {50000}, {123456}, 100000, a4));
-    const Druckwort einheit = worte.last();
-    QCOMPARE(einheit.text, QStringLiteral("kcal"));
+    QCOMPARE(worte.last().text, QStringLiteral("kcal"));
     for (const Druckwort &wort : worte) {
         QVERIFY2(wort.rechts < 595, qPrintable(wort.text));
     }
