@@ -18,6 +18,7 @@ private Q_SLOTS:
     void anEmptyPlanPrintsItsHeadingAndRequirement();
     void whatIsWiderThanItsPlaceIsNarrowed();
     void totalsThatAreTooWideStayOnThePaper();
+    void lettersThatLikeToJoinCanBeFound();
     void itIsBlackAndBlueOnWhite();
 };
 
@@ -170,6 +171,17 @@ void TestPlanmodulprintEinfach::totalsThatAreTooWideStayOnThePaper()
     QCOMPARE(finde(worte, QStringLiteral("50000")).seite, 1);
     QCOMPARE(finde(worte, QStringLiteral("123456")).seite, 1);
     QCOMPARE(finde(worte, QStringLiteral("100000")).seite, 1);
+}
+
+/// Fonts join ff, fi and fl to one sign, under which a search for the word finds nothing.
+void TestPlanmodulprintEinfach::lettersThatLikeToJoinCanBeFound()
+{
+    const QString name = QStringLiteral("Kaffee, Fisch, Filet, Apfelflan, Pfiffling, Süßstoffe");
+    Druckprobe probe(a4);
+    probe.drucke(auftrag([&name](const QPageLayout &seite) {
+        return Planmodulprint::initWithPeople({name}, {50}, {12}, 2000, seite);
+    }));
+    QCOMPARE(probe.zeilen(1).first(), name + QStringLiteral(" 50 gr 12 kcal"));
 }
 
 void TestPlanmodulprintEinfach::itIsBlackAndBlueOnWhite()
