@@ -8,6 +8,7 @@
 #include <QPainter>
 #include <QPrintPreviewDialog>
 #include <QPrinter>
+#include <QRegularExpression>
 #include <QSettings>
 
 #include <algorithm>
@@ -83,6 +84,17 @@ bool maleSeiten(QPrinter &drucker, const Druckauftrag &auftrag, const QPageLayou
     return maler.end() && drucker.printerState() != QPrinter::Error;
 }
 
+/// A print's title as the print dialog can make the name of a PDF from it: there a slash would
+/// stand for a folder, and a point in the last word ("3.5%") for the beginning of the ending.
+QString alsDateiname(const QString &titel)
+{
+    constexpr qsizetype laengster = 80; // letters; disks take 255 bytes, an umlaut has two
+    static const QRegularExpression scheinendung(QStringLiteral("\\.(?=\\S+$)"));
+    QString name = titel.simplified();
+    name.replace(u'/', u'-').replace(scheinendung, QStringLiteral(","));
+    return name.left(laengster);
+}
+
 /// The preview needs its printer from its first to its last moment.
 struct Druckerhalter
 {
@@ -96,6 +108,7 @@ public:
                   QWidget *fenster)
         : QPrintPreviewDialog(eingerichtet(drucker, seite, auftrag.titel), fenster)
     {
+        drucker.setDocName(alsDateiname(auftrag.titel)); // the window has its title by now
         connect(this, &QPrintPreviewDialog::paintRequested, this,
                 [this, auftrag, melde](QPrinter *geraet) {
                     if (const auto grund = drucke(*geraet, auftrag)) {

@@ -32,6 +32,8 @@ private Q_SLOTS:
     void anUnwritablePdfIsTold();
     void thePreviewBeginsWithTheSharedPageSetup();
     void thePageSetupIsKeptForTheNextPrint();
+    void theTitleMakesAFileName_data();
+    void theTitleMakesAFileName();
     void closingThePreviewPrintsNothing();
     void thePreviewShowsEveryPage();
     void withoutAPrinterItPrintsToAPdf();
@@ -260,6 +262,37 @@ void TestDrucktuer::thePageSetupIsKeptForTheNextPrint()
     QCOMPARE(vorschau->printer()->pageLayout().orientation(), QPageLayout::Landscape);
     QCOMPARE(vorschau->printer()->pageLayout().pageSize().id(), QPageSize::A4);
     vorschau->close();
+}
+
+void TestDrucktuer::theTitleMakesAFileName_data()
+{
+    QTest::addColumn<QString>("titel");
+    QTest::addColumn<QString>("name");
+    QTest::newRow("an ordinary name")
+        << QStringLiteral("Äpfel, roh") << QStringLiteral("Äpfel, roh");
+    QTest::newRow("a slash is no folder")
+        << QStringLiteral("Apfel/Birne") << QStringLiteral("Apfel-Birne");
+    QTest::newRow("a point in the last word is no ending")
+        << QStringLiteral("Milch 3.5%") << QStringLiteral("Milch 3,5%");
+    QTest::newRow("a point before a blank does no harm")
+        << QStringLiteral("Milch m. Zucker") << QStringLiteral("Milch m. Zucker");
+    QTest::newRow("a point at the end does no harm")
+        << QStringLiteral("Obst usw.") << QStringLiteral("Obst usw.");
+    QTest::newRow("longer than a disk takes") << QString(300, u'ä') << QString(80, u'ä');
+}
+
+void TestDrucktuer::theTitleMakesAFileName()
+{
+    QFETCH(QString, titel);
+    QFETCH(QString, name);
+    Druckauftrag auftrag = beziffert(1);
+    auftrag.titel = titel;
+    QPrintPreviewDialog *vorschau = oeffne(auftrag);
+    QVERIFY(vorschau);
+    QCOMPARE(vorschau->printer()->docName(), name);
+    QVERIFY(vorschau->windowTitle().contains(titel)); // the user reads the true one
+    vorschau->close();
+    QTRY_VERIFY(m_fenster.findChild<QPrintPreviewDialog *>() == nullptr);
 }
 
 void TestDrucktuer::closingThePreviewPrintsNothing()
