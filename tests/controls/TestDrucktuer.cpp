@@ -35,6 +35,7 @@ private Q_SLOTS:
     void theTitleMakesAFileName_data();
     void theTitleMakesAFileName();
     void closingThePreviewPrintsNothing();
+    void thePreviewIsPaintedLikeThePrint();
     void thePreviewShowsEveryPage();
     void withoutAPrinterItPrintsToAPdf();
     void cancellingGoesBackToThePreview();
@@ -303,6 +304,31 @@ void TestDrucktuer::closingThePreviewPrintsNothing()
     vorschau->close();
     QTRY_VERIFY(m_fenster.findChild<QPrintPreviewDialog *>() == nullptr);
     QVERIFY(m_meldungen.isEmpty());
+}
+
+void TestDrucktuer::thePreviewIsPaintedLikeThePrint()
+{
+    QList<int> gemalt;
+    Druckauftrag auftrag = beziffert(3);
+    auftrag.male = [&gemalt, male = auftrag.male](QPainter &maler, const QPageLayout &seite,
+                                                  int nummer) {
+        gemalt << nummer;
+        male(maler, seite, nummer);
+    };
+    QPrintPreviewDialog *vorschau = oeffne(auftrag);
+    QVERIFY(vorschau);
+    auto *ansicht = vorschau->findChild<QPrintPreviewWidget *>();
+    QTRY_COMPARE(ansicht->pageCount(), 3);
+    QCOMPARE(gemalt.first(3), QList<int>({1, 2, 3}));
+
+    Druckprobe probe(Druckprobe::papier(QPageSize::A4, QPageLayout::Portrait));
+    vorschau->printer()->setOutputFileName(probe.pdf());
+    gemalt.clear();
+    ansicht->print();
+    QCOMPARE(gemalt, QList<int>({1, 2, 3}));
+    QCOMPARE(probe.zeilen(3), QStringList({QStringLiteral("Seite 3")}));
+    vorschau->close();
+    QTRY_VERIFY(m_fenster.findChild<QPrintPreviewDialog *>() == nullptr);
 }
 
 void TestDrucktuer::thePreviewShowsEveryPage()
