@@ -193,6 +193,9 @@ Drucktuer systemdrucktuer(QSettings &einstellungen, const Meldungstuer &melde)
         QObject::connect(vorschau, &QDialog::finished, vorschau, [vorschau, &einstellungen] {
             merkeSeite(einstellungen, vorschau->seite());
         });
+        // In the preview's own size a page can hardly be read.
+        constexpr QSize kleinste(692, 515); // room for its buttons
+        vorschau->resize(fenster->size().expandedTo(kleinste));
         vorschau->show();
     };
 }

@@ -34,6 +34,7 @@ private Q_SLOTS:
     void thePageSetupIsKeptForTheNextPrint();
     void theTitleMakesAFileName_data();
     void theTitleMakesAFileName();
+    void thePreviewIsAsLargeAsItsWindow();
     void closingThePreviewPrintsNothing();
     void thePreviewIsPaintedLikeThePrint();
     void thePreviewShowsEveryPage();
@@ -292,6 +293,23 @@ void TestDrucktuer::theTitleMakesAFileName()
     QVERIFY(vorschau);
     QCOMPARE(vorschau->printer()->docName(), name);
     QVERIFY(vorschau->windowTitle().contains(titel)); // the user reads the true one
+    vorschau->close();
+    QTRY_VERIFY(m_fenster.findChild<QPrintPreviewDialog *>() == nullptr);
+}
+
+void TestDrucktuer::thePreviewIsAsLargeAsItsWindow()
+{
+    m_fenster.resize(780, 570);
+    QPrintPreviewDialog *vorschau = oeffne(beziffert(1));
+    QVERIFY(vorschau);
+    QCOMPARE(vorschau->size(), QSize(780, 570));
+    vorschau->close();
+    QTRY_VERIFY(m_fenster.findChild<QPrintPreviewDialog *>() == nullptr);
+
+    m_fenster.resize(100, 50); // but never too small for its buttons
+    vorschau = oeffne(beziffert(1));
+    QVERIFY(vorschau);
+    QCOMPARE(vorschau->size(), QSize(692, 515));
     vorschau->close();
     QTRY_VERIFY(m_fenster.findChild<QPrintPreviewDialog *>() == nullptr);
 }
