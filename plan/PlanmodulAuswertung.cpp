@@ -60,10 +60,22 @@ void setzeStil(Zaehlfeld &feld, const Zeichenstil &stil)
     feld.setAnfang(textfarbe(stil.farbe), stil.punktgroesse);
 }
 
-/// What the face says, for those who can't see it.
-QString urteil(int gesicht)
+/// The verdict of a bar in one character, none while no bar is drawn.
+QString urteilszeichen(const WertungView &balken)
 {
-    return gesicht == Gesichtscode::lachend ? localizedString(QStringLiteral("Ein guter Plan"))
+    if (balken.value() <= 0) {
+        return {};
+    }
+    return balken.color() == Qt::green  ? QStringLiteral("✓")
+           : balken.color() == Qt::blue ? QStringLiteral("≈")
+                                        : QStringLiteral("✗");
+}
+
+/// What the face says, for those who can't see it.
+QString urteil(int gesicht, bool leer)
+{
+    return leer ? localizedString(QStringLiteral("Der Plan ist leer"))
+           : gesicht == Gesichtscode::lachend ? localizedString(QStringLiteral("Ein guter Plan"))
            : gesicht == Gesichtscode::neutral
                ? localizedString(QStringLiteral("Ein Plan mit Lücken"))
                : localizedString(QStringLiteral("Ein unausgewogener Plan"));
@@ -101,6 +113,22 @@ void Planmodul::datenberechnen()
     zeigeBeurteilung(auswertung);
 }
 
+/// Beside each bar stands a sign of its verdict: for those who can't tell the colours apart, and
+/// for a printer that knows only black.
+void Planmodul::stelleZeichenDazu()
+{
+    for (std::size_t i = 0; i < anzahlNaehrwerte; ++i) {
+        int zeile = 0;
+        int spalte = 0;
+        int hoch = 0;
+        int breit = 0;
+        anteilsgitter->getItemPosition(anteilsgitter->indexOf(this->*naehrwertfelder[i].balken),
+                                       &zeile, &spalte, &hoch, &breit);
+        m_zeichen[i] = new QLabel(boxinhalt);
+        anteilsgitter->addWidget(m_zeichen[i], zeile, spalte + 1);
+    }
+}
+
 void Planmodul::zeigeNaehrwerte(const Planauswertung &auswertung)
 {
     for (std::size_t i = 0; i < anzahlNaehrwerte; ++i) {
@@ -108,9 +136,12 @@ void Planmodul::zeigeNaehrwerte(const Planauswertung &auswertung)
         (this->*naehrwertfelder[i].prozent)->setDoubleValue(naehrwert.prozent);
         WertungView &balken = *(this->*naehrwertfelder[i].balken);
         if (naehrwert.balken) {
-            balken.drawaRect(naehrwert.balken->code.value_or(Balkencode::unveraendert));
+            if (naehrwert.balken->code) {
+                balken.drawaRect(*naehrwert.balken->code);
+            }
             balken.drawabalken(naehrwert.balken->laenge);
         }
+        m_zeichen[i]->setText(urteilszeichen(balken));
     }
 }
 
@@ -136,7 +167,7 @@ void Planmodul::zeigeWertungen(const Planauswertung &auswertung)
 void Planmodul::zeigeBeurteilung(const Planauswertung &auswertung)
 {
     planbeurteilungfaceview->entscheidung(auswertung.gesicht);
-    planworte->setText(urteil(auswertung.gesicht) + u'\n' +
+    planworte->setText(urteil(auswertung.gesicht, PlanArray.isEmpty()) + u'\n' +
                        localizedString(QStringLiteral("%1 von 21 Punkten")).arg(auswertung.punkte));
 }
 
@@ -166,6 +197,15 @@ void Planmodul::verlustberechnen()
     gewichtview->wert3(Kalorienerrechnet->intValue());
     gewichtview->wert4(klient.groesse);
     verlaufworte->setText(gewichtview->beschreibung());
+    zeigeVerlauf(true);
+}
+
+/// Before anything was projected the chart would be nothing but a red field.
+void Planmodul::zeigeVerlauf(bool sichtbar)
+{
+    for (QWidget *teil : {static_cast<QWidget *>(gewichtview), kiloskala, wochenskala}) {
+        teil->setVisible(sichtbar);
+    }
 }
 
 void Planmodul::tageberechnen(const Wertehalter &sender)

@@ -211,6 +211,7 @@ std::optional<int> Planmodul::validateDrop(int zeile, bool auf)
 
 void Planmodul::acceptDrop(int zeile, const QString &text)
 {
+    beendeEingabe();
     if (einsetzen(text, zeile)) {
         uebernimmAenderung();
     }
