@@ -74,7 +74,7 @@ QString urteilszeichen(const WertungView &balken)
 /// What the face says, for those who can't see it.
 QString urteil(int gesicht, bool leer)
 {
-    return leer ? localizedString(QStringLiteral("Der Plan ist leer"))
+    return leer                               ? localizedString(QStringLiteral("Der Plan ist leer"))
            : gesicht == Gesichtscode::lachend ? localizedString(QStringLiteral("Ein guter Plan"))
            : gesicht == Gesichtscode::neutral
                ? localizedString(QStringLiteral("Ein Plan mit Lücken"))
@@ -125,6 +125,7 @@ void Planmodul::stelleZeichenDazu()
         anteilsgitter->getItemPosition(anteilsgitter->indexOf(this->*naehrwertfelder[i].balken),
                                        &zeile, &spalte, &hoch, &breit);
         m_zeichen[i] = new QLabel(boxinhalt);
+        m_zeichen[i]->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred); // none moves
         anteilsgitter->addWidget(m_zeichen[i], zeile, spalte + 1);
     }
 }

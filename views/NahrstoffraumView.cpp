@@ -130,8 +130,7 @@ QString NahrstoffraumView::beschreibung() const
                m_soll) +
            u' ' +
            anteileInWorten(
-               QT_TRANSLATE_NOOP("Mahlberg", "Ist: Protein %1, Kohlenhydrate %2, Fett %3."),
-               m_ist);
+               QT_TRANSLATE_NOOP("Mahlberg", "Ist: Protein %1, Kohlenhydrate %2, Fett %3."), m_ist);
 }
 
 QSize NahrstoffraumView::sizeHint() const

@@ -351,8 +351,8 @@ void TestPlanmodulAuswertung::everyNumberHasItsBarBesideIt()
 /// Colours alone tell nothing to those who can't part red from green, nor on a black printer.
 void TestPlanmodulAuswertung::everyBarHasItsSignBesideIt()
 {
-    m_heim->schreibeTabelle({speise(
-        u"Ding"_s, {{Naehrwert::bs, 30}, {Naehrwert::fe, 6}, {Naehrwert::vitc, 1}})});
+    m_heim->schreibeTabelle(
+        {speise(u"Ding"_s, {{Naehrwert::bs, 30}, {Naehrwert::fe, 6}, {Naehrwert::vitc, 1}})});
     m_heim->schreibePlan({{u"Ding"_s, 100}}); // 100, 50 and 1 percent
     oeffne();
     const auto zeichen = [this](const WertungView *balken) {
@@ -364,7 +364,7 @@ void TestPlanmodulAuswertung::everyBarHasItsSignBesideIt()
     QCOMPARE(zeichen(plan().gesamteisenview), u"≈"_s);
     QCOMPARE(zeichen(plan().gesamtvitamincview), u"✗"_s);
     QCOMPARE(zeichen(plan().gesamtkalview), QString()); // no bar at 0 percent
-    m_fenster->tippeMenge(0, u"240"_s); // iron at 120 percent keeps its bar
+    m_fenster->tippeMenge(0, u"240"_s);                 // iron at 120 percent keeps its bar
     QCOMPARE(zeichen(plan().gesamteisenview), u"≈"_s);
     plan().PlanTabelle->selectRow(0);
     plan().Lebensmittelentfernen();

@@ -114,8 +114,7 @@ void TestPlanmodulTasten::deleteInAnAmountDeletesACharacter()
     QTest::keyClick(QApplication::focusWidget(), Qt::Key_Delete);
     QTest::keyClick(QApplication::focusWidget(), Qt::Key_Return);
     QCoreApplication::processEvents();
-    QCOMPARE(mengen(),
-             (QMap<QString, float>{{u"Auflauf"_s, 10}, {u"Brot"_s, 5}, {u"Ei"_s, 30}}));
+    QCOMPARE(mengen(), (QMap<QString, float>{{u"Auflauf"_s, 10}, {u"Brot"_s, 5}, {u"Ei"_s, 30}}));
 }
 
 void TestPlanmodulTasten::removingTakesTheAmountThatIsTypedWithIt()
@@ -135,8 +134,7 @@ void TestPlanmodulTasten::removingFromTheMenuWithNothingSelectedLeavesTheTypedAm
     beginne(1, u"45"_s);
     tabelle().clearSelection();
     (*m_fenster)->aktionEntfernen->trigger();
-    QCOMPARE(mengen(),
-             (QMap<QString, float>{{u"Auflauf"_s, 10}, {u"Brot"_s, 45}, {u"Ei"_s, 30}}));
+    QCOMPARE(mengen(), (QMap<QString, float>{{u"Auflauf"_s, 10}, {u"Brot"_s, 45}, {u"Ei"_s, 30}}));
 }
 
 void TestPlanmodulTasten::aFoodThatComesInLeavesATypedAmountWhereItWas()
@@ -144,10 +142,9 @@ void TestPlanmodulTasten::aFoodThatComesInLeavesATypedAmountWhereItWas()
     beginne(0, u"45"_s);
     (*m_fenster)->nameimportvontoolbar(u"Brot"_s); // the rows below move up
     (*m_fenster)->nameimportvontoolbar(u"Milch"_s);
-    QCOMPARE(mengen(), (QMap<QString, float>{{u"Auflauf"_s, 45},
-                                             {u"Brot"_s, 100},
-                                             {u"Ei"_s, 30},
-                                             {u"Milch"_s, 100}}));
+    QCOMPARE(mengen(),
+             (QMap<QString, float>{
+                 {u"Auflauf"_s, 45}, {u"Brot"_s, 100}, {u"Ei"_s, 30}, {u"Milch"_s, 100}}));
     QCOMPARE(m_heim->plan(), mengen());
 }
 
@@ -158,10 +155,8 @@ void TestPlanmodulTasten::aDropLeavesATypedAmountWhereItWas()
     QCoreApplication::processEvents();
     QTest::keyClick(QApplication::focusWidget(), Qt::Key_Return);
     QCoreApplication::processEvents();
-    QCOMPARE(mengen(), (QMap<QString, float>{{u"Auflauf"_s, 10},
-                                             {u"Brot"_s, 45},
-                                             {u"Ei"_s, 30},
-                                             {u"Milch"_s, 100}}));
+    QCOMPARE(mengen(), (QMap<QString, float>{
+                           {u"Auflauf"_s, 10}, {u"Brot"_s, 45}, {u"Ei"_s, 30}, {u"Milch"_s, 100}}));
 }
 
 void TestPlanmodulTasten::aDeletedOwnFoodLeavesTheTypedAmountOfAnother()

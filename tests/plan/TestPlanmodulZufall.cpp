@@ -115,11 +115,11 @@ private:
     void vonAndererHand();
     void vergleiche();
     void vergleicheEigene();
-    int eineZeile() { return m_zufall.bounded(static_cast<int>(m_modell.gezeigteNamen.size()) + 1); }
-    bool gibtEs(int zeile) const
+    int eineZeile()
     {
-        return zeile < static_cast<int>(m_modell.gezeigteNamen.size());
+        return m_zufall.bounded(static_cast<int>(m_modell.gezeigteNamen.size()) + 1);
     }
+    bool gibtEs(int zeile) const { return zeile < static_cast<int>(m_modell.gezeigteNamen.size()); }
 
     std::unique_ptr<Planheim> m_heim;
     std::unique_ptr<Planfenster> m_fenster;
@@ -256,8 +256,8 @@ void TestPlanmodulZufall::vergleiche()
     for (std::size_t i = 0; i < m_modell.gezeigteNamen.size(); ++i) {
         const QString &name = m_modell.gezeigteNamen[i];
         namen << (plan.lebensmittel(name) != nullptr ? name : QString());
-        mengen << QString::number(static_cast<double>(m_modell.gezeigteMengen[i]))
-                      .replace(u'.', u',');
+        mengen
+            << QString::number(static_cast<double>(m_modell.gezeigteMengen[i])).replace(u'.', u',');
     }
     QCOMPARE(m_fenster->spalte(u"menge"_s), mengen);
     vergleicheEigene(); // an amount is not the own foods' matter
