@@ -197,11 +197,15 @@ void Planmodul::verlustberechnen()
     gewichtview->wert2(Kalorienbedarf->intValue());
     gewichtview->wert3(Kalorienerrechnet->intValue());
     gewichtview->wert4(klient.groesse);
-    verlaufworte->setText(gewichtview->beschreibung());
-    zeigeVerlauf(true);
+    const bool groesseBekannt = klient.groesse > 0;
+    verlaufworte->setText(groesseBekannt ? gewichtview->beschreibung()
+                                         : localizedString(QStringLiteral(
+                                               "Der Verlauf erscheint, sobald unter „Körper "
+                                               "und Energie“ Gewicht und Größe stehen.")));
+    zeigeVerlauf(groesseBekannt);
 }
 
-/// Before anything was projected the chart would be nothing but a red field.
+/// Before anything was projected, or without a height, the chart would be nothing but a red field.
 void Planmodul::zeigeVerlauf(bool sichtbar)
 {
     for (QWidget *teil : {static_cast<QWidget *>(gewichtview), kiloskala, wochenskala}) {

@@ -944,6 +944,10 @@
   <translation>The plan is empty</translation>
  </message>
  <message>
+  <source>Der Verlauf erscheint, sobald unter „Körper und Energie“ Gewicht und Größe stehen.</source>
+  <translation>The course appears as soon as weight and height are entered under “Body and energy”.</translation>
+ </message>
+ <message>
   <source>Detaillierte Liste</source>
   <translation>Detailed list</translation>
  </message>
