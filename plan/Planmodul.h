@@ -78,7 +78,7 @@ public:
     /// A food is wanted in the plan, named by its key. It comes last, with 100 g.
     virtual void nameimportvontoolbar(const QString &name);
 
-    // Actions of the window
+    // Actions of the window; without one they do nothing
     /// Takes the selected row out of the plan; without one, nothing happens.
     void Lebensmittelentfernen();
     /// Projects the weight from what stands in the window's fields.

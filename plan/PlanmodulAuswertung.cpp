@@ -181,6 +181,9 @@ void Planmodul::zeigeBmi()
 
 void Planmodul::verlustberechnen()
 {
+    if (m_fenster == nullptr) {
+        return;
+    }
     const Prognose::Verlauf verlauf =
         Prognose::verlustberechnen({.tage = Tage->floatValue(),
                                     .bedarf = Kalorienbedarf->intValue(),
@@ -215,6 +218,9 @@ void Planmodul::zeigeVerlauf(bool sichtbar)
 
 void Planmodul::tageberechnen(const Wertehalter &sender)
 {
+    if (m_fenster == nullptr) {
+        return;
+    }
     Tage->setFloatValue(Prognose::tageberechnen(sender.floatValue(), Kalorienbedarf->intValue(),
                                                 Kalorienerrechnet->intValue()));
     verlustberechnen();

@@ -219,6 +219,9 @@ void Planmodul::acceptDrop(int zeile, const QString &text)
 
 void Planmodul::tabgroesseaendern(const Wertehalter &sender)
 {
+    if (m_fenster == nullptr) {
+        return;
+    }
     const int groesse = std::max(1, sender.intValue());
     PlanTabelle->setRowHeight(groesse);
     const Tabellenmodell &modell = *PlanTabelle->modell();

@@ -1,6 +1,7 @@
 #include "Planprobe.h"
 
 #include <QApplication>
+#include <QDir>
 #include <QDragEnterEvent>
 #include <QFile>
 #include <QFileInfo>
@@ -21,6 +22,7 @@ private Q_SLOTS:
     void aSavedAmountIsCutOff();
     void missingFilesGiveAnEmptyPlan();
     void damagedFilesGiveAnEmptyPlan();
+    void damagedFilesAreKeptBesideTheNewOnes();
     void theDataFolderIsMadeAtOnce();
     void openingAPlanWritesNoPlanFile();
     void aFoodFromTheMainWindowComesLast();
@@ -99,6 +101,28 @@ void TestPlanmodulListe::damagedFilesGiveAnEmptyPlan()
     QVERIFY(gezeigt().isEmpty());
 }
 
+/// What can't be read may be all that is left of somebody's work.
+void TestPlanmodulListe::damagedFilesAreKeptBesideTheNewOnes()
+{
+    const QDir ordner = QFileInfo(m_heim->plandatei()).dir();
+    for (const QString &pfad : {m_heim->eigeneDatei(), m_heim->plandatei()}) {
+        QFile datei(pfad);
+        QVERIFY(datei.open(QIODevice::WriteOnly));
+        QVERIFY(datei.write("no foods, " + QFileInfo(pfad).fileName().toLatin1()) > 0);
+    }
+    oeffne();
+    (*m_fenster)->nameimportvontoolbar(u"Niemand"_s);
+    QVERIFY(gezeigt().constFirst().isNull()); // asking for it writes the own foods too
+    QCOMPARE(m_heim->plan().keys(), QStringList(u"Niemand"_s));
+    for (const QString &name : {u"MahlbergCustomnutr"_s, u"MahlbergPlanmod"_s}) {
+        const QStringList kopien = ordner.entryList({name + u" *.daten"_s});
+        QCOMPARE(kopien.size(), 1);
+        QFile kopie(ordner.filePath(kopien.constFirst()));
+        QVERIFY(kopie.open(QIODevice::ReadOnly));
+        QCOMPARE(kopie.readAll(), "no foods, " + name.toLatin1() + ".daten");
+    }
+}
+
 void TestPlanmodulListe::theDataFolderIsMadeAtOnce()
 {
     const Planmodul plan(m_heim->tueren());
@@ -142,6 +166,12 @@ void TestPlanmodulListe::withoutAWindowTheListsAreKeptAllTheSame()
     plan.anthrouebergabegroesse(1.8F);
     plan.Lebensmittelentfernen(); // nothing can be selected yet
     plan.datenberechnen();
+    Textfeld feld;
+    feld.setIntValue(30);
+    plan.verlustberechnen();
+    plan.tageberechnen(feld);
+    plan.tabgroesseaendern(feld);
+    plan.loeschenvonkundeneintraegen(u"Niemand"_s);
     QVERIFY(plan.PlanTabelle == nullptr);
     QCOMPARE(m_heim->plan().keys(), QStringList(u"Ei"_s));
     plan.window();
