@@ -25,6 +25,7 @@ private Q_SLOTS:
     void theCircleGetsTheThreeShares();
     void theFaceHasItsPicturesAndWords();
     void aNewRequirementIsSeenAtTheNextEvaluation();
+    void aFieldThatShowsSeventyPercentEarnsItsPoint();
     void theLeadingCountStandsOut_data();
     void theLeadingCountStandsOut();
     void aTieLeavesTheLooksOfTheRowBefore();
@@ -278,6 +279,16 @@ void TestPlanmodulAuswertung::aNewRequirementIsSeenAtTheNextEvaluation()
     QCOMPARE(plan().gesamtkal->floatValue(), 20.0F);
     QCOMPARE(plan().gesamtkohlenhydrate->floatValue(), 40.0F);
     QCOMPARE(plan().Kalorienbedarf->intValue(), 2300);
+}
+
+/// 384.8 of 550 mg are 69.96 percent.
+void TestPlanmodulAuswertung::aFieldThatShowsSeventyPercentEarnsItsPoint()
+{
+    m_heim->schreibeTabelle({speise(u"Salz"_s, {{Naehrwert::na, 384.8F}})});
+    m_heim->schreibePlan({{u"Salz"_s, 100}});
+    oeffne();
+    QCOMPARE(Planfenster::text(*plan().gesamtnatrium), u"70,0 %"_s);
+    QVERIFY(plan().planworte->text().endsWith(u"1 von 21 Punkten"_s));
 }
 
 void TestPlanmodulAuswertung::theLeadingCountStandsOut_data()

@@ -2,6 +2,7 @@
 
 #include <QTest>
 
+#include <cmath>
 #include <initializer_list>
 #include <limits>
 
@@ -15,6 +16,7 @@ private Q_SLOTS:
     void bands();
     void points_data();
     void points();
+    void percentagesAreShownWithOneDecimal();
     void energyPercentage_data();
     void energyPercentage();
     void macronutrientPercentage_data();
@@ -167,6 +169,16 @@ void TestPlanregeln::points()
     QFETCH(Naehrwert, wert);
     QFETCH(double, prozent);
     QTEST(static_cast<int>(regel(wert).punkt.enthaelt(prozent)), "punkt");
+}
+
+void TestPlanregeln::percentagesAreShownWithOneDecimal()
+{
+    QCOMPARE_EQ(gezeigterProzentsatz(69.94999), 69.9);
+    QCOMPARE_EQ(gezeigterProzentsatz(69.96), 70.0);
+    QCOMPARE_EQ(gezeigterProzentsatz(70.04), 70.0);
+    QCOMPARE_EQ(gezeigterProzentsatz(0.0), 0.0);
+    QVERIFY(std::isnan(gezeigterProzentsatz(static_cast<double>(keineZahl))));
+    QVERIFY(std::isinf(gezeigterProzentsatz(static_cast<double>(unendlich))));
 }
 
 void TestPlanregeln::energyPercentage_data()
