@@ -56,7 +56,8 @@ int punkteZaehlen(const Planauswertung &auswertung)
 {
     const auto ausNaehrwerten =
         std::count_if(planregeln.begin(), planregeln.end(), [&auswertung](const Planregel &regel) {
-            return regel.punkt.enthaelt(auswertung.naehrwerte[stelle(regel.wert)].prozent);
+            return regel.punkt.enthaelt(
+                gezeigterProzentsatz(auswertung.naehrwerte[stelle(regel.wert)].prozent));
         });
     const auto ausWertungen =
         std::count_if(auswertung.wertungen.begin(), auswertung.wertungen.end(),

@@ -4,6 +4,8 @@
 #include "Energieanteile.h"
 #include "Ganzzahl.h"
 
+#include <cmath>
+
 namespace {
 
 constexpr int ziel = Balkencode::gruen;
@@ -121,6 +123,12 @@ constexpr std::array<Planregel, anzahlNaehrwerte> planregeln = {{
     menge(Naehrwert::b6, vitaminBaender),
     menge(Naehrwert::vitc, vitaminBaender),
 }};
+
+double gezeigterProzentsatz(double prozent)
+{
+    constexpr double zehntel = 10;
+    return std::round(prozent * zehntel) / zehntel;
+}
 
 double planprozent(const Planbezug &bezug, float summe, std::int32_t energiebedarf)
 {

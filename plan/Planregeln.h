@@ -45,3 +45,7 @@ extern const std::array<Planregel, anzahlNaehrwerte> planregeln;
 /// - all others: `bedarfsprozent`, narrowed to single precision.
 /// The wider type of the result holds all of them unchanged.
 double planprozent(const Planbezug &bezug, float summe, std::int32_t energiebedarf);
+
+/// A percentage as its field shows it, with one decimal. The points are counted by what stands
+/// there: who reads 70.0 % has reached 70, though the bar goes by the number behind it.
+double gezeigterProzentsatz(double prozent);

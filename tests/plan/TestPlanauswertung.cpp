@@ -24,6 +24,8 @@ private Q_SLOTS:
     void theWinnerOfEachRatingIsItsOwn();
     void faces_data();
     void faces();
+    void pointsGoByTheNumbersShown_data();
+    void pointsGoByTheNumbersShown();
     void sameAsALongWay_data();
     void sameAsALongWay();
 };
@@ -251,6 +253,30 @@ Langweg langweg(const std::vector<Planzeile> &zeilen, int bedarf)
 }
 
 } // namespace
+
+void TestPlanauswertung::pointsGoByTheNumbersShown_data()
+{
+    QTest::addColumn<float>("natrium"); // mg, of 550
+    QTest::addColumn<int>("code");
+    QTest::addColumn<int>("punkte");
+    QTest::newRow("69.945 percent, shown as 69.9: none") << 384.7F << 2 << 0;
+    QTest::newRow("69.964 percent, shown as 70.0: a point beside a blue bar") << 384.8F << 2 << 1;
+    QTest::newRow("70 percent") << 385.0F << 3 << 1;
+    QTest::newRow("109.945 percent, shown as 109.9") << 604.7F << 2 << 1;
+    QTest::newRow("109.964 percent, shown as 110.0: none") << 604.8F << 2 << 0;
+}
+
+void TestPlanauswertung::pointsGoByTheNumbersShown()
+{
+    QFETCH(float, natrium);
+    Datenmodul salz;
+    salz.setna(natrium);
+    const std::array zeilen = {Planzeile{&salz, 100.0F}};
+    const Planauswertung auswertung = planAuswerten(zeilen, 2000, 2000);
+    QTEST(auswertung.punkte, "punkte");
+    QTEST(naehrwert(auswertung, Naehrwert::na).balken.value_or(Planbalken{}).code.value_or(0),
+          "code");
+}
 
 void TestPlanauswertung::sameAsALongWay_data()
 {

@@ -2,6 +2,7 @@
 
 #include <QTest>
 
+#include <cmath>
 #include <initializer_list>
 #include <limits>
 
@@ -15,6 +16,7 @@ private Q_SLOTS:
     void bands();
     void points_data();
     void points();
+    void percentagesAreShownWithOneDecimal();
     void energyPercentage_data();
     void energyPercentage();
     void macronutrientPercentage_data();
@@ -169,6 +171,16 @@ void TestPlanregeln::points()
     QTEST(static_cast<int>(regel(wert).punkt.enthaelt(prozent)), "punkt");
 }
 
+void TestPlanregeln::percentagesAreShownWithOneDecimal()
+{
+    QCOMPARE_EQ(gezeigterProzentsatz(69.94999), 69.9);
+    QCOMPARE_EQ(gezeigterProzentsatz(69.96), 70.0);
+    QCOMPARE_EQ(gezeigterProzentsatz(70.04), 70.0);
+    QCOMPARE_EQ(gezeigterProzentsatz(0.0), 0.0);
+    QVERIFY(std::isnan(gezeigterProzentsatz(static_cast<double>(keineZahl))));
+    QVERIFY(std::isinf(gezeigterProzentsatz(static_cast<double>(unendlich))));
+}
+
 void TestPlanregeln::energyPercentage_data()
 {
     QTest::addColumn<float>("summe");
@@ -206,6 +218,9 @@ void TestPlanregeln::macronutrientPercentage_data()
     QTest::newRow("carbohydrate of 1999: 999") << kh << 250.0F << 1999 << 100.0;
     QTest::newRow("negative, toward zero") << protein << -0.5F << 15 << -66.0;
     QTest::newRow("no requirement") << fett << 30.0F << 0 << 0.0;
+    // 4,000,000 of 400,000,001 kcal; single precision would want 400,000,000 and see 1 percent.
+    QTest::newRow("the part is worked out in double precision")
+        << protein << 1e6F << 2000000009 << 0.0;
     QTest::newRow("a requirement of which the part is 0") << protein << 30.0F << 4 << 0.0;
     QTest::newRow("negative requirement of which the part is 0") << protein << 30.0F << -4 << 0.0;
     // 2147483647 kcal x 100 / 1
