@@ -697,8 +697,10 @@
   <translation>Energy used by sport</translation>
  </message>
  <message>
-  <source>Es zählen nur volle 100 ml. Rot: Alkohol über 20 g am Tag (Frau) oder 30 g (Mann), Menge über 600 ml. Abbau je kg und Stunde: 0,1 g nach der Wahl des Getränks, 0,05 g nach dem Einstellen der Menge.</source>
-  <translation>Only whole 100 ml count. Red: alcohol above 20 g a day (woman) or 30 g (man), amount above 600 ml. Breakdown per kg and hour: 0.1 g after choosing the drink, 0.05 g after setting the amount.</translation>
+  <source>Es zählen nur volle 100 ml. Rot: Alkohol über 20 g am Tag (Frau) oder 30 g (Mann), Menge über 600 ml.
+Abbau je kg und Stunde: 0,1 g nach der Wahl des Getränks, 0,05 g nach dem Einstellen der Menge.</source>
+  <translation>Only whole 100 ml count. Red: alcohol above 20 g a day (woman) or 30 g (man), amount above 600 ml.
+Breakdown per kg and hour: 0.1 g after choosing the drink, 0.05 g after setting the amount.</translation>
  </message>
  <message>
   <source>Getränk</source>
@@ -1036,6 +1038,10 @@
   <translation>Flexible space</translation>
  </message>
  <message>
+  <source>Frau</source>
+  <translation>Woman</translation>
+ </message>
+ <message>
   <source>Gesamt</source>
   <translation>Total</translation>
  </message>
@@ -1162,6 +1168,10 @@
  <message>
   <source>Mahlzeitenplan</source>
   <translation>Meal plan</translation>
+ </message>
+ <message>
+  <source>Mann</source>
+  <translation>Man</translation>
  </message>
  <message>
   <source>Menge</source>
