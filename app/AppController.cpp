@@ -23,8 +23,8 @@ constexpr int zeilenhoehe = 23;
 /// A search begins when the user has not typed for this long, in milliseconds.
 constexpr int tipppause = 350;
 
-constexpr int fensterteilung[] = {590, 680};
-constexpr int spaltenbreiten[] = {270, 140, 140};
+constexpr int fensterteilung[] = {640, 630};
+constexpr int spaltenbreiten[] = {245, 115, 240};
 
 const char *const quellenangabe =
     QT_TRANSLATE_NOOP("Mahlberg", "Nährwerte je 100 g: Schweizer Nährwertdatenbank, generische "
@@ -120,8 +120,9 @@ void AppController::beschrifte()
     teiler->setSizes({fensterteilung[0], fensterteilung[1]});
     suchfortschritt->hide();
     sichernBox->hide();
-    for (QWidget *widget : std::initializer_list<QWidget *>{
-             DatenAnsicht, proteinanzeige, fettanzeige, khanzeige, gesamtbeurteilungfeld}) {
+    for (QWidget *widget :
+         std::initializer_list<QWidget *>{DatenAnsicht, proteinanzeige, fettanzeige, khanzeige,
+                                          gesamtbeurteilungfeld, sichernBox}) {
         QSizePolicy policy = widget->sizePolicy();
         policy.setRetainSizeWhenHidden(true);
         widget->setSizePolicy(policy);

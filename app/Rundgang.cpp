@@ -68,6 +68,8 @@ bool Rundgang::gehen()
                                          .arg(m_controller.DatenAnsicht->tabText(
                                              m_controller.DatenAnsicht->currentIndex())));
     }
+    suche();
+    sichereEigenes();
     rechne();
     plane();
     m_controller.zeigeAnsicht(AppController::ansichten.first());
@@ -97,6 +99,49 @@ void Rundgang::setzeMenge(int gramm)
 {
     m_controller.lebensmittelmenge->setIntValue(gramm);
     m_controller.wieviellebensmittel(*m_controller.lebensmittelmenge);
+}
+
+/// Finds foods by their name, then by their profile.
+void Rundgang::suche()
+{
+    m_controller.suchfeld->setStringValue(QStringLiteral("kart"));
+    m_controller.suchen(*m_controller.suchfeld);
+    halt(QStringLiteral("search"), QStringLiteral("Searched for \"%1\", found %2:")
+                                       .arg(m_controller.suchfeld->stringValue())
+                                       .arg(m_controller.suchArray.size() - 1));
+    m_controller.suchfeld->setStringValue(QString());
+    m_controller.profilaufzu->setChecked(true);
+    for (const int kriterium : {0, 3}) {
+        m_controller.suchprofileinaus->zelle(kriterium)->setChecked(true);
+    }
+    m_controller.proteinsuche();
+    halt(QStringLiteral("profile"), QStringLiteral("Searched for protein and gout, found %1:")
+                                        .arg(m_controller.suchArray.size()));
+    m_controller.profilaufzu->setChecked(false);
+}
+
+/// Types a food of one's own into the sheet, and opens the save box for it.
+void Rundgang::sichereEigenes()
+{
+    m_controller.Fenster();
+    m_controller.EingabeFensterfeldA->setStringValue(QStringLiteral("Kartoffelsuppe"));
+    const std::pair<Textfeld *, float> werte[] = {{m_controller.EingabeFensterfeldB, 48.0F},
+                                                  {m_controller.EingabeFensterproteinfeld, 1.6F},
+                                                  {m_controller.EingabeFensterfettfeld, 1.9F},
+                                                  {m_controller.EingabeFensterkhfeld, 6.1F},
+                                                  {m_controller.EingabeFensternafeld, 210.0F}};
+    for (const auto &[feld, zahl] : werte) {
+        feld->setFloatValue(zahl);
+    }
+    m_controller.umschreibenDerEingabeFelder();
+    ++m_halt;
+    m_bericht << QStringLiteral("%1. Typed in a food of one's own.").arg(m_halt) << QString();
+    bild(*m_controller.einfenster, bildname(QStringLiteral("sheet")));
+    m_controller.Fensterschliessen();
+    m_controller.SichernFensterAuf();
+    halt(QStringLiteral("own"),
+         QStringLiteral("It is kept with %1 more:").arg(m_controller.KundenArray.size() - 1));
+    m_controller.SichernFensterAuf();
 }
 
 /// Fills in both pages of the calculator for a client, as a user does with the sliders.

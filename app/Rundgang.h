@@ -8,8 +8,9 @@ class AppController;
 class Oberflaeche;
 class QWidget;
 
-/// A short tour of the program without anyone at the keys: it starts, chooses foods, sets amounts
-/// and goes through the views, and leaves a picture of each stop and a summary in plain text. The
+/// A short tour of the program without anyone at the keys: it starts, chooses foods, sets amounts,
+/// goes through the views, searches, keeps a food, works out body measures and plans a day, and
+/// leaves a picture of each stop and a summary in plain text. The
 /// pictures in the README come from it.
 class Rundgang
 {
@@ -24,6 +25,8 @@ public:
 private:
     void waehle(const QString &name);
     void setzeMenge(int gramm);
+    void suche();
+    void sichereEigenes();
     void rechne();
     void plane();
     void halt(const QString &name, const QString &worte);

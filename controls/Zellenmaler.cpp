@@ -2,8 +2,10 @@
 
 #include "Tabellenansicht.h"
 
+#include <QHelpEvent>
 #include <QLineEdit>
 #include <QPainter>
+#include <QToolTip>
 
 namespace {
 
@@ -79,6 +81,18 @@ QWidget *Zellenmaler::createEditor(QWidget *parent, const QStyleOptionViewItem &
             index.model()->headerData(index.column(), Qt::Horizontal).toString());
     }
     return feld;
+}
+
+bool Zellenmaler::helpEvent(QHelpEvent *event, QAbstractItemView *view,
+                            const QStyleOptionViewItem &option, const QModelIndex &index)
+{
+    const QString text = index.isValid() ? m_tabelle->modell()->bild(index).text : QString();
+    const int platz = option.rect.width() - 2 * zellenrand;
+    const bool ganz = view->fontMetrics().horizontalAdvance(text) <= platz;
+    QToolTip::showText(event->globalPos(),
+                       ganz ? QString() : QStringLiteral("<qt>%1</qt>").arg(text.toHtmlEscaped()),
+                       view);
+    return true;
 }
 
 bool Zellenmaler::istGewaehlt(const QStyleOptionViewItem &option) const

@@ -22,6 +22,7 @@ private Q_SLOTS:
     void aNewFoodIsAppended();
     void itIsOnDisplayForAHundredGrams();
     void theCaptionsAreTranslatedAndTheGramsAreNot();
+    void itCanBeSavedFromTheDisplayAtOnce();
     void everyValueFindsItsPlace();
     void anEmptyFieldIsZero();
     void ratingsAreTakenAsTheyStand_data();
@@ -194,6 +195,19 @@ void TestEigeneBlatt::theCaptionsAreTranslatedAndTheGramsAreNot()
              QStringLiteral("% of the need in 100 gramm"));
     QCOMPARE(Probefenster::text(*controller().anzeigelebensmittelmenge3),
              QStringLiteral("Units in 100 gramm"));
+}
+
+void TestEigeneBlatt::itCanBeSavedFromTheDisplayAtOnce()
+{
+    oeffne();
+    controller().Fensterschliessen();
+    m_fenster->klicke(1, inName);
+    m_fenster->tippeMenge(QStringLiteral("30"));
+    QVERIFY(!controller().sichernknopf->isEnabled());
+    controller().Fenster();
+    trageEin(QStringLiteral("Apfelmus"));
+    uebernimm();
+    QVERIFY(controller().sichernknopf->isEnabled()); // the amount is 100 g again
 }
 
 void TestEigeneBlatt::everyValueFindsItsPlace()

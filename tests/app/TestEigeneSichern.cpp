@@ -24,6 +24,7 @@ private Q_SLOTS:
     void thePlanGetsWhatStandsInTheSheet();
     void withoutAFoodOnDisplayTheNameIsEmpty();
     void theBoxOpensAndCloses();
+    void openingTheBoxMovesNothing();
     void everyWayToTheBox_data();
     void everyWayToTheBox();
     void theOpenBoxShowsEveryValue();
@@ -237,6 +238,22 @@ void TestEigeneSichern::theBoxOpensAndCloses()
         QCOMPARE(controller().loeschenknopf->isVisible(), offen == 1);
     }
     QVERIFY(controller().KundenArray.isEmpty());
+}
+
+void TestEigeneSichern::openingTheBoxMovesNothing()
+{
+    oeffne();
+    const QSize fenster = controller().Hauptfenster->size();
+    const QRect ansicht = controller().DatenAnsicht->geometry();
+    const QRect knopf = controller().sichernaufzu->geometry();
+    for (const bool offen : {true, false}) {
+        oeffneKasten();
+        QCoreApplication::processEvents();
+        QCOMPARE(controller().sichernBox->isVisible(), offen);
+        QCOMPARE(controller().Hauptfenster->size(), fenster);
+        QCOMPARE(controller().DatenAnsicht->geometry(), ansicht);
+        QCOMPARE(controller().sichernaufzu->geometry(), knopf);
+    }
 }
 
 void TestEigeneSichern::everyWayToTheBox_data()

@@ -1,7 +1,6 @@
 #include "Probefenster.h"
 
 #include <QComboBox>
-#include <QRandomGenerator>
 #include <QTest>
 
 using enum Naehrwert;
@@ -38,7 +37,6 @@ private Q_SLOTS:
     void everyWayToSearch();
     void thePanelOpensAndCloses();
     void theIndicatorShowsWhileTheSearchRuns();
-    void randomTablesAreSearchedLikeAPlainReference();
 
 private:
     void oeffne(const QList<Datenmodul> &eingebaut, const QList<Datenmodul> &eigene = {});
@@ -453,61 +451,6 @@ void TestSucheProfil::theIndicatorShowsWhileTheSearchRuns()
     controller().suchfortschritt->installEventFilter(&horcher);
     QTest::mouseClick(controller().profilsuchen, Qt::LeftButton);
     QCOMPARE(horcher.verlauf, liste("Start|Stop"));
-}
-
-void TestSucheProfil::randomTablesAreSearchedLikeAPlainReference()
-{
-    QRandomGenerator zufall(815);
-    const char urteile[] = "+0-";
-    const auto erfinde = [&zufall, &urteile](const char *vorsatz) {
-        QList<Datenmodul> alle;
-        for (int i = 0; i < 60; ++i) {
-            const QByteArray name = vorsatz + QByteArray::number(1000 + i);
-            QByteArray wertung;
-            for (int k = 0; k < 4; ++k) {
-                wertung += urteile[zufall.bounded(3)];
-            }
-            alle << speise(name.constData(), static_cast<float>(zufall.bounded(4)),
-                           static_cast<float>(zufall.bounded(4)), wertung.constData());
-        }
-        return alle;
-    };
-    const QList<Datenmodul> eingebaute = erfinde("b");
-    const QList<Datenmodul> eigene = erfinde("e");
-    oeffne(eingebaute, eigene);
-    for (int runde = 0; runde < 60; ++runde) {
-        const quint32 schalter = zufall.bounded(64U);
-        const QChar zeichen = QStringLiteral("<=>")[zufall.bounded(3)];
-        const auto zahl = static_cast<float>(zufall.bounded(4));
-        const QString urteil = QString(QLatin1Char(urteile[zufall.bounded(3)]));
-        for (int zelle = 0; zelle < 6; ++zelle) {
-            controller().suchprofileinaus->zelle(zelle)->setChecked((schalter >> zelle & 1U) != 0);
-            wahl(zelle)->setStringValue(zelle == protein_ || zelle == energie_ ? QString(zeichen)
-                                                                               : urteil);
-        }
-        controller().proteineingabe->setFloatValue(zahl);
-        controller().kalorieneingabe->setFloatValue(zahl);
-        controller().proteinsuche();
-
-        QStringList treffer;
-        for (const Datenmodul &food : eigene + eingebaute) {
-            const auto erfuellt = [&](float wert) {
-                return zeichen == u'<' ? wert < zahl : zeichen == u'>' ? wert > zahl : wert == zahl;
-            };
-            const bool ja[] = {erfuellt(food.protein()),  food.uebergewicht() == urteil,
-                               food.diabetes() == urteil, food.gicht() == urteil,
-                               food.hkk() == urteil,      erfuellt(food.kal())};
-            int punkte = 0;
-            for (int zelle = 0; zelle < 6; ++zelle) {
-                punkte += (schalter >> zelle & 1U) == 0 || ja[zelle] ? 1 : 0;
-            }
-            if (punkte == 6) {
-                treffer << food.name();
-            }
-        }
-        QCOMPARE(controller().suchArray, treffer);
-        QCOMPARE(controller().suchArray2, treffer);
-    }
 }
 
 QTEST_MAIN(TestSucheProfil)

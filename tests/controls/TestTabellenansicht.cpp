@@ -2,9 +2,11 @@
 
 #include <QAbstractItemModelTester>
 #include <QHeaderView>
+#include <QHelpEvent>
 #include <QMimeData>
 #include <QSignalSpy>
 #include <QTest>
+#include <QToolTip>
 
 #include <memory>
 
@@ -16,11 +18,15 @@ class Probequelle : public Tabellenquelle
 public:
     int zeilen = 20;
     int gefragt = 0;
+    QString langerName; ///< of row 1 in the first column, where it is given
 
     int numberOfRows() const override { return zeilen; }
     QString objectValue(const QString &spalte, int zeile) override
     {
         ++gefragt;
+        if (!langerName.isEmpty() && spalte == QLatin1String("a") && zeile == 1) {
+            return langerName;
+        }
         const bool leer = zeile >= zeilen || (spalte == QLatin1String("c") && zeile >= 2);
         return leer ? QString() : spalte + QString::number(zeile);
     }
@@ -55,6 +61,7 @@ private Q_SLOTS:
     void aDragCarriesTheColumnUnderTheMouse();
     void nothingIsDraggedFromAnEmptyCell();
     void tabLeavesTheTable();
+    void whatIsCutOffStandsInTheToolTip();
 
 private:
     QPoint mitte(int zeile, int spalte) const
@@ -230,6 +237,24 @@ void TestTabellenansicht::nothingIsDraggedFromAnEmptyCell()
 void TestTabellenansicht::tabLeavesTheTable()
 {
     QVERIFY(!m_tabelle->tabKeyNavigation());
+}
+
+void TestTabellenansicht::whatIsCutOffStandsInTheToolTip()
+{
+    const auto hinweis = [this](int zeile) {
+        const QPoint stelle = mitte(zeile, 0);
+        QHelpEvent event(QEvent::ToolTip, stelle, m_tabelle->viewport()->mapToGlobal(stelle));
+        QCoreApplication::sendEvent(m_tabelle->viewport(), &event);
+        return QToolTip::text();
+    };
+    m_tabelle->setColumnWidth(0, 200);
+    QCOMPARE(hinweis(1), QString());
+    m_quelle.langerName = QStringLiteral("Salz & <Pfeffer> ").repeated(20);
+    QCOMPARE(hinweis(1), QStringLiteral("<qt>") +
+                             QStringLiteral("Salz &amp; &lt;Pfeffer&gt; ").repeated(20) +
+                             QStringLiteral("</qt>"));
+    hinweis(2);
+    QTRY_VERIFY(!QToolTip::isVisible());
 }
 
 QTEST_MAIN(TestTabellenansicht)
