@@ -3,9 +3,12 @@
 #include "Oberflaeche.h"
 #include "Rundgang.h"
 #include "Sprache.h"
+#include "Startsperre.h"
+#include "Zeichenkettentabelle.h"
 
 #include <QApplication>
 #include <QCommandLineParser>
+#include <QFileInfo>
 #include <QLoggingCategory>
 #include <QStyleFactory>
 #include <QTemporaryDir>
@@ -41,6 +44,17 @@ Auftrag leseAuftrag(const QApplication &app)
     return {leser.value(rundgang), leser.value(sprache)};
 }
 
+/// Asks whether to go on although the program is already at work on the same files.
+bool trotzdemOeffnen()
+{
+    return zeigeMeldung(nullptr, {localizedString(QStringLiteral("Mahlberg ist schon geöffnet.")),
+                                  localizedString(QStringLiteral(
+                                      "Zweimal zugleich geöffnet, überschreibt das eine "
+                                      "die Lebensmittel und den Plan des anderen.")),
+                                  {localizedString(QStringLiteral("Beenden")),
+                                   localizedString(QStringLiteral("Trotzdem öffnen"))}}) == 1;
+}
+
 } // namespace
 
 int main(int argc, char **argv)
@@ -68,6 +82,13 @@ int main(int argc, char **argv)
                               : auftrag.sprache);
     zeigeErscheinungsbild(gemerktesErscheinungsbild(*einstellungen));
 
+    const Datenordner datenordner = eigenesHeim ? Datenordner(eigenesHeim->path()) : Datenordner();
+    const Startsperre sperre(
+        QFileInfo(datenordner.pathForDataFile(QStringLiteral("customdaten"))).path());
+    if (sperre.besetzt() && !trotzdemOeffnen()) {
+        return 0;
+    }
+
     // On the tour nobody is there to press a button: messages go into its summary.
     QStringList ungelesen;
     const Meldungstuer niemand = [&ungelesen](QWidget *, const Meldung &meldung) {
@@ -78,7 +99,7 @@ int main(int argc, char **argv)
 
     Oberflaeche oberflaeche({
         .eingebauteTabelle = QStringLiteral(":/DatabaseIII.daten"),
-        .datenordner = eigenesHeim ? Datenordner(eigenesHeim->path()) : Datenordner(),
+        .datenordner = datenordner,
         .melde = eigenesHeim ? niemand : Meldungstuer(zeigeMeldung),
         .protokolliere = [](const QString &zeile) { qCDebug(protokoll).noquote() << zeile; },
         .einstellungen = einstellungen.get(),

@@ -902,6 +902,10 @@ Breakdown per kg and hour: 0.1 g after choosing the drink, 0.05 g after setting 
   <translation>Fibre</translation>
  </message>
  <message>
+  <source>Beenden</source>
+  <translation>Quit</translation>
+ </message>
+ <message>
   <source>Bitte einen Namen eingeben</source>
   <translation>Please enter a name</translation>
  </message>
@@ -1162,6 +1166,10 @@ Breakdown per kg and hour: 0.1 g after choosing the drink, 0.05 g after setting 
   <translation>Magnesium</translation>
  </message>
  <message>
+  <source>Mahlberg ist schon geöffnet.</source>
+  <translation>Mahlberg is already open.</translation>
+ </message>
+ <message>
   <source>Mahlzeiten&amp;plan</source>
   <translation>Meal &amp;plan</translation>
  </message>
@@ -1286,6 +1294,10 @@ Breakdown per kg and hour: 0.1 g after choosing the drink, 0.05 g after setting 
   <translation>Customise toolbar</translation>
  </message>
  <message>
+  <source>Trotzdem öffnen</source>
+  <translation>Open anyway</translation>
+ </message>
+ <message>
   <source>Ueberg.</source>
   <translation>Overw.</translation>
  </message>
@@ -1348,6 +1360,10 @@ Breakdown per kg and hour: 0.1 g after choosing the drink, 0.05 g after setting 
  <message>
   <source>Ziehen Sie Ihre Lieblingsobjekte in die Symbolleiste …</source>
   <translation>Drag your favourite items into the toolbar …</translation>
+ </message>
+ <message>
+  <source>Zweimal zugleich geöffnet, überschreibt das eine die Lebensmittel und den Plan des anderen.</source>
+  <translation>Opened twice at once, one overwrites the foods and the plan of the other.</translation>
  </message>
  <message>
   <source>aus</source>

@@ -1,0 +1,22 @@
+#pragma once
+
+#include <QLockFile>
+#include <QString>
+
+/// Tells a program that it is the only one at work on a user's files: two at once would overwrite
+/// each other's foods and plans. The sign is a file beside them, which goes with this object. A
+/// sign that a program left when it was killed counts for nothing.
+class Startsperre
+{
+public:
+    /// `ordner` is the folder of the user's files.
+    explicit Startsperre(const QString &ordner);
+
+    /// Whether another program is at work there. Where no sign can be left there is none to be
+    /// seen, so the answer is no.
+    bool besetzt() const { return m_besetzt; }
+
+private:
+    QLockFile m_datei;
+    bool m_besetzt;
+};
