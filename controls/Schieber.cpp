@@ -15,12 +15,32 @@ namespace {
 
 const QEvent::Type auffrischen = static_cast<QEvent::Type>(QEvent::registerEventType());
 
+/// The number beside the slider. The comma of the keyboard and the point of its number pad both
+/// mean the decimals, in every language: taken for thousands, 1.85 m would become 1 m, and 1.9
+/// hours 19.
+class Zahleneingabe : public QDoubleSpinBox
+{
+public:
+    using QDoubleSpinBox::QDoubleSpinBox;
+
+protected:
+    QValidator::State validate(QString &text, int &stelle) const override
+    {
+        const bool mitEinheit = !suffix().isEmpty() && text.endsWith(suffix());
+        QString zahl = mitEinheit ? text.chopped(suffix().size()) : text;
+        const QString komma = locale().decimalPoint();
+        zahl.replace(u'.', komma).replace(u',', komma);
+        text = mitEinheit ? zahl + suffix() : zahl;
+        return QDoubleSpinBox::validate(text, stelle);
+    }
+};
+
 } // namespace
 
 Schieber::Schieber(QWidget *parent)
     : QWidget(parent)
     , m_regler(new QSlider(Qt::Horizontal, this))
-    , m_eingabe(new QDoubleSpinBox(this))
+    , m_eingabe(new Zahleneingabe(this))
 {
     auto *zeile = new QHBoxLayout(this);
     zeile->setContentsMargins(0, 0, 0, 0);
