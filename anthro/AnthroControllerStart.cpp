@@ -19,6 +19,7 @@
 #include <algorithm>
 #include <array>
 #include <charconv>
+#include <cmath>
 
 namespace {
 
@@ -226,9 +227,11 @@ void AnthroController::liesEinstellungen()
     rateVerhaeltnis();
 }
 
+/// What is no number, or none that can be measured, counts as never stored.
 float AnthroController::gemerkt(const char *schluessel) const
 {
-    return m_tueren.einstellungen->value(QLatin1String(schluessel)).toFloat();
+    const float zahl = m_tueren.einstellungen->value(QLatin1String(schluessel)).toFloat();
+    return std::isfinite(zahl) ? zahl : 0.0F;
 }
 
 void AnthroController::merke(const char *schluessel, float zahl)
