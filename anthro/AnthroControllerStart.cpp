@@ -92,8 +92,10 @@ void AnthroController::fuelleAuswahlen()
     alkohol->setStringValue(startgetraenk);
     sport->addItems(namen(sportarten));
     sport->setStringValue(QString());
-    sport->lineEdit()->setPlaceholderText(
-        localizedString(QString::fromUtf8(QT_TRANSLATE_NOOP("Mahlberg", "kein Sport"))));
+    const QString keiner =
+        localizedString(QString::fromUtf8(QT_TRANSLATE_NOOP("Mahlberg", "kein Sport")));
+    sport->lineEdit()->setPlaceholderText(keiner);
+    sport->setItemData(sport->findText(QString()), keiner, Qt::AccessibleTextRole);
     for (Textfeld *feld : {ml, alkgramm, abbaudauer, resultatsportkal}) {
         feld->setIntValue(0);
     }

@@ -138,6 +138,17 @@ void TestRechnerbild::nothingJumps()
     r->metrik(1);
     r->gewichtreduktion(1);
     QVERIFY(ort() == vorher);
+
+    zeige(QStringLiteral("fünf"));
+    const auto ortDesSports = [this] {
+        QCoreApplication::processEvents();
+        return std::pair(r->sportbox->geometry(), r->zieher->geometry());
+    };
+    const auto ohneWorte = ortDesSports();
+    r->zieher->setIntValue(1000);
+    r->wievielalkohol(*r->zieher); // 40 g
+    QVERIFY(r->alkoholworte->isVisible() && r->mengenworte->isVisible());
+    QVERIFY(ortDesSports() == ohneWorte);
 }
 
 void TestRechnerbild::everyControlHasAName()
@@ -151,6 +162,8 @@ void TestRechnerbild::everyControlHasAName()
             }
         }
     }
+    QCOMPARE(r->sport->itemData(r->sport->findText(QString()), Qt::AccessibleTextRole),
+             QVariant(QStringLiteral("kein Sport")));
 }
 
 void TestRechnerbild::textsAreTranslated()
