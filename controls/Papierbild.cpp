@@ -42,14 +42,29 @@ QPalette papierpalette()
     return palette;
 }
 
-/// Dresses a window for paper while it lives. A colour that carries a verdict is chosen for the
-/// program's palette, so a palette for the window alone would not do. Nothing of this is seen: the
-/// windows are painted again when everything is as it was.
+/// Dresses a part of a window for paper while it lives. A colour that carries a verdict is chosen
+/// for the program's palette, so a palette for the part alone would not do. Nothing of this is
+/// seen: the windows are painted again when everything is as it was.
 class Papierkleid
 {
 public:
-    explicit Papierkleid(QWidget &fenster) : m_fenster(fenster) { trage(papierpalette()); }
-    ~Papierkleid() { trage(m_vorher); }
+    explicit Papierkleid(QWidget &flaeche)
+        : m_flaeche(flaeche)
+        , m_schrift(flaeche.testAttribute(Qt::WA_SetFont) ? flaeche.font() : QFont())
+    {
+        trage(papierpalette());
+        // Letters that are set apart, however little, are not joined: under a joined ff a search of
+        // the PDF finds no "Stoffe".
+        constexpr double kaumSichtbar = 0.02; // pixels
+        QFont schrift = m_schrift;
+        schrift.setLetterSpacing(QFont::AbsoluteSpacing, kaumSichtbar);
+        m_flaeche.setFont(schrift);
+    }
+    ~Papierkleid()
+    {
+        m_flaeche.setFont(m_schrift);
+        trage(m_vorher);
+    }
     Papierkleid(const Papierkleid &) = delete;
     Papierkleid &operator=(const Papierkleid &) = delete;
 
@@ -58,10 +73,11 @@ private:
     {
         QApplication::setPalette(palette);
         QEvent jetzt(QEvent::ApplicationPaletteChange); // windows hear of it later otherwise
-        QCoreApplication::sendEvent(&m_fenster, &jetzt);
+        QCoreApplication::sendEvent(m_flaeche.window(), &jetzt);
     }
 
-    QWidget &m_fenster;
+    QWidget &m_flaeche;
+    QFont m_schrift;
     QPalette m_vorher = QApplication::palette();
 };
 
@@ -93,7 +109,7 @@ QRectF platzAuf(const QPageLayout &seite)
 
 Papierbild::Papierbild(QWidget &flaeche) : m_groesse(flaeche.size())
 {
-    const Papierkleid kleid(*flaeche.window());
+    const Papierkleid kleid(flaeche);
     QPainter maler(&m_bild);
     maler.scale(feinheit, feinheit);
     flaeche.render(&maler, QPoint(), QRegion(), QWidget::DrawChildren);

@@ -68,6 +68,7 @@ Tueren Probeheim::tueren()
         meldungen << meldung;
         return antworten.isEmpty() ? 0 : antworten.takeFirst();
     };
+    tueren.drucke = drucke;
     tueren.protokolliere = [this](const QString &zeile) {
         protokoll << zeile;
         beimProtokoll();

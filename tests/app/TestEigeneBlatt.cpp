@@ -231,7 +231,7 @@ void TestEigeneBlatt::everyValueFindsItsPlace()
         QCOMPARE(aufDerPlatte.wert(zeile.wert), zahl);
     }
     for (const auto &zeile : wertungen) {
-        const QString urteil = urteile[static_cast<int>(stelle(zeile.wertung))];
+        const QString &urteil = urteile[static_cast<int>(stelle(zeile.wertung))];
         QCOMPARE(controller().wertungsfelder()[stelle(zeile.wertung)]->stringValue(), urteil);
         QCOMPARE(aufDerPlatte.wertung(zeile.wertung), urteil);
     }

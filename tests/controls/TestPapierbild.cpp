@@ -19,6 +19,7 @@ private Q_SLOTS:
     void init();
     void cleanup() { QApplication::setPalette(m_palette); }
     void textStaysTextAndCanBeFound();
+    void lettersThatLikeToJoinCanBeFound();
     void paperIsWhiteUnderEveryTheme_data();
     void paperIsWhiteUnderEveryTheme();
     void theThemeIsAsBeforeAfterwards();
@@ -126,6 +127,18 @@ void TestPapierbild::textStaysTextAndCanBeFound()
     QCOMPARE(finde(probe.worte(), QStringLiteral("Ernährungsmaß")).seite, 1);
     QCOMPARE(finde(probe.worte(), QStringLiteral("Öl")).seite, 1);
     QVERIFY(probe.zeilen(1).join(u' ').contains(QLatin1String("12,5")));
+}
+
+/// Fonts join ff, fi and fl to one sign, under which a search for the word finds nothing.
+void TestPapierbild::lettersThatLikeToJoinCanBeFound()
+{
+    m_beschriftung->setText(QStringLiteral("Inhaltstoffe Filet Flan"));
+    m_feld->setStringValue(QStringLiteral("Pfiff"));
+    Druckprobe probe(a4);
+    probe.drucke(bildauftrag({QStringLiteral("Kaffee")}, *m_flaeche));
+    for (const char *wort : {"Inhaltstoffe", "Filet", "Flan", "Pfiff", "Kaffee"}) {
+        QCOMPARE(finde(probe.worte(), QString::fromLatin1(wort)).seite, 1);
+    }
 }
 
 void TestPapierbild::paperIsWhiteUnderEveryTheme_data()

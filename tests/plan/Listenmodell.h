@@ -4,6 +4,7 @@
 
 #include <map>
 #include <stdexcept>
+#include <tuple>
 #include <vector>
 
 /// The plan's lists as they are told to a colleague: two arrays and a store, and whoever reaches
@@ -18,7 +19,7 @@ struct Listenmodell
 
     void streiche(std::size_t zeile)
     {
-        namen.at(zeile);
+        std::ignore = namen.at(zeile);
         namen.erase(namen.begin() + static_cast<std::ptrdiff_t>(zeile));
         mengen.erase(mengen.begin() + static_cast<std::ptrdiff_t>(zeile));
     }

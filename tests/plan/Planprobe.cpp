@@ -80,7 +80,7 @@ Plantueren Planheim::tueren() const
             }};
 }
 
-Planfenster::Planfenster(const Planheim &heim) : m_plan(std::make_unique<Planmodul>(heim.tueren()))
+Planfenster::Planfenster(Plantueren tueren) : m_plan(std::make_unique<Planmodul>(std::move(tueren)))
 {
     m_plan->showWindow();
     QVERIFY(QTest::qWaitForWindowActive(m_plan->window()));

@@ -39,7 +39,8 @@ private:
 class Planfenster
 {
 public:
-    explicit Planfenster(const Planheim &heim);
+    explicit Planfenster(const Planheim &heim) : Planfenster(heim.tueren()) {}
+    explicit Planfenster(Plantueren tueren);
 
     Planmodul *operator->() const { return m_plan.get(); }
     Planmodul &plan() const { return *m_plan; }

@@ -285,7 +285,7 @@ void TestPlanmodulListe::randomOperationsGoAsToldToAColleague()
     std::vector<QString> tabelle; // the names that the table shows
     for (int schritt = 0; schritt < 2000; ++schritt) {
         const auto gezeigte = static_cast<int>(tabelle.size());
-        const QString name = speisen[zufall.bounded(static_cast<int>(speisen.size()))];
+        const QString &name = speisen[zufall.bounded(static_cast<int>(speisen.size()))];
         const int zeile = zufall.bounded(gezeigte + 1);
         const auto stelle = static_cast<std::size_t>(zeile);
         try {

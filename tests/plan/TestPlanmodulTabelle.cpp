@@ -129,7 +129,8 @@ void TestPlanmodulTabelle::valuesAreThoseOfTheAmount()
         {u"name"_s, u"Brot"_s},
     };
     for (auto it = erwartet.begin(); it != erwartet.end(); ++it) {
-        QCOMPARE(QPair(it.key(), m_fenster->zelle(0, it.key())), QPair(it.key(), it.value()));
+        QCOMPARE(std::pair(it.key(), m_fenster->zelle(0, it.key())),
+                 std::pair(it.key(), it.value()));
     }
 }
 

@@ -18,6 +18,7 @@ private Q_SLOTS:
     void anEmptyPlanPrintsItsHeadingAndRequirement();
     void whatIsWiderThanItsPlaceIsNarrowed();
     void totalsThatAreTooWideStayOnThePaper();
+    void lettersThatLikeToJoinCanBeFound();
     void itIsBlackAndBlueOnWhite();
 };
 
@@ -163,14 +164,24 @@ void TestPlanmodulprintEinfach::totalsThatAreTooWideStayOnThePaper()
 {
     const QList<Druckwort> worte = gedruckt(
         Planmodulprint::initWithPeople({QStringLiteral("Vorrat")}, {50000}, {123456}, 100000, a4));
-    const Druckwort einheit = worte.last();
-    QCOMPARE(einheit.text, QStringLiteral("kcal"));
+    QCOMPARE(worte.last().text, QStringLiteral("kcal"));
     for (const Druckwort &wort : worte) {
         QVERIFY2(wort.rechts < 595, qPrintable(wort.text));
     }
     QCOMPARE(finde(worte, QStringLiteral("50000")).seite, 1);
     QCOMPARE(finde(worte, QStringLiteral("123456")).seite, 1);
     QCOMPARE(finde(worte, QStringLiteral("100000")).seite, 1);
+}
+
+/// Fonts join ff, fi and fl to one sign, under which a search for the word finds nothing.
+void TestPlanmodulprintEinfach::lettersThatLikeToJoinCanBeFound()
+{
+    const QString name = QStringLiteral("Kaffee, Fisch, Filet, Apfelflan, Pfiffling, Süßstoffe");
+    Druckprobe probe(a4);
+    probe.drucke(auftrag([&name](const QPageLayout &seite) {
+        return Planmodulprint::initWithPeople({name}, {50}, {12}, 2000, seite);
+    }));
+    QCOMPARE(probe.zeilen(1).first(), name + QStringLiteral(" 50 gr 12 kcal"));
 }
 
 void TestPlanmodulprintEinfach::itIsBlackAndBlueOnWhite()

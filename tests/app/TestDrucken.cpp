@@ -1,0 +1,192 @@
+#include "Probefenster.h"
+
+#include "Druckprobe.h"
+#include "Erscheinungsbild.h"
+#include "Sprache.h"
+
+#include <QTest>
+
+using namespace Qt::StringLiterals;
+
+/// Printing from the main window: the panel in front as it looks, with the food's name above it.
+class TestDrucken : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void init();
+    void cleanup();
+    void theToolbarAndTheKeysPrint_data();
+    void theToolbarAndTheKeysPrint();
+    void thePanelInFrontIsPrinted_data();
+    void thePanelInFrontIsPrinted();
+    void theAmountOnDisplayIsPrinted();
+    void nothingOnDisplayIsTold();
+    void paperIsWhiteInTheDark();
+    void theWindowLooksAsBefore();
+    void itPrintsInEnglish();
+    void withoutADoorNothingHappens();
+
+private:
+    void oeffne() { m_fenster = std::make_unique<Probefenster>(*m_heim); }
+    QString gedruckt() const;
+
+    std::unique_ptr<Probeheim> m_heim;
+    std::unique_ptr<Druckprobe> m_druck;
+    std::unique_ptr<Probefenster> m_fenster;
+};
+
+void TestDrucken::init()
+{
+    m_heim = std::make_unique<Probeheim>();
+    m_heim->schreibeTabelle(
+        verzeichnis({lebensmittel(u"Äpfel, roh"_s, {{Naehrwert::kal, 52.0F},
+                                                    {Naehrwert::kh, 12.0F},
+                                                    {Naehrwert::ka, 119.0F},
+                                                    {Naehrwert::na, 30.0F},
+                                                    {Naehrwert::vitc, 12.0F}})}));
+    m_druck =
+        std::make_unique<Druckprobe>(Druckprobe::papier(QPageSize::A4, QPageLayout::Portrait));
+    m_heim->drucke = m_druck->tuer();
+}
+
+void TestDrucken::cleanup()
+{
+    m_fenster.reset();
+    zeigeErscheinungsbild(Erscheinungsbild::Hell);
+}
+
+/// All words of the print, with plain blanks between them.
+QString TestDrucken::gedruckt() const
+{
+    return m_druck->zeilen(1).join(u' ').replace(QChar(QChar::Nbsp), u' ');
+}
+
+void TestDrucken::theToolbarAndTheKeysPrint_data()
+{
+    QTest::addColumn<bool>("mitTasten");
+    QTest::newRow("the toolbar's item") << false;
+    QTest::newRow("Ctrl+P") << true;
+}
+
+void TestDrucken::theToolbarAndTheKeysPrint()
+{
+    QFETCH(bool, mitTasten);
+    oeffne();
+    if (mitTasten) {
+        QTest::keyClick((*m_fenster)->Hauptfenster, Qt::Key_P, Qt::ControlModifier);
+    } else {
+        m_fenster->drueckeWerkzeug(u"drucken"_s);
+    }
+    QCOMPARE(m_druck->auftraege, 1);
+    QCOMPARE(m_druck->fenster, (*m_fenster)->Hauptfenster);
+    QCOMPARE(m_druck->seiten(), 1);
+    QVERIFY(m_heim->meldungen.isEmpty());
+}
+
+void TestDrucken::thePanelInFrontIsPrinted_data()
+{
+    QTest::addColumn<int>("reiter");
+    QTest::addColumn<bool>("vomLebensmittel");
+    QTest::addColumn<QStringList>("texte");
+    QTest::newRow("nutrients") << 0 << true
+                               << QStringList{u"Nährstoffe"_s, u"Kohlenhydrate"_s, u"12,0 g"_s,
+                                              u"119 mg"_s, u"52 kcal"_s};
+    QTest::newRow("daily need") << 1 << true
+                                << QStringList{u"Tagesbedarf"_s, u"Vitamin C"_s,
+                                               u"Gesamtbeurteilung"_s};
+    QTest::newRow("bread units") << 2 << true
+                                 << QStringList{u"BE und Relationen"_s, u"1,0 BE"_s, u"1,2 KE"_s};
+    QTest::newRow("body: about no food")
+        << 3 << false << QStringList{u"Körper und Energie"_s, u"Gewicht"_s, u"kcal"_s};
+    QTest::newRow("alcohol and sport: about no food")
+        << 4 << false << QStringList{u"Alkohol und Sport"_s, u"Getränk"_s, u"Dauer"_s};
+}
+
+void TestDrucken::thePanelInFrontIsPrinted()
+{
+    QFETCH(int, reiter);
+    QFETCH(bool, vomLebensmittel);
+    QFETCH(QStringList, texte);
+    oeffne();
+    (*m_fenster)->DatenAnsicht->setCurrentIndex(reiter);
+    (*m_fenster)->drucken();
+    const QString alles = gedruckt();
+    for (const QString &text : std::as_const(texte)) {
+        QVERIFY2(alles.contains(text), qPrintable(text + u" in: "_s + alles));
+    }
+    QCOMPARE(alles.contains(u"Äpfel, roh"_s), vomLebensmittel);
+    QCOMPARE(m_druck->titel, vomLebensmittel ? u"Äpfel, roh"_s : texte.first());
+    QVERIFY(!alles.contains(u"Lebensmittel suchen"_s)); // the panel only, not the window
+}
+
+void TestDrucken::theAmountOnDisplayIsPrinted()
+{
+    oeffne();
+    m_fenster->tippeMenge(u"250"_s);
+    (*m_fenster)->drucken();
+    const QString alles = gedruckt();
+    QVERIFY2(alles.contains(u"Inhaltstoffe in 250 gramm"_s), qPrintable(alles));
+    QVERIFY(alles.contains(u"130 kcal"_s)); // 52 x 2.5
+    QVERIFY(alles.contains(u"30,0 g"_s));   // 12 x 2.5
+}
+
+void TestDrucken::nothingOnDisplayIsTold()
+{
+    oeffne();
+    (*m_fenster)->DatenAnsicht->hide();
+    (*m_fenster)->drucken();
+    QCOMPARE(m_druck->auftraege, 0);
+    QCOMPARE(m_heim->meldungen.size(), 1);
+    QCOMPARE(m_heim->meldungen[0].text, u"Es wird nichts angezeigt, das gedruckt werden könnte."_s);
+}
+
+void TestDrucken::paperIsWhiteInTheDark()
+{
+    zeigeErscheinungsbild(Erscheinungsbild::Dunkel);
+    oeffne();
+    (*m_fenster)->drucken();
+    const QImage bild = m_druck->bild(1);
+    int weiss = 0;
+    bool schwarz = false;
+    for (int y = 0; y < bild.height(); ++y) {
+        for (int x = 0; x < bild.width(); ++x) {
+            weiss += bild.pixelColor(x, y) == QColor(Qt::white) ? 1 : 0;
+            schwarz |= bild.pixelColor(x, y) == QColor(Qt::black);
+        }
+    }
+    QVERIFY(schwarz);
+    QVERIFY2(weiss > bild.width() * bild.height() * 8 / 10, qPrintable(QString::number(weiss)));
+}
+
+void TestDrucken::theWindowLooksAsBefore()
+{
+    zeigeErscheinungsbild(Erscheinungsbild::Dunkel);
+    oeffne();
+    QCoreApplication::processEvents();
+    const QImage vorher = (*m_fenster)->DatenAnsicht->grab().toImage();
+    (*m_fenster)->drucken();
+    QCoreApplication::processEvents();
+    QCOMPARE((*m_fenster)->DatenAnsicht->grab().toImage(), vorher);
+}
+
+void TestDrucken::itPrintsInEnglish()
+{
+    const Sprache englisch(u"en"_s);
+    oeffne();
+    (*m_fenster)->drucken();
+    QVERIFY(gedruckt().contains(u"Äpfel, roh"_s));
+    QVERIFY2(gedruckt().contains(u"Nutrients"_s), qPrintable(gedruckt()));
+}
+
+void TestDrucken::withoutADoorNothingHappens()
+{
+    m_heim->drucke = {};
+    oeffne();
+    (*m_fenster)->drucken();
+    QVERIFY(m_heim->meldungen.isEmpty());
+    QVERIFY((*m_fenster)->Hauptfenster->isVisible());
+}
+
+QTEST_MAIN(TestDrucken)
+#include "TestDrucken.moc"

@@ -1,0 +1,170 @@
+#include "Meldung.h"
+
+#include <QApplication>
+#include <QMessageBox>
+#include <QPushButton>
+#include <QTest>
+#include <QTimer>
+
+#include <algorithm>
+
+using namespace Qt::StringLiterals;
+
+/// The real message box, with a user before it.
+class TestMeldung : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void textsStandWhereTheyBelong();
+    void withoutAHeadingTheExplanationIsTheHeading();
+    void buttonsStandInTheirOrder_data();
+    void buttonsStandInTheirOrder();
+    void theFirstButtonWaitsForReturn();
+    void keysAndClosingAnswer_data();
+    void keysAndClosingAnswer();
+    void everyButtonAnswersWithItsNumber();
+    void aMessageWithoutButtonsShowsNothing();
+};
+
+namespace {
+
+const QStringList drei = {u"Einfache Liste"_s, u"Detaillierte Liste"_s, u"Grafische Darstellung"_s};
+
+/// Shows the message, lets the user do something to the box, and returns the answer. A box that is
+/// then still open is closed, and the answer is of no use.
+int zeige(const Meldung &meldung, const std::function<void(QMessageBox &)> &tue)
+{
+    constexpr int keineAntwort = -99;
+    bool offenGeblieben = false;
+    QTimer::singleShot(0, qApp, [&] {
+        auto *kasten = qobject_cast<QMessageBox *>(QApplication::activeModalWidget());
+        QVERIFY(kasten != nullptr);
+        QVERIFY(QTest::qWaitForWindowActive(kasten));
+        tue(*kasten);
+        if (kasten->isVisible()) {
+            offenGeblieben = true;
+            kasten->done(0);
+        }
+    });
+    const int antwort = zeigeMeldung(nullptr, meldung);
+    return offenGeblieben ? keineAntwort : antwort;
+}
+
+/// The buttons that can be seen, from left to right.
+QList<QPushButton *> sichtbareKnoepfe(const QMessageBox &kasten)
+{
+    QList<QPushButton *> knoepfe = kasten.findChildren<QPushButton *>();
+    erase_if(knoepfe, [](const QPushButton *knopf) { return !knopf->isVisible(); });
+    std::sort(knoepfe.begin(), knoepfe.end(), [](const QPushButton *a, const QPushButton *b) {
+        return a->mapToGlobal(QPoint()).x() < b->mapToGlobal(QPoint()).x();
+    });
+    return knoepfe;
+}
+
+} // namespace
+
+void TestMeldung::textsStandWhereTheyBelong()
+{
+    QString text;
+    QString erklaerung;
+    zeige({u"Drucken"_s, u"Was moechten Sie drucken ? "_s, drei}, [&](const QMessageBox &kasten) {
+        text = kasten.text();
+        erklaerung = kasten.informativeText();
+    });
+    QCOMPARE(text, u"Drucken"_s);
+    QCOMPARE(erklaerung, u"Was moechten Sie drucken ? "_s); // with its blank
+}
+
+void TestMeldung::withoutAHeadingTheExplanationIsTheHeading()
+{
+    QString text;
+    QString erklaerung = u"?"_s;
+    zeige({{}, u"Nichts ausgewählt"_s, {u"ok"_s}}, [&](const QMessageBox &kasten) {
+        text = kasten.text();
+        erklaerung = kasten.informativeText();
+    });
+    QCOMPARE(text, u"Nichts ausgewählt"_s);
+    QVERIFY(erklaerung.isEmpty());
+}
+
+void TestMeldung::buttonsStandInTheirOrder_data()
+{
+    QTest::addColumn<QStringList>("knoepfe");
+    QTest::addColumn<bool>("verwerfbar");
+    QTest::newRow("one") << QStringList{u"ok"_s} << false;
+    QTest::newRow("no before yes") << QStringList{u"Nein"_s, u"Ja"_s} << false;
+    QTest::newRow("yes before no") << QStringList{u"Ja"_s, u"Nein"_s} << false;
+    QTest::newRow("three that may be refused: no fourth to be seen") << drei << true;
+}
+
+void TestMeldung::buttonsStandInTheirOrder()
+{
+    QFETCH(QStringList, knoepfe);
+    QFETCH(bool, verwerfbar);
+    QStringList gesehen;
+    zeige({u"Frage"_s, {}, knoepfe, verwerfbar}, [&](const QMessageBox &kasten) {
+        for (const QPushButton *knopf : sichtbareKnoepfe(kasten)) {
+            gesehen << knopf->text();
+        }
+    });
+    QCOMPARE(gesehen, knoepfe);
+}
+
+void TestMeldung::theFirstButtonWaitsForReturn()
+{
+    QString vorbelegt;
+    zeige({u"Löschen?"_s, {}, {u"Nein"_s, u"Ja"_s}}, [&](const QMessageBox &kasten) {
+        for (const QPushButton *knopf : sichtbareKnoepfe(kasten)) {
+            vorbelegt += knopf->isDefault() ? knopf->text() : QString();
+        }
+    });
+    QCOMPARE(vorbelegt, u"Nein"_s);
+}
+
+void TestMeldung::keysAndClosingAnswer_data()
+{
+    QTest::addColumn<bool>("verwerfbar");
+    QTest::addColumn<int>("taste"); // 0: the window is closed
+    QTest::addColumn<int>("antwort");
+    QTest::newRow("Return presses the first") << false << int(Qt::Key_Return) << 0;
+    QTest::newRow("Escape presses the first") << false << int(Qt::Key_Escape) << 0;
+    QTest::newRow("closing presses the first") << false << 0 << 0;
+    QTest::newRow("refusable: Return presses the first") << true << int(Qt::Key_Return) << 0;
+    QTest::newRow("refusable: Escape presses none") << true << int(Qt::Key_Escape) << -1;
+    QTest::newRow("refusable: closing presses none") << true << 0 << -1;
+}
+
+void TestMeldung::keysAndClosingAnswer()
+{
+    QFETCH(bool, verwerfbar);
+    QFETCH(int, taste);
+    QFETCH(int, antwort);
+    const int gegeben = zeige({u"Frage"_s, {}, drei, verwerfbar}, [taste](QMessageBox &kasten) {
+        if (taste == 0) {
+            kasten.close();
+        } else {
+            QTest::keyClick(&kasten, static_cast<Qt::Key>(taste));
+        }
+    });
+    QCOMPARE(gegeben, antwort);
+}
+
+void TestMeldung::everyButtonAnswersWithItsNumber()
+{
+    for (int i = 0; i < drei.size(); ++i) {
+        const int gegeben = zeige({u"Drucken"_s, {}, drei, true}, [i](const QMessageBox &kasten) {
+            QTest::mouseClick(sichtbareKnoepfe(kasten).value(i), Qt::LeftButton);
+        });
+        QCOMPARE(gegeben, i);
+    }
+}
+
+/// Such a box could not be closed.
+void TestMeldung::aMessageWithoutButtonsShowsNothing()
+{
+    QCOMPARE(zeigeMeldung(nullptr, {u"Hinweis"_s, {}, {}}), 0);
+}
+
+QTEST_MAIN(TestMeldung)
+#include "TestMeldung.moc"
