@@ -666,8 +666,8 @@
   <translation>heavy, physically demanding</translation>
  </message>
  <message>
-  <source>Für Kinder unter 10 Jahren wird nicht gerechnet; ab 11 Jahren geht es weiter.</source>
-  <translation>Nothing is worked out for children under 10 years; it resumes at 11 years.</translation>
+  <source>rechnet ab 11 Jahren</source>
+  <translation>starts at 11 years</translation>
  </message>
 </context>
 <context>

@@ -138,6 +138,12 @@ void TestRechnerbild::nothingJumps()
     r->metrik(1);
     r->gewichtreduktion(1);
     QVERIFY(ort() == vorher);
+    r->alter->setIntValue(9);
+    r->wiealt(*r->alter);
+    QVERIFY(r->altersworte->isVisible());
+    QVERIFY(ort() == vorher);
+    r->alter->setIntValue(25);
+    r->wiealt(*r->alter);
 
     zeige(QStringLiteral("fünf"));
     const auto ortDesSports = [this] {
