@@ -110,6 +110,15 @@ void Tabellenansicht::scrollRowToVisible(int zeile)
     }
 }
 
+void Tabellenansicht::beendeEingabe()
+{
+    // The state is no help: it is another one while something is dragged over the table.
+    if (QWidget *feld = indexWidget(currentIndex())) {
+        commitData(feld);
+        closeEditor(feld, QAbstractItemDelegate::NoHint);
+    }
+}
+
 void Tabellenansicht::setGitter(bool gitter)
 {
     m_gitter = gitter;

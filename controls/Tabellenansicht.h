@@ -46,6 +46,10 @@ public:
     void selectRow(int zeile);
     void scrollRowToVisible(int zeile);
 
+    /// Ends typing into a cell and takes over what was typed. Where rows come and go, what is typed
+    /// would otherwise end up in the row of another food.
+    void beendeEingabe();
+
     bool gitter() const { return m_gitter; }
     void setGitter(bool gitter);
     int rowHeight() const;

@@ -63,9 +63,15 @@ void Planmodul::awakeFromNib()
     ladeBilder();
     planbeurteilungfaceview->entscheidung(Gesichtscode::lachend);
     Kalorienbedarf->setIntValue(klient.unbereinigt);
-    for (Textfeld *feld : {Kalorienerrechnet, Gewichtsverlust, BMI, BMIneu, wunschverlust}) {
+    for (Textfeld *feld : {Kalorienerrechnet, wunschverlust}) {
         feld->setIntValue(0);
     }
+    for (Textfeld *feld : {Gewichtsverlust, BMIneu}) {
+        feld->setStringValue(QStringLiteral("-")); // nothing was projected yet
+    }
+    zeigeBmi();
+    zeigeVerlauf(false);
+    stelleZeichenDazu();
     Tage->setIntValue(ersteTage);
     datenberechnen();
     // The sentences set here need room; without this the first picture would be laid out too small.
@@ -154,6 +160,7 @@ const Datenmodul *Planmodul::lebensmittel(const QString &name) const
 
 void Planmodul::nameimportvontoolbar(const QString &name)
 {
+    beendeEingabe();
     anhaengen(name);
     uebernimmAenderung();
     if (m_fenster != nullptr) {
@@ -163,6 +170,7 @@ void Planmodul::nameimportvontoolbar(const QString &name)
 
 void Planmodul::Lebensmittelentfernen()
 {
+    beendeEingabe();
     if (m_fenster != nullptr && zeileEntfernen(PlanTabelle->selectedRow())) {
         uebernimmAenderung();
     }
@@ -176,11 +184,20 @@ void Planmodul::umschreibungMitName(const Datenmodul &lebensmittel)
 
 void Planmodul::loeschenvonkundeneintraegen(const QString &name)
 {
+    beendeEingabe();
     KundenDictionary.remove(name);
     schreibeEigeneLebensmittel();
     const auto zeile = zeileVon(name);
     if (zeile && zeileEntfernen(*zeile)) {
         uebernimmAenderung();
+    }
+}
+
+/// An amount that is being typed still belongs to the row in which it is typed.
+void Planmodul::beendeEingabe()
+{
+    if (m_fenster != nullptr) {
+        PlanTabelle->beendeEingabe();
     }
 }
 

@@ -13,6 +13,7 @@
 
 #include <QObject>
 
+#include <array>
 #include <cstdint>
 #include <vector>
 
@@ -77,7 +78,7 @@ public:
     /// A food is wanted in the plan, named by its key. It comes last, with 100 g.
     virtual void nameimportvontoolbar(const QString &name);
 
-    // Actions of the window
+    // Actions of the window; without one they do nothing
     /// Takes the selected row out of the plan; without one, nothing happens.
     void Lebensmittelentfernen();
     /// Projects the weight from what stands in the window's fields.
@@ -109,6 +110,7 @@ private:
     void verbinde();
     void ladeBilder();
     void bearbeiteMenge(const QModelIndex &zelle);
+    void beendeEingabe();
 
     // The table
     void beschrifteTabelle();
@@ -132,12 +134,15 @@ private:
     void zeigeWertungen(const Planauswertung &auswertung);
     void zeigeBeurteilung(const Planauswertung &auswertung);
     void zeigeBmi();
+    void stelleZeichenDazu();
+    void zeigeVerlauf(bool sichtbar);
 
     void drucke(const Druckauftrag &auftrag);
 
     Plantueren m_tueren;
     QMainWindow *m_fenster = nullptr;
     Bestandsdatei m_eigeneDatei;
+    std::array<QLabel *, anzahlNaehrwerte> m_zeichen = {}; ///< the verdicts beside the bars
 
     // What the table shows: the rows of the last reload, and the amounts typed since.
     QStringList m_gezeigteNamen;

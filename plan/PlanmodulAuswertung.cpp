@@ -60,10 +60,22 @@ void setzeStil(Zaehlfeld &feld, const Zeichenstil &stil)
     feld.setAnfang(textfarbe(stil.farbe), stil.punktgroesse);
 }
 
-/// What the face says, for those who can't see it.
-QString urteil(int gesicht)
+/// The verdict of a bar in one character, none while no bar is drawn.
+QString urteilszeichen(const WertungView &balken)
 {
-    return gesicht == Gesichtscode::lachend ? localizedString(QStringLiteral("Ein guter Plan"))
+    if (balken.value() <= 0) {
+        return {};
+    }
+    return balken.color() == Qt::green  ? QStringLiteral("✓")
+           : balken.color() == Qt::blue ? QStringLiteral("≈")
+                                        : QStringLiteral("✗");
+}
+
+/// What the face says, for those who can't see it.
+QString urteil(int gesicht, bool leer)
+{
+    return leer                               ? localizedString(QStringLiteral("Der Plan ist leer"))
+           : gesicht == Gesichtscode::lachend ? localizedString(QStringLiteral("Ein guter Plan"))
            : gesicht == Gesichtscode::neutral
                ? localizedString(QStringLiteral("Ein Plan mit Lücken"))
                : localizedString(QStringLiteral("Ein unausgewogener Plan"));
@@ -101,6 +113,23 @@ void Planmodul::datenberechnen()
     zeigeBeurteilung(auswertung);
 }
 
+/// Beside each bar stands a sign of its verdict: for those who can't tell the colours apart, and
+/// for a printer that knows only black.
+void Planmodul::stelleZeichenDazu()
+{
+    for (std::size_t i = 0; i < anzahlNaehrwerte; ++i) {
+        int zeile = 0;
+        int spalte = 0;
+        int hoch = 0;
+        int breit = 0;
+        anteilsgitter->getItemPosition(anteilsgitter->indexOf(this->*naehrwertfelder[i].balken),
+                                       &zeile, &spalte, &hoch, &breit);
+        m_zeichen[i] = new QLabel(boxinhalt);
+        m_zeichen[i]->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred); // none moves
+        anteilsgitter->addWidget(m_zeichen[i], zeile, spalte + 1);
+    }
+}
+
 void Planmodul::zeigeNaehrwerte(const Planauswertung &auswertung)
 {
     for (std::size_t i = 0; i < anzahlNaehrwerte; ++i) {
@@ -108,9 +137,12 @@ void Planmodul::zeigeNaehrwerte(const Planauswertung &auswertung)
         (this->*naehrwertfelder[i].prozent)->setDoubleValue(naehrwert.prozent);
         WertungView &balken = *(this->*naehrwertfelder[i].balken);
         if (naehrwert.balken) {
-            balken.drawaRect(naehrwert.balken->code.value_or(Balkencode::unveraendert));
+            if (naehrwert.balken->code) {
+                balken.drawaRect(*naehrwert.balken->code);
+            }
             balken.drawabalken(naehrwert.balken->laenge);
         }
+        m_zeichen[i]->setText(urteilszeichen(balken));
     }
 }
 
@@ -136,7 +168,7 @@ void Planmodul::zeigeWertungen(const Planauswertung &auswertung)
 void Planmodul::zeigeBeurteilung(const Planauswertung &auswertung)
 {
     planbeurteilungfaceview->entscheidung(auswertung.gesicht);
-    planworte->setText(urteil(auswertung.gesicht) + u'\n' +
+    planworte->setText(urteil(auswertung.gesicht, PlanArray.isEmpty()) + u'\n' +
                        localizedString(QStringLiteral("%1 von 21 Punkten")).arg(auswertung.punkte));
 }
 
@@ -149,6 +181,9 @@ void Planmodul::zeigeBmi()
 
 void Planmodul::verlustberechnen()
 {
+    if (m_fenster == nullptr) {
+        return;
+    }
     const Prognose::Verlauf verlauf =
         Prognose::verlustberechnen({.tage = Tage->floatValue(),
                                     .bedarf = Kalorienbedarf->intValue(),
@@ -165,11 +200,27 @@ void Planmodul::verlustberechnen()
     gewichtview->wert2(Kalorienbedarf->intValue());
     gewichtview->wert3(Kalorienerrechnet->intValue());
     gewichtview->wert4(klient.groesse);
-    verlaufworte->setText(gewichtview->beschreibung());
+    const bool groesseBekannt = klient.groesse > 0;
+    verlaufworte->setText(groesseBekannt ? gewichtview->beschreibung()
+                                         : localizedString(QStringLiteral(
+                                               "Der Verlauf erscheint, sobald unter „Körper "
+                                               "und Energie“ Gewicht und Größe stehen.")));
+    zeigeVerlauf(groesseBekannt);
+}
+
+/// Before anything was projected, or without a height, the chart would be nothing but a red field.
+void Planmodul::zeigeVerlauf(bool sichtbar)
+{
+    for (QWidget *teil : {static_cast<QWidget *>(gewichtview), kiloskala, wochenskala}) {
+        teil->setVisible(sichtbar);
+    }
 }
 
 void Planmodul::tageberechnen(const Wertehalter &sender)
 {
+    if (m_fenster == nullptr) {
+        return;
+    }
     Tage->setFloatValue(Prognose::tageberechnen(sender.floatValue(), Kalorienbedarf->intValue(),
                                                 Kalorienerrechnet->intValue()));
     verlustberechnen();

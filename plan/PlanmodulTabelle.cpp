@@ -211,6 +211,7 @@ std::optional<int> Planmodul::validateDrop(int zeile, bool auf)
 
 void Planmodul::acceptDrop(int zeile, const QString &text)
 {
+    beendeEingabe();
     if (einsetzen(text, zeile)) {
         uebernimmAenderung();
     }
@@ -218,6 +219,9 @@ void Planmodul::acceptDrop(int zeile, const QString &text)
 
 void Planmodul::tabgroesseaendern(const Wertehalter &sender)
 {
+    if (m_fenster == nullptr) {
+        return;
+    }
     const int groesse = std::max(1, sender.intValue());
     PlanTabelle->setRowHeight(groesse);
     const Tabellenmodell &modell = *PlanTabelle->modell();

@@ -134,17 +134,17 @@ void GewichtsverlaufView::zeichnen(QPainter &maler, const QRectF &bounds) const
 QString GewichtsverlaufView::beschreibung() const
 {
     const auto kilogramm = [](float wert) {
-        return QLocale().toString(wert, 'f', 1);
-    };
+        return QLocale().toString(wert, 'f', 1) + QChar(QChar::Nbsp) + QStringLiteral("kg");
+    }; // no line ends between a number and its unit
     QString verlauf =
-        QCoreApplication::translate("Mahlberg", "Gewicht heute %1 kg, nach einer Woche %2 kg, nach "
-                                                "zwei %3 kg, nach drei %4 kg, nach vier %5 kg.")
+        QCoreApplication::translate("Mahlberg", "Gewicht heute %1, nach einer Woche %2, nach zwei "
+                                                "%3, nach drei %4, nach vier %5.")
             .arg(kilogramm(a()), kilogramm(b()), kilogramm(c()), kilogramm(d()), kilogramm(e()));
     if (m_groesse == 0.0F) {
         return verlauf;
     }
     return verlauf + u' ' +
-           QCoreApplication::translate("Mahlberg", "Gesund sind %1 bis %2 kg.")
+           QCoreApplication::translate("Mahlberg", "Gesund sind %1 bis %2.")
                .arg(kilogramm(m_unteresbmigewicht), kilogramm(m_oberesbmigewicht));
 }
 

@@ -61,10 +61,11 @@ void zeichneKreis(QPainter &maler, const Kreis &kreis, const Energieverteilung &
     }
 }
 
+/// No line ends between a number and its unit.
 QString anteileInWorten(const char *satz, const Energieverteilung &anteile)
 {
     const auto prozent = [](float anteil) {
-        return QLocale().toString(anteil * 100.0F, 'f', 0);
+        return QLocale().toString(anteil * 100.0F, 'f', 0) + QChar(QChar::Nbsp) + u'%';
     };
     return QCoreApplication::translate("Mahlberg", satz)
         .arg(prozent(anteile.protein), prozent(anteile.kohlenhydrat), prozent(anteile.fett));
@@ -125,12 +126,11 @@ void NahrstoffraumView::zeichnen(QPainter &maler, const QRectF &bounds) const
 QString NahrstoffraumView::beschreibung() const
 {
     return anteileInWorten(
-               QT_TRANSLATE_NOOP("Mahlberg", "Soll: Protein %1 %, Kohlenhydrate %2 %, Fett %3 %."),
+               QT_TRANSLATE_NOOP("Mahlberg", "Soll: Protein %1, Kohlenhydrate %2, Fett %3."),
                m_soll) +
            u' ' +
            anteileInWorten(
-               QT_TRANSLATE_NOOP("Mahlberg", "Ist: Protein %1 %, Kohlenhydrate %2 %, Fett %3 %."),
-               m_ist);
+               QT_TRANSLATE_NOOP("Mahlberg", "Ist: Protein %1, Kohlenhydrate %2, Fett %3."), m_ist);
 }
 
 QSize NahrstoffraumView::sizeHint() const

@@ -956,6 +956,14 @@ Nothing is worked out for children under 10 years; it resumes at 11 years.</tr
   <translation>The printer “%1” does not take the job. Perhaps it is switched off or no longer connected.</translation>
  </message>
  <message>
+  <source>Der Plan ist leer</source>
+  <translation>The plan is empty</translation>
+ </message>
+ <message>
+  <source>Der Verlauf erscheint, sobald unter „Körper und Energie“ Gewicht und Größe stehen.</source>
+  <translation>The course appears as soon as weight and height are entered under “Body and energy”.</translation>
+ </message>
+ <message>
   <source>Detaillierte Liste</source>
   <translation>Detailed list</translation>
  </message>
@@ -1064,16 +1072,16 @@ Nothing is worked out for children under 10 years; it resumes at 11 years.</tr
   <translation>Total</translation>
  </message>
  <message>
-  <source>Gesund sind %1 bis %2 kg.</source>
-  <translation>Healthy is %1 to %2 kg.</translation>
+  <source>Gesund sind %1 bis %2.</source>
+  <translation>Healthy is %1 to %2.</translation>
  </message>
  <message>
   <source>Gew.</source>
   <translation>Ovw.</translation>
  </message>
  <message>
-  <source>Gewicht heute %1 kg, nach einer Woche %2 kg, nach zwei %3 kg, nach drei %4 kg, nach vier %5 kg.</source>
-  <translation>Weight today %1 kg, after one week %2 kg, after two %3 kg, after three %4 kg, after four %5 kg.</translation>
+  <source>Gewicht heute %1, nach einer Woche %2, nach zwei %3, nach drei %4, nach vier %5.</source>
+  <translation>Weight today %1, after one week %2, after two %3, after three %4, after four %5.</translation>
  </message>
  <message>
   <source>Gicht</source>
@@ -1108,8 +1116,8 @@ Nothing is worked out for children under 10 years; it resumes at 11 years.</tr
   <translation>Nutrients in 1 gram</translation>
  </message>
  <message>
-  <source>Ist: Protein %1 %, Kohlenhydrate %2 %, Fett %3 %.</source>
-  <translation>Actual: protein %1 %, carbohydrate %2 %, fat %3 %.</translation>
+  <source>Ist: Protein %1, Kohlenhydrate %2, Fett %3.</source>
+  <translation>Actual: protein %1, carbohydrate %2, fat %3.</translation>
  </message>
  <message>
   <source>Ja</source>
@@ -1272,8 +1280,8 @@ Nothing is worked out for children under 10 years; it resumes at 11 years.</tr
   <translation>Target</translation>
  </message>
  <message>
-  <source>Soll: Protein %1 %, Kohlenhydrate %2 %, Fett %3 %.</source>
-  <translation>Target: protein %1 %, carbohydrate %2 %, fat %3 %.</translation>
+  <source>Soll: Protein %1, Kohlenhydrate %2, Fett %3.</source>
+  <translation>Target: protein %1, carbohydrate %2, fat %3.</translation>
  </message>
  <message>
   <source>Sport</source>
@@ -1551,6 +1559,10 @@ Nothing is worked out for children under 10 years; it resumes at 11 years.</tr
   <translation>Cholesterol, bar</translation>
  </message>
  <message>
+  <source>Der Verlauf erscheint, sobald Lebensmittel im Plan stehen.</source>
+  <translation>The course appears as soon as there are foods in the plan.</translation>
+ </message>
+ <message>
   <source>Diabetes</source>
   <translation>Diabetes</translation>
  </message>
@@ -1663,8 +1675,8 @@ Nothing is worked out for children under 10 years; it resumes at 11 years.</tr
   <translation>Gout, unsuitable foods</translation>
  </message>
  <message>
-  <source>Grün: im Ziel, blau: knapp daneben, rot: verfehlt.</source>
-  <translation>Green: on target, blue: just beside, red: missed.</translation>
+  <source>✓ grün: im Ziel, ≈ blau: knapp daneben, ✗ rot: verfehlt.</source>
+  <translation>✓ green: on target, ≈ blue: just beside, ✗ red: missed.</translation>
  </message>
  <message>
   <source>Herz und Kreislauf</source>

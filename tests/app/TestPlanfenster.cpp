@@ -30,6 +30,7 @@ private Q_SLOTS:
     void aFoodIsDraggedIntoThePlan();
     void anOwnFoodIsDraggedIntoThePlan();
     void aFoodIsDraggedWithinThePlan();
+    void aDragOfAFoodAlreadyInThePlanLeavesTheTableAsItWas();
     void aDragWithinThePlanLeavesTheSelection();
     void aSavedFoodReachesThePlan();
     void aDeletedFoodLeavesThePlan();
@@ -238,6 +239,37 @@ void TestPlanfenster::aFoodIsDraggedWithinThePlan()
     ziehe(tabelle, planstelle(2), tabelle, planstelle(0)); // the last one to behind the first
     QCOMPARE(plan().PlanArray, QStringList({zaehlname(1), zaehlname(3), zaehlname(2)}));
     QCOMPARE(plan().PlanTabelle->model()->index(1, 0).data().toString(), zaehlname(3));
+}
+
+/// Only when the food stands last does the drag run through; from anywhere else the rows change,
+/// but are neither saved nor shown before the next change.
+void TestPlanfenster::aDragOfAFoodAlreadyInThePlanLeavesTheTableAsItWas()
+{
+    oeffneDaneben();
+    for (const int zeile : {1, 2, 3}) {
+        plan().nameimportvontoolbar(zaehlname(zeile));
+    }
+    const auto gezeigt = [this] {
+        const QAbstractItemModel &modell = *plan().PlanTabelle->model();
+        QStringList namen;
+        for (int i = 0; i < modell.rowCount(); ++i) {
+            namen << modell.index(i, 0).data().toString();
+        }
+        return namen;
+    };
+    const QStringList vorher = {zaehlname(1), zaehlname(2), zaehlname(3)};
+    QWidget &haupt = *controller().Tabelle->viewport();
+    QWidget &ziel = *plan().PlanTabelle->viewport();
+    ziehe(haupt, m_fenster->mitte(1, inName), ziel, planstelle(1)); // behind the second row
+    QCOMPARE(plan().PlanArray, QStringList({zaehlname(2), zaehlname(1), zaehlname(3)}));
+    QCOMPARE(gezeigt(), vorher);
+    QVERIFY(plan().window()->isVisible());
+    ziehe(ziel, planstelle(0), ziel, planstelle(9)); // the row still shows the first food
+    QCOMPARE(plan().PlanArray, QStringList({zaehlname(2), zaehlname(3), zaehlname(1)}));
+    QCOMPARE(gezeigt(), vorher);
+    m_fenster->klicke(4, inName);
+    drueckeWerkzeug("export");
+    QCOMPARE(gezeigt(), QStringList({zaehlname(2), zaehlname(3), zaehlname(1), zaehlname(4)}));
 }
 
 void TestPlanfenster::aDragWithinThePlanLeavesTheSelection()

@@ -110,6 +110,15 @@ void fuelle()
         << QStringList(QStringLiteral("100 ") + QString::fromLatin1(ausgewogen)) << 0
         << QString::fromLatin1(ausgewogenErwartet).section(QLatin1Char(' '), 4) << 1994
         << "100! 100! 100! 100!" << 17 << 1;
+    // 400 of 800, 594 of 1200, 1000 of 2000 kcal: no point for these four, nor for the ratings.
+    QTest::newRow("the same for twice the requirement, badly rated: 13 points are neutral")
+        << QStringList(QStringLiteral("100 ") +
+                       QString::fromLatin1(ausgewogen)
+                           .replace(QStringLiteral("++++"), QStringLiteral("----")))
+        << 4000
+        << QStringLiteral("kal=49.8499985:2/49 protein=50:2/50 fett=49:2/49 kh=50:2/50 ") +
+               QString::fromLatin1(ausgewogenErwartet).section(QLatin1Char(' '), 4)
+        << 1994 << "001 001 001 001" << 13 << 2;
     QTest::newRow("sodium at exactly 120 percent at once leaves the bar")
         << zeilen({"100 na=660"}) << 2000 << "na=120:-" << 0 << ohne << 0 << 3;
     QTest::newRow("at 60, then at 120 percent: the bar stays at 60")
@@ -155,6 +164,16 @@ void fuelle()
            "na=181.818176:1/181 ka=35:1/35 ca=53:2/53 ph=21.4285717:1/21 ma=8.5714283:1/8 "
            "fe=25:1/25 vita=20:1/20 b1=38.0208321:1/38 vitc=100:3/100"
         << 552 << "021 102! 111 012" << 2 << 3;
+    // Protein 30 g, fat 5 + 32 = 37 g, carbohydrate 175 + 100 = 275 g: 120 of 360, 333 of 540 and
+    // 1100 of 900 kcal; 865 + 288 + 400 = 1553 kcal.
+    QTest::newRow("a day of noodles, butter and lemonade")
+        << zeilen({"250 protein=12 fett=2 kh=70 bs=4 ka=200 ph=150 ma=40 fe=1.5 b1=0.125 ++00",
+                   "40 fett=80 chol=240 vita=750 ---.", "1000 kh=10 .-0-"})
+        << 1800
+        << "kal=86.2777786:3/86 protein=33:2/33 fett=61:2/61 kh=122:1/122 bs=33.3333321:2/33 "
+           "chol=48:2/48 ka=25:1/25 ph=26.7857151:1/26 ma=28.5714283:1/28 fe=31.25:1/31 "
+           "vita=30:1/30 b1=26.041666:1/26"
+        << 1553 << "101! 102! 021 011" << 4 << 3;
 }
 
 } // namespace Planbeispiele

@@ -31,6 +31,7 @@ private Q_SLOTS:
     void aTieFromTheFirstRowOnLeavesTheLooksOfTheEvaluationBefore();
     void aRatingOfAnyOtherTextIsNotCounted();
     void everyNumberHasItsBarBesideIt();
+    void everyBarHasItsSignBesideIt();
 
 private:
     void oeffne() { m_fenster = std::make_unique<Planfenster>(*m_heim); }
@@ -197,7 +198,12 @@ void TestPlanmodulAuswertung::anEmptyPlanShowsNothingAndCries()
     // The projection is not made; the requirement was set when the window came up.
     QCOMPARE(plan().Kalorienbedarf->intValue(), 2200);
     QCOMPARE(plan().Kalorienerrechnet->intValue(), 0);
-    QCOMPARE(plan().BMI->floatValue(), 0.0F);
+    QCOMPARE(plan().Gewichtsverlust->stringValue(), u"-"_s);
+    QCOMPARE(plan().BMIneu->stringValue(), u"-"_s);
+    QVERIFY(!plan().gewichtview->isVisible());
+    QVERIFY(plan().verlaufworte->text().startsWith(u"Der Verlauf erscheint"_s));
+    // The client is known all the same.
+    QVERIFY(qAbs(plan().BMI->floatValue() - 24.691358F) < 0.00001F);
 }
 
 void TestPlanmodulAuswertung::aPlanThatWasEmptiedKeepsColoursLooksAndEnergy()
@@ -210,8 +216,10 @@ void TestPlanmodulAuswertung::aPlanThatWasEmptiedKeepsColoursLooksAndEnergy()
     plan().PlanTabelle->selectRow(0);
     Planmodul::klient.unbereinigt = 2500;
     plan().Lebensmittelentfernen();
-    QCOMPARE(inWorten({plan().gesamtvitaminc, plan().gesamtvitamincview}), u"0:0/0"_s);
+    QCOMPARE(inWorten({plan().gesamtvitaminc, plan().gesamtvitamincview}), u"0:3/0"_s);
     QCOMPARE(plan().gesamtvitamincview->color(), QColor(Qt::green));
+    QCOMPARE(plan().gesamtvitamincview->a(), 3);
+    QVERIFY(plan().gewichtview->isVisible());
     QCOMPARE(ziffern(zaehlungen(plan())[0]), u"000"_s);
     QCOMPARE(aussehen(zaehlungen(plan())[0]), u"schwarz9 schwarz9 rot12"_s);
     QCOMPARE(plan().Kalorienbedarf->intValue(), 2200);
@@ -254,7 +262,7 @@ void TestPlanmodulAuswertung::theFaceHasItsPicturesAndWords()
     QVERIFY(!gesicht.bild2().isNull());
     QVERIFY(!gesicht.bild3().isNull());
     QVERIFY(gesicht.bild() != gesicht.bild2() && gesicht.bild2() != gesicht.bild3());
-    QCOMPARE(plan().planworte->text(), u"Ein unausgewogener Plan\n0 von 21 Punkten"_s);
+    QCOMPARE(plan().planworte->text(), u"Der Plan ist leer\n0 von 21 Punkten"_s);
 }
 
 void TestPlanmodulAuswertung::aNewRequirementIsSeenAtTheNextEvaluation()
@@ -337,6 +345,31 @@ void TestPlanmodulAuswertung::everyNumberHasItsBarBesideIt()
         QVERIFY(anzeige.prozent->geometry().top() <= anzeige.balken->geometry().bottom());
         QVERIFY(!anzeige.prozent->accessibleName().isEmpty());
         QVERIFY(!anzeige.balken->accessibleName().isEmpty());
+    }
+}
+
+/// Colours alone tell nothing to those who can't part red from green, nor on a black printer.
+void TestPlanmodulAuswertung::everyBarHasItsSignBesideIt()
+{
+    m_heim->schreibeTabelle(
+        {speise(u"Ding"_s, {{Naehrwert::bs, 30}, {Naehrwert::fe, 6}, {Naehrwert::vitc, 1}})});
+    m_heim->schreibePlan({{u"Ding"_s, 100}}); // 100, 50 and 1 percent
+    oeffne();
+    const auto zeichen = [this](const WertungView *balken) {
+        const QPoint daneben = balken->geometry().center() + QPoint(balken->width() / 2 + 10, 0);
+        const auto *feld = qobject_cast<QLabel *>(plan().boxinhalt->childAt(daneben));
+        return feld != nullptr ? feld->text() : u"nothing there"_s;
+    };
+    QCOMPARE(zeichen(plan().gesamtballaststoffeview), u"✓"_s);
+    QCOMPARE(zeichen(plan().gesamteisenview), u"≈"_s);
+    QCOMPARE(zeichen(plan().gesamtvitamincview), u"✗"_s);
+    QCOMPARE(zeichen(plan().gesamtkalview), QString()); // no bar at 0 percent
+    m_fenster->tippeMenge(0, u"240"_s);                 // iron at 120 percent keeps its bar
+    QCOMPARE(zeichen(plan().gesamteisenview), u"≈"_s);
+    plan().PlanTabelle->selectRow(0);
+    plan().Lebensmittelentfernen();
+    for (const Anzeige &anzeige : anzeigen(plan())) {
+        QCOMPARE(zeichen(anzeige.balken), QString());
     }
 }
 

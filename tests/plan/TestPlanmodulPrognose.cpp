@@ -123,6 +123,13 @@ void TestPlanmodulPrognose::withoutAHeightThereIsNoBmi()
     QCOMPARE(plan().BMI->floatValue(), 0.0F);
     QCOMPARE(plan().BMIneu->floatValue(), 0.0F);
     QCOMPARE(plan().Gewichtsverlust->floatValue(), -0.7F);
+    // Nor are there weights that are healthy or not: a chart would be red all over.
+    QVERIFY(!plan().gewichtview->isVisible());
+    QVERIFY(plan().verlaufworte->text().contains(u"Körper und Energie"_s));
+    Planmodul::klient.groesse = 1.8F;
+    plan().datenberechnen();
+    QVERIFY(plan().gewichtview->isVisible());
+    QCOMPARE(plan().verlaufworte->text(), plan().gewichtview->beschreibung());
 }
 
 void TestPlanmodulPrognose::weightAndHeightShowTheBmiAtOnce()

@@ -206,6 +206,9 @@ void TestPlanregeln::macronutrientPercentage_data()
     QTest::newRow("carbohydrate of 1999: 999") << kh << 250.0F << 1999 << 100.0;
     QTest::newRow("negative, toward zero") << protein << -0.5F << 15 << -66.0;
     QTest::newRow("no requirement") << fett << 30.0F << 0 << 0.0;
+    // 4,000,000 of 400,000,001 kcal; single precision would want 400,000,000 and see 1 percent.
+    QTest::newRow("the part is worked out in double precision")
+        << protein << 1e6F << 2000000009 << 0.0;
     QTest::newRow("a requirement of which the part is 0") << protein << 30.0F << 4 << 0.0;
     QTest::newRow("negative requirement of which the part is 0") << protein << 30.0F << -4 << 0.0;
     // 2147483647 kcal x 100 / 1

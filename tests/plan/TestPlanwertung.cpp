@@ -56,6 +56,8 @@ void TestPlanwertung::counting_data()
         << "-+" << 1 << 0 << 1 << false << "-";
     QTest::newRow("+ - - : the point stays, the looks do not")
         << "+--" << 1 << 0 << 2 << true << "-";
+    QTest::newRow("+ 0 0 : nor do neutral foods take the point away")
+        << "+00" << 1 << 2 << 0 << true << "0";
     QTest::newRow("- + + : the point comes late") << "-++" << 2 << 0 << 1 << true << "+";
     QTest::newRow("0 + - : three alike keep the first") << "0+-" << 1 << 1 << 1 << false << "0";
     QTest::newRow("0 + 0 + : never ahead") << "0+0+" << 2 << 2 << 0 << false << "0";

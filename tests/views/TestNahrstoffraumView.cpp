@@ -276,9 +276,10 @@ void TestNahrstoffraumView::circlesSayWhatTheyShow()
     view.wert1(21.4F);
     view.wert2(50);
     view.wert3(28.6F);
-    QCOMPARE(view.beschreibung(),
-             QStringLiteral("Soll: Protein 15 %, Kohlenhydrate 55 %, Fett 30 %. "
-                            "Ist: Protein 21 %, Kohlenhydrate 50 %, Fett 29 %."));
+    // No line may end between a number and its unit.
+    QCOMPARE(view.beschreibung().replace(QChar(QChar::Nbsp), u'_'),
+             QStringLiteral("Soll: Protein 15_%, Kohlenhydrate 55_%, Fett 30_%. "
+                            "Ist: Protein 21_%, Kohlenhydrate 50_%, Fett 29_%."));
 }
 
 QTEST_MAIN(TestNahrstoffraumView)

@@ -1,0 +1,171 @@
+#include "Planprobe.h"
+
+#include <QAbstractSpinBox>
+#include <QApplication>
+#include <QDoubleSpinBox>
+#include <QLineEdit>
+#include <QPushButton>
+#include <QSlider>
+#include <QTest>
+
+using namespace Qt::StringLiterals;
+
+/// The plan by the keyboard, and what happens to an amount that is still being typed.
+class TestPlanmodulTasten : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void init();
+    void theTabKeyGoesThroughTheWindow();
+    void aDayIsPlannedWithoutTheMouse();
+    void deleteInAnAmountDeletesACharacter();
+    void removingTakesTheAmountThatIsTypedWithIt();
+    void removingFromTheMenuWithNothingSelectedLeavesTheTypedAmount();
+    void aFoodThatComesInLeavesATypedAmountWhereItWas();
+    void aDropLeavesATypedAmountWhereItWas();
+    void aDeletedOwnFoodLeavesTheTypedAmountOfAnother();
+
+private:
+    Tabellenansicht &tabelle() const { return *(*m_fenster)->PlanTabelle; }
+    /// Begins to type an amount and does not finish.
+    void beginne(int zeile, const QString &gramm) const;
+    QMap<QString, float> mengen() const;
+
+    std::unique_ptr<Planheim> m_heim;
+    std::unique_ptr<Planfenster> m_fenster;
+};
+
+void TestPlanmodulTasten::init()
+{
+    vergissKlient();
+    m_fenster.reset();
+    m_heim = std::make_unique<Planheim>();
+    m_heim->schreibeTabelle({speise(u"Brot"_s), speise(u"Ei"_s), speise(u"Milch"_s)});
+    m_heim->schreibeEigene({speise(u"Auflauf"_s)});
+    m_heim->schreibePlan({{u"Auflauf"_s, 10}, {u"Brot"_s, 20}, {u"Ei"_s, 30}});
+    m_fenster = std::make_unique<Planfenster>(*m_heim);
+}
+
+void TestPlanmodulTasten::beginne(int zeile, const QString &gramm) const
+{
+    QTest::mouseClick(tabelle().viewport(), Qt::LeftButton, {},
+                      m_fenster->mitte(zeile, u"menge"_s));
+    QWidget *eingabe = QApplication::focusWidget();
+    QVERIFY(qobject_cast<QLineEdit *>(eingabe) != nullptr);
+    QTest::keyClick(eingabe, Qt::Key_A, Qt::ControlModifier);
+    QTest::keyClicks(eingabe, gramm);
+}
+
+QMap<QString, float> TestPlanmodulTasten::mengen() const
+{
+    QMap<QString, float> alle;
+    for (qsizetype i = 0; i < (*m_fenster)->PlanArray.size(); ++i) {
+        alle.insert((*m_fenster)->PlanArray[i], (*m_fenster)->mengenarray[i]);
+    }
+    return alle;
+}
+
+void TestPlanmodulTasten::theTabKeyGoesThroughTheWindow()
+{
+    const Planmodul &plan = m_fenster->plan();
+    const QWidgetList halte = {plan.PlanTabelle,
+                               plan.entfernenknopf,
+                               plan.druckknopf,
+                               plan.tabellengroesse->regler(),
+                               plan.tabellengroesse->eingabe(),
+                               plan.Kalorienbedarf,
+                               plan.Tage,
+                               plan.wunschverlust,
+                               plan.tageknopf};
+    plan.PlanTabelle->setFocus();
+    for (const QWidget *halt : halte) {
+        QVERIFY2(QApplication::focusWidget() == halt, qPrintable(halt->objectName()));
+        QTest::keyClick(QApplication::focusWidget(), Qt::Key_Tab);
+    }
+    QCOMPARE(QApplication::focusWidget(), plan.PlanTabelle); // round again
+    QTest::keyClick(QApplication::focusWidget(), Qt::Key_Tab, Qt::ShiftModifier);
+    QCOMPARE(QApplication::focusWidget(), plan.tageknopf);
+}
+
+void TestPlanmodulTasten::aDayIsPlannedWithoutTheMouse()
+{
+    tabelle().setFocus();
+    QTest::keyClick(&tabelle(), Qt::Key_Home, Qt::ControlModifier);
+    QTest::keyClick(&tabelle(), Qt::Key_F2); // wherever the cursor stands in the row
+    QTest::keyClicks(QApplication::focusWidget(), u"15"_s);
+    QTest::keyClick(QApplication::focusWidget(), Qt::Key_Return);
+    QCoreApplication::processEvents();
+    QTest::keyClick(&tabelle(), Qt::Key_Down);
+    QTest::keyClick(&tabelle(), Qt::Key_Return); // in the column of the amounts by now
+    QTest::keyClicks(QApplication::focusWidget(), u"25,5"_s);
+    QTest::keyClick(QApplication::focusWidget(), Qt::Key_Return);
+    QCoreApplication::processEvents();
+    QTest::keyClick(&tabelle(), Qt::Key_Down);
+    QTest::keyClick(&tabelle(), Qt::Key_Delete);
+    QCOMPARE(mengen(), (QMap<QString, float>{{u"Auflauf"_s, 15}, {u"Brot"_s, 25.5F}}));
+    QCOMPARE(m_heim->plan(), mengen());
+}
+
+void TestPlanmodulTasten::deleteInAnAmountDeletesACharacter()
+{
+    beginne(1, u"45"_s);
+    QTest::keyClick(QApplication::focusWidget(), Qt::Key_Home);
+    QTest::keyClick(QApplication::focusWidget(), Qt::Key_Delete);
+    QTest::keyClick(QApplication::focusWidget(), Qt::Key_Return);
+    QCoreApplication::processEvents();
+    QCOMPARE(mengen(), (QMap<QString, float>{{u"Auflauf"_s, 10}, {u"Brot"_s, 5}, {u"Ei"_s, 30}}));
+}
+
+void TestPlanmodulTasten::removingTakesTheAmountThatIsTypedWithIt()
+{
+    beginne(1, u"45"_s);
+    (*m_fenster)->aktionEntfernen->trigger(); // from the menu, the amount is still open
+    QCOMPARE(mengen(), (QMap<QString, float>{{u"Auflauf"_s, 10}, {u"Ei"_s, 30}}));
+    QCoreApplication::processEvents();
+    QTest::keyClick(QApplication::focusWidget(), Qt::Key_Return);
+    QCoreApplication::processEvents();
+    QCOMPARE(mengen(), (QMap<QString, float>{{u"Auflauf"_s, 10}, {u"Ei"_s, 30}}));
+    QCOMPARE(m_heim->plan(), mengen());
+}
+
+void TestPlanmodulTasten::removingFromTheMenuWithNothingSelectedLeavesTheTypedAmount()
+{
+    beginne(1, u"45"_s);
+    tabelle().clearSelection();
+    (*m_fenster)->aktionEntfernen->trigger();
+    QCOMPARE(mengen(), (QMap<QString, float>{{u"Auflauf"_s, 10}, {u"Brot"_s, 45}, {u"Ei"_s, 30}}));
+}
+
+void TestPlanmodulTasten::aFoodThatComesInLeavesATypedAmountWhereItWas()
+{
+    beginne(0, u"45"_s);
+    (*m_fenster)->nameimportvontoolbar(u"Brot"_s); // the rows below move up
+    (*m_fenster)->nameimportvontoolbar(u"Milch"_s);
+    QCOMPARE(mengen(),
+             (QMap<QString, float>{
+                 {u"Auflauf"_s, 45}, {u"Brot"_s, 100}, {u"Ei"_s, 30}, {u"Milch"_s, 100}}));
+    QCOMPARE(m_heim->plan(), mengen());
+}
+
+void TestPlanmodulTasten::aDropLeavesATypedAmountWhereItWas()
+{
+    beginne(1, u"45"_s);
+    QVERIFY(m_fenster->wirfAbUeber(u"Milch"_s, 0));
+    QCoreApplication::processEvents();
+    QTest::keyClick(QApplication::focusWidget(), Qt::Key_Return);
+    QCoreApplication::processEvents();
+    QCOMPARE(mengen(), (QMap<QString, float>{
+                           {u"Auflauf"_s, 10}, {u"Brot"_s, 45}, {u"Ei"_s, 30}, {u"Milch"_s, 100}}));
+}
+
+void TestPlanmodulTasten::aDeletedOwnFoodLeavesTheTypedAmountOfAnother()
+{
+    beginne(2, u"45"_s);
+    (*m_fenster)->loeschenvonkundeneintraegen(u"Auflauf"_s);
+    QCOMPARE(mengen(), (QMap<QString, float>{{u"Brot"_s, 20}, {u"Ei"_s, 45}}));
+    QCOMPARE(m_heim->plan(), mengen());
+}
+
+QTEST_MAIN(TestPlanmodulTasten)
+#include "TestPlanmodulTasten.moc"
