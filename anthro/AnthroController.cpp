@@ -6,6 +6,19 @@
 #include "Geschlecht.h"
 #include "Koerpermasse.h"
 
+#include <QCoreApplication>
+
+#include <array>
+
+namespace {
+
+/// The words that the gender's field shows in the language of the windows. It holds the German one,
+/// which the rules read back; the string table finds both here.
+[[maybe_unused]] constexpr std::array geschlechtsworte = {QT_TRANSLATE_NOOP("Mahlberg", "Mann"),
+                                                          QT_TRANSLATE_NOOP("Mahlberg", "Frau")};
+
+} // namespace
+
 void AnthroController::slidergewicht(const Wertehalter &sender)
 {
     const float kilogramm = sender.floatValue();

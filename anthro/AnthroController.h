@@ -129,6 +129,7 @@ private:
     void zeigeMasseWieder();
     void nimmGetraenk(Alkoholanlass anlass, std::int32_t milliliter);
     void faerbeAlkohol(Ampel darunter);
+    static void zeigeFarbe(Textfeld &feld, QWidget &worte, std::optional<Ampel> farbe);
 
     Anthrotueren m_tueren;
     std::unique_ptr<Planmodul> m_eigenerPlan;

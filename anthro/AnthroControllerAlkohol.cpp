@@ -15,9 +15,7 @@ void AnthroController::welcheralkohol()
 void AnthroController::wievielalkohol(const Wertehalter &sender)
 {
     const std::int32_t milliliter = sender.intValue();
-    if (const std::optional<Ampel> farbe = mengenfarbe(milliliter)) {
-        ml->setTextColor(textfarbe(*farbe));
-    }
+    zeigeFarbe(*ml, *mengenworte, mengenfarbe(milliliter));
     ml->setIntValue(milliliter);
     nimmGetraenk(Alkoholanlass::Menge, milliliter);
 }
@@ -42,7 +40,15 @@ void AnthroController::nimmGetraenk(Alkoholanlass anlass, std::int32_t millilite
 void AnthroController::faerbeAlkohol(Ampel darunter)
 {
     geschlechtname = geschlecht->stringValue();
-    if (const auto farbe = alkoholfarbe(geschlechtname, alkgramm->floatValue(), darunter)) {
-        alkgramm->setTextColor(textfarbe(*farbe));
+    zeigeFarbe(*alkgramm, *alkoholworte,
+               alkoholfarbe(geschlechtname, alkgramm->floatValue(), darunter));
+}
+
+/// Red has words beside it for those who don't see it. Without a colour both stay as they are.
+void AnthroController::zeigeFarbe(Textfeld &feld, QWidget &worte, std::optional<Ampel> farbe)
+{
+    if (farbe) {
+        feld.setTextColor(textfarbe(*farbe));
+        worte.setVisible(*farbe == Ampel::Rot);
     }
 }

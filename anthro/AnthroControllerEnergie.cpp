@@ -60,6 +60,7 @@ void AnthroController::erlaubeRechner(bool erlaubt)
                                                           groessen, gewichtn, taillen, hueftn}) {
         feld->setEnabled(erlaubt);
     }
+    altersworte->setVisible(!erlaubt);
 }
 
 /// What is computed from these fields from now on reads 0.

@@ -19,6 +19,7 @@
 #include <algorithm>
 #include <array>
 #include <charconv>
+#include <cmath>
 
 namespace {
 
@@ -91,8 +92,10 @@ void AnthroController::fuelleAuswahlen()
     alkohol->setStringValue(startgetraenk);
     sport->addItems(namen(sportarten));
     sport->setStringValue(QString());
-    sport->lineEdit()->setPlaceholderText(
-        localizedString(QString::fromUtf8(QT_TRANSLATE_NOOP("Mahlberg", "kein Sport"))));
+    const QString keiner =
+        localizedString(QString::fromUtf8(QT_TRANSLATE_NOOP("Mahlberg", "kein Sport")));
+    sport->lineEdit()->setPlaceholderText(keiner);
+    sport->setItemData(sport->findText(QString()), keiner, Qt::AccessibleTextRole);
     for (Textfeld *feld : {ml, alkgramm, abbaudauer, resultatsportkal}) {
         feld->setIntValue(0);
     }
@@ -226,9 +229,11 @@ void AnthroController::liesEinstellungen()
     rateVerhaeltnis();
 }
 
+/// What is no number, or none that can be measured, counts as never stored.
 float AnthroController::gemerkt(const char *schluessel) const
 {
-    return m_tueren.einstellungen->value(QLatin1String(schluessel)).toFloat();
+    const float zahl = m_tueren.einstellungen->value(QLatin1String(schluessel)).toFloat();
+    return std::isfinite(zahl) ? zahl : 0.0F;
 }
 
 void AnthroController::merke(const char *schluessel, float zahl)

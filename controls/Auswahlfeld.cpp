@@ -2,6 +2,7 @@
 
 #include <QAbstractItemView>
 #include <QCompleter>
+#include <QItemDelegate>
 #include <QItemSelectionModel>
 #include <QKeyEvent>
 #include <QLineEdit>
@@ -41,6 +42,25 @@ protected:
     }
 };
 
+/// Writes the words for "nothing chosen" where an entry is empty: an empty row looks like a
+/// mistake.
+class Eintragsmaler : public QItemDelegate
+{
+public:
+    explicit Eintragsmaler(QComboBox *feld) : QItemDelegate(feld), m_feld(feld) {}
+
+protected:
+    void drawDisplay(QPainter *painter, const QStyleOptionViewItem &option, const QRect &rect,
+                     const QString &text) const override
+    {
+        QItemDelegate::drawDisplay(painter, option, rect,
+                                   text.isEmpty() ? m_feld->lineEdit()->placeholderText() : text);
+    }
+
+private:
+    QComboBox *m_feld;
+};
+
 } // namespace
 
 Auswahlfeld::Auswahlfeld(QWidget *parent) : QComboBox(parent)
@@ -72,6 +92,7 @@ void Auswahlfeld::setFreitext(bool frei)
     if (!frei) {
         return;
     }
+    setItemDelegate(new Eintragsmaler(this));
     auto *vorschlaege = new Vorschlaege(this);
     setCompleter(vorschlaege);
     connect(lineEdit(), &QLineEdit::textEdited, vorschlaege,

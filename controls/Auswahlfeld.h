@@ -12,6 +12,7 @@ class Auswahlfeld : public QComboBox, public Wertehalter
     Q_PROPERTY(QString auswahl READ auswahl WRITE setAuswahl)
     /// True: any text can be typed and counts letter by letter. Entries that contain it are offered
     /// below, whatever their case, and one of them counts once it is picked.
+    /// An empty entry is listed under the field's placeholder.
     Q_PROPERTY(bool freitext READ freitext WRITE setFreitext)
 
 public:

@@ -5,22 +5,80 @@
 #include <QEvent>
 #include <QHBoxLayout>
 #include <QLocale>
+#include <QRegularExpression>
 #include <QSignalBlocker>
 #include <QSlider>
 
 #include <algorithm>
 #include <cmath>
+#include <optional>
 
 namespace {
 
 const QEvent::Type auffrischen = static_cast<QEvent::Type>(QEvent::registerEventType());
+
+/// The number beside the slider. The comma of the keyboard and the point of its number pad both
+/// mean the decimals, in every language: taken for thousands, 1.85 m would become 1 m, and 1.9
+/// hours 19. Where whole numbers are wanted, 12.5 is rounded rather than becoming 125; three digits
+/// behind the point are thousands there, as nobody means decimals by them.
+class Zahleneingabe : public QDoubleSpinBox
+{
+public:
+    using QDoubleSpinBox::QDoubleSpinBox;
+
+    double valueFromText(const QString &text) const override
+    {
+        const auto geteilt = teile(text);
+        return geteilt ? *geteilt : QDoubleSpinBox::valueFromText(text);
+    }
+
+protected:
+    QValidator::State validate(QString &text, int &stelle) const override
+    {
+        QString zahl = ohneEinheit(text);
+        const QString einheit = text.mid(zahl.size());
+        const QString komma = locale().decimalPoint();
+        zahl.replace(u'.', komma).replace(u',', komma);
+        text = zahl + einheit;
+        const auto geteilt = teile(text);
+        if (!geteilt) {
+            return QDoubleSpinBox::validate(text, stelle);
+        }
+        if (*geteilt > maximum()) {
+            return QValidator::Invalid;
+        }
+        return *geteilt < minimum() ? QValidator::Intermediate : QValidator::Acceptable;
+    }
+
+private:
+    QString ohneEinheit(const QString &text) const
+    {
+        return text.endsWith(suffix()) ? text.chopped(suffix().size()) : text;
+    }
+
+    /// The whole number that digits parted by a comma or point stand for; absent where decimals are
+    /// wanted, and for any other text.
+    std::optional<double> teile(const QString &text) const
+    {
+        static const QRegularExpression form(QStringLiteral("^(\\d+)[.,](\\d*)$"));
+        const auto teile = form.match(ohneEinheit(text));
+        if (decimals() > 0 || !teile.hasMatch()) {
+            return std::nullopt;
+        }
+        const QString vorn = teile.captured(1);
+        const QString hinten = teile.captured(2);
+        constexpr qsizetype tausender = 3;
+        return hinten.size() == tausender ? (vorn + hinten).toDouble()
+                                          : std::round((vorn + u'.' + hinten).toDouble());
+    }
+};
 
 } // namespace
 
 Schieber::Schieber(QWidget *parent)
     : QWidget(parent)
     , m_regler(new QSlider(Qt::Horizontal, this))
-    , m_eingabe(new QDoubleSpinBox(this))
+    , m_eingabe(new Zahleneingabe(this))
 {
     auto *zeile = new QHBoxLayout(this);
     zeile->setContentsMargins(0, 0, 0, 0);

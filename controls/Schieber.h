@@ -8,7 +8,8 @@ class QDoubleSpinBox;
 class QSlider;
 
 /// A slider for a number, with the number beside it to be typed. It holds the value that it was
-/// given even beyond its range and between its steps; only what the user sets keeps to both.
+/// given even beyond its range and between its steps; only what the user sets keeps to the range.
+/// In the typed number a comma and a point both mean the decimals.
 class Schieber : public QWidget, public Wertehalter
 {
     Q_OBJECT

@@ -665,6 +665,10 @@
   <source>schwer, körperlich anstrengend</source>
   <translation>heavy, physically demanding</translation>
  </message>
+ <message>
+  <source>rechnet ab 11 Jahren</source>
+  <translation>starts at 11 years</translation>
+ </message>
 </context>
 <context>
  <name>LebensweiseGestalt</name>
@@ -697,8 +701,12 @@
   <translation>Energy used by sport</translation>
  </message>
  <message>
-  <source>Es zählen nur volle 100 ml. Rot: Alkohol über 20 g am Tag (Frau) oder 30 g (Mann), Menge über 600 ml. Abbau je kg und Stunde: 0,1 g nach der Wahl des Getränks, 0,05 g nach dem Einstellen der Menge.</source>
-  <translation>Only whole 100 ml count. Red: alcohol above 20 g a day (woman) or 30 g (man), amount above 600 ml. Breakdown per kg and hour: 0.1 g after choosing the drink, 0.05 g after setting the amount.</translation>
+  <source>Es zählen nur volle 100 ml. Tagesgrenze: 20 g Alkohol (Frau) oder 30 g (Mann).
+Abbau je kg und Stunde: 0,1 g nach der Wahl, 0,05 g nach dem Einstellen der Menge.
+Für Kinder unter 10 Jahren wird nicht gerechnet; ab 11 Jahren geht es weiter.</source>
+  <translation>Only whole 100 ml count. Daily limit: 20 g of alcohol (woman) or 30 g (man).
+Breakdown per kg and hour: 0.1 g after choosing, 0.05 g after setting the amount.
+Nothing is worked out for children under 10 years; it resumes at 11 years.</translation>
  </message>
  <message>
   <source>Getränk</source>
@@ -743,6 +751,14 @@
  <message>
   <source>bei einem Gewicht von</source>
   <translation>at a weight of</translation>
+ </message>
+ <message>
+  <source>über der Tagesgrenze</source>
+  <translation>above the daily limit</translation>
+ </message>
+ <message>
+  <source>über 600 ml</source>
+  <translation>above 600 ml</translation>
  </message>
 </context>
 <context>
@@ -1048,6 +1064,10 @@
   <translation>Flexible space</translation>
  </message>
  <message>
+  <source>Frau</source>
+  <translation>Woman</translation>
+ </message>
+ <message>
   <source>Gesamt</source>
   <translation>Total</translation>
  </message>
@@ -1178,6 +1198,10 @@
  <message>
   <source>Mahlzeitenplan</source>
   <translation>Meal plan</translation>
+ </message>
+ <message>
+  <source>Mann</source>
+  <translation>Man</translation>
  </message>
  <message>
   <source>Menge</source>

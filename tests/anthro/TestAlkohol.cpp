@@ -81,9 +81,8 @@ void TestAlkohol::rates_data()
     QTest::newRow("80 kg") << 80.0F << 8.0F << 4.0F;
     QTest::newRow("no weight") << 0.0F << 0.0F << 0.0F;
     QTest::newRow("63.5 kg") << 63.5F << 6.35F << 3.175F;
-    // 3 x 0.1 in double precision is 0.30000000000000004, in single 0.3; the single-precision
-    // 0.1 times 3 would be 0.30000001.
-    QTest::newRow("multiplied in double precision") << 3.0F << 0.3F << 0.15F;
+    // In single precision 31 x 0.1 would be 3.1000001, and 31 x 0.05 1.5500001.
+    QTest::newRow("multiplied in double precision") << 31.0F << 3.0999999F << 1.55F;
 }
 
 void TestAlkohol::rates()

@@ -4,6 +4,8 @@
 
 #include <QTest>
 
+#include <tuple>
+
 /// Drinks: grams, hours, and three colours.
 class TestAnthroControllerAlkohol : public QObject
 {
@@ -19,6 +21,7 @@ private Q_SLOTS:
     void theLimit_data();
     void theLimit();
     void theGenderColoursGreen();
+    void redHasWordsBesideIt();
     void anUnknownDrinkKeepsThePreviousOne();
     void oneNameSpelledInTwoWays();
     void placeholders_data();
@@ -183,6 +186,32 @@ void TestAnthroControllerAlkohol::theGenderColoursGreen()
     r.alkgramm->setFloatValue(19.5F);
     r.geschlechtAktion(1);
     QVERIFY(r.alkgramm->textColor() == Textfarbe::Gruen);
+}
+
+void TestAnthroControllerAlkohol::redHasWordsBesideIt()
+{
+    const auto probe = Rechnerprobe::mitKlient();
+    AnthroController &r = probe->rechner();
+    r.geschlechtAktion(1);
+    QVERIFY(r.alkoholworte->isHidden() && r.mengenworte->isHidden());
+    waehle(r, "Pils");
+    const std::tuple<double, bool, bool> folge[] = {
+        {500, false, false},                    // exactly 20 g: as it was
+        {600, true, false},                     // exactly 600 ml: as it was
+        {700, true, true},   {600, true, true}, // as it was
+        {500, true, false},                     // as it was
+        {400, false, false},
+    };
+    for (const auto &[menge, alkohol, zuviel] : folge) {
+        r.wievielalkohol(Sender(menge));
+        QCOMPARE(!r.alkoholworte->isHidden(), alkohol);
+        QCOMPARE(!r.mengenworte->isHidden(), zuviel);
+    }
+    r.wievielalkohol(Sender(600.0)); // 24 g
+    r.geschlechtAktion(0);
+    QVERIFY(r.alkoholworte->isHidden());
+    r.geschlechtAktion(1);
+    QVERIFY(!r.alkoholworte->isHidden());
 }
 
 void TestAnthroControllerAlkohol::anUnknownDrinkKeepsThePreviousOne()

@@ -261,16 +261,19 @@ void TestAnthroControllerMasse::atTenNothingHappens()
     const auto probe = Rechnerprobe::mitKlient();
     AnthroController &r = probe->rechner();
     r.wiealt(Sender(10.0)); // from above: all stays enabled
+    QVERIFY(r.altersworte->isHidden());
     QCOMPARE(r.alteranzeige->intValue(), 10);
     QVERIFY(r.gewichtn->isEnabledTo(nullptr));
     QCOMPARE(r.gewicht->floatValue(), 80.0F);
     r.wiealt(Sender(9.0));
-    r.wiealt(Sender(10.0)); // from below: all stays disabled
+    r.wiealt(Sender(10.0)); // from below: all stays disabled, and says why
+    QVERIFY(!r.altersworte->isHidden());
     QVERIFY(!r.gewichtn->isEnabledTo(nullptr));
     QVERIFY(!r.alkohol->isEnabledTo(nullptr));
     QCOMPARE(r.gewicht->stringValue(), QStringLiteral("-"));
     QCOMPARE(probe->rufe(), QStringList());
     r.wiealt(Sender(11.0));
+    QVERIFY(r.altersworte->isHidden());
     QVERIFY(r.gewichtn->isEnabledTo(nullptr));
     QVERIFY(r.alkohol->isEnabledTo(nullptr));
 }

@@ -16,6 +16,7 @@ private Q_SLOTS:
     void storedSettingsAreShown();
     void storedNumbersReadAsStates_data();
     void storedNumbersReadAsStates();
+    void whatIsNotANumberReadsAsZero_data();
     void whatIsNotANumberReadsAsZero();
     void sportIsStoredButNotReadBack();
     void valuesBeyondTheSlidersStayAsTheyAre();
@@ -133,12 +134,34 @@ void TestAnthroControllerStart::storedNumbersReadAsStates()
     QCOMPARE(probe->gewichtredu->text() == QLatin1String("aus"), !ein);
 }
 
+void TestAnthroControllerStart::whatIsNotANumberReadsAsZero_data()
+{
+    QTest::addColumn<QVariant>("gemerkt");
+    QTest::newRow("a word") << QVariant(QStringLiteral("viel"));
+    QTest::newRow("a list") << QVariant(QStringList{QStringLiteral("80"), QStringLiteral("90")});
+    QTest::newRow("nothing") << QVariant(QString());
+    QTest::newRow("not a number") << QVariant(QStringLiteral("nan"));
+    QTest::newRow("infinite") << QVariant(QStringLiteral("inf"));
+    QTest::newRow("beyond single precision") << QVariant(QStringLiteral("1e300"));
+}
+
 void TestAnthroControllerStart::whatIsNotANumberReadsAsZero()
 {
-    Rechnerprobe probe({{"Gewicht", QStringLiteral("viel")}, {"Groesse", QStringList()}});
-    QCOMPARE(probe->gewicht->floatValue(), 0.0F);
-    QCOMPARE(probe->groesse->floatValue(), 0.0F);
-    QCOMPARE(probe->resultatbmi->floatValue(), 0.0F);
+    QFETCH(QVariant, gemerkt);
+    Rechnerprobe probe({{"Gewicht", gemerkt},
+                        {"Groesse", gemerkt},
+                        {"Huefte", gemerkt},
+                        {"Taille", gemerkt},
+                        {"metrik", gemerkt},
+                        {"Gewichtredukt", gemerkt}});
+    for (const Wertehalter *feld : std::initializer_list<const Wertehalter *>{
+             probe->gewicht, probe->groesse, probe->hueftumfang, probe->taillenumfang,
+             probe->gewichtn, probe->groessen, probe->hueftn, probe->taillen, probe->resultatbmi,
+             probe->resultatwh, probe->resultatkal}) {
+        QCOMPARE(feld->doubleValue(), 0.0);
+    }
+    QVERIFY(!probe->metrikeinaus->isChecked());
+    QVERIFY(!probe->gewichtredu->isChecked());
 }
 
 void TestAnthroControllerStart::sportIsStoredButNotReadBack()

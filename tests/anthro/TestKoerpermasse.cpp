@@ -146,6 +146,14 @@ void TestKoerpermasse::imperialMeasures_data()
     QTest::newRow("1 m, 200 kg") << 1.0F << 200.0F << 3 << 3 << 441.0F;
     // 30.4799995 cm are not yet a foot; the 11.9999998 inches round to 12 in single precision.
     QTest::newRow("a hair less than a foot shows 12 inches") << 0.3048F << 0.4F << 0 << 12 << 0.0F;
+    // 127 cm are 4 feet and 2 inches; in double precision 1.27 m would fall just short of them.
+    QTest::newRow("1.27 m: centimetres in single precision") << 1.27F << 0.0F << 4 << 2 << 0.0F;
+    // 121.919998 cm are just short of 4 feet, which single precision would not tell apart.
+    QTest::newRow("1.2192 m: feet in double precision") << 1.2192F << 0.0F << 3 << 11 << 0.0F;
+    // 10.1599998 cm are left: 3.9999999 inches, 4 in single precision.
+    QTest::newRow("0.4064 m: inches in single precision") << 0.4064F << 0.0F << 1 << 4 << 0.0F;
+    QTest::newRow("0.58419997 m: divided in double precision")
+        << 0.584199965F << 0.0F << 1 << 10 << 0.0F;
     QTest::newRow("no numbers") << keineZahl << keineZahl << 0 << 0 << 0.0F;
     QTest::newRow("more than any number shows") << 1.0F << unendlich << 3 << 3 << 2147483648.0F;
 }

@@ -37,11 +37,6 @@ private Q_SLOTS:
     void theListsSpeakTheLanguageShown_data();
     void theListsSpeakTheLanguageShown();
     void theNextStartKnowsTheClient();
-    void theCoursesOfTheTabKey();
-    void nothingIsCutOff_data();
-    void nothingIsCutOff();
-    void everyControlHasAName();
-    void textsAreTranslated();
 
 private:
     void zeige(const char *ansicht);
@@ -389,104 +384,6 @@ void TestRechnerfenster::theNextStartKnowsTheClient()
     QCOMPARE(text(*r->resultatbmi), QStringLiteral("24,69 kg/m²"));
     QCOMPARE(r->gewichtn->eingabe()->value(), 80.0);
     QCOMPARE(r->groessen->eingabe()->value(), 1.8);
-}
-
-/// What the Tab key walks through, from top to bottom.
-void TestRechnerfenster::theCoursesOfTheTabKey()
-{
-    const auto weg = [](QWidget *von, QWidget *bis) {
-        QStringList namen;
-        for (QWidget *feld = von; feld != nullptr; feld = feld->nextInFocusChain()) {
-            if ((feld->focusPolicy() & Qt::TabFocus) != 0 && feld->isVisible() &&
-                feld->focusProxy() == nullptr) {
-                QWidget *name = feld;
-                while (name->objectName().isEmpty() || name->objectName().startsWith(u"qt_")) {
-                    name = name->parentWidget();
-                }
-                if (namen.isEmpty() || namen.last() != name->objectName()) {
-                    namen << name->objectName();
-                }
-            }
-            if (feld == bis) {
-                break;
-            }
-        }
-        return namen.join(u' ');
-    };
-    QCOMPARE(weg(r->gewichtn->regler(), r->gewichtredu),
-             QStringLiteral("gewichtn groessen taillen hueftn alter mann frau metrikeinaus "
-                            "arbeitleicht arbeitmittel arbeitschwer gewichtredu"));
-    zeige("fünf");
-    tippeUndBestaetige(*r->sport, QStringLiteral("Karate"));
-    QCOMPARE(weg(r->alkohol, r->sportmenge->eingabe()),
-             QStringLiteral("alkohol zieher sport sportmenge"));
-}
-
-void TestRechnerfenster::nothingIsCutOff_data()
-{
-    QTest::addColumn<QString>("ansicht");
-    QTest::newRow("body and energy") << QStringLiteral("vier");
-    QTest::newRow("alcohol and sport") << QStringLiteral("fünf");
-}
-
-void TestRechnerfenster::nothingIsCutOff()
-{
-    QFETCH(QString, ansicht);
-    m_fenster->controller().Hauptfenster->resize(1280, 800);
-    r->gewichtredu->click();
-    zeige(ansicht.toUtf8().constData());
-    const QWidget *reiter = m_fenster->controller().DatenAnsicht->currentWidget();
-    QVERIFY(reiter->minimumSizeHint().width() <= reiter->width());
-    QVERIFY(reiter->minimumSizeHint().height() <= reiter->height());
-    for (const QWidget *feld : reiter->findChildren<QWidget *>()) {
-        const auto *aufschrift = qobject_cast<const QLabel *>(feld);
-        if (!feld->isVisible() || (aufschrift == nullptr && !feld->inherits("QAbstractButton"))) {
-            continue;
-        }
-        QVERIFY2(feld->width() >= feld->minimumSizeHint().width(), qPrintable(feld->objectName()));
-        const int hoehe = aufschrift != nullptr && aufschrift->wordWrap()
-                              ? aufschrift->heightForWidth(feld->width())
-                              : feld->sizeHint().height();
-        QVERIFY2(feld->height() >= hoehe, qPrintable(feld->objectName()));
-    }
-    for (const Textfeld *feld : reiter->findChildren<Textfeld *>()) {
-        if (feld->isVisible()) {
-            const int breite = feld->fontMetrics().horizontalAdvance(feld->text());
-            QVERIFY2(feld->width() >= breite + 6, qPrintable(feld->objectName()));
-        }
-    }
-}
-
-void TestRechnerfenster::everyControlHasAName()
-{
-    for (const QWidget *seite : {r->koerperseite.data(), r->lebensweiseseite.data()}) {
-        for (const QWidget *feld : seite->findChildren<QWidget *>()) {
-            if (feld->inherits("Textfeld") || feld->inherits("Schieber") ||
-                feld->inherits("Auswahlfeld") || feld->inherits("FaceView") ||
-                feld->inherits("Matrix")) {
-                QVERIFY2(!feld->accessibleName().isEmpty(), qPrintable(feld->objectName()));
-            }
-        }
-    }
-}
-
-void TestRechnerfenster::textsAreTranslated()
-{
-    const Probeuebersetzer worte(
-        {{QStringLiteral("aus"), QStringLiteral("off")},
-         {QStringLiteral("Zeit(h)"), QStringLiteral("time(h)")},
-         {QStringLiteral("Frau"), QStringLiteral("woman")},
-         {QStringLiteral("weit außerhalb des günstigen Bereichs"), QStringLiteral("far off")}});
-    m_fenster.reset();
-    m_fenster = std::make_unique<Probefenster>(*m_heim);
-    r = &m_fenster->rechner();
-    QCOMPARE(r->gewichtredu->text(), QStringLiteral("off"));
-    QCOMPARE(r->sportstunden->stringValue(), QStringLiteral("time(h)"));
-    QCOMPARE(r->bmiworte->text(), QStringLiteral("far off"));
-    r->geschlechtAktion(1);
-    QCOMPARE(text(*r->geschlecht), QStringLiteral("woman"));
-    QCOMPARE(r->geschlecht->stringValue(), QStringLiteral("Frau"));
-    QCOMPARE(r->geschlechtname, QStringLiteral("Frau"));
 }
 
 QTEST_MAIN(TestRechnerfenster)

@@ -24,6 +24,7 @@ private Q_SLOTS:
     void theSameEntryCanBePickedAgain();
     void anOfferThatIsNotPickedIsNotTaken();
     void anEmptiedFieldCounts();
+    void anEmptyEntryIsListedInWords();
 };
 
 namespace {
@@ -192,6 +193,24 @@ void TestAuswahlfeld::anEmptiedFieldCounts()
     QTest::keyClick(&probe.feld, Qt::Key_Return);
     QCOMPARE(probe.feld.stringValue(), QString());
     QVERIFY(!probe.gemeldet.isEmpty());
+}
+
+void TestAuswahlfeld::anEmptyEntryIsListedInWords()
+{
+    Getraenkefeld getraenk;
+    Auswahlfeld &feld = getraenk.feld;
+    const auto ersteZeile = [&feld] {
+        feld.showPopup();
+        feld.view()->setCurrentIndex(feld.model()->index(2, 0));
+        const QModelIndex leer = feld.model()->index(0, 0);
+        const QImage bild = feld.view()->viewport()->grab(feld.view()->visualRect(leer)).toImage();
+        feld.hidePopup();
+        return bild;
+    };
+    const QImage ohneWorte = ersteZeile();
+    feld.lineEdit()->setPlaceholderText(QStringLiteral("kein Getränk"));
+    QVERIFY(ersteZeile() != ohneWorte);
+    QCOMPARE(feld.itemText(0), QString()); // what it stands for stays empty
 }
 
 QTEST_MAIN(TestAuswahlfeld)

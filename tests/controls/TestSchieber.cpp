@@ -19,6 +19,8 @@ private Q_SLOTS:
     void anArrowKeyMovesOneStep();
     void stepsOfHundredthsStayExact();
     void aTypedNumberIsTakenWithReturn();
+    void commaAndPointBothMeanDecimals_data();
+    void commaAndPointBothMeanDecimals();
     void aNumberBeyondTheRangeIsShownAndNotAltered();
     void aKeyAtTheEndTakesAValueBackIntoTheRange();
     void whatTheUserTypesKeepsToTheRange();
@@ -109,6 +111,38 @@ void TestSchieber::aTypedNumberIsTakenWithReturn()
     QCOMPARE(schieber.intValue(), 30);
     QCOMPARE(gemeldet.count(), 1);
     QTRY_COMPARE(schieber.regler()->value(), 30);
+}
+
+void TestSchieber::commaAndPointBothMeanDecimals_data()
+{
+    QTest::addColumn<QLocale>("sprache");
+    QTest::addColumn<QString>("getippt");
+    QTest::addColumn<QString>("gezeigt");
+    const QLocale deutsch(QLocale::German, QLocale::Germany);
+    const QLocale englisch(QLocale::English, QLocale::UnitedKingdom);
+    QTest::newRow("German, comma") << deutsch << QStringLiteral("1,9") << QStringLiteral("1,9");
+    QTest::newRow("German, point") << deutsch << QStringLiteral("1.9") << QStringLiteral("1,9");
+    QTest::newRow("English, comma") << englisch << QStringLiteral("1,9") << QStringLiteral("1.9");
+    QTest::newRow("English, point") << englisch << QStringLiteral("1.9") << QStringLiteral("1.9");
+}
+
+void TestSchieber::commaAndPointBothMeanDecimals()
+{
+    QFETCH(QLocale, sprache);
+    QFETCH(QString, getippt);
+    QLocale::setDefault(sprache);
+    Schieber schieber;
+    schieber.setDecimals(1);
+    schieber.setUnit(QStringLiteral("Std."));
+    schieber.show();
+    QVERIFY(QTest::qWaitForWindowActive(&schieber));
+    schieber.eingabe()->setFocus();
+    schieber.eingabe()->selectAll();
+    QTest::keyClicks(schieber.eingabe(), getippt);
+    QTest::keyClick(schieber.eingabe(), Qt::Key_Return);
+    QCOMPARE(schieber.doubleValue(), 1.9);
+    QTEST(schieber.eingabe()->cleanText(), "gezeigt");
+    QVERIFY(schieber.eingabe()->text().endsWith(QStringLiteral("Std.")));
 }
 
 void TestSchieber::aNumberBeyondTheRangeIsShownAndNotAltered()
