@@ -2,6 +2,7 @@
 
 #include "Lebensmittelbestand.h"
 #include "Menue.h"
+#include "Rollbereich.h"
 #include "Zeichenkettentabelle.h"
 
 #include <QAbstractButton>
@@ -45,6 +46,9 @@ AppController::AppController(Tueren tueren)
 {
     ladeBestaende();
     HauptfensterGestalt::setupUi(Hauptfenster);
+    for (QWidget *reiter : {tabEins, tabZwei, tabDrei}) {
+        Rollbereich::fasse(*reiter);
+    }
     einfenster = new QDialog(Hauptfenster);
     EingabefensterGestalt::setupUi(einfenster);
     einfenster->setWindowModality(Qt::WindowModal);

@@ -3,6 +3,7 @@
 #include "AppController.h"
 
 #include "Papierbild.h"
+#include "Rollbereich.h"
 #include "Zeichenkettentabelle.h"
 
 /// Prints the view in front as it looks, with the name of the food above it. The calculator's views
@@ -18,11 +19,15 @@ void AppController::drucken()
         return;
     }
     QWidget *ansicht = DatenAnsicht->currentWidget();
+    const auto *rollbereich =
+        ansicht->findChild<Rollbereich *>(); // of which only a part may be seen
     QStringList ueberschriften = {DatenAnsicht->tabText(DatenAnsicht->currentIndex())};
     if (ansicht != tabVier && ansicht != tabFuenf) {
         ueberschriften.prepend(feldA->stringValue());
     }
     if (m_tueren.drucke) {
-        m_tueren.drucke(Hauptfenster, bildauftrag(ueberschriften, *ansicht));
+        m_tueren.drucke(Hauptfenster,
+                        bildauftrag(ueberschriften,
+                                    rollbereich != nullptr ? *rollbereich->widget() : *ansicht));
     }
 }

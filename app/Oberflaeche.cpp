@@ -1,6 +1,6 @@
 #include "Oberflaeche.h"
 
-#include <QVBoxLayout>
+#include "Rollbereich.h"
 
 namespace {
 
@@ -21,19 +21,12 @@ Anthrotueren anthrotueren(const Tueren &tueren)
     };
 }
 
-void fuelle(QWidget *reiter, QWidget *seite)
-{
-    auto *anordnung = new QVBoxLayout(reiter);
-    anordnung->setContentsMargins(0, 0, 0, 0);
-    anordnung->addWidget(seite);
-}
-
 } // namespace
 
 Oberflaeche::Oberflaeche(const Tueren &tueren) : hauptfenster(tueren), rechner(anthrotueren(tueren))
 {
-    fuelle(hauptfenster.tabVier, rechner.koerperseite);
-    fuelle(hauptfenster.tabFuenf, rechner.lebensweiseseite);
+    Rollbereich::fuelle(*hauptfenster.tabVier, rechner.koerperseite);
+    Rollbereich::fuelle(*hauptfenster.tabFuenf, rechner.lebensweiseseite);
 }
 
 void Oberflaeche::awakeFromNib()

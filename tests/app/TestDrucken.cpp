@@ -23,6 +23,7 @@ private Q_SLOTS:
     void theToolbarAndTheKeysPrint();
     void thePanelInFrontIsPrinted_data();
     void thePanelInFrontIsPrinted();
+    void aPanelThatRollsIsPrintedWhole();
     void theAmountOnDisplayIsPrinted();
     void nothingOnDisplayIsTold();
     void paperIsWhiteInTheDark_data();
@@ -122,6 +123,20 @@ void TestDrucken::thePanelInFrontIsPrinted()
     QCOMPARE(alles.contains(u"Äpfel, roh"_s), vomLebensmittel);
     QCOMPARE(m_druck->titel, vomLebensmittel ? u"Äpfel, roh"_s : texte.first());
     QVERIFY(!alles.contains(u"Lebensmittel suchen"_s)); // the panel only, not the window
+}
+
+void TestDrucken::aPanelThatRollsIsPrintedWhole()
+{
+    oeffne();
+    (*m_fenster)->DatenAnsicht->setCurrentIndex(3);
+    (*m_fenster)->Hauptfenster->resize(1100, 600);
+    QCoreApplication::processEvents();
+    QVERIFY(m_fenster->rechner().gewichtredu->visibleRegion().isEmpty());
+    (*m_fenster)->drucken();
+    const QString alles = gedruckt();
+    for (const QString &text : {u"Gewicht"_s, u"Tätigkeit"_s, u"Abnehmen"_s, u"Gerechnet für"_s}) {
+        QVERIFY2(alles.contains(text), qPrintable(text));
+    }
 }
 
 void TestDrucken::theAmountOnDisplayIsPrinted()

@@ -21,6 +21,7 @@ private Q_SLOTS:
     void nothingIsCutOff_data();
     void nothingIsCutOff();
     void nothingJumps();
+    void theWindowFitsASmallScreen();
     void everyControlHasAName();
     void textsAreTranslated();
 
@@ -118,6 +119,25 @@ void TestRechnerbild::nothingIsCutOff()
             QVERIFY2(feld->width() >= breite + 6, qPrintable(feld->objectName()));
         }
     }
+}
+
+/// A laptop's 1366 x 768, less the bars of the desktop and the window's title.
+void TestRechnerbild::theWindowFitsASmallScreen()
+{
+    QWidget &fenster = *m_fenster->controller().Hauptfenster;
+    zeige(QStringLiteral("vier"));
+    QVERIFY2(fenster.minimumSizeHint().height() <= 680,
+             qPrintable(QString::number(fenster.minimumSizeHint().height())));
+    QVERIFY(fenster.minimumSizeHint().width() <= 1280);
+    fenster.resize(1280, 680);
+    QCoreApplication::processEvents();
+    QVERIFY(r->gewichtredu->visibleRegion().isEmpty()); // the last field of the page
+    r->arbeit->setFocus();
+    for (int i = 0; i < 4 && !r->gewichtredu->hasFocus(); ++i) {
+        QTest::keyClick(QApplication::focusWidget(), Qt::Key_Tab);
+    }
+    QVERIFY(r->gewichtredu->hasFocus());
+    QVERIFY(!r->gewichtredu->visibleRegion().isEmpty());
 }
 
 /// Longer words beside a face, or other measures, move nothing below them.
