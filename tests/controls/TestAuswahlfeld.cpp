@@ -203,7 +203,7 @@ void TestAuswahlfeld::anEmptyEntryIsListedInWords()
         feld.showPopup();
         feld.view()->setCurrentIndex(feld.model()->index(2, 0));
         const QModelIndex leer = feld.model()->index(0, 0);
-        const QImage bild = feld.view()->viewport()->grab(feld.view()->visualRect(leer)).toImage();
+        QImage bild = feld.view()->viewport()->grab(feld.view()->visualRect(leer)).toImage();
         feld.hidePopup();
         return bild;
     };
