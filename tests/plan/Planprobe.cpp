@@ -6,6 +6,7 @@
 #include <QDragEnterEvent>
 #include <QDragMoveEvent>
 #include <QDropEvent>
+#include <QFile>
 #include <QLocale>
 #include <QMimeData>
 #include <QTest>
@@ -69,6 +70,13 @@ QMap<QString, float> Planheim::plan() const
         mengen.insert(traeger.name(), traeger.kal());
     }
     return mengen;
+}
+
+void Planheim::oeffneFuerAlle() const
+{
+    constexpr auto alle =
+        QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner | QFile::ReadOther | QFile::ExeOther;
+    QVERIFY(QFile::setPermissions(m_ordner.path(), alle));
 }
 
 Plantueren Planheim::tueren() const

@@ -28,6 +28,9 @@ public:
     /// What the plan file holds: from name to grams.
     QMap<QString, float> plan() const;
 
+    /// Lets every user of the machine come into the home.
+    void oeffneFuerAlle() const;
+
     /// The doors of this home. No message is ever shown: the plan has none.
     Plantueren tueren() const;
 

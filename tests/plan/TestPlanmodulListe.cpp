@@ -1,3 +1,4 @@
+#include "Hindernisse.h"
 #include "Planprobe.h"
 
 #include <QApplication>
@@ -8,6 +9,8 @@
 #include <QMimeData>
 #include <QPushButton>
 #include <QTest>
+
+#include <sys/stat.h>
 
 using namespace Qt::StringLiterals;
 
@@ -23,6 +26,8 @@ private Q_SLOTS:
     void missingFilesGiveAnEmptyPlan();
     void damagedFilesGiveAnEmptyPlan();
     void damagedFilesAreKeptBesideTheNewOnes();
+    void onAFullDiskThePlanGoesOn();
+    void onAReadOnlyDiskThePlanGoesOn();
     void theDataFolderIsMadeAtOnce();
     void openingAPlanWritesNoPlanFile();
     void aFoodFromTheMainWindowComesLast();
@@ -41,6 +46,10 @@ private Q_SLOTS:
 
 private:
     void oeffne() { m_fenster = std::make_unique<Planfenster>(*m_heim); }
+    /// Adds a food and changes an amount while nothing can be written.
+    void aendereOhneSchreiben() const;
+    /// The file of before is whole, and nothing lies beside it.
+    void pruefeAlteDatei() const;
     QStringList gezeigt() const { return m_fenster->spalte(u"name"_s); }
 
     std::unique_ptr<Planheim> m_heim;
@@ -121,6 +130,53 @@ void TestPlanmodulListe::damagedFilesAreKeptBesideTheNewOnes()
         QVERIFY(kopie.open(QIODevice::ReadOnly));
         QCOMPARE(kopie.readAll(), "no foods, " + name.toLatin1() + ".daten");
     }
+}
+
+void TestPlanmodulListe::aendereOhneSchreiben() const
+{
+    (*m_fenster)->nameimportvontoolbar(u"Ei"_s);
+    m_fenster->tippeMenge(0, u"250"_s);
+    QCOMPARE(gezeigt(), QStringList({u"Brot"_s, u"Ei"_s}));
+    QCOMPARE((*m_fenster)->mengenarray, QList<float>({250, 100}));
+}
+
+void TestPlanmodulListe::pruefeAlteDatei() const
+{
+    QCOMPARE(m_heim->plan(), (QMap<QString, float>{{u"Brot"_s, 80}}));
+    QCOMPARE(QFileInfo(m_heim->plandatei()).dir().entryList(QDir::Files),
+             QStringList(u"MahlbergPlanmod.daten"_s));
+}
+
+void TestPlanmodulListe::onAFullDiskThePlanGoesOn()
+{
+    m_heim->schreibePlan({{u"Brot"_s, 80}});
+    oeffne();
+    {
+        const VolleFestplatte voll(100);
+        aendereOhneSchreiben();
+    }
+    pruefeAlteDatei();
+    (*m_fenster)->nameimportvontoolbar(u"Milch"_s); // there is room again
+    QCOMPARE(m_heim->plan(),
+             (QMap<QString, float>{{u"Brot"_s, 250}, {u"Ei"_s, 100}, {u"Milch"_s, 100}}));
+}
+
+void TestPlanmodulListe::onAReadOnlyDiskThePlanGoesOn()
+{
+    m_heim->schreibePlan({{u"Brot"_s, 80}});
+    oeffne();
+    const QByteArray ordner = QFile::encodeName(QFileInfo(m_heim->plandatei()).path());
+    m_heim->oeffneFuerAlle();
+    QCOMPARE(chmod(ordner.constData(), 0555), 0);
+    {
+        const OhneRechte einfach;
+        QVERIFY(einfach.gelungen());
+        aendereOhneSchreiben();
+    }
+    pruefeAlteDatei();
+    QCOMPARE(chmod(ordner.constData(), 0755), 0);
+    (*m_fenster)->nameimportvontoolbar(u"Milch"_s);
+    QCOMPARE(m_heim->plan().size(), 3);
 }
 
 void TestPlanmodulListe::theDataFolderIsMadeAtOnce()
