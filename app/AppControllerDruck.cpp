@@ -19,15 +19,14 @@ void AppController::drucken()
         return;
     }
     QWidget *ansicht = DatenAnsicht->currentWidget();
-    const auto *rollbereich =
-        ansicht->findChild<Rollbereich *>(); // of which only a part may be seen
+    // Of a view that rolls only a part may be seen; it is printed whole.
+    const auto *rollbereich = ansicht->findChild<Rollbereich *>();
+    QWidget &seite = rollbereich != nullptr ? *rollbereich->widget() : *ansicht;
     QStringList ueberschriften = {DatenAnsicht->tabText(DatenAnsicht->currentIndex())};
     if (ansicht != tabVier && ansicht != tabFuenf) {
         ueberschriften.prepend(feldA->stringValue());
     }
     if (m_tueren.drucke) {
-        m_tueren.drucke(Hauptfenster,
-                        bildauftrag(ueberschriften,
-                                    rollbereich != nullptr ? *rollbereich->widget() : *ansicht));
+        m_tueren.drucke(Hauptfenster, bildauftrag(ueberschriften, seite));
     }
 }

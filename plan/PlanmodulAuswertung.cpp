@@ -9,6 +9,8 @@
 #include "Prognose.h"
 #include "Zeichenkettentabelle.h"
 
+#include <QCoreApplication>
+
 namespace {
 
 using Gestalt = Ui::PlanmodulGestalt;
@@ -60,26 +62,13 @@ void setzeStil(Zaehlfeld &feld, const Zeichenstil &stil)
     feld.setAnfang(textfarbe(stil.farbe), stil.punktgroesse);
 }
 
-/// The verdict of a bar in one character, none while no bar is drawn.
-QString urteilszeichen(const WertungView &balken)
-{
-    if (balken.value() <= 0) {
-        return {};
-    }
-    return balken.color() == Qt::green  ? QStringLiteral("✓")
-           : balken.color() == Qt::blue ? QStringLiteral("≈")
-                                        : QStringLiteral("✗");
-}
-
-/// What the face says, for those who can't see it.
-QString urteil(int gesicht, bool leer)
-{
-    return leer                               ? localizedString(QStringLiteral("Der Plan ist leer"))
-           : gesicht == Gesichtscode::lachend ? localizedString(QStringLiteral("Ein guter Plan"))
-           : gesicht == Gesichtscode::neutral
-               ? localizedString(QStringLiteral("Ein Plan mit Lücken"))
-               : localizedString(QStringLiteral("Ein unausgewogener Plan"));
-}
+/// What the face says, for those who can't see it; in the order of the faces' codes.
+constexpr std::array<const char *, 3> gesichtsworte = {
+    QT_TRANSLATE_NOOP("Mahlberg", "Ein guter Plan"),
+    QT_TRANSLATE_NOOP("Mahlberg", "Ein Plan mit Lücken"),
+    QT_TRANSLATE_NOOP("Mahlberg", "Ein unausgewogener Plan"),
+};
+constexpr const char *leererPlan = QT_TRANSLATE_NOOP("Mahlberg", "Der Plan ist leer");
 
 } // namespace
 
@@ -142,7 +131,7 @@ void Planmodul::zeigeNaehrwerte(const Planauswertung &auswertung)
             }
             balken.drawabalken(naehrwert.balken->laenge);
         }
-        m_zeichen[i]->setText(urteilszeichen(balken));
+        m_zeichen[i]->setText(balken.zeichen());
     }
 }
 
@@ -168,7 +157,10 @@ void Planmodul::zeigeWertungen(const Planauswertung &auswertung)
 void Planmodul::zeigeBeurteilung(const Planauswertung &auswertung)
 {
     planbeurteilungfaceview->entscheidung(auswertung.gesicht);
-    planworte->setText(urteil(auswertung.gesicht, PlanArray.isEmpty()) + u'\n' +
+    const char *worte = PlanArray.isEmpty()
+                            ? leererPlan
+                            : gesichtsworte.at(static_cast<std::size_t>(auswertung.gesicht - 1));
+    planworte->setText(localizedString(QString::fromUtf8(worte)) + u'\n' +
                        localizedString(QStringLiteral("%1 von 21 Punkten")).arg(auswertung.punkte));
 }
 

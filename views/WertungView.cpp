@@ -14,16 +14,23 @@ struct Urteil
 {
     int code;
     Qt::GlobalColor farbe;
-    const char *name; ///< key into the string table
+    const char *name;        ///< key into the string table
+    const char16_t *zeichen; ///< for those who can't tell the colours apart
 };
 
 constexpr std::array<Urteil, 3> urteile = {{
-    {1, Qt::red, QT_TRANSLATE_NOOP("Mahlberg", "rot")},
-    {2, Qt::blue, QT_TRANSLATE_NOOP("Mahlberg", "blau")},
-    {3, Qt::green, QT_TRANSLATE_NOOP("Mahlberg", "grün")},
+    {1, Qt::red, QT_TRANSLATE_NOOP("Mahlberg", "rot"), u"✗"},
+    {2, Qt::blue, QT_TRANSLATE_NOOP("Mahlberg", "blau"), u"≈"},
+    {3, Qt::green, QT_TRANSLATE_NOOP("Mahlberg", "grün"), u"✓"},
 }};
 
 constexpr double einzug = 4;
+
+const Urteil &urteilDer(const QColor &farbe)
+{
+    return *std::find_if(urteile.begin(), urteile.end(),
+                         [&farbe](const Urteil &urteil) { return farbe == urteil.farbe; });
+}
 
 } // namespace
 
@@ -56,11 +63,14 @@ QString WertungView::beschreibung() const
     if (m_value <= 0) {
         return QCoreApplication::translate("Mahlberg", "kein Balken");
     }
-    const auto *urteil = std::find_if(urteile.begin(), urteile.end(),
-                                      [this](const Urteil &u) { return m_color == u.farbe; });
     return QCoreApplication::translate("Mahlberg", "%1 von %2, %3")
         .arg(QLocale().toString(m_value), QLocale().toString(m_maxValue),
-             QCoreApplication::translate("Mahlberg", urteil->name));
+             QCoreApplication::translate("Mahlberg", urteilDer(m_color).name));
+}
+
+QString WertungView::zeichen() const
+{
+    return m_value > 0 ? QString::fromUtf16(urteilDer(m_color).zeichen) : QString();
 }
 
 QSize WertungView::sizeHint() const

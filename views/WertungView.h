@@ -26,6 +26,10 @@ public:
     /// The code given last, known or not.
     int a() const { return m_a; }
 
+    /// The verdict in one character, to stand beside the bar: ✓ green, ≈ blue, ✗ red. Empty while
+    /// nothing is drawn.
+    QString zeichen() const;
+
     void zeichnen(QPainter &maler, const QRectF &bounds) const override;
     QString beschreibung() const override;
     QSize sizeHint() const override;

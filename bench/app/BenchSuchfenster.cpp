@@ -7,6 +7,7 @@
 #include "Archivdatei.h"
 #include "Bedarfsbeurteilung.h"
 #include "Energieanteile.h"
+#include "Erfundenes.h"
 #include "Namenssuche.h"
 #include "Relationen.h"
 
@@ -30,14 +31,7 @@ Lebensmittelverzeichnis erfinde(int anzahl)
     Lebensmittelverzeichnis alle;
     for (int i = 0; i < anzahl; ++i) {
         const QString name = QStringLiteral("Lebensmittel Frucht %1, Sorte %2").arg(i % 7).arg(i);
-        Datenmodul &eines = alle[name];
-        eines.setName(name);
-        for (const auto &zeile : naehrwerte) {
-            eines.setWert(zeile.wert, static_cast<float>((i + 3) % 40) * 1.5F);
-        }
-        for (const auto &zeile : wertungen) {
-            eines.setWertung(zeile.wertung, QStringLiteral("+"));
-        }
+        alle.insert(name, erfundenesLebensmittel(name, i));
     }
     return alle;
 }

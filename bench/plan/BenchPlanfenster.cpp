@@ -4,6 +4,7 @@
 // plain table of texts that is as large.
 
 #include "Archivdatei.h"
+#include "Erfundenes.h"
 #include "Planmodul.h"
 
 #include <benchmark/benchmark.h>
@@ -19,19 +20,6 @@
 
 namespace {
 
-Datenmodul erfinde(const QString &name, int nummer)
-{
-    Datenmodul eines;
-    eines.setName(name);
-    for (const auto &zeile : naehrwerte) {
-        eines.setWert(zeile.wert, static_cast<float>((nummer + 3) % 40) * 1.5F);
-    }
-    for (const auto &zeile : wertungen) {
-        eines.setWertung(zeile.wertung, QStringLiteral("+"));
-    }
-    return eines;
-}
-
 /// A plan of as many rows in its window, shown. The foods are built in or the user's own.
 class Fenster
 {
@@ -42,7 +30,7 @@ public:
         Lebensmittelverzeichnis plan;
         for (int i = 0; i < zeilen; ++i) {
             const QString name = QStringLiteral("Lebensmittel %1").arg(i, 4, 10, QChar(u'0'));
-            foods.insert(name, erfinde(name, i));
+            foods.insert(name, erfundenesLebensmittel(name, i));
             Datenmodul traeger;
             traeger.setName(name);
             traeger.setWert(Naehrwert::kal, 100);

@@ -32,6 +32,7 @@ private Q_SLOTS:
     void aViewWithoutRoomDrawsNothing();
     void barLiesWhereItsBoundsLie();
     void barSaysWhatItShows();
+    void theSignGoesWithTheColour();
     void cleanup() { m_probe.sichereNachFehler(); }
 
 private:
@@ -282,6 +283,21 @@ void TestWertungView::barSaysWhatItShows()
     view.drawaRect(1);
     view.drawaRect(0);
     QCOMPARE(view.beschreibung(), QStringLiteral("62 von 100, rot"));
+}
+
+void TestWertungView::theSignGoesWithTheColour()
+{
+    WertungView view;
+    QCOMPARE(view.zeichen(), QString()); // nothing is drawn
+    view.drawabalken(1);
+    QCOMPARE(view.zeichen(), QStringLiteral("≈"));
+    view.drawaRect(3);
+    QCOMPARE(view.zeichen(), QStringLiteral("✓"));
+    view.drawaRect(1);
+    view.drawaRect(0); // leaves the colour
+    QCOMPARE(view.zeichen(), QStringLiteral("✗"));
+    view.drawabalken(0);
+    QCOMPARE(view.zeichen(), QString());
 }
 
 QTEST_MAIN(TestWertungView)
