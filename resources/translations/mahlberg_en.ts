@@ -1096,6 +1096,14 @@ Nothing is worked out for children under 10 years; it resumes at 11 years.</tr
   <translation>Grams</translation>
  </message>
  <message>
+  <source>Hinweis</source>
+  <translation>Notice</translation>
+ </message>
+ <message>
+  <source>Hinweis schließen</source>
+  <translation>Close the notice</translation>
+ </message>
+ <message>
   <source>HKK</source>
   <translation>CVD</translation>
  </message>
@@ -1276,6 +1284,10 @@ Nothing is worked out for children under 10 years; it resumes at 11 years.</tr
   <translation>&amp;Language</translation>
  </message>
  <message>
+  <source>Schließen</source>
+  <translation>Close</translation>
+ </message>
+ <message>
   <source>Soll</source>
   <translation>Target</translation>
  </message>
@@ -1366,6 +1378,10 @@ Nothing is worked out for children under 10 years; it resumes at 11 years.</tr
  <message>
   <source>Vitamin C</source>
   <translation>Vitamin C</translation>
+ </message>
+ <message>
+  <source>Warnung</source>
+  <translation>Warning</translation>
  </message>
  <message>
   <source>Was moechten Sie drucken ? </source>
