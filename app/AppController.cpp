@@ -53,6 +53,7 @@ AppController::AppController(Tueren tueren)
     Fensterplatz::lasseRollen(*anordnung1, *teiler);
     einfenster = new QDialog(Hauptfenster);
     EingabefensterGestalt::setupUi(einfenster);
+    Rollbereich::fasse(*einfenster);
     einfenster->setWindowModality(Qt::WindowModal);
     findeFelder();
     beschrifte();

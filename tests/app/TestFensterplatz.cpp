@@ -23,6 +23,7 @@ private Q_SLOTS:
     void everyWindowIsBroughtIn();
     void aMenuIsLeftWhereItIs();
     void theMainWindowRollsWhereItIsSmall();
+    void theSheetFitsASmallScreen();
     void thePlanLeavesTheTableFree();
 };
 
@@ -167,6 +168,27 @@ void TestFensterplatz::theMainWindowRollsWhereItIsSmall()
     const QWidget *vorn = haupt.focusWidget();
     const QPoint mitte = vorn->mapTo(rollend->viewport(), vorn->rect().center());
     QVERIFY(rollend->viewport()->rect().contains(mitte));
+}
+
+void TestFensterplatz::theSheetFitsASmallScreen()
+{
+    Probeheim heim;
+    heim.schreibeTabelle(zaehltabelle(30));
+    const Probefenster fenster(heim);
+    QDialog &blatt = *fenster->einfenster;
+    fenster->Fenster();
+    QVERIFY(QTest::qWaitForWindowExposed(&blatt));
+    const auto *rollend = blatt.findChild<QScrollArea *>();
+    QVERIFY(!rollend->verticalScrollBar()->isVisible()); // where there is room it is seen whole
+    QVERIFY(blatt.minimumSizeHint().height() <= 348);
+    blatt.resize(blatt.width(), 348);
+    QCoreApplication::processEvents();
+    QCOMPARE(blatt.height(), 348);
+    fenster->EingabeFensteruebernehmen->setFocus(Qt::TabFocusReason);
+    QTest::keyClick(blatt.focusWidget(), Qt::Key_Tab);
+    QTest::keyClick(blatt.focusWidget(), Qt::Key_Tab, Qt::ShiftModifier);
+    QVERIFY(fenster->EingabeFensteruebernehmen->hasFocus());
+    QVERIFY(fenster->EingabeFensteruebernehmen->visibleRegion().boundingRect().height() > 10);
 }
 
 void TestFensterplatz::thePlanLeavesTheTableFree()
