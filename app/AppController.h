@@ -161,6 +161,11 @@ private:
     void schreibeEigeneLebensmittel() const;
     void setzeAnzeigeBearbeitbar(bool bearbeitbar);
 
+    // Notices
+    void meldeGesichertesVomBlatt(const QString &name);
+    void nimmGesichertesZurueck();
+    void zeigeEigenes(const QString &name);
+
     // The steps of the selection action
     const Datenmodul *eingebautesLebensmittel(int zeile) const;
     const Datenmodul *eigenesLebensmittel(int zeile) const;

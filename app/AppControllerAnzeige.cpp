@@ -148,9 +148,10 @@ void AppController::uebernimmEnergieanteile(const Energieanteile &anteile)
     nahrview->wert3(kalumrfett);
 }
 
-/// What every selection ends with.
+/// What every selection ends with: all that is on display is about one food again.
 void AppController::schliesseAuswahlAb()
 {
+    nimmGesichertesZurueck();
     LManzahl->setIntValue(static_cast<int>(Array.size()));
     zeigeJoule();
     faerbeWertungen();

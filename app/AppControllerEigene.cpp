@@ -46,6 +46,7 @@ void AppController::umschreibenDerEingabeFelder()
     }
     zeigeJoule();
     SicherneigeneLM();
+    meldeGesichertesVomBlatt(feldA->stringValue());
 }
 
 /// What stands in the entry sheet, as a record.

@@ -92,14 +92,15 @@ void Hinweisstreifen::nimmZurueck(const QString &kennung)
                      [&](const Hinweis &einer) { return einer.kennung == kennung; });
     if (gemeint != m_hinweise.end()) {
         m_hinweise.erase(gemeint);
+        ordne();
     }
-    ordne();
 }
 
 void Hinweisstreifen::schliesse()
 {
     if (!m_hinweise.isEmpty()) {
-        beende(m_hinweise.takeFirst().kennung);
+        const Hinweis neuester = m_hinweise.first();
+        beende(neuester.kennung);
     }
 }
 

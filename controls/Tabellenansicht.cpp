@@ -82,6 +82,16 @@ void Tabellenansicht::setzeSchreibmarke(int zeile, const QString &kennung)
     }
 }
 
+void Tabellenansicht::waehle(int zeile, const QString &kennung)
+{
+    const QModelIndex index = m_modell->index(zeile, m_modell->spaltenstelle(kennung));
+    if (index.isValid()) {
+        selectionModel()->setCurrentIndex(index, neueAuswahl());
+        scrollTo(index);
+        melde(index.column());
+    }
+}
+
 void Tabellenansicht::selectRow(int zeile)
 {
     if (zeile == m_gewaehlt) {

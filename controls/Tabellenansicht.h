@@ -35,6 +35,10 @@ public:
     /// Moves the keyboard's cursor to a cell without choosing it.
     void setzeSchreibmarke(int zeile, const QString &kennung);
 
+    /// Chooses a cell as a click on it does: selects it, rolls to it and runs the action. A cell
+    /// that does not exist is not chosen.
+    void waehle(int zeile, const QString &kennung);
+
     /// The selected row, −1 when none is.
     int selectedRow() const { return m_gewaehlt; }
 

@@ -1392,6 +1392,10 @@ Nothing is worked out for children under 10 years; it resumes at 11 years.</tr
   <translation>Like the &amp;system</translation>
  </message>
  <message>
+  <source>Zeigen</source>
+  <translation>Show</translation>
+ </message>
+ <message>
   <source>Zeit(h)</source>
   <translation>Time(h)</translation>
  </message>
@@ -1478,6 +1482,10 @@ Nothing is worked out for children under 10 years; it resumes at 11 years.</tr
  <message>
   <source>Übergewicht</source>
   <translation>Overweight</translation>
+ </message>
+ <message>
+  <source>„%1“ ist gesichert. Kreis, Balken und Farben zeigen noch das Lebensmittel davor.</source>
+  <translation>“%1” is saved. Circle, bars and colours still show the food before.</translation>
  </message>
  <message>
   <source>… oder ziehen Sie den Standardsatz in die Symbolleiste. Was Sie aus der Leiste herausziehen, verschwindet.</source>
