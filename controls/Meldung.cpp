@@ -7,6 +7,8 @@ int zeigeMeldung(QWidget *fenster, const Meldung &meldung)
 {
     QMessageBox kasten(fenster);
     kasten.setIcon(meldung.verwerfbar ? QMessageBox::Question : QMessageBox::Warning);
+    // A name in it ("<b>x", "A & B") is to be read as it is written.
+    kasten.setTextFormat(Qt::PlainText);
     // A message without a heading says its explanation where the heading would stand.
     kasten.setText(meldung.text.isEmpty() ? meldung.erklaerung : meldung.text);
     kasten.setInformativeText(meldung.text.isEmpty() ? QString() : meldung.erklaerung);
