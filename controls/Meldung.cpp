@@ -1,5 +1,6 @@
 #include "Meldung.h"
 
+#include <QLabel>
 #include <QMessageBox>
 #include <QPushButton>
 
@@ -7,11 +8,15 @@ int zeigeMeldung(QWidget *fenster, const Meldung &meldung)
 {
     QMessageBox kasten(fenster);
     kasten.setIcon(meldung.verwerfbar ? QMessageBox::Question : QMessageBox::Warning);
-    // A name in it ("<b>x", "A & B") is to be read as it is written.
-    kasten.setTextFormat(Qt::PlainText);
     // A message without a heading says its explanation where the heading would stand.
     kasten.setText(meldung.text.isEmpty() ? meldung.erklaerung : meldung.text);
     kasten.setInformativeText(meldung.text.isEmpty() ? QString() : meldung.erklaerung);
+
+    // A name in it ("<b>x") is to be read as it is written. The box hands its own format on to the
+    // heading alone.
+    for (QLabel *zeile : kasten.findChildren<QLabel *>()) {
+        zeile->setTextFormat(Qt::PlainText);
+    }
 
     // One role for all keeps the buttons in their order on every desktop.
     QList<QPushButton *> knoepfe;
