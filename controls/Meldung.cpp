@@ -12,11 +12,7 @@ int zeigeMeldung(QWidget *fenster, const Meldung &meldung)
     kasten.setText(meldung.text.isEmpty() ? meldung.erklaerung : meldung.text);
     kasten.setInformativeText(meldung.text.isEmpty() ? QString() : meldung.erklaerung);
 
-    // A name in it ("<b>x") is to be read as it is written. The box hands its own format on to the
-    // heading alone.
-    for (QLabel *zeile : kasten.findChildren<QLabel *>()) {
-        zeile->setTextFormat(Qt::PlainText);
-    }
+    zeigeAlsKlartext(kasten);
 
     // One role for all keeps the buttons in their order on every desktop.
     QList<QPushButton *> knoepfe;
@@ -40,4 +36,12 @@ int zeigeMeldung(QWidget *fenster, const Meldung &meldung)
         }
     }
     return meldung.verwerfbar ? -1 : 0;
+}
+
+void zeigeAlsKlartext(const QMessageBox &kasten)
+{
+    // The box hands its own format on to the heading alone.
+    for (QLabel *zeile : kasten.findChildren<QLabel *>()) {
+        zeile->setTextFormat(Qt::PlainText);
+    }
 }
