@@ -1,7 +1,8 @@
 #pragma once
 
-#include <QLockFile>
-#include <QString>
+#include "Dateisperre.h"
+
+#include <QTimer>
 
 /// Tells a program that it is the only one at work on a user's files: two at once would overwrite
 /// each other's foods and plans. The sign is a file beside them, which goes with this object. A
@@ -13,10 +14,14 @@ public:
     explicit Startsperre(const QString &ordner);
 
     /// Whether another program is at work there. Where no sign can be left there is none to be
-    /// seen, so the answer is no.
+    /// seen, so the answer is no. As soon as the other one has ended, the sign passes to this one,
+    /// so that a third notices it.
     bool besetzt() const { return m_besetzt; }
 
 private:
-    QLockFile m_datei;
+    void sieNach();
+
+    Dateisperre m_zeichen;
     bool m_besetzt;
+    QTimer m_wieder; ///< looks after the other program while there is one
 };

@@ -9,6 +9,7 @@
 
 #include <QApplication>
 #include <QCommandLineParser>
+#include <QFile>
 #include <QFileInfo>
 #include <QLoggingCategory>
 #include <QStyleFactory>
@@ -60,6 +61,8 @@ bool trotzdemOeffnen()
 
 int main(int argc, char **argv)
 {
+    // Settings and file dialogs look for the home folder by themselves: it shall be the same one.
+    qputenv("HOME", QFile::encodeName(heimatordner()));
     QApplication::setStyle(QStyleFactory::create(QStringLiteral("Fusion")));
     QApplication app(argc, argv);
     QApplication::setApplicationName(QStringLiteral("Mahlberg"));
@@ -85,7 +88,7 @@ int main(int argc, char **argv)
     zeigeErscheinungsbild(gemerktesErscheinungsbild(*einstellungen));
 
     const Datenordner datenordner = eigenesHeim ? Datenordner(eigenesHeim->path()) : Datenordner();
-    const Startsperre sperre(
+    Startsperre sperre(
         QFileInfo(datenordner.pathForDataFile(QStringLiteral("customdaten"))).path());
     if (sperre.besetzt() && !trotzdemOeffnen()) {
         return 0;

@@ -4,6 +4,7 @@
 
 #include <QCoreApplication>
 #include <QFile>
+#include <QMessageBox>
 #include <QPaintEngine>
 #include <QPainter>
 #include <QPrintPreviewDialog>
@@ -109,6 +110,7 @@ public:
         : QPrintPreviewDialog(eingerichtet(drucker, seite, auftrag.titel), fenster)
     {
         drucker.setDocName(alsDateiname(auftrag.titel)); // the window has its title by now
+        QCoreApplication::instance()->installEventFilter(this);
         connect(this, &QPrintPreviewDialog::paintRequested, this,
                 [this, auftrag, melde](QPrinter *geraet) {
                     if (const auto grund = drucke(*geraet, auftrag)) {
@@ -121,6 +123,18 @@ public:
     }
 
     QPageLayout seite() const { return drucker.pageLayout(); }
+
+protected:
+    /// The print dialog has messages of its own, with the name of the file in them.
+    bool eventFilter(QObject *ziel, QEvent *event) override
+    {
+        if (event->type() == QEvent::Polish) {
+            if (const auto *kasten = qobject_cast<QMessageBox *>(ziel)) {
+                zeigeAlsKlartext(*kasten);
+            }
+        }
+        return QPrintPreviewDialog::eventFilter(ziel, event);
+    }
 
 private:
     static QPrinter *eingerichtet(QPrinter &geraet, const QPageLayout &seite, const QString &titel)

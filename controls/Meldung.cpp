@@ -1,5 +1,6 @@
 #include "Meldung.h"
 
+#include <QLabel>
 #include <QMessageBox>
 #include <QPushButton>
 
@@ -10,6 +11,8 @@ int zeigeMeldung(QWidget *fenster, const Meldung &meldung)
     // A message without a heading says its explanation where the heading would stand.
     kasten.setText(meldung.text.isEmpty() ? meldung.erklaerung : meldung.text);
     kasten.setInformativeText(meldung.text.isEmpty() ? QString() : meldung.erklaerung);
+
+    zeigeAlsKlartext(kasten);
 
     // One role for all keeps the buttons in their order on every desktop.
     QList<QPushButton *> knoepfe;
@@ -33,4 +36,12 @@ int zeigeMeldung(QWidget *fenster, const Meldung &meldung)
         }
     }
     return meldung.verwerfbar ? -1 : 0;
+}
+
+void zeigeAlsKlartext(const QMessageBox &kasten)
+{
+    // The box hands its own format on to the heading alone.
+    for (QLabel *zeile : kasten.findChildren<QLabel *>()) {
+        zeile->setTextFormat(Qt::PlainText);
+    }
 }

@@ -5,6 +5,7 @@
 
 #include <functional>
 
+class QMessageBox;
 class QWidget;
 
 /// A question or message to the user: what it says in bold, what it explains below, and its
@@ -25,3 +26,6 @@ using Meldungstuer = std::function<int(QWidget *fenster, const Meldung &meldung)
 /// The door that shows a real message box. Escape or closing it presses the first button, which is
 /// the harmless one in every message that asks for an answer.
 int zeigeMeldung(QWidget *fenster, const Meldung &meldung);
+
+/// Shows the texts of a message box as they are written: in a name, "<b>" is no bold type.
+void zeigeAlsKlartext(const QMessageBox &kasten);

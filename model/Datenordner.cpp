@@ -1,8 +1,14 @@
 #include "Datenordner.h"
 
+#include "EngeRechte.h"
+
+#include <QFile>
 #include <QFileInfo>
 
 #include <array>
+
+#include <pwd.h>
+#include <unistd.h>
 
 namespace {
 
@@ -19,10 +25,22 @@ constexpr std::array<Datendatei, 2> datendateien = {{
 
 } // namespace
 
+QString heimatordner()
+{
+    if (!QDir::isAbsolutePath(qEnvironmentVariable("HOME"))) {
+        const passwd *konto = getpwuid(getuid());
+        if (konto != nullptr && QDir::isAbsolutePath(QFile::decodeName(konto->pw_dir))) {
+            return QFile::decodeName(konto->pw_dir);
+        }
+    }
+    return QDir::homePath();
+}
+
 QString Datenordner::pathForDataFile(const QString &name) const
 {
     const QDir ordner(m_home.filePath(QStringLiteral("Library/Application Support/Mahlberg")));
     if (!QFileInfo::exists(ordner.path())) {
+        const EngeRechte eng;
         ordner.mkpath(QStringLiteral("."));
     }
     for (const Datendatei &zeile : datendateien) {

@@ -3,16 +3,22 @@
 
 #include <QAction>
 #include <QApplication>
+#include <QDialogButtonBox>
 #include <QFile>
+#include <QLabel>
 #include <QLineEdit>
+#include <QMessageBox>
 #include <QPainter>
 #include <QPrintDialog>
 #include <QPrintPreviewDialog>
 #include <QPrintPreviewWidget>
 #include <QPrinter>
+#include <QPushButton>
 #include <QSettings>
 #include <QTest>
 #include <QTimer>
+
+#include <functional>
 
 class TestDrucktuer : public QObject
 {
@@ -39,6 +45,7 @@ private Q_SLOTS:
     void thePreviewIsPaintedLikeThePrint();
     void thePreviewShowsEveryPage();
     void withoutAPrinterItPrintsToAPdf();
+    void theQuestionAboutAnExistingPdfIsShownAsItIsWritten();
     void cancellingGoesBackToThePreview();
     void aPdfThatFailsIsToldAndTheProgramGoesOn();
 
@@ -88,8 +95,24 @@ void beantworteDruckfrage(const QString &pdf)
             frage->reject();
         } else {
             frage->findChild<QLineEdit *>(QStringLiteral("filename"))->setText(pdf);
-            frage->accept();
+            frage->findChild<QDialogButtonBox *>()->button(QDialogButtonBox::Ok)->click();
         }
+    });
+}
+
+/// Looks at the question that the print dialog asks, says no, and leaves the dialog.
+void verneineFrage(const std::function<void(const QMessageBox &)> &sieAn)
+{
+    QTimer::singleShot(0, qApp, [sieAn] {
+        auto *frage = qobject_cast<QMessageBox *>(QApplication::activeModalWidget());
+        if (frage == nullptr) {
+            verneineFrage(sieAn);
+            return;
+        }
+        sieAn(*frage);
+        QWidget *dialog = frage->parentWidget();
+        frage->button(QMessageBox::No)->click();
+        QTimer::singleShot(0, dialog, [dialog] { dialog->close(); });
     });
 }
 
@@ -367,6 +390,30 @@ void TestDrucktuer::withoutAPrinterItPrintsToAPdf()
     QCOMPARE(probe.seiten(), 2);
     QCOMPARE(probe.zeilen(2), QStringList({QStringLiteral("Seite 2")}));
     QVERIFY(m_meldungen.isEmpty());
+    QTRY_VERIFY(m_fenster.findChild<QPrintPreviewDialog *>() == nullptr);
+}
+
+/// The print dialog's own question, which the program doesn't write, shows a name like any other.
+void TestDrucktuer::theQuestionAboutAnExistingPdfIsShownAsItIsWritten()
+{
+    QFile vorhanden(m_ordner.filePath(QStringLiteral("<b>x.pdf")));
+    QVERIFY(vorhanden.open(QIODevice::WriteOnly));
+    vorhanden.close();
+    QPrintPreviewDialog *vorschau = oeffne(beziffert(1));
+    QVERIFY(vorschau);
+    QString gefragt;
+    Qt::TextFormat format = Qt::AutoText;
+    verneineFrage([&](const QMessageBox &kasten) {
+        const auto *zeile = kasten.findChild<QLabel *>(QStringLiteral("qt_msgbox_label"));
+        gefragt = zeile->text();
+        format = zeile->textFormat();
+    });
+    beantworteDruckfrage(vorhanden.fileName());
+    aktion(*vorschau, "Print")->trigger();
+    QVERIFY2(gefragt.contains(vorhanden.fileName()), qPrintable(gefragt));
+    QCOMPARE(format, Qt::PlainText);
+    QCOMPARE(vorhanden.size(), 0);
+    vorschau->close();
     QTRY_VERIFY(m_fenster.findChild<QPrintPreviewDialog *>() == nullptr);
 }
 

@@ -1,6 +1,7 @@
 #include "Meldung.h"
 
 #include <QApplication>
+#include <QLabel>
 #include <QMessageBox>
 #include <QPushButton>
 #include <QTest>
@@ -18,6 +19,8 @@ class TestMeldung : public QObject
 private Q_SLOTS:
     void textsStandWhereTheyBelong();
     void withoutAHeadingTheExplanationIsTheHeading();
+    void textsAreShownAsTheyAreWritten_data();
+    void textsAreShownAsTheyAreWritten();
     void buttonsStandInTheirOrder_data();
     void buttonsStandInTheirOrder();
     void theFirstButtonWaitsForReturn();
@@ -86,6 +89,35 @@ void TestMeldung::withoutAHeadingTheExplanationIsTheHeading()
     });
     QCOMPARE(text, u"Nichts ausgewählt"_s);
     QVERIFY(erklaerung.isEmpty());
+}
+
+void TestMeldung::textsAreShownAsTheyAreWritten_data()
+{
+    QTest::addColumn<QString>("geschrieben");
+    QTest::newRow("a file named like a tag") << u"Die Datei „<b>x</b>.pdf“ fehlt."_s;
+    QTest::newRow("a food named like a picture") << u"<img src='/etc/hostname'>"_s;
+    QTest::newRow("a link") << u"<a href='https://example.org'>hier</a>"_s;
+    QTest::newRow("an entity") << u"Fish &amp; Chips"_s;
+}
+
+/// A name that looks like rich text used to be shown without its brackets.
+void TestMeldung::textsAreShownAsTheyAreWritten()
+{
+    QFETCH(QString, geschrieben);
+    int gesehen = 0;
+    const auto pruefe = [&](const QMessageBox &kasten) {
+        for (const QLabel *zeile : kasten.findChildren<QLabel *>()) {
+            if (zeile->isVisible() && zeile->pixmap().isNull()) {
+                QCOMPARE(zeile->text(), geschrieben);
+                QCOMPARE(zeile->textFormat(), Qt::PlainText);
+                ++gesehen;
+            }
+        }
+    };
+    zeige({geschrieben, geschrieben, {u"ok"_s}}, pruefe);
+    QCOMPARE(gesehen, 2);
+    zeige({{}, geschrieben, {u"ok"_s}}, pruefe);
+    QCOMPARE(gesehen, 3);
 }
 
 void TestMeldung::buttonsStandInTheirOrder_data()

@@ -3,10 +3,14 @@
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
+#include <QProcess>
 #include <QTemporaryDir>
 #include <QTest>
 
 #include <memory>
+
+#include <sys/stat.h>
+#include <unistd.h>
 
 class TestDatenordner : public QObject
 {
@@ -22,6 +26,10 @@ private Q_SLOTS:
     void aFolderThatCannotBeMadeIsNoMatter();
     void theHomeMayEndInASlash();
     void theUsersHomeIsTheDefault();
+    void withoutAHomeInTheEnvironmentTheSystemKnowsIt_data();
+    void withoutAHomeInTheEnvironmentTheSystemKnowsIt();
+    void newFoldersAreForTheUserAlone_data();
+    void newFoldersAreForTheUserAlone();
 
 private:
     QString ordner() const
@@ -123,6 +131,66 @@ void TestDatenordner::theUsersHomeIsTheDefault()
     qputenv("HOME", vorher);
     QCOMPARE(daten.pathForDataFile(QStringLiteral("customdaten")),
              ordner() + QStringLiteral("/MahlbergCustomnutr.daten"));
+}
+
+void TestDatenordner::withoutAHomeInTheEnvironmentTheSystemKnowsIt_data()
+{
+    QTest::addColumn<QByteArray>("home");
+    QTest::newRow("none") << QByteArray();
+    QTest::newRow("an empty one") << QByteArray("");
+    QTest::newRow("a relative one") << QByteArray("heim");
+    QTest::newRow("the folder of the start") << QByteArray(".");
+    QTest::newRow("a tilde") << QByteArray("~");
+}
+
+void TestDatenordner::withoutAHomeInTheEnvironmentTheSystemKnowsIt()
+{
+    QFETCH(QByteArray, home);
+    QProcess frage; // who knows it as well: the sixth field of the user's line
+    frage.start(QStringLiteral("getent"), {QStringLiteral("passwd"), QString::number(getuid())});
+    QVERIFY(frage.waitForFinished());
+    const QString erwartet = QString::fromUtf8(frage.readAll()).section(u':', 5, 5);
+    QVERIFY(QDir::isAbsolutePath(erwartet));
+
+    const QByteArray vorher = qgetenv("HOME");
+    home.isNull() ? qunsetenv("HOME") : qputenv("HOME", home);
+    const QString gefunden = heimatordner();
+    qputenv("HOME", vorher);
+    QCOMPARE(gefunden, erwartet);
+    QCOMPARE(heimatordner(), QFile::decodeName(vorher));
+}
+
+void TestDatenordner::newFoldersAreForTheUserAlone_data()
+{
+    QTest::addColumn<QString>("vorhanden");
+    QTest::addColumn<QStringList>("neue");
+    QTest::newRow("none is there")
+        << QString()
+        << QStringList{QStringLiteral("Library"), QStringLiteral("Library/Application Support"),
+                       QStringLiteral("Library/Application Support/Mahlberg")};
+    QTest::newRow("others use the one above")
+        << QStringLiteral("Library/Application Support")
+        << QStringList{QStringLiteral("Library/Application Support/Mahlberg")};
+    QTest::newRow("all are there")
+        << QStringLiteral("Library/Application Support/Mahlberg") << QStringList();
+}
+
+void TestDatenordner::newFoldersAreForTheUserAlone()
+{
+    QFETCH(QString, vorhanden);
+    QFETCH(QStringList, neue);
+    const mode_t vorher = umask(022);
+    QVERIFY(vorhanden.isNull() || QDir(m_home->path()).mkpath(vorhanden));
+    Datenordner(m_home->path()).pathForDataFile(QStringLiteral("plandaten"));
+    QVERIFY(QDir(m_home->path()).mkdir(QStringLiteral("danach"))); // made by somebody else
+    umask(vorher);
+    for (const QString &name :
+         {QStringLiteral("Library"), QStringLiteral("Library/Application Support"),
+          QStringLiteral("Library/Application Support/Mahlberg"), QStringLiteral("danach")}) {
+        struct stat zustand = {};
+        QVERIFY(stat(QFile::encodeName(m_home->filePath(name)).constData(), &zustand) == 0);
+        QCOMPARE(zustand.st_mode & 0777U, neue.contains(name) ? 0700U : 0755U);
+    }
 }
 
 QTEST_GUILESS_MAIN(TestDatenordner)
