@@ -768,6 +768,10 @@ Nothing is worked out for children under 10 years; it resumes at 11 years.</tr
   <translation>% of the daily need in </translation>
  </message>
  <message>
+  <source>%1 mehr</source>
+  <translation>%1 more</translation>
+ </message>
+ <message>
   <source>%1 von %2</source>
   <translation>%1 of %2</translation>
  </message>
@@ -778,6 +782,10 @@ Nothing is worked out for children under 10 years; it resumes at 11 years.</tr
  <message>
   <source>%1 von 21 Punkten</source>
   <translation>%1 of 21 points</translation>
+ </message>
+ <message>
+  <source>%1 weniger</source>
+  <translation>%1 less</translation>
  </message>
  <message>
   <source>&amp;Ablage</source>
@@ -866,6 +874,10 @@ Nothing is worked out for children under 10 years; it resumes at 11 years.</tr
  <message>
   <source>A&amp;lles auswählen</source>
   <translation>Select &amp;all</translation>
+ </message>
+ <message>
+  <source>Abbrechen</source>
+  <translation>Cancel</translation>
  </message>
  <message>
   <source>Achtung !</source>
@@ -1276,6 +1288,10 @@ Nothing is worked out for children under 10 years; it resumes at 11 years.</tr
   <translation>&amp;Language</translation>
  </message>
  <message>
+  <source>Seite %1 von %2</source>
+  <translation>Page %1 of %2</translation>
+ </message>
+ <message>
   <source>Soll</source>
   <translation>Target</translation>
  </message>
@@ -1442,6 +1458,14 @@ Nothing is worked out for children under 10 years; it resumes at 11 years.</tr
  <message>
   <source>rot</source>
   <translation>red</translation>
+ </message>
+ <message>
+  <source>unbekannt</source>
+  <translation>unknown</translation>
+ </message>
+ <message>
+  <source>unverändert</source>
+  <translation>unchanged</translation>
  </message>
  <message>
   <source>weinendes Gesicht</source>
