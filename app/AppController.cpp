@@ -1,5 +1,6 @@
 #include "AppController.h"
 
+#include "Fensterplatz.h"
 #include "Lebensmittelbestand.h"
 #include "Menue.h"
 #include "Rollbereich.h"
@@ -49,8 +50,10 @@ AppController::AppController(Tueren tueren)
     for (QWidget *reiter : {tabEins, tabZwei, tabDrei}) {
         Rollbereich::fasse(*reiter);
     }
+    Fensterplatz::lasseRollen(*anordnung1, *teiler);
     einfenster = new QDialog(Hauptfenster);
     EingabefensterGestalt::setupUi(einfenster);
+    Rollbereich::fasse(*einfenster);
     einfenster->setWindowModality(Qt::WindowModal);
     findeFelder();
     beschrifte();

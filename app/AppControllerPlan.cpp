@@ -2,6 +2,8 @@
 
 #include "AppController.h"
 
+#include "Fensterplatz.h"
+
 #include <QScreen>
 
 void AppController::Planmoduloeffnen()
@@ -30,20 +32,17 @@ void AppController::toolbarlebensmittelweitergabe()
     }
 }
 
-/// Foods are dragged from window to window, so the plan covers as little of the main window as the
-/// screen allows: it stands beside it where there is room, else over its lower corner.
+/// Foods are dragged from window to window.
 void AppController::stellePlanDaneben()
 {
-    constexpr int titelleiste = 32; // of the desktop, about
     QWidget &plan = *planmodul->window();
-    const QRect haupt = Hauptfenster->frameGeometry();
-    const QRect schirm = Hauptfenster->screen()->availableGeometry();
-    plan.resize(plan.size().boundedTo(schirm.size() - QSize(0, titelleiste)));
-    const int rechts = qMin(haupt.right() + 1, schirm.right() + 1 - plan.width());
-    const int links = qMax(schirm.left(), haupt.left() - plan.width());
-    const bool rechtsMehrPlatz = schirm.right() - haupt.right() >= haupt.left() - schirm.left();
-    const int x = rechtsMehrPlatz ? rechts : links;
-    const bool daneben = x > haupt.right() || x + plan.width() <= haupt.left();
-    const int unten = schirm.bottom() + 1 - plan.height() - titelleiste;
-    plan.move(x, daneben ? qMin(haupt.top(), unten) : unten);
+    const QRect tabelle(Tabelle->mapToGlobal(QPoint(0, 0)), Tabelle->size());
+    const QRect platz = Fensterplatz::planplatz({
+        .schirm = Hauptfenster->screen()->availableGeometry(),
+        .haupt = Hauptfenster->frameGeometry(),
+        .tabelle = tabelle,
+        .wunsch = plan.size(),
+        .mindestens = plan.minimumSizeHint(),
+    });
+    plan.setGeometry(platz);
 }

@@ -1,5 +1,6 @@
 #include "Einstellungen.h"
 #include "Erscheinungsbild.h"
+#include "Fensterplatz.h"
 #include "Oberflaeche.h"
 #include "Rundgang.h"
 #include "Sprache.h"
@@ -66,6 +67,7 @@ int main(int argc, char **argv)
     QApplication::setApplicationVersion(QStringLiteral(MAHLBERG_VERSION));
     QApplication::setWindowIcon(QIcon(QStringLiteral(":/bilder/Mahlberg.svg")));
     const Auftrag auftrag = leseAuftrag(app);
+    const Fensterplatz::Schirmwaechter schirmwaechter;
 
     // The tour leaves the user's own foods and settings alone: it has a home of its own.
     std::unique_ptr<QTemporaryDir> eigenesHeim;

@@ -1108,6 +1108,14 @@ Nothing is worked out for children under 10 years; it resumes at 11 years.</tr
   <translation>Grams</translation>
  </message>
  <message>
+  <source>Hinweis</source>
+  <translation>Notice</translation>
+ </message>
+ <message>
+  <source>Hinweis schließen</source>
+  <translation>Close the notice</translation>
+ </message>
+ <message>
   <source>HKK</source>
   <translation>CVD</translation>
  </message>
@@ -1288,6 +1296,10 @@ Nothing is worked out for children under 10 years; it resumes at 11 years.</tr
   <translation>&amp;Language</translation>
  </message>
  <message>
+  <source>Schließen</source>
+  <translation>Close</translation>
+ </message>
+ <message>
   <source>Seite %1 von %2</source>
   <translation>Page %1 of %2</translation>
  </message>
@@ -1382,6 +1394,10 @@ Nothing is worked out for children under 10 years; it resumes at 11 years.</tr
  <message>
   <source>Vitamin C</source>
   <translation>Vitamin C</translation>
+ </message>
+ <message>
+  <source>Warnung</source>
+  <translation>Warning</translation>
  </message>
  <message>
   <source>Was moechten Sie drucken ? </source>
