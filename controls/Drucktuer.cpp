@@ -4,11 +4,13 @@
 
 #include <QCoreApplication>
 #include <QFile>
+#include <QFileInfo>
 #include <QMessageBox>
 #include <QPaintEngine>
 #include <QPainter>
 #include <QPrintPreviewDialog>
 #include <QPrinter>
+#include <QProgressDialog>
 #include <QRegularExpression>
 #include <QSettings>
 
@@ -66,24 +68,74 @@ QString fehler(QPrinter &drucker)
         .arg(drucker.printerName());
 }
 
-bool maleSeiten(QPrinter &drucker, const Druckauftrag &auftrag, const QPageLayout &seite,
-                const QList<int> &folge)
+enum class Druckende { Fertig, Abgebrochen, Misslungen };
+
+Druckende maleSeiten(QPrinter &drucker, const Druckauftrag &auftrag, const QPageLayout &seite,
+                     const QList<int> &folge, const Druckfortschritt &fortschritt)
 {
+    const auto weiter = [&fortschritt, gesamt = static_cast<int>(folge.size())](qsizetype fertig) {
+        return !fortschritt || fortschritt(static_cast<int>(fertig), gesamt);
+    };
     QPainter maler;
     if (!maler.begin(&drucker)) {
-        return false;
+        return Druckende::Misslungen;
     }
-    for (qsizetype i = 0; i < folge.size(); ++i) {
+    bool geht = weiter(0);
+    for (qsizetype i = 0; geht && i < folge.size(); ++i) {
         if (i > 0 && !drucker.newPage()) {
-            return false;
+            return Druckende::Misslungen;
         }
         maler.save();
         maler.scale(drucker.logicalDpiX() / punkteJeZoll, drucker.logicalDpiY() / punkteJeZoll);
         auftrag.male(maler, seite, folge[i]);
         maler.restore();
+        geht = weiter(i + 1) || i + 1 == folge.size(); // too late to cancel when all is done
     }
-    return maler.end() && drucker.printerState() != QPrinter::Error;
+    if (!geht) {
+        maler.end();
+        return Druckende::Abgebrochen;
+    }
+    return maler.end() && drucker.printerState() != QPrinter::Error ? Druckende::Fertig
+                                                                    : Druckende::Misslungen;
 }
+
+/// Half a PDF is of no use. What is no ordinary file is left where it is.
+void raeumeAuf(QPrinter &drucker)
+{
+    if (schreibtPdf(drucker) && QFileInfo(drucker.outputFileName()).isFile()) {
+        QFile::remove(drucker.outputFileName());
+    }
+}
+
+/// Says over the preview how many pages are done, when they take long enough to ask.
+class Seitenanzeige
+{
+public:
+    Seitenanzeige(const QString &titel, QWidget *worueber)
+        : m_fenster(QString(), uebersetzt(QT_TRANSLATE_NOOP("Mahlberg", "Abbrechen")), 0, 0,
+                    worueber)
+    {
+        constexpr int geduld = 500; // milliseconds
+        m_fenster.setWindowTitle(titel);
+        m_fenster.setWindowModality(Qt::ApplicationModal);
+        m_fenster.setMinimumDuration(geduld);
+    }
+
+    bool abgebrochen() const { return m_fenster.wasCanceled(); }
+
+    bool zeige(int fertig, int gesamt)
+    {
+        m_fenster.setMaximum(gesamt);
+        m_fenster.setLabelText(uebersetzt(QT_TRANSLATE_NOOP("Mahlberg", "Seite %1 von %2"))
+                                   .arg(qMin(fertig + 1, gesamt))
+                                   .arg(gesamt));
+        m_fenster.setValue(fertig); // lets the user cancel
+        return !abgebrochen();
+    }
+
+private:
+    QProgressDialog m_fenster;
+};
 
 /// A print's title as the print dialog can make the name of a PDF from it: there a slash would
 /// stand for a folder, and a point in the last word ("3.5%") for the beginning of the ending.
@@ -112,14 +164,7 @@ public:
         drucker.setDocName(alsDateiname(auftrag.titel)); // the window has its title by now
         QCoreApplication::instance()->installEventFilter(this);
         connect(this, &QPrintPreviewDialog::paintRequested, this,
-                [this, auftrag, melde](QPrinter *geraet) {
-                    if (const auto grund = drucke(*geraet, auftrag)) {
-                        melde(this, {uebersetzt(QT_TRANSLATE_NOOP(
-                                         "Mahlberg", "Das Drucken ist nicht gelungen.")),
-                                     *grund,
-                                     {uebersetzt("ok")}});
-                    }
-                });
+                [this, auftrag, melde](QPrinter *geraet) { male(*geraet, auftrag, melde); });
     }
 
     QPageLayout seite() const { return drucker.pageLayout(); }
@@ -137,6 +182,25 @@ protected:
     }
 
 private:
+    void male(QPrinter &geraet, const Druckauftrag &auftrag, const Meldungstuer &melde)
+    {
+        std::optional<Seitenanzeige> anzeige;
+        anzeige.emplace(auftrag.titel, isVisible() ? this : parentWidget());
+        const auto grund = drucke(geraet, auftrag, [&anzeige](int fertig, int gesamt) {
+            return anzeige->zeige(fertig, gesamt);
+        });
+        const bool abgebrochen = anzeige->abgebrochen();
+        anzeige.reset(); // it would come up again over a message
+        if (grund) {
+            melde(this,
+                  {uebersetzt(QT_TRANSLATE_NOOP("Mahlberg", "Das Drucken ist nicht gelungen.")),
+                   *grund,
+                   {uebersetzt("ok")}});
+        } else if (abgebrochen) { // a preview of some of the pages would pass for all of them
+            QMetaObject::invokeMethod(this, &QDialog::reject, Qt::QueuedConnection);
+        }
+    }
+
     static QPrinter *eingerichtet(QPrinter &geraet, const QPageLayout &seite, const QString &titel)
     {
         QPageLayout ganz = seite;
@@ -179,7 +243,8 @@ void passeEin(QPainter &maler, const QRectF &quelle, const QRectF &ziel)
     maler.translate(-quelle.topLeft());
 }
 
-std::optional<QString> drucke(QPrinter &drucker, const Druckauftrag &auftrag)
+std::optional<QString> drucke(QPrinter &drucker, const Druckauftrag &auftrag,
+                              const Druckfortschritt &fortschritt)
 {
     drucker.setFullPage(true); // the painter's origin is the paper's corner
     const QPageLayout seite = bedruckbareSeite(drucker);
@@ -191,8 +256,16 @@ std::optional<QString> drucke(QPrinter &drucker, const Druckauftrag &auftrag)
     if (folge.isEmpty()) {
         return uebersetzt(QT_TRANSLATE_NOOP("Mahlberg", "Die gewählten Seiten gibt es nicht."));
     }
-    if (!maleSeiten(drucker, auftrag, seite, folge) ||
-        (schreibtPdf(drucker) && !istVollstaendig(drucker.outputFileName()))) {
+    switch (maleSeiten(drucker, auftrag, seite, folge, fortschritt)) {
+    case Druckende::Fertig:
+        if (schreibtPdf(drucker) && !istVollstaendig(drucker.outputFileName())) {
+            return fehler(drucker);
+        }
+        break;
+    case Druckende::Abgebrochen:
+        raeumeAuf(drucker);
+        break;
+    case Druckende::Misslungen:
         return fehler(drucker);
     }
     return {};

@@ -32,14 +32,22 @@ struct Druckauftrag
 using Drucktuer = std::function<void(QWidget *fenster, const Druckauftrag &auftrag)>;
 
 /// The door that shows a preview with the page setup, and from there the system's print dialog or,
-/// without a printer, the question for a PDF. Paper, orientation and margins come from the settings
-/// and go back there. Printing that fails is told through `melde`; cancelling does nothing. The
-/// settings outlive the door.
+/// without a printer, the question for a PDF. Many pages show how far they have come and can be
+/// cancelled, for the preview as well as for the print; either way the preview closes. Paper,
+/// orientation and margins come from the settings and go back there. Printing that fails is told
+/// through `melde`; cancelling does nothing. The settings outlive the door.
 Drucktuer systemdrucktuer(QSettings &einstellungen, const Meldungstuer &melde);
 
+/// Told how many pages are done and how many there will be, first with none and then after each.
+/// Answers whether to go on.
+using Druckfortschritt = std::function<bool(int fertig, int gesamt)>;
+
 /// Prints on a printer as it is set up: its paper, its range of pages, their order and copies.
-/// Returns what went wrong, in the user's language, and nothing when all went well.
-std::optional<QString> drucke(QPrinter &drucker, const Druckauftrag &auftrag);
+/// Returns what went wrong, in the user's language, and nothing when all went well or when
+/// `fortschritt` ended it. A PDF that was ended before its last page is taken away again; a
+/// printer prints the pages that it has got by then.
+std::optional<QString> drucke(QPrinter &drucker, const Druckauftrag &auftrag,
+                              const Druckfortschritt &fortschritt = {});
 
 /// The numbers of the pages in the order in which they leave the printer. No ranges mean all pages.
 QList<int> druckfolge(int seitenzahl, const QPageRanges &bereiche, bool letzteZuerst, int kopien);

@@ -83,6 +83,16 @@ QWidget *Zellenmaler::createEditor(QWidget *parent, const QStyleOptionViewItem &
     return feld;
 }
 
+bool Zellenmaler::eventFilter(QObject *feld, QEvent *event)
+{
+    auto *zeile = qobject_cast<QLineEdit *>(feld);
+    if (zeile != nullptr && event->type() == QEvent::MouseButtonDblClick) {
+        zeile->selectAll();
+        return true;
+    }
+    return QStyledItemDelegate::eventFilter(feld, event);
+}
+
 bool Zellenmaler::helpEvent(QHelpEvent *event, QAbstractItemView *view,
                             const QStyleOptionViewItem &option, const QModelIndex &index)
 {

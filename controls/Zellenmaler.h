@@ -18,6 +18,9 @@ public:
                const QModelIndex &index) const override;
     QWidget *createEditor(QWidget *parent, const QStyleOptionViewItem &option,
                           const QModelIndex &index) const override;
+    /// A double click takes the whole of what stands in a cell that is being edited, and not the
+    /// part of a number before or behind the comma.
+    bool eventFilter(QObject *feld, QEvent *event) override;
     /// A text that is cut off stands whole in the cell's tool tip.
     bool helpEvent(QHelpEvent *event, QAbstractItemView *view, const QStyleOptionViewItem &option,
                    const QModelIndex &index) override;

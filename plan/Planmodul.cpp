@@ -5,11 +5,19 @@
 #include "Zeichenkettentabelle.h"
 
 #include <QImage>
+#include <QItemSelectionModel>
 #include <QPushButton>
 
 Klient Planmodul::klient;
 
 namespace {
+
+/// All plans of the program, so that each can show what was told to one of them.
+QList<Planmodul *> &allePlaene()
+{
+    static QList<Planmodul *> plaene;
+    return plaene;
+}
 
 /// Days over which the weight is projected until the user says otherwise.
 constexpr int ersteTage = 7;
@@ -30,10 +38,12 @@ Planmodul::Planmodul(Plantueren tueren) : PlanmodulGestalt(), m_tueren(std::move
     Dictionary = lies(m_tueren.eingebauteTabelle);
     KundenDictionary = lies(ordner.pathForDataFile(QStringLiteral("customdaten")));
     laden(lies(ordner.pathForDataFile(QStringLiteral("plandaten"))));
+    allePlaene() << this;
 }
 
 Planmodul::~Planmodul()
 {
+    allePlaene().removeOne(this);
     delete m_fenster;
 }
 
@@ -69,7 +79,7 @@ void Planmodul::awakeFromNib()
     for (Textfeld *feld : {Gewichtsverlust, BMIneu}) {
         feld->setStringValue(QStringLiteral("-")); // nothing was projected yet
     }
-    zeigeBmi();
+    zeigeKlient();
     zeigeVerlauf(false);
     stelleZeichenDazu();
     Tage->setIntValue(ersteTage);
@@ -102,6 +112,8 @@ void Planmodul::verbinde()
         const int spalte = PlanTabelle->modell()->spaltenstelle(QStringLiteral("menge"));
         bearbeiteMenge(PlanTabelle->currentIndex().siblingAtColumn(spalte));
     });
+    connect(PlanTabelle->selectionModel(), &QItemSelectionModel::selectionChanged, this,
+            &Planmodul::folgeAuswahl);
     connect(entfernenknopf, &QPushButton::clicked, this, &Planmodul::Lebensmittelentfernen);
     connect(aktionEntfernen, &QAction::triggered, entfernenknopf, &QPushButton::click);
     connect(druckknopf, &QPushButton::clicked, this, &Planmodul::druckenentscheidung);
@@ -138,13 +150,21 @@ void Planmodul::anthrouebergabe2(int kilokalorien)
 void Planmodul::anthrouebergabegewicht(float kilogramm)
 {
     klient.gewicht = kilogramm;
-    zeigeBmi();
+    zeigeUeberall();
 }
 
 void Planmodul::anthrouebergabegroesse(float meter)
 {
     klient.groesse = meter;
-    zeigeBmi();
+    zeigeUeberall();
+}
+
+/// The calculator speaks to a plan of its own, and the user looks at another one.
+void Planmodul::zeigeUeberall()
+{
+    for (Planmodul *plan : std::as_const(allePlaene())) {
+        plan->zeigeKlient();
+    }
 }
 
 const Datenmodul *Planmodul::lebensmittel(const QString &name) const

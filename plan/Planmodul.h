@@ -15,6 +15,7 @@
 
 #include <array>
 #include <cstdint>
+#include <optional>
 #include <vector>
 
 /// The doors through which a plan reaches the world outside of its window.
@@ -63,7 +64,9 @@ public:
     /// Shows the window, in front of others.
     virtual void showWindow();
 
-    // What the calculator says. Nothing is drawn anew before the next evaluation but the BMI.
+    // What the calculator says, to whichever plan: every plan's window hears of it. Nothing is
+    // drawn anew before the next evaluation but the BMI and the words about a missing weight or
+    // height.
     virtual void anthrouebergabe(int kilokalorien);
     virtual void anthrouebergabe2(int kilokalorien);
     virtual void anthrouebergabegewicht(float kilogramm);
@@ -128,12 +131,21 @@ private:
     void schreibeEigeneLebensmittel();
     void uebernimmAenderung();
 
+    // The notices
+    void zeigeAnsichtshinweis();
+    void folgeAuswahl();
+    void weiseMengeZurueck(int zeile, const QString &text);
+
     // The evaluation
     std::vector<Planzeile> zeilen() const;
     void zeigeNaehrwerte(const Planauswertung &auswertung);
     void zeigeWertungen(const Planauswertung &auswertung);
     void zeigeBeurteilung(const Planauswertung &auswertung);
-    void zeigeBmi();
+    void zeigeBedarf();
+    void zeigeKlient();
+    static void zeigeUeberall();
+    void zeigeAenderung(float kilogramm);
+    void zeigeVerlaufworte();
     void stelleZeichenDazu();
     void zeigeVerlauf(bool sichtbar);
 
@@ -143,6 +155,8 @@ private:
     QMainWindow *m_fenster = nullptr;
     Bestandsdatei m_eigeneDatei;
     std::array<QLabel *, anzahlNaehrwerte> m_zeichen = {}; ///< the verdicts beside the bars
+    std::optional<Klient>
+        m_projiziert; ///< whom the chart shows; absent before the first projection
 
     // What the table shows: the rows of the last reload, and the amounts typed since.
     QStringList m_gezeigteNamen;

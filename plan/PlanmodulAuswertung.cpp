@@ -11,6 +11,8 @@
 
 #include <QCoreApplication>
 
+#include <cmath>
+
 namespace {
 
 using Gestalt = Ui::PlanmodulGestalt;
@@ -68,6 +70,41 @@ constexpr std::array<const char *, 3> gesichtsworte = {
     QT_TRANSLATE_NOOP("Mahlberg", "Ein Plan mit Lücken"),
     QT_TRANSLATE_NOOP("Mahlberg", "Ein unausgewogener Plan"),
 };
+/// A figure that ran over says nothing: a dash stands for it, as before anything was worked out.
+void zeigeZahl(Textfeld &feld, double zahl)
+{
+    if (std::isfinite(zahl)) {
+        feld.setDoubleValue(zahl);
+    } else {
+        feld.setStringValue(QStringLiteral("-"));
+    }
+}
+
+/// What is missing of the client for the course of the weight, or is newer than the course; null
+/// when nothing is.
+QString klienthinweis(const Klient &jetzt, const Klient &gezeigt)
+{
+    const bool gewicht = jetzt.gewicht > 0;
+    const bool groesse = jetzt.groesse > 0;
+    if (!gewicht && !groesse) {
+        return localizedString(QStringLiteral(
+            "Für den Verlauf fehlen Gewicht und Größe (unter „Körper und Energie“)."));
+    }
+    if (!gewicht) {
+        return localizedString(
+            QStringLiteral("Für den Verlauf fehlt das Gewicht (unter „Körper und Energie“)."));
+    }
+    if (jetzt.gewicht != gezeigt.gewicht || jetzt.groesse != gezeigt.groesse) {
+        return localizedString(
+            QStringLiteral("Gewicht oder Größe sind inzwischen neu: Der Verlauf folgt mit der "
+                           "nächsten Änderung am Plan."));
+    }
+    return groesse ? QString()
+                   : localizedString(QStringLiteral(
+                         "Ohne Größe (unter „Körper und Energie“) ist nicht bekannt, welches "
+                         "Gewicht gesund ist: Die Farben sagen noch nichts."));
+}
+
 constexpr const char *leererPlan = QT_TRANSLATE_NOOP("Mahlberg", "Der Plan ist leer");
 
 } // namespace
@@ -88,6 +125,7 @@ void Planmodul::datenberechnen()
         return;
     }
     const Planauswertung auswertung = planAuswerten(zeilen(), klient.bedarf, klient.unbereinigt);
+    zeigeBedarf();
     zeigeNaehrwerte(auswertung);
     zeigeWertungen(auswertung);
     if (auswertung.energie) {
@@ -123,7 +161,7 @@ void Planmodul::zeigeNaehrwerte(const Planauswertung &auswertung)
 {
     for (std::size_t i = 0; i < anzahlNaehrwerte; ++i) {
         const Plannaehrwert &naehrwert = auswertung.naehrwerte[i];
-        (this->*naehrwertfelder[i].prozent)->setDoubleValue(naehrwert.prozent);
+        zeigeZahl(*(this->*naehrwertfelder[i].prozent), naehrwert.prozent);
         WertungView &balken = *(this->*naehrwertfelder[i].balken);
         if (naehrwert.balken) {
             if (naehrwert.balken->code) {
@@ -164,11 +202,50 @@ void Planmodul::zeigeBeurteilung(const Planauswertung &auswertung)
                        localizedString(QStringLiteral("%1 von 21 Punkten")).arg(auswertung.punkte));
 }
 
-void Planmodul::zeigeBmi()
+/// What 100 % of the energy are, as they were when the shares were worked out.
+void Planmodul::zeigeBedarf()
+{
+    const auto kilokalorien =
+        QString::number(klient.bedarf) + QChar(QChar::Nbsp) + QStringLiteral("kcal");
+    bedarfsworte->setText(
+        klient.bedarf == 0
+            ? localizedString(QStringLiteral("100 % der Energie: noch nicht bekannt (unter „Körper "
+                                             "und Energie“)"))
+        : klient.bedarf < klient.unbereinigt
+            ? localizedString(QStringLiteral("100 % der Energie = %1 am Tag (zum Abnehmen)"))
+                  .arg(kilokalorien)
+            : localizedString(QStringLiteral("100 % der Energie = %1 am Tag")).arg(kilokalorien));
+}
+
+void Planmodul::zeigeKlient()
 {
     if (m_fenster != nullptr) {
-        BMI->setFloatValue(bmi(klient.gewicht, klient.groesse));
+        zeigeZahl(*BMI, static_cast<double>(bmi(klient.gewicht, klient.groesse)));
+        zeigeVerlaufworte();
     }
+}
+
+/// The field shows a loss with its sign; a gain has none, and so is called one.
+void Planmodul::zeigeAenderung(float kilogramm)
+{
+    Gewichtsverlust->setFloatValue(kilogramm);
+    const bool zunahme = kilogramm > 0;
+    aenderungswort->setText(
+        localizedString(zunahme ? QStringLiteral("Zunahme") : QStringLiteral("Änderung")));
+    Gewichtsverlust->setAccessibleName(
+        localizedString(zunahme ? QStringLiteral("Zunahme des Gewichts in diesem Zeitraum")
+                                : QStringLiteral("Änderung des Gewichts in diesem Zeitraum")));
+}
+
+/// Before the first projection the window's own words stay.
+void Planmodul::zeigeVerlaufworte()
+{
+    if (!m_projiziert) {
+        return;
+    }
+    QStringList saetze = {gewichtview->beschreibung(), klienthinweis(klient, *m_projiziert)};
+    saetze.removeAll(QString());
+    verlaufworte->setText(saetze.join(u' '));
 }
 
 void Planmodul::verlustberechnen()
@@ -185,22 +262,21 @@ void Planmodul::verlustberechnen()
     if (verlauf.tage) {
         Tage->setFloatValue(*verlauf.tage);
     }
-    Gewichtsverlust->setFloatValue(verlauf.gewichtsverlust);
-    BMI->setFloatValue(verlauf.bmi);
-    BMIneu->setFloatValue(verlauf.bmiNeu);
+    zeigeAenderung(verlauf.gewichtsverlust);
+    zeigeZahl(*BMI, static_cast<double>(verlauf.bmi));
+    zeigeZahl(*BMIneu, static_cast<double>(verlauf.bmiNeu));
     gewichtview->wert1(ganzzahl(static_cast<double>(klient.gewicht)));
+    gewichtview->setGewichtHeute(klient.gewicht);
     gewichtview->wert2(Kalorienbedarf->intValue());
     gewichtview->wert3(Kalorienerrechnet->intValue());
     gewichtview->wert4(klient.groesse);
-    const bool groesseBekannt = klient.groesse > 0;
-    verlaufworte->setText(groesseBekannt ? gewichtview->beschreibung()
-                                         : localizedString(QStringLiteral(
-                                               "Der Verlauf erscheint, sobald unter „Körper "
-                                               "und Energie“ Gewicht und Größe stehen.")));
-    zeigeVerlauf(groesseBekannt);
+    m_projiziert = klient;
+    zeigeVerlaufworte();
+    zeigeVerlauf(klient.gewicht > 0 || klient.groesse > 0);
 }
 
-/// Before anything was projected, or without a height, the chart would be nothing but a red field.
+/// Before anything was projected, or when nothing is known, the chart would be nothing but a red
+/// field.
 void Planmodul::zeigeVerlauf(bool sichtbar)
 {
     for (QWidget *teil : {static_cast<QWidget *>(gewichtview), kiloskala, wochenskala}) {

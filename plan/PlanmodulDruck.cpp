@@ -8,6 +8,7 @@
 #include "Zeichenkettentabelle.h"
 
 #include <algorithm>
+#include <memory>
 
 namespace {
 
@@ -16,12 +17,36 @@ QString planname()
     return localizedString(QStringLiteral("Mahlzeitenplan"));
 }
 
-/// A print of a list that is laid out anew for every paper.
-Druckauftrag listenauftrag(const std::function<Planmodulprint(const QPageLayout &)> &liste)
+/// A list that is laid out anew for every paper, and not for every page.
+class Papierliste
 {
-    return {planname(), [liste](const QPageLayout &seite) { return liste(seite).pages; },
+public:
+    explicit Papierliste(std::function<Planmodulprint(const QPageLayout &)> machen)
+        : m_machen(std::move(machen))
+    {
+    }
+
+    const Planmodulprint &auf(const QPageLayout &seite)
+    {
+        if (!m_liste || m_seite != seite) {
+            m_seite = seite;
+            m_liste = m_machen(seite);
+        }
+        return *m_liste;
+    }
+
+private:
+    std::function<Planmodulprint(const QPageLayout &)> m_machen;
+    QPageLayout m_seite;
+    std::optional<Planmodulprint> m_liste;
+};
+
+Druckauftrag listenauftrag(const std::function<Planmodulprint(const QPageLayout &)> &machen)
+{
+    const auto liste = std::make_shared<Papierliste>(machen);
+    return {planname(), [liste](const QPageLayout &seite) { return liste->auf(seite).pages; },
             [liste](QPainter &maler, const QPageLayout &seite, int nummer) {
-                liste(seite).maleSeite(maler, nummer);
+                liste->auf(seite).maleSeite(maler, nummer);
             }};
 }
 

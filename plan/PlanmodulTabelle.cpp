@@ -10,11 +10,16 @@
 #include <QLocale>
 
 #include <algorithm>
+#include <cmath>
 
 namespace {
 
 const QString spalteName = QStringLiteral("name");
 const QString spalteMenge = QStringLiteral("menge");
+
+// What the notices are about.
+const QString alteAnsicht = QStringLiteral("alteAnsicht");
+const QString falscheMenge = QStringLiteral("falscheMenge");
 
 constexpr int breiteName = 230;
 constexpr int breiteMenge = 84;
@@ -63,11 +68,40 @@ const Wertungsbeschreibung *wertungVon(const QString &spalte)
     return zeile != wertungen.end() ? zeile : nullptr;
 }
 
-QString mengentext(float gramm)
+/// Thousands are not parted: a typed point or comma always means the decimals.
+QLocale zahlensprache()
 {
     QLocale locale;
     locale.setNumberOptions(QLocale::OmitGroupSeparator);
-    return locale.toString(static_cast<double>(gramm), 'g', bedeutsameStellen);
+    return locale;
+}
+
+QString mengentext(float gramm)
+{
+    return zahlensprache().toString(static_cast<double>(gramm), 'g', bedeutsameStellen);
+}
+
+bool zeigtEtwas(double zahl, int stellen)
+{
+    const QString text = QString::number(zahl, 'f', stellen);
+    return std::any_of(text.begin(), text.end(),
+                       [](QChar zeichen) { return zeichen > u'0' && zeichen <= u'9'; });
+}
+
+/// A value with so many digits behind the comma, and with more where nothing but zeros would be
+/// seen of it: a trace is not nothing. What ran over is a dash.
+QString wertText(double zahl, int stellen)
+{
+    constexpr int meisteStellen = 6;
+    if (!std::isfinite(zahl)) {
+        return QStringLiteral("-");
+    }
+    int noetig = stellen;
+    while (zahl != 0 && noetig <= meisteStellen && !zeigtEtwas(zahl, noetig)) {
+        ++noetig;
+    }
+    return noetig <= meisteStellen ? zahlensprache().toString(zahl, 'f', noetig)
+                                   : zahlensprache().toString(zahl, 'g', 1);
 }
 
 Spalte wertspalte(const Naehrwertbeschreibung &zeile)
@@ -105,6 +139,8 @@ void Planmodul::beschrifteTabelle()
         {.kennung = spalteName, .titel = localizedString(QStringLiteral("Lebensmittel"))},
         {.kennung = spalteMenge,
          .titel = localizedString(QStringLiteral("Menge")) + QStringLiteral("\ng"),
+         .erklaerung = localizedString(QStringLiteral(
+             "Menge, g. Komma und Punkt trennen beide die Nachkommastellen: 12,5 oder 12.5")),
          .ausrichtung = Qt::AlignRight | Qt::AlignVCenter,
          .bearbeitbar = true},
     };
@@ -130,6 +166,7 @@ void Planmodul::reloadData()
     m_gezeigteMengen = mengenarray;
     if (m_fenster != nullptr) {
         PlanTabelle->reloadData();
+        hinweise->nimmZurueck(alteAnsicht);
     }
 }
 
@@ -180,7 +217,7 @@ Zellenbild Planmodul::willDisplayCell(const QString &spalte, int zeile, const QS
         const float zahl = eintrag != nullptr ? eintrag->wert(naehrwert->wert) *
                                                     (m_gezeigteMengen.value(zeile) / 100.0F)
                                               : 0.0F;
-        bild.text = QLocale().toString(zahl, 'f', nachkommastellen[stelle(naehrwert->wert)]);
+        bild.text = wertText(static_cast<double>(zahl), nachkommastellen[stelle(naehrwert->wert)]);
     }
     return bild;
 }
@@ -192,15 +229,33 @@ QString Planmodul::writeRows(const QString & /*spalte*/, int zeile)
 
 void Planmodul::setObjectValue(const QString &spalte, int zeile, const QString &text)
 {
-    if (spalte != spalteMenge || !mengeAendern(zeile, static_cast<float>(zahlAusText(text)))) {
+    const auto gramm = static_cast<float>(zahlAusText(text));
+    if (spalte == spalteMenge && !std::isfinite(gramm)) {
+        weiseMengeZurueck(zeile, text);
+        return;
+    }
+    if (spalte != spalteMenge || !mengeAendern(zeile, gramm)) {
         return;
     }
     if (zeile < m_gezeigteNamen.size()) {
         m_gezeigteNamen[zeile] = PlanArray[zeile];
         m_gezeigteMengen[zeile] = mengenarray[zeile];
     }
+    hinweise->nimmZurueck(falscheMenge);
+    folgeAuswahl();
     schreibePlan();
     datenberechnen();
+}
+
+/// With an amount that no number can hold the whole plan would be infinite.
+void Planmodul::weiseMengeZurueck(int zeile, const QString &text)
+{
+    constexpr int lesezeit = 10000; // milliseconds
+    const QString satz =
+        localizedString(QStringLiteral("„%1“ ist keine Menge. Es bleibt bei %2 g."));
+    hinweise->zeige({.kennung = falscheMenge,
+                     .text = satz.arg(text.trimmed(), mengentext(m_gezeigteMengen.value(zeile))),
+                     .dauer = lesezeit});
 }
 
 /// On a row means behind it.
@@ -214,6 +269,42 @@ void Planmodul::acceptDrop(int zeile, const QString &text)
     beendeEingabe();
     if (einsetzen(text, zeile)) {
         uebernimmAenderung();
+    } else {
+        zeigeAnsichtshinweis();
+    }
+}
+
+/// A drop that ended on its way has changed the rows, and the table does not show it. Whoever
+/// removes or changes a row now has to know which food that is.
+void Planmodul::zeigeAnsichtshinweis()
+{
+    if (m_gezeigteNamen == PlanArray && m_gezeigteMengen == mengenarray) {
+        hinweise->nimmZurueck(alteAnsicht);
+        return;
+    }
+    const int gewaehlt = PlanTabelle->selectedRow();
+    const QString satz =
+        gewaehlt < 0 ? localizedString(QStringLiteral("Die Zeilen stehen für andere Lebensmittel."))
+        : gewaehlt < PlanArray.size()
+            ? localizedString(QStringLiteral("Die ausgewählte Zeile steht für „%1“."))
+                  .arg(localizedString(PlanArray[gewaehlt]))
+            : localizedString(QStringLiteral("Die ausgewählte Zeile gibt es nicht mehr."));
+    const QString anfang =
+        localizedString(QStringLiteral("Die Tabelle zeigt den Plan vor dem letzten Verschieben."));
+    hinweise->zeige({.kennung = alteAnsicht,
+                     .text = anfang + u' ' + satz,
+                     .knopf = localizedString(QStringLiteral("Plan neu zeigen")),
+                     .aktion = [this] { reloadData(); },
+                     .warnung = true});
+}
+
+/// A notice that the user has closed does not come back for another row.
+void Planmodul::folgeAuswahl()
+{
+    const QList<Hinweis> &alle = hinweise->hinweise();
+    if (std::any_of(alle.begin(), alle.end(),
+                    [](const Hinweis &einer) { return einer.kennung == alteAnsicht; })) {
+        zeigeAnsichtshinweis();
     }
 }
 

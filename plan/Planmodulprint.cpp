@@ -2,13 +2,14 @@
 
 #include "Drucktuer.h"
 #include "Ganzzahl.h"
+#include "Schriftsatz.h"
 #include "Zeichenkettentabelle.h"
 
 #include <QCoreApplication>
-#include <QFontMetricsF>
 #include <QPainter>
 
 #include <algorithm>
+#include <cmath>
 #include <numeric>
 
 namespace {
@@ -110,40 +111,6 @@ std::int32_t summe(const QList<float> &mengen)
                         [](std::int64_t bisher, float menge) { return bisher + gramm(menge); }));
 }
 
-/// Draws one line of text from the left upper corner of `platz`. Text that is wider than its place
-/// is narrowed, so that it runs neither into its neighbour nor off the paper.
-void zeichneText(QPainter &maler, const QRectF &platz, int groesse, const QString &text)
-{
-    // How far letters reach above and below their line, in sizes: Ä and g of Helvetica.
-    constexpr double hinauf = 0.92;
-    constexpr double hinab = 0.23;
-    constexpr double spalt = 0.2; // what stays free before the neighbour
-    // A font made this much larger and shrunk by the painter has its true widths on every device.
-    constexpr int feinheit = 100;
-
-    QString ohneEnde = text;
-    while (ohneEnde.endsWith(u' ')) {
-        ohneEnde.chop(1);
-    }
-    if (ohneEnde.isEmpty()) {
-        return;
-    }
-    QFont schrift(QStringLiteral("Helvetica"));
-    schrift.setPixelSize(groesse * feinheit);
-    schrift.setStyleStrategy(QFont::PreferOutline);
-    const double breite = QFontMetricsF(schrift).horizontalAdvance(ohneEnde) / feinheit;
-    const double frei = platz.width() - spalt * groesse;
-    const double stauchung = frei > 0 && frei < breite ? frei / breite : 1;
-    const double linie = std::min(hinauf * groesse, platz.height() - hinab * groesse);
-
-    maler.save();
-    maler.setFont(schrift);
-    maler.translate(platz.left(), platz.top() + linie);
-    maler.scale(stauchung / feinheit, 1.0 / feinheit);
-    maler.drawText(QPointF(0, 0), text);
-    maler.restore();
-}
-
 } // namespace
 
 Planmodulprint::Planmodulprint(const QStringList &namen, const QList<float> &gramm,
@@ -155,6 +122,7 @@ Planmodulprint::Planmodulprint(const QStringList &namen, const QList<float> &gra
     , sollkal(soll)
     , checker(form)
     , m_printInfo(printInfo)
+    , m_schriftsatz(std::make_shared<Schriftsatz>())
 {
     const QSizeF papier = printInfo.fullRect(QPageLayout::Point).size();
     pages = static_cast<std::int32_t>((namen.size() + zeilenDarunter + peoplePerPage - 1) /
@@ -251,6 +219,14 @@ QList<Planmodulprint::Eintrag> Planmodulprint::einfacheZeile(qsizetype i) const
 
 void Planmodulprint::zeichneEinfacheListe(QPainter &maler, const QRectF &rect) const
 {
+    const qsizetype n = lebensmittel.size();
+    const auto [von, bis] = lebensmittelIn(rect);
+    for (qsizetype i = von; i < bis; ++i) {
+        zeichneZeile(maler, i, {mittel, Qt::black}, einfacheZeile(i));
+    }
+    if (bis < n) {
+        return; // what else there is stands below the last food
+    }
     const QString anfang = blanks(5);
     const QString kopf = anfang + uebersetzt(QT_TRANSLATE_NOOP("Mahlberg", "Lebensmittel")) +
                          blanks(21) + uebersetzt(QT_TRANSLATE_NOOP("Mahlberg", "Gramm")) +
@@ -260,13 +236,6 @@ void Planmodulprint::zeichneEinfacheListe(QPainter &maler, const QRectF &rect) c
                            blanks(29) + mitEinheit(summe(kals), QLatin1String("kcal"));
     const QString soll = anfang + uebersetzt(QT_TRANSLATE_NOOP("Mahlberg", "Soll")) + blanks(79) +
                          mitEinheit(sollkal, QLatin1String("kcal"));
-
-    const qsizetype n = lebensmittel.size();
-    for (qsizetype i = 0; i < n; ++i) {
-        if (liegtIn(rect, i)) {
-            zeichneZeile(maler, i, {mittel, Qt::black}, einfacheZeile(i));
-        }
-    }
     const std::pair<qsizetype, QString> darunter[] = {
         {n + 1, kopf}, {n + 4, gesamt}, {n + 5, soll}};
     for (const auto &[zeile, text] : darunter) {
@@ -329,10 +298,9 @@ QList<Planmodulprint::Eintrag> Planmodulprint::summen() const
 void Planmodulprint::zeichneDetaillierteListe(QPainter &maler, const QRectF &rect) const
 {
     const qsizetype n = lebensmittel.size();
-    for (qsizetype i = 0; i < n; ++i) {
-        if (liegtIn(rect, i)) {
-            zeichneZeile(maler, i, {klein, Qt::black}, detaillierteZeile(i));
-        }
+    const auto [von, bis] = lebensmittelIn(rect);
+    for (qsizetype i = von; i < bis; ++i) {
+        zeichneZeile(maler, i, {klein, Qt::black}, detaillierteZeile(i));
     }
     if (liegtIn(rect, n + 1)) {
         zeichneZeile(maler, n + 1, {klein, Qt::blue}, spaltenkoepfe());
@@ -349,6 +317,27 @@ bool Planmodulprint::liegtIn(const QRectF &rect, qsizetype zeile) const
     return rectForPerson(static_cast<int>(zeile)).intersects(rect);
 }
 
+/// The foods whose rows lie in `rect`, from the first to behind the last. Thousands of rows are not
+/// looked at for each of their pages: the first one is reckoned from the top of `rect`.
+std::pair<qsizetype, qsizetype> Planmodulprint::lebensmittelIn(const QRectF &rect) const
+{
+    const qsizetype n = lebensmittel.size();
+    const double darueber = m_bounds.y() + m_bounds.height() - (rect.y() + rect.height());
+    qsizetype von = 0;
+    if (rectHeight > 0) {
+        const double vollstaendig = std::floor(darueber / static_cast<double>(rectHeight)) - 1;
+        von = static_cast<qsizetype>(std::clamp(vollstaendig, 0.0, static_cast<double>(n)));
+    }
+    while (von < n && !liegtIn(rect, von)) {
+        ++von;
+    }
+    qsizetype bis = von;
+    while (bis < n && liegtIn(rect, bis)) {
+        ++bis;
+    }
+    return {von, bis};
+}
+
 /// Draws the entries of a row. An entry's place ends where the next begins, the last one's at the
 /// paper's edge.
 void Planmodulprint::zeichneZeile(QPainter &maler, qsizetype zeile, Schrift schrift,
@@ -360,6 +349,6 @@ void Planmodulprint::zeichneZeile(QPainter &maler, qsizetype zeile, Schrift schr
         platz.setLeft(platz.left() + eintraege[i].abstand);
         platz.setRight(i + 1 < eintraege.size() ? platz.left() + eintraege[i + 1].abstand
                                                 : m_bounds.right());
-        zeichneText(maler, platz, schrift.groesse, eintraege[i].text);
+        m_schriftsatz->zeichne(maler, platz, schrift.groesse, eintraege[i].text);
     }
 }

@@ -10,8 +10,11 @@
 
 #include <array>
 #include <cstdint>
+#include <memory>
+#include <utility>
 
 class QPainter;
+class Schriftsatz;
 
 /// The pages that a plan's list is printed on. One view as wide as the paper holds all pages, the
 /// first at its top; row after row runs down it, thirty to a page, and each page shows a part.
@@ -103,10 +106,12 @@ private:
     QList<Eintrag> detaillierteZeile(qsizetype i) const;
     static QList<Eintrag> spaltenkoepfe();
     QList<Eintrag> summen() const;
+    std::pair<qsizetype, qsizetype> lebensmittelIn(const QRectF &rect) const;
     bool liegtIn(const QRectF &rect, qsizetype zeile) const;
     void zeichneZeile(QPainter &maler, qsizetype zeile, Schrift schrift,
                       const QList<Eintrag> &eintraege) const;
 
     QPageLayout m_printInfo;
     QRectF m_bounds;
+    std::shared_ptr<Schriftsatz> m_schriftsatz; ///< also of the copies
 };

@@ -4,9 +4,11 @@
 #include <QLocale>
 #include <QPainter>
 #include <QPainterPath>
+#include <QStringList>
 
 #include <algorithm>
 #include <cmath>
+#include <optional>
 
 namespace {
 
@@ -20,6 +22,31 @@ constexpr std::array<double, 5> wochenstellen = {2, 80, 160, 240, 320};
 constexpr double achsenstrich = 2.3;
 constexpr double wochenstrich = 0.3;
 constexpr double kurvenstrich = 3.5;
+
+QString uebersetzt(const char *text)
+{
+    return QCoreApplication::translate("Mahlberg", text);
+}
+
+/// No line ends between the number and its unit.
+QString inKilogramm(float wert, char form, int stellen)
+{
+    QLocale locale;
+    locale.setNumberOptions(QLocale::OmitGroupSeparator);
+    return locale.toString(wert, form, stellen) + QChar(QChar::Nbsp) + QStringLiteral("kg");
+}
+
+QString kilogramm(float wert)
+{
+    return inKilogramm(wert, 'f', 1);
+}
+
+/// As it was entered, without a digit more.
+QString genaueKilogramm(float wert)
+{
+    constexpr int bedeutsameStellen = 7; // of single precision
+    return inKilogramm(wert, 'g', bedeutsameStellen);
+}
 
 QPen stift(Qt::GlobalColor farbe, double strichbreite)
 {
@@ -58,6 +85,38 @@ void zeichneSenkrechteAchseUndPfeile(QPainter &maler)
     maler.drawLine(QLineF(achse, hoehe, 9, 227));
 }
 
+/// What of a line lies in the chart or so near to it that it can be seen; absent when nothing does.
+/// A line that is ever so long takes the painter ever so much time.
+std::optional<QLineF> sichtbar(const QLineF &linie)
+{
+    constexpr double umgebung = 20; // more than a corner of the curve reaches beyond its weight
+    const double unten = flaeche.top() - umgebung;
+    const double oben = flaeche.bottom() + umgebung;
+    if (std::max(linie.y1(), linie.y2()) < unten || std::min(linie.y1(), linie.y2()) > oben) {
+        return std::nullopt;
+    }
+    const auto gekuerzt = [&linie, unten, oben](const QPointF &ende) {
+        const double y = std::clamp(ende.y(), unten, oben);
+        return y == ende.y()
+                   ? ende
+                   : QPointF(linie.x1() + linie.dx() * ((y - linie.y1()) / linie.dy()), y);
+    };
+    return QLineF(gekuerzt(linie.p1()), gekuerzt(linie.p2()));
+}
+
+/// Draws the curve on, or begins it anew where it comes back into the chart.
+void fuegeAn(QPainterPath &kurve, const QLineF &linie)
+{
+    const std::optional<QLineF> stueck = sichtbar(linie);
+    if (!stueck) {
+        return;
+    }
+    if (kurve.isEmpty() || kurve.currentPosition() != stueck->p1()) {
+        kurve.moveTo(stueck->p1());
+    }
+    kurve.lineTo(stueck->p2());
+}
+
 } // namespace
 
 GewichtsverlaufView::GewichtsverlaufView(QWidget *parent) : Zeichenansicht(parent) {}
@@ -65,6 +124,7 @@ GewichtsverlaufView::GewichtsverlaufView(QWidget *parent) : Zeichenansicht(paren
 void GewichtsverlaufView::wert1(int kilogramm)
 {
     m_gewicht = static_cast<float>(kilogramm);
+    m_gewichtHeute = m_gewicht;
     m_wochengewichte[0] = m_gewicht;
 }
 
@@ -102,18 +162,18 @@ void GewichtsverlaufView::zeichneBaender(QPainter &maler) const
 
 void GewichtsverlaufView::zeichneKurve(QPainter &maler) const
 {
-    // Nobody weighs three tonnes; a line that is longer still takes the painter ever more time.
-    constexpr double schwerstes = 3000;
-    QPolygonF kurve;
-    for (std::size_t woche = 0; woche < m_wochengewichte.size(); ++woche) {
-        const double kilogramm = m_wochengewichte[woche];
-        if (std::isnan(kilogramm)) {
+    QPainterPath kurve;
+    for (std::size_t woche = 1; woche < m_wochengewichte.size(); ++woche) {
+        const QPointF von(wochenstellen[woche - 1], m_wochengewichte[woche - 1]);
+        const QPointF bis(wochenstellen[woche], m_wochengewichte[woche]);
+        if (!std::isfinite(von.y()) || !std::isfinite(bis.y())) {
             break;
         }
-        kurve << QPointF(wochenstellen[woche], std::clamp(kilogramm, -schwerstes, schwerstes));
+        fuegeAn(kurve, QLineF(von, bis));
     }
     maler.setPen(stift(Qt::blue, kurvenstrich));
-    maler.drawPolyline(kurve);
+    maler.setBrush(Qt::NoBrush);
+    maler.drawPath(kurve);
 }
 
 void GewichtsverlaufView::zeichnen(QPainter &maler, const QRectF &bounds) const
@@ -133,19 +193,37 @@ void GewichtsverlaufView::zeichnen(QPainter &maler, const QRectF &bounds) const
 
 QString GewichtsverlaufView::beschreibung() const
 {
-    const auto kilogramm = [](float wert) {
-        return QLocale().toString(wert, 'f', 1) + QChar(QChar::Nbsp) + QStringLiteral("kg");
-    }; // no line ends between a number and its unit
-    QString verlauf =
-        QCoreApplication::translate("Mahlberg", "Gewicht heute %1, nach einer Woche %2, nach zwei "
-                                                "%3, nach drei %4, nach vier %5.")
-            .arg(kilogramm(a()), kilogramm(b()), kilogramm(c()), kilogramm(d()), kilogramm(e()));
-    if (m_groesse == 0.0F) {
-        return verlauf;
+    QStringList saetze;
+    if (m_gewicht != 0.0F) {
+        saetze << uebersetzt(QT_TRANSLATE_NOOP("Mahlberg",
+                                               "Gewicht heute %1, nach einer Woche %2, nach zwei "
+                                               "%3, nach drei %4, nach vier %5."))
+                      .arg(genaueKilogramm(m_gewichtHeute), veraenderung(b()), veraenderung(c()),
+                           veraenderung(d()), veraenderung(e()));
     }
-    return verlauf + u' ' +
-           QCoreApplication::translate("Mahlberg", "Gesund sind %1 bis %2.")
-               .arg(kilogramm(m_unteresbmigewicht), kilogramm(m_oberesbmigewicht));
+    if (m_groesse != 0.0F) {
+        saetze << uebersetzt(QT_TRANSLATE_NOOP("Mahlberg", "Gesund sind %1 bis %2."))
+                      .arg(kilogramm(m_unteresbmigewicht), kilogramm(m_oberesbmigewicht));
+    }
+    return saetze.join(u' ');
+}
+
+/// How much a week's weight differs from the chart's first one. The chart leaves out today's
+/// fraction of a kilogram: that would be missing in every weight, but not in what is lost or
+/// gained.
+QString GewichtsverlaufView::veraenderung(float gewicht) const
+{
+    const float mehr = gewicht - a();
+    if (!std::isfinite(mehr)) {
+        return uebersetzt(QT_TRANSLATE_NOOP("Mahlberg", "unbekannt"));
+    }
+    const QString betrag = kilogramm(std::fabs(mehr));
+    if (betrag == kilogramm(0)) {
+        return uebersetzt(QT_TRANSLATE_NOOP("Mahlberg", "unverändert"));
+    }
+    return (mehr > 0 ? uebersetzt(QT_TRANSLATE_NOOP("Mahlberg", "%1 mehr"))
+                     : uebersetzt(QT_TRANSLATE_NOOP("Mahlberg", "%1 weniger")))
+        .arg(betrag);
 }
 
 QSize GewichtsverlaufView::sizeHint() const

@@ -15,6 +15,9 @@ public:
 
     /// The weight in whole kilograms; it counts for the projection that `wert3` makes.
     void wert1(int kilogramm);
+    /// Today's weight in kg with its fraction, for the words alone. Without it, until the next
+    /// `wert1`, they name the whole kilograms.
+    void setGewichtHeute(float kilogramm) { m_gewichtHeute = kilogramm; }
     /// The requirement in kcal a day at that weight; it counts for the projection that `wert3`
     /// makes.
     void wert2(int kilokalorien);
@@ -38,10 +41,15 @@ public:
     float unteresbmigewicht() const { return m_unteresbmigewicht; }
     float oberesbmigewicht() const { return m_oberesbmigewicht; }
 
+    /// The curve lies where its weights are, also where it leaves the chart and comes back; it ends
+    /// before the first weight that is infinite or undefined.
+    ///
     /// Nothing is drawn beyond the chart's 330 by 240 points, however large the view: a weight
     /// above 240 kg can't be seen. The bands end at 230 kg; a band that would begin above that, or
-    /// that has no height, is left out. The curve ends before the first weight that is no number.
+    /// that has no height, is left out.
     void zeichnen(QPainter &maler, const QRectF &bounds) const override;
+    /// The course in words: today's weight, and how much more or less it is after each week.
+    /// Without a weight it says nothing of it, without a height nothing of what is healthy.
     QString beschreibung() const override;
     QSize sizeHint() const override;
     QSize minimumSizeHint() const override;
@@ -49,8 +57,10 @@ public:
 private:
     void zeichneBaender(QPainter &maler) const;
     void zeichneKurve(QPainter &maler) const;
+    QString veraenderung(float gewicht) const;
 
     float m_gewicht = 0;
+    float m_gewichtHeute = 0;
     int m_kalorienbedarf = 0;
     int m_kalorienerrechnet = 0;
     float m_groesse = 0;

@@ -768,6 +768,10 @@ Nothing is worked out for children under 10 years; it resumes at 11 years.</tr
   <translation>% of the daily need in </translation>
  </message>
  <message>
+  <source>%1 mehr</source>
+  <translation>%1 more</translation>
+ </message>
+ <message>
   <source>%1 von %2</source>
   <translation>%1 of %2</translation>
  </message>
@@ -778,6 +782,10 @@ Nothing is worked out for children under 10 years; it resumes at 11 years.</tr
  <message>
   <source>%1 von 21 Punkten</source>
   <translation>%1 of 21 points</translation>
+ </message>
+ <message>
+  <source>%1 weniger</source>
+  <translation>%1 less</translation>
  </message>
  <message>
   <source>&amp;Ablage</source>
@@ -864,8 +872,24 @@ Nothing is worked out for children under 10 years; it resumes at 11 years.</tr
   <translation>&amp;About Mahlberg</translation>
  </message>
  <message>
+  <source>100 % der Energie = %1 am Tag</source>
+  <translation>100 % of the energy = %1 a day</translation>
+ </message>
+ <message>
+  <source>100 % der Energie = %1 am Tag (zum Abnehmen)</source>
+  <translation>100 % of the energy = %1 a day (to lose weight)</translation>
+ </message>
+ <message>
+  <source>100 % der Energie: noch nicht bekannt (unter „Körper und Energie“)</source>
+  <translation>100 % of the energy: not known yet (under “Body and energy”)</translation>
+ </message>
+ <message>
   <source>A&amp;lles auswählen</source>
   <translation>Select &amp;all</translation>
+ </message>
+ <message>
+  <source>Abbrechen</source>
+  <translation>Cancel</translation>
  </message>
  <message>
   <source>Achtung !</source>
@@ -960,10 +984,6 @@ Nothing is worked out for children under 10 years; it resumes at 11 years.</tr
   <translation>The plan is empty</translation>
  </message>
  <message>
-  <source>Der Verlauf erscheint, sobald unter „Körper und Energie“ Gewicht und Größe stehen.</source>
-  <translation>The course appears as soon as weight and height are entered under “Body and energy”.</translation>
- </message>
- <message>
   <source>Detaillierte Liste</source>
   <translation>Detailed list</translation>
  </message>
@@ -976,6 +996,14 @@ Nothing is worked out for children under 10 years; it resumes at 11 years.</tr
   <translation>Diabetes</translation>
  </message>
  <message>
+  <source>Die ausgewählte Zeile gibt es nicht mehr.</source>
+  <translation>The selected row is no more.</translation>
+ </message>
+ <message>
+  <source>Die ausgewählte Zeile steht für „%1“.</source>
+  <translation>The selected row stands for “%1”.</translation>
+ </message>
+ <message>
   <source>Die Datei „%1“ lässt sich nicht schreiben. Vielleicht ist der Ordner geschützt oder kein Platz mehr frei.</source>
   <translation>The file “%1” cannot be written. Perhaps the folder is protected or there is no space left.</translation>
  </message>
@@ -986,6 +1014,14 @@ Nothing is worked out for children under 10 years; it resumes at 11 years.</tr
  <message>
   <source>Die gewählten Seiten gibt es nicht.</source>
   <translation>The chosen pages do not exist.</translation>
+ </message>
+ <message>
+  <source>Die Tabelle zeigt den Plan vor dem letzten Verschieben.</source>
+  <translation>The table shows the plan before the last move.</translation>
+ </message>
+ <message>
+  <source>Die Zeilen stehen für andere Lebensmittel.</source>
+  <translation>Its rows stand for other foods.</translation>
  </message>
  <message>
   <source>Drucken</source>
@@ -1068,6 +1104,14 @@ Nothing is worked out for children under 10 years; it resumes at 11 years.</tr
   <translation>Woman</translation>
  </message>
  <message>
+  <source>Für den Verlauf fehlen Gewicht und Größe (unter „Körper und Energie“).</source>
+  <translation>The course needs weight and height (under “Body and energy”).</translation>
+ </message>
+ <message>
+  <source>Für den Verlauf fehlt das Gewicht (unter „Körper und Energie“).</source>
+  <translation>The course needs the weight (under “Body and energy”).</translation>
+ </message>
+ <message>
   <source>Gesamt</source>
   <translation>Total</translation>
  </message>
@@ -1082,6 +1126,10 @@ Nothing is worked out for children under 10 years; it resumes at 11 years.</tr
  <message>
   <source>Gewicht heute %1, nach einer Woche %2, nach zwei %3, nach drei %4, nach vier %5.</source>
   <translation>Weight today %1, after one week %2, after two %3, after three %4, after four %5.</translation>
+ </message>
+ <message>
+  <source>Gewicht oder Größe sind inzwischen neu: Der Verlauf folgt mit der nächsten Änderung am Plan.</source>
+  <translation>Weight or height are new by now: the course follows with the next change of the plan.</translation>
  </message>
  <message>
   <source>Gicht</source>
@@ -1220,6 +1268,10 @@ Nothing is worked out for children under 10 years; it resumes at 11 years.</tr
   <translation>Amount of food (100g)</translation>
  </message>
  <message>
+  <source>Menge, g. Komma und Punkt trennen beide die Nachkommastellen: 12,5 oder 12.5</source>
+  <translation>Amount, g. Comma and point both part the decimals: 12,5 or 12.5</translation>
+ </message>
+ <message>
   <source>Mg</source>
   <translation>Mg</translation>
  </message>
@@ -1260,12 +1312,20 @@ Nothing is worked out for children under 10 years; it resumes at 11 years.</tr
   <translation>Values: Swiss Food Composition Database, generic foods, version 7.0 of 1 July 2025. Publisher: Federal Food Safety and Veterinary Office FSVO, Switzerland. Free use, subject to acknowledgment of the source. Names, choice and ratings of the foods are Mahlberg’s own.</translation>
  </message>
  <message>
+  <source>Ohne Größe (unter „Körper und Energie“) ist nicht bekannt, welches Gewicht gesund ist: Die Farben sagen noch nichts.</source>
+  <translation>Without the height (under “Body and energy”) it is not known which weight is healthy: the colours say nothing yet.</translation>
+ </message>
+ <message>
   <source>Ph</source>
   <translation>Ph</translation>
  </message>
  <message>
   <source>Phosphat</source>
   <translation>Phosphate</translation>
+ </message>
+ <message>
+  <source>Plan neu zeigen</source>
+  <translation>Show the plan anew</translation>
  </message>
  <message>
   <source>Planmodul</source>
@@ -1286,6 +1346,10 @@ Nothing is worked out for children under 10 years; it resumes at 11 years.</tr
  <message>
   <source>Schließen</source>
   <translation>Close</translation>
+ </message>
+ <message>
+  <source>Seite %1 von %2</source>
+  <translation>Page %1 of %2</translation>
  </message>
  <message>
   <source>Soll</source>
@@ -1334,6 +1398,14 @@ Nothing is worked out for children under 10 years; it resumes at 11 years.</tr
  <message>
   <source>Ueberg.</source>
   <translation>Overw.</translation>
+ </message>
+ <message>
+  <source>unbekannt</source>
+  <translation>unknown</translation>
+ </message>
+ <message>
+  <source>unverändert</source>
+  <translation>unchanged</translation>
  </message>
  <message>
   <source>Version %1</source>
@@ -1404,6 +1476,14 @@ Nothing is worked out for children under 10 years; it resumes at 11 years.</tr
   <translation>Drag your favourite items into the toolbar …</translation>
  </message>
  <message>
+  <source>Zunahme</source>
+  <translation>Gain</translation>
+ </message>
+ <message>
+  <source>Zunahme des Gewichts in diesem Zeitraum</source>
+  <translation>Gain of weight in this period</translation>
+ </message>
+ <message>
   <source>Zweimal zugleich geöffnet, überschreibt das eine die Lebensmittel und den Plan des anderen.</source>
   <translation>Opened twice at once, one overwrites the foods and the plan of the other.</translation>
  </message>
@@ -1472,6 +1552,14 @@ Nothing is worked out for children under 10 years; it resumes at 11 years.</tr
   <translation>far outside the favourable range</translation>
  </message>
  <message>
+  <source>Änderung</source>
+  <translation>Change</translation>
+ </message>
+ <message>
+  <source>Änderung des Gewichts in diesem Zeitraum</source>
+  <translation>Change of weight in this period</translation>
+ </message>
+ <message>
   <source>Über &amp;Qt</source>
   <translation>About &amp;Qt</translation>
  </message>
@@ -1486,6 +1574,10 @@ Nothing is worked out for children under 10 years; it resumes at 11 years.</tr
  <message>
   <source>„%1“ ist gesichert. Kreis, Balken und Farben zeigen noch das Lebensmittel davor.</source>
   <translation>“%1” is saved. Circle, bars and colours still show the food before.</translation>
+ </message>
+ <message>
+  <source>„%1“ ist keine Menge. Es bleibt bei %2 g.</source>
+  <translation>“%1” is no amount. It stays %2 g.</translation>
  </message>
  <message>
   <source>… oder ziehen Sie den Standardsatz in die Symbolleiste. Was Sie aus der Leiste herausziehen, verschwindet.</source>

@@ -4,15 +4,18 @@
 #include <QAction>
 #include <QApplication>
 #include <QDialogButtonBox>
+#include <QElapsedTimer>
 #include <QFile>
 #include <QLabel>
 #include <QLineEdit>
 #include <QMessageBox>
 #include <QPainter>
+#include <QPointer>
 #include <QPrintDialog>
 #include <QPrintPreviewDialog>
 #include <QPrintPreviewWidget>
 #include <QPrinter>
+#include <QProgressDialog>
 #include <QPushButton>
 #include <QSettings>
 #include <QTest>
@@ -36,6 +39,13 @@ private Q_SLOTS:
     void pagesThatDoNotExistAreNotPrinted();
     void anUnwritablePdfIsTold_data();
     void anUnwritablePdfIsTold();
+    void pagesAreCountedWhileTheyAreMade();
+    void aCancelledPdfLeavesNoHalfFile_data();
+    void aCancelledPdfLeavesNoHalfFile();
+    void aFolderOrDeviceIsNotTakenAway();
+    void manyPagesCanBeCancelled_data();
+    void manyPagesCanBeCancelled();
+    void fewPagesShowNoProgress();
     void thePreviewBeginsWithTheSharedPageSetup();
     void thePageSetupIsKeptForTheNextPrint();
     void theTitleMakesAFileName_data();
@@ -140,10 +150,10 @@ QPrintPreviewDialog *TestDrucktuer::oeffne(const Druckauftrag &auftrag)
         return 0;
     });
     tuer(&m_fenster, auftrag);
-    auto *vorschau = m_fenster.findChild<QPrintPreviewDialog *>();
+    const QPointer<QPrintPreviewDialog> vorschau = m_fenster.findChild<QPrintPreviewDialog *>();
     // A machine with printers asks for one of them; these tests are about files.
     vorschau->printer()->setOutputFormat(QPrinter::PdfFormat);
-    return QTest::qWaitForWindowExposed(vorschau) ? vorschau : nullptr;
+    return QTest::qWaitForWindowExposed(vorschau) ? vorschau.data() : nullptr;
 }
 
 void TestDrucktuer::pagesLeaveThePrinterInOrder_data()
@@ -256,6 +266,115 @@ void TestDrucktuer::anUnwritablePdfIsTold()
     const auto grund = drucke(drucker, beziffert(1));
     QVERIFY(grund);
     QVERIFY2(grund->contains(pdf), qPrintable(*grund));
+}
+
+void TestDrucktuer::pagesAreCountedWhileTheyAreMade()
+{
+    QPrinter drucker(QPrinter::HighResolution);
+    drucker.setOutputFormat(QPrinter::PdfFormat);
+    Druckprobe probe(Druckprobe::papier(QPageSize::A4, QPageLayout::Portrait));
+    drucker.setOutputFileName(probe.pdf());
+    QList<std::pair<int, int>> gezaehlt;
+    QVERIFY(!drucke(drucker, beziffert(3), [&gezaehlt](int fertig, int gesamt) {
+        gezaehlt << std::pair(fertig, gesamt);
+        return true;
+    }));
+    const QList<std::pair<int, int>> erwartet = {{0, 3}, {1, 3}, {2, 3}, {3, 3}};
+    QCOMPARE(gezaehlt, erwartet);
+    QCOMPARE(probe.seiten(), 3);
+}
+
+void TestDrucktuer::aCancelledPdfLeavesNoHalfFile_data()
+{
+    QTest::addColumn<int>("letzte");
+    QTest::addColumn<bool>("bleibt");
+    QTest::newRow("before the first page") << 0 << false;
+    QTest::newRow("after the first page") << 1 << false;
+    QTest::newRow("before the last page") << 4 << false;
+    QTest::newRow("after the last page: nothing is missing") << 5 << true;
+}
+
+void TestDrucktuer::aCancelledPdfLeavesNoHalfFile()
+{
+    QFETCH(int, letzte);
+    QFETCH(bool, bleibt);
+    const QString pdf = m_ordner.filePath(QStringLiteral("halb.pdf"));
+    QFile::remove(pdf);
+    QPrinter drucker(QPrinter::HighResolution);
+    drucker.setOutputFormat(QPrinter::PdfFormat);
+    drucker.setOutputFileName(pdf);
+    QVERIFY(!drucke(drucker, beziffert(5),
+                    [letzte](int fertig, int) { return fertig < letzte; })); // is no failure
+    QCOMPARE(QFile::exists(pdf), bleibt);
+    QVERIFY(!drucke(drucker, beziffert(1))); // the printer can be used again
+    QVERIFY(QFile::exists(pdf));
+}
+
+void TestDrucktuer::aFolderOrDeviceIsNotTakenAway()
+{
+    QPrinter drucker(QPrinter::HighResolution);
+    drucker.setOutputFormat(QPrinter::PdfFormat);
+    drucker.setOutputFileName(QStringLiteral("/dev/null"));
+    QVERIFY(!drucke(drucker, beziffert(5), [](int fertig, int) { return fertig < 2; }));
+    QVERIFY(QFile::exists(QStringLiteral("/dev/null")));
+}
+
+void TestDrucktuer::manyPagesCanBeCancelled_data()
+{
+    QTest::addColumn<bool>("vorschau");
+    QTest::newRow("while the preview is made") << true;
+    QTest::newRow("while the print is made") << false;
+}
+
+/// A job of 500 pages that take their time. The user sees how many are done, and cancels.
+void TestDrucktuer::manyPagesCanBeCancelled()
+{
+    QFETCH(bool, vorschau);
+    bool langsam = vorschau;
+    int gemalt = 0;
+    QString worte;
+    Druckauftrag auftrag = beziffert(500);
+    auftrag.male = [&](QPainter &, const QPageLayout &, int) {
+        if (!langsam) {
+            return;
+        }
+        ++gemalt;
+        QElapsedTimer arbeit;
+        arbeit.start();
+        while (arbeit.elapsed() < 10) {
+        }
+        for (QWidget *fenster : QApplication::topLevelWidgets()) {
+            auto *anzeige = qobject_cast<QProgressDialog *>(fenster);
+            if (anzeige != nullptr && anzeige->isVisible() && worte.isNull()) {
+                worte = anzeige->labelText();
+                QTest::mouseClick(anzeige->findChild<QPushButton *>(), Qt::LeftButton);
+            }
+        }
+    };
+    const QString pdf = m_ordner.filePath(QStringLiteral("abgebrochen.pdf"));
+    const QPointer<QPrintPreviewDialog> fenster = oeffne(auftrag);
+    if (!vorschau) {
+        QVERIFY(fenster);
+        langsam = true;
+        fenster->printer()->setOutputFileName(pdf);
+        fenster->findChild<QPrintPreviewWidget *>()->print();
+    }
+    QVERIFY(gemalt > 1 && gemalt < 500);
+    QCOMPARE(worte, QStringLiteral("Seite %1 von 500").arg(gemalt));
+    QTRY_VERIFY(m_fenster.findChild<QPrintPreviewDialog *>() == nullptr); // it closes
+    QVERIFY(!QFile::exists(pdf));
+    QVERIFY(m_meldungen.isEmpty()); // who cancels knows it
+}
+
+void TestDrucktuer::fewPagesShowNoProgress()
+{
+    QPrintPreviewDialog *vorschau = oeffne(beziffert(2));
+    QVERIFY(vorschau);
+    for (const QWidget *fenster : QApplication::topLevelWidgets()) {
+        QVERIFY(qobject_cast<const QProgressDialog *>(fenster) == nullptr);
+    }
+    vorschau->close();
+    QTRY_VERIFY(m_fenster.findChild<QPrintPreviewDialog *>() == nullptr);
 }
 
 void TestDrucktuer::thePreviewBeginsWithTheSharedPageSetup()

@@ -17,6 +17,12 @@ private Q_SLOTS:
     void theChartGetsWhatTheFieldsShow();
     void aWeightThatIsCutOffToNothingDrawsAFlatLine();
     void withoutAHeightThereIsNoBmi();
+    void theWordsSayWhatIsMissing_data();
+    void theWordsSayWhatIsMissing();
+    void everyOpenPlanHearsOfTheClient();
+    void todaysWeightIsNotRounded();
+    void aGainIsCalledAGain();
+    void figuresThatRunOverAreADash();
     void weightAndHeightShowTheBmiAtOnce();
     void aWantedLossGivesTheDays();
     void theButtonCountsTheDaysAnew();
@@ -123,13 +129,110 @@ void TestPlanmodulPrognose::withoutAHeightThereIsNoBmi()
     QCOMPARE(plan().BMI->floatValue(), 0.0F);
     QCOMPARE(plan().BMIneu->floatValue(), 0.0F);
     QCOMPARE(plan().Gewichtsverlust->floatValue(), -0.7F);
-    // Nor are there weights that are healthy or not: a chart would be red all over.
-    QVERIFY(!plan().gewichtview->isVisible());
-    QVERIFY(plan().verlaufworte->text().contains(u"Körper und Energie"_s));
+    // The course is known, but not what is healthy.
+    QVERIFY(plan().gewichtview->isVisible());
+    QVERIFY(qAbs(plan().gewichtview->b() - 79.3F) < 0.0001F);
+    QVERIFY(plan().verlaufworte->text().startsWith(plan().gewichtview->beschreibung() +
+                                                   u" Ohne Größe"_s));
     Planmodul::klient.groesse = 1.8F;
     plan().datenberechnen();
     QVERIFY(plan().gewichtview->isVisible());
     QCOMPARE(plan().verlaufworte->text(), plan().gewichtview->beschreibung());
+}
+
+void TestPlanmodulPrognose::theWordsSayWhatIsMissing_data()
+{
+    QTest::addColumn<float>("gewicht");
+    QTest::addColumn<float>("groesse");
+    QTest::addColumn<bool>("gezeichnet");
+    QTest::addColumn<QString>("worte");
+    QTest::newRow("nothing is known")
+        << 0.0F << 0.0F << false
+        << u"Für den Verlauf fehlen Gewicht und Größe (unter „Körper und Energie“)."_s;
+    QTest::newRow("only the height")
+        << 0.0F << 1.8F << true
+        << u"Gesund sind 64,8 kg bis 81,0 kg. Für den Verlauf fehlt das Gewicht (unter "
+           "„Körper und Energie“)."_s;
+    QTest::newRow("only the weight")
+        << 80.0F << 0.0F << true
+        << u"Gewicht heute 80 kg, nach einer Woche 0,7 kg weniger, nach zwei 1,4 kg weniger, nach "
+           "drei 2,0 kg weniger, nach vier 2,7 kg weniger. Ohne Größe (unter „Körper und "
+           "Energie“) ist nicht bekannt, welches Gewicht gesund ist: Die Farben sagen noch "
+           "nichts."_s;
+}
+
+void TestPlanmodulPrognose::theWordsSayWhatIsMissing()
+{
+    QFETCH(float, gewicht);
+    QFETCH(float, groesse);
+    QFETCH(bool, gezeichnet);
+    QFETCH(QString, worte);
+    oeffne(1800, {.unbereinigt = 2500, .gewicht = gewicht, .groesse = groesse});
+    QCOMPARE(plan().gewichtview->isVisible(), gezeichnet);
+    QCOMPARE(plan().verlaufworte->text().replace(QChar(QChar::Nbsp), u' '), worte);
+}
+
+/// The calculator speaks to a plan of its own, and the user looks at this one.
+void TestPlanmodulPrognose::everyOpenPlanHearsOfTheClient()
+{
+    oeffne(1800, {.unbereinigt = 2500});
+    Planmodul desRechners(m_heim->tueren());
+    desRechners.anthrouebergabegroesse(2);
+    QVERIFY(plan().verlaufworte->text().contains(u"fehlt das Gewicht"_s));
+    desRechners.anthrouebergabegewicht(80);
+    QCOMPARE(plan().BMI->floatValue(), 20.0F);
+    QVERIFY(!plan().verlaufworte->text().contains(u"fehl"_s));
+    QVERIFY(plan().verlaufworte->text().contains(u"nächsten Änderung am Plan"_s));
+    // All else waits for an evaluation.
+    desRechners.anthrouebergabe(2100);
+    desRechners.anthrouebergabe2(2700);
+    QCOMPARE(plan().Kalorienbedarf->intValue(), 2500);
+    QCOMPARE(plan().gesamtkal->floatValue(), 0.0F);
+    QCOMPARE(plan().gewichtview->gewicht(), 0.0F);
+    QCOMPARE(plan().BMIneu->floatValue(), 0.0F);
+    plan().datenberechnen();
+    QCOMPARE(plan().verlaufworte->text(), plan().gewichtview->beschreibung());
+    {
+        const Planmodul nochEiner(m_heim->tueren()); // one that is gone hears nothing
+    }
+    desRechners.anthrouebergabegewicht(100);
+    QCOMPARE(plan().BMI->floatValue(), 25.0F);
+    QVERIFY(plan().verlaufworte->text().startsWith(plan().gewichtview->beschreibung()));
+    QVERIFY(plan().verlaufworte->text().contains(u"inzwischen neu"_s));
+}
+
+void TestPlanmodulPrognose::todaysWeightIsNotRounded()
+{
+    oeffne(1800, {.unbereinigt = 2500, .gewicht = 82.5F, .groesse = 1.8F});
+    QCOMPARE(plan().gewichtview->gewicht(), 82.0F); // the chart has whole kilograms
+    QVERIFY(plan().verlaufworte->text().startsWith(
+        u"Gewicht heute 82,5\u00a0kg, nach einer Woche 0,7\u00a0kg weniger, "_s));
+}
+
+void TestPlanmodulPrognose::aGainIsCalledAGain()
+{
+    oeffne(3200, klient2500);
+    QCOMPARE(plan().aenderungswort->text(), u"Zunahme"_s);
+    QVERIFY(plan().Gewichtsverlust->accessibleName().startsWith(u"Zunahme"_s));
+    QCOMPARE(Planfenster::text(*plan().Gewichtsverlust), u"0,7 kg"_s);
+    QVERIFY(plan().verlaufworte->text().contains(u"nach einer Woche 0,7\u00a0kg mehr"_s));
+    m_fenster->tippeMenge(0, u"10"_s);
+    QCOMPARE(plan().aenderungswort->text(), u"Änderung"_s);
+    QVERIFY(plan().Gewichtsverlust->accessibleName().startsWith(u"Änderung"_s));
+    QVERIFY(plan().Gewichtsverlust->floatValue() < 0);
+}
+
+void TestPlanmodulPrognose::figuresThatRunOverAreADash()
+{
+    oeffne(1800, {.bedarf = 2000, .unbereinigt = 2500, .gewicht = 80, .groesse = 1e-20F});
+    QCOMPARE(Planfenster::text(*plan().BMI), u"-"_s);
+    QCOMPARE(Planfenster::text(*plan().BMIneu), u"-"_s);
+    plan().anthrouebergabegroesse(1.8F);
+    QCOMPARE(Planfenster::text(*plan().BMI), u"24,7"_s);
+    m_fenster->tippeMenge(0, u"3e38"_s); // a number, but what it adds up to is none
+    QCOMPARE(Planfenster::text(*plan().gesamtkal), u"-"_s);
+    m_fenster->tippeMenge(0, u"100"_s);
+    QCOMPARE(Planfenster::text(*plan().gesamtkal), u"90,0 %"_s);
 }
 
 void TestPlanmodulPrognose::weightAndHeightShowTheBmiAtOnce()

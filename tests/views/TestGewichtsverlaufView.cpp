@@ -1,6 +1,8 @@
 #include "Bildprobe.h"
 #include "GewichtsverlaufView.h"
 
+#include <QElapsedTimer>
+
 #include <limits>
 
 /// Points of the chart are counted from its bottom left corner, as kilograms are.
@@ -18,6 +20,10 @@ private Q_SLOTS:
     void bandsStayBelowTheTop();
     void curvePassesTheWeeklyWeights_data();
     void curvePassesTheWeeklyWeights();
+    void heavyWeightsLieWhereTheyAre_data();
+    void heavyWeightsLieWhereTheyAre();
+    void aCurveThatComesBackFromFarAway();
+    void farWeightsArePaintedAsFastAsNearOnes();
     void curveIsThreeAndAHalfPointsWide();
     void axesLieAtTwo();
     void weekLinesLeanOnePointToTheRight_data();
@@ -27,7 +33,9 @@ private Q_SLOTS:
     void nothingIsDrawnOutsideTheChart_data();
     void nothingIsDrawnOutsideTheChart();
     void axesAreSharpAtRatioTwo();
+    void chartSaysWhatItShows_data();
     void chartSaysWhatItShows();
+    void todaysWeightIsSaidAsItIs();
     void cleanup() { m_probe.sichereNachFehler(); }
 
 private:
@@ -192,6 +200,60 @@ void TestGewichtsverlaufView::curvePassesTheWeeklyWeights()
     }
 }
 
+void TestGewichtsverlaufView::heavyWeightsLieWhereTheyAre_data()
+{
+    QTest::addColumn<int>("gewicht");
+    QTest::addColumn<int>("aufnahme");
+    QTest::addColumn<QPoint>("getroffen");
+    QTest::addColumn<QPoint>("daneben"); // where a curve that ended at 3000 kg would lie
+
+    // Nothing is needed, so each 1000 kcal a day are a kilogram a week. Between two weeks lie 80
+    // points, 78 in the first.
+    QTest::newRow("from 30000 kg to -10 in a week: 200 kg after 78 * 29800 / 30010 points")
+        << 30000 << -30010000 << QPoint(79, 200) << QPoint(74, 200);
+    QTest::newRow("from 100 kg to 20100: 200 kg after 78 * 100 / 20000 points, half a point")
+        << 100 << 20000000 << QPoint(3, 200) << QPoint(5, 200);
+    QTest::newRow("from -20000 kg to 50 in a week: 40 kg after 78 * 20040 / 20050 points")
+        << -20000 << 20050000 << QPoint(79, 40) << QPoint(74, 40);
+}
+
+void TestGewichtsverlaufView::heavyWeightsLieWhereTheyAre()
+{
+    QFETCH(int, gewicht);
+    QFETCH(int, aufnahme);
+    QFETCH(QPoint, getroffen);
+    QFETCH(QPoint, daneben);
+    male(gewicht, 0, aufnahme, 0.5F);
+    QVERIFY(farbe(getroffen.x(), getroffen.y()).blue() > 100);
+    QCOMPARE(farbe(daneben.x(), daneben.y()), rot);
+}
+
+/// 100000 kg lose half of it in each week: 50000, 0, -50000 after the third. Only where it passes
+/// the chart is it seen, at the end of the second week.
+void TestGewichtsverlaufView::aCurveThatComesBackFromFarAway()
+{
+    male(100000, 0, -50000000, 0.5F);
+    QCOMPARE(farbe(157, 120), rot);
+    QVERIFY(farbe(159, 120).blue() > 100);
+    for (const int x : {20, 78, 120, 200, 238, 300}) {
+        for (const int y : {10, 120, 225}) {
+            QCOMPARE(farbe(x, y), rot);
+        }
+    }
+}
+
+void TestGewichtsverlaufView::farWeightsArePaintedAsFastAsNearOnes()
+{
+    GewichtsverlaufView view;
+    stelle(view, std::numeric_limits<int>::max(), 0, std::numeric_limits<int>::min(), 1.8F);
+    QElapsedTimer uhr;
+    uhr.start();
+    for (int i = 0; i < 20; ++i) {
+        m_probe.male(view, groesse, 2);
+    }
+    QVERIFY2(uhr.elapsed() < 5000, qPrintable(QString::number(uhr.elapsed())));
+}
+
 void TestGewichtsverlaufView::curveIsThreeAndAHalfPointsWide()
 {
     // From 118.25 to 121.75: two rows between are full, the two at the edges three quarters.
@@ -334,20 +396,64 @@ void TestGewichtsverlaufView::axesAreSharpAtRatioTwo()
     QCOMPARE(farbe(80, 161), gruen);
 }
 
+void TestGewichtsverlaufView::chartSaysWhatItShows_data()
+{
+    QTest::addColumn<int>("gewicht");
+    QTest::addColumn<int>("bedarf");
+    QTest::addColumn<int>("aufnahme");
+    QTest::addColumn<float>("meter");
+    QTest::addColumn<QString>("worte");
+    const QString verlust =
+        QStringLiteral("Gewicht heute 80_kg, nach einer Woche 1,0_kg weniger, nach zwei 2,0_kg "
+                       "weniger, nach drei 2,9_kg weniger, nach vier 3,8_kg weniger.");
+    QTest::newRow("a loss, no height") << 80 << 2500 << 1500 << 0.0F << verlust;
+    QTest::newRow("a loss and what is healthy")
+        << 80 << 2500 << 1500 << 1.8F
+        << verlust + QStringLiteral(" Gesund sind 64,8_kg bis 81,0_kg.");
+    // Nothing is needed: 500 kcal a day are half a kilogram a week.
+    QTest::newRow("a gain is called one")
+        << 80 << 0 << 500 << 0.0F
+        << QStringLiteral("Gewicht heute 80_kg, nach einer Woche 0,5_kg mehr, nach zwei 1,0_kg "
+                          "mehr, nach drei 1,5_kg mehr, nach vier 2,0_kg mehr.");
+    QTest::newRow("no change")
+        << 80 << 2000 << 2000 << 0.0F
+        << QStringLiteral("Gewicht heute 80_kg, nach einer Woche unverändert, nach zwei "
+                          "unverändert, nach drei unverändert, nach vier unverändert.");
+    QTest::newRow("no thousands are parted")
+        << 12000 << 0 << 1500000 << 0.0F
+        << QStringLiteral("Gewicht heute 12000_kg, nach einer Woche 1500,0_kg mehr, nach zwei "
+                          "3000,0_kg mehr, nach drei 4500,0_kg mehr, nach vier 6000,0_kg mehr.");
+    QTest::newRow("no weight, but a height")
+        << 0 << 2000 << 2000 << 1.8F << QStringLiteral("Gesund sind 64,8_kg bis 81,0_kg.");
+    QTest::newRow("neither") << 0 << 2000 << 2000 << 0.0F << QString();
+}
+
 void TestGewichtsverlaufView::chartSaysWhatItShows()
+{
+    QFETCH(int, gewicht);
+    QFETCH(int, bedarf);
+    QFETCH(int, aufnahme);
+    QFETCH(float, meter);
+    QFETCH(QString, worte);
+    QLocale::setDefault(QLocale(QLocale::German));
+    GewichtsverlaufView view;
+    stelle(view, gewicht, bedarf, aufnahme, meter);
+    // No line may end between a number and its unit.
+    QCOMPARE(view.beschreibung().replace(QChar(QChar::Nbsp), u'_'), worte);
+}
+
+/// The chart reckons in whole kilograms, and half a kilogram lost is not one and a half.
+void TestGewichtsverlaufView::todaysWeightIsSaidAsItIs()
 {
     QLocale::setDefault(QLocale(QLocale::German));
     GewichtsverlaufView view;
-    stelle(view, 80, 2500, 1500, 0);
-    const QString verlauf =
-        QStringLiteral("Gewicht heute 80,0_kg, nach einer Woche 79,0_kg, nach zwei 78,0_kg, "
-                       "nach drei 77,1_kg, nach vier 76,2_kg.");
-    const auto geschrieben = [&view] { // no line may end between a number and its unit
-        return view.beschreibung().replace(QChar(QChar::Nbsp), u'_');
-    };
-    QCOMPARE(geschrieben(), verlauf);
-    view.wert4(1.8F);
-    QCOMPARE(geschrieben(), verlauf + QStringLiteral(" Gesund sind 64,8_kg bis 81,0_kg."));
+    stelle(view, 82, 500, 0, 0);
+    view.setGewichtHeute(82.5F);
+    QCOMPARE(view.a(), 82.0F);
+    QVERIFY(view.beschreibung().startsWith(
+        QStringLiteral("Gewicht heute 82,5\u00a0kg, nach einer Woche 0,5\u00a0kg weniger,")));
+    view.wert1(82); // another client
+    QVERIFY(view.beschreibung().startsWith(QStringLiteral("Gewicht heute 82\u00a0kg,")));
 }
 
 QTEST_MAIN(TestGewichtsverlaufView)
