@@ -20,11 +20,13 @@ void AnthroController::wievielalkohol(const Wertehalter &sender)
     nimmGetraenk(Alkoholanlass::Menge, milliliter);
 }
 
-/// A name that is no drink leaves the alcohol of the previous one and the grams as they stand; the
-/// time is computed all the same.
+/// A name that is no drink leaves the alcohol of the previous one and the grams as they stand, and
+/// words beside it say so; the time is computed all the same.
 void AnthroController::nimmGetraenk(Alkoholanlass anlass, std::int32_t milliliter)
 {
-    if (const Getraenk *getrunken = getraenk(name, anlass)) {
+    const Getraenk *getrunken = getraenk(name, anlass);
+    getraenkworte->setVisible(getrunken == nullptr);
+    if (getrunken != nullptr) {
         if (!getrunken->protokollzeile.isNull()) {
             m_tueren.protokolliere(getrunken->protokollzeile.toString());
         }

@@ -89,7 +89,9 @@ void AnthroController::zeigeMasseWieder()
 void AnthroController::welchersport(const Wertehalter &sender)
 {
     sportname = sender.stringValue();
-    if (const std::optional<std::int32_t> kilokalorien = sportkalorien(sportname)) {
+    const std::optional<std::int32_t> kilokalorien = sportkalorien(sportname);
+    sportworte->setVisible(!kilokalorien);
+    if (kilokalorien) {
         sportkal = *kilokalorien;
         resultatsportkal->setIntValue(sportenergieGanzeStunden(sportkal, sportmenge->intValue()));
         sportmenge->setEnabled(!sportname.isEmpty());

@@ -54,6 +54,20 @@ QStringList namen(const Tabelle &tabelle)
     return ergebnis;
 }
 
+/// The names of a table in both languages.
+template <typename Tabelle>
+QStringList alleNamen(const Tabelle &tabelle)
+{
+    QStringList ergebnis;
+    for (const auto &zeile : tabelle) {
+        ergebnis << zeile.deutsch.toString();
+        if (!zeile.englisch.isNull()) {
+            ergebnis << zeile.englisch.toString();
+        }
+    }
+    return ergebnis;
+}
+
 /// The shortest decimal number that reads back as the same single-precision one: other programs
 /// find 1.8 in the settings, not 1.7999999523162842.
 double kuerzeste(float zahl)
@@ -89,8 +103,10 @@ AnthroController::~AnthroController()
 void AnthroController::fuelleAuswahlen()
 {
     alkohol->addItems(namen(getraenke));
+    alkohol->setWeitereNamen(alleNamen(getraenke));
     alkohol->setStringValue(startgetraenk);
     sport->addItems(namen(sportarten));
+    sport->setWeitereNamen(alleNamen(sportarten));
     sport->setStringValue(QString());
     const QString keiner =
         localizedString(QString::fromUtf8(QT_TRANSLATE_NOOP("Mahlberg", "kein Sport")));

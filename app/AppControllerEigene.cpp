@@ -136,10 +136,12 @@ void AppController::LoescheneigeneLM()
     }
     const int antwort = m_tueren.melde(
         Hauptfenster,
-        {localizedString(QStringLiteral("Achtung !")),
-         localizedString(QStringLiteral(
+        {.text = localizedString(QStringLiteral("Achtung !")),
+         .erklaerung = localizedString(QStringLiteral(
              "Moechten Sie dieses eigene Lebensmittel wirklich dauerhaft loeschen ?  ")),
-         {localizedString(QStringLiteral("Nein")), localizedString(QStringLiteral("Ja"))}});
+         .knoepfe = {localizedString(QStringLiteral("Nein")),
+                     localizedString(QStringLiteral("Ja"))},
+         .gefahr = true});
     if (antwort == 0) {
         return;
     }

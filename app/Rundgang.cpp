@@ -209,7 +209,7 @@ void Rundgang::haltBeimPlan(const QString &name, const QString &worte)
     m_bericht << QStringLiteral("%1. %2").arg(m_halt).arg(worte);
     for (qsizetype i = 0; i < plan.PlanArray.size(); ++i) {
         m_bericht << QStringLiteral("   %1 g %2")
-                         .arg(QLocale().toString(plan.mengenarray[i]),
+                         .arg(zahlenform().toString(plan.mengenarray[i]),
                               localizedString(plan.PlanArray[i]));
     }
     m_bericht << QStringLiteral("   %1; %2 of %3 kcal")

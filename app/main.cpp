@@ -49,12 +49,14 @@ Auftrag leseAuftrag(const QApplication &app)
 /// Asks whether to go on although the program is already at work on the same files.
 bool trotzdemOeffnen()
 {
-    return zeigeMeldung(nullptr, {localizedString(QStringLiteral("Mahlberg ist schon geöffnet.")),
-                                  localizedString(QStringLiteral(
-                                      "Zweimal zugleich geöffnet, überschreibt das eine "
-                                      "die Lebensmittel und den Plan des anderen.")),
-                                  {localizedString(QStringLiteral("Beenden")),
-                                   localizedString(QStringLiteral("Trotzdem öffnen"))}}) == 1;
+    return zeigeMeldung(nullptr,
+                        {.text = localizedString(QStringLiteral("Mahlberg ist schon geöffnet.")),
+                         .erklaerung = localizedString(
+                             QStringLiteral("Zweimal zugleich geöffnet, überschreibt das eine "
+                                            "die Lebensmittel und den Plan des anderen.")),
+                         .knoepfe = {localizedString(QStringLiteral("Beenden")),
+                                     localizedString(QStringLiteral("Trotzdem öffnen"))},
+                         .gefahr = true}) == 1;
 }
 
 } // namespace

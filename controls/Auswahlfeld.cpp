@@ -9,6 +9,8 @@
 #include <QSignalBlocker>
 #include <QStringListModel>
 
+#include <algorithm>
+
 namespace {
 
 /// Offers what its list holds, whatever was typed: the list is made anew with every letter.
@@ -114,8 +116,20 @@ void Auswahlfeld::meldeEingabe()
 {
     if (lineEdit()->isModified()) {
         lineEdit()->setModified(false);
+        setStringValue(nameFuer(stringValue()));
         Q_EMIT betaetigt();
     }
+}
+
+/// The name that was meant: the one that is spelled alike, else the first that is so but for upper
+/// and lower case, else what was typed.
+QString Auswahlfeld::nameFuer(const QString &text) const
+{
+    const QStringList namen = auswahl().split(u'|') + m_weitereNamen;
+    const auto gemeint = std::find_if(namen.begin(), namen.end(), [&text](const QString &name) {
+        return name.compare(text, Qt::CaseInsensitive) == 0;
+    });
+    return namen.contains(text) || gemeint == namen.end() ? text : *gemeint;
 }
 
 void Auswahlfeld::textGeaendert(const QString &text)

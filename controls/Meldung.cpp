@@ -4,13 +4,50 @@
 #include <QMessageBox>
 #include <QPushButton>
 
+#include <algorithm>
+
+namespace {
+
+/// The warning sign is kept for what may destroy something: on every message, nobody sees it.
+QMessageBox::Icon zeichenFuer(const Meldung &meldung)
+{
+    if (meldung.gefahr) {
+        return QMessageBox::Warning;
+    }
+    const bool frage = meldung.verwerfbar || meldung.knoepfe.size() > 1;
+    return frage ? QMessageBox::Question : QMessageBox::Information;
+}
+
+/// Makes room for a text in one line, or for lines that the eye still follows. A message box by
+/// itself is as wide as its heading and breaks the explanation.
+void gibBreite(QMessageBox &kasten, const QString &name, bool fett)
+{
+    auto *feld = kasten.findChild<QLabel *>(name);
+    if (feld == nullptr) {
+        return;
+    }
+    QFont schrift = feld->font();
+    schrift.setBold(fett);
+    feld->setFont(schrift);
+    constexpr int laengsteZeile = 100; // in characters
+    const QFontMetrics mass(schrift);
+    const QMargins rand = feld->contentsMargins();
+    const int text = mass.size(Qt::TextExpandTabs, feld->text()).width() + mass.averageCharWidth();
+    feld->setMinimumWidth(rand.left() + rand.right() +
+                          std::min(text, laengsteZeile * mass.averageCharWidth()));
+}
+
+} // namespace
+
 int zeigeMeldung(QWidget *fenster, const Meldung &meldung)
 {
     QMessageBox kasten(fenster);
-    kasten.setIcon(meldung.verwerfbar ? QMessageBox::Question : QMessageBox::Warning);
+    kasten.setIcon(zeichenFuer(meldung));
     // A message without a heading says its explanation where the heading would stand.
     kasten.setText(meldung.text.isEmpty() ? meldung.erklaerung : meldung.text);
     kasten.setInformativeText(meldung.text.isEmpty() ? QString() : meldung.erklaerung);
+    gibBreite(kasten, QStringLiteral("qt_msgbox_label"), !meldung.text.isEmpty());
+    gibBreite(kasten, QStringLiteral("qt_msgbox_informativelabel"), false);
 
     zeigeAlsKlartext(kasten);
 

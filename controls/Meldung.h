@@ -16,6 +16,7 @@ struct Meldung
     QString erklaerung;
     QStringList knoepfe;
     bool verwerfbar = false; ///< it may be closed without an answer
+    bool gefahr = false;     ///< something of the user's may be lost: it carries the warning sign
 };
 
 /// Shows a message over the window and answers with the number of the pressed button, counted

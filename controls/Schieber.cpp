@@ -1,17 +1,17 @@
 #include "Schieber.h"
 
+#include "Zahlenzeile.h"
+
 #include <QCoreApplication>
 #include <QDoubleSpinBox>
 #include <QEvent>
 #include <QHBoxLayout>
-#include <QLocale>
 #include <QRegularExpression>
 #include <QSignalBlocker>
 #include <QSlider>
 
 #include <algorithm>
 #include <cmath>
-#include <optional>
 
 namespace {
 
@@ -19,17 +19,20 @@ const QEvent::Type auffrischen = static_cast<QEvent::Type>(QEvent::registerEvent
 
 /// The number beside the slider. The comma of the keyboard and the point of its number pad both
 /// mean the decimals, in every language: taken for thousands, 1.85 m would become 1 m, and 1.9
-/// hours 19. Where whole numbers are wanted, 12.5 is rounded rather than becoming 125; three digits
-/// behind the point are thousands there, as nobody means decimals by them.
+/// hours 19. Where whole numbers are wanted, 12.5 is rounded rather than becoming 125.
 class Zahleneingabe : public QDoubleSpinBox
 {
 public:
-    using QDoubleSpinBox::QDoubleSpinBox;
+    explicit Zahleneingabe(QWidget *parent) : QDoubleSpinBox(parent)
+    {
+        setLineEdit(new Zahlenzeile(this));
+        setToolTip(zahlenhinweis());
+    }
 
     double valueFromText(const QString &text) const override
     {
-        const auto geteilt = teile(text);
-        return geteilt ? *geteilt : QDoubleSpinBox::valueFromText(text);
+        const double zahl = zahlAusText(ohneEinheit(text));
+        return decimals() > 0 ? zahl : std::round(zahl);
     }
 
 protected:
@@ -37,39 +40,47 @@ protected:
     {
         QString zahl = ohneEinheit(text);
         const QString einheit = text.mid(zahl.size());
-        const QString komma = locale().decimalPoint();
-        zahl.replace(u'.', komma).replace(u',', komma);
+        entferneTausender(zahl, stelle);
         text = zahl + einheit;
-        const auto geteilt = teile(text);
-        if (!geteilt) {
-            return QDoubleSpinBox::validate(text, stelle);
+        if (decimals() > 0 || !istBruch(zahl)) {
+            return pruefe(text, stelle);
         }
-        if (*geteilt > maximum()) {
+        const double gerundet = valueFromText(text);
+        if (gerundet > maximum()) {
             return QValidator::Invalid;
         }
-        return *geteilt < minimum() ? QValidator::Intermediate : QValidator::Acceptable;
+        return zahl.size() == 1 || gerundet < minimum() ? QValidator::Intermediate
+                                                        : QValidator::Acceptable;
     }
 
 private:
+    /// The mark stays the one that was typed: with another behind it, it may yet part thousands.
+    QValidator::State pruefe(QString &text, int &stelle) const
+    {
+        static const QRegularExpression marken(QStringLiteral("[.,]"));
+        const QString komma = locale().decimalPoint();
+        const qsizetype ort = ohneEinheit(text).indexOf(marken);
+        if (ort < 0) {
+            return QDoubleSpinBox::validate(text, stelle);
+        }
+        const QString getippt = text.mid(ort, 1);
+        text.replace(ort, 1, komma);
+        const QValidator::State urteil = QDoubleSpinBox::validate(text, stelle);
+        if (text.mid(ort, 1) == komma) {
+            text.replace(ort, 1, getippt);
+        }
+        return urteil;
+    }
+
     QString ohneEinheit(const QString &text) const
     {
         return text.endsWith(suffix()) ? text.chopped(suffix().size()) : text;
     }
 
-    /// The whole number that digits parted by a comma or point stand for; absent where decimals are
-    /// wanted, and for any other text.
-    std::optional<double> teile(const QString &text) const
+    static bool istBruch(const QString &zahl)
     {
-        static const QRegularExpression form(QStringLiteral("^(\\d+)[.,](\\d*)$"));
-        const auto teile = form.match(ohneEinheit(text));
-        if (decimals() > 0 || !teile.hasMatch()) {
-            return std::nullopt;
-        }
-        const QString vorn = teile.captured(1);
-        const QString hinten = teile.captured(2);
-        constexpr qsizetype tausender = 3;
-        return hinten.size() == tausender ? (vorn + hinten).toDouble()
-                                          : std::round((vorn + u'.' + hinten).toDouble());
+        static const QRegularExpression form(QStringLiteral("^\\d*[.,]\\d*$"));
+        return form.match(zahl).hasMatch();
     }
 };
 
@@ -187,9 +198,7 @@ void Schieber::zahlEingegeben(double zahl)
 
 QString Schieber::zahlText(double zahl) const
 {
-    QLocale locale;
-    locale.setNumberOptions(QLocale::OmitGroupSeparator);
-    return locale.toString(zahl, 'g', QLocale::FloatingPointShortest);
+    return zahlenform().toString(zahl, 'g', QLocale::FloatingPointShortest);
 }
 
 bool Schieber::event(QEvent *event)

@@ -4,9 +4,9 @@
 #include <QEvent>
 #include <QFocusEvent>
 #include <QGuiApplication>
-#include <QLocale>
 #include <QPalette>
-#include <QRegularExpressionValidator>
+#include <QRegularExpression>
+#include <QValidator>
 
 #include <algorithm>
 #include <cmath>
@@ -19,9 +19,24 @@ const QEvent::Type auffrischen = static_cast<QEvent::Type>(QEvent::registerEvent
 /// More digits behind the comma than this help nobody.
 constexpr int meisteNachkommastellen = 3;
 
+/// Lets the keys of a number pass, as far as any number of a food goes.
+class Zahlenpruefer : public QValidator
+{
+public:
+    using QValidator::QValidator;
+
+    State validate(QString &text, int &stelle) const override
+    {
+        static const QRegularExpression zahl(
+            QRegularExpression::anchoredPattern(QStringLiteral("[0-9]{0,7}([.,][0-9]{0,6})?")));
+        return entferneTausender(text, stelle) && zahl.match(text).hasMatch() ? Acceptable
+                                                                              : Invalid;
+    }
+};
+
 } // namespace
 
-Textfeld::Textfeld(QWidget *parent) : QLineEdit(parent)
+Textfeld::Textfeld(QWidget *parent) : Zahlenzeile(parent)
 {
     QSizePolicy policy = sizePolicy();
     policy.setRetainSizeWhenHidden(true); // a value of 0 hides its field; the others stay in place
@@ -31,7 +46,7 @@ Textfeld::Textfeld(QWidget *parent) : QLineEdit(parent)
     connect(this, &QLineEdit::editingFinished, this, [this] {
         if (isModified()) {
             setModified(false);
-            if (m_decimals >= 0) {
+            if (m_decimals >= 0 || !m_unit.isEmpty()) {
                 setDoubleValue(doubleValue()); // a number field shows what it understood
             }
             Q_EMIT betaetigt();
@@ -46,18 +61,20 @@ void Textfeld::setEditable(bool editable)
     setFrame(editable);
     setFocusPolicy(editable ? Qt::StrongFocus : Qt::ClickFocus);
     einkleiden();
+    erklaeren();
     wertGesetzt();
 }
 
 void Textfeld::setNurZahlen(bool nurZahlen)
 {
-    static const QRegularExpression zahl(QStringLiteral("[0-9]{0,7}([.,][0-9]{0,6})?"));
-    setValidator(nurZahlen ? new QRegularExpressionValidator(zahl, this) : nullptr);
+    setValidator(nurZahlen ? new Zahlenpruefer(this) : nullptr);
+    erklaeren();
 }
 
 void Textfeld::setDecimals(int decimals)
 {
     m_decimals = decimals;
+    erklaeren();
     wertGesetzt();
 }
 
@@ -108,7 +125,7 @@ void Textfeld::einkleiden()
 
 void Textfeld::changeEvent(QEvent *event)
 {
-    QLineEdit::changeEvent(event);
+    Zahlenzeile::changeEvent(event);
     if (event->type() == QEvent::PaletteChange && m_farbe != Textfarbe::Standard &&
         palette().color(QPalette::Text) != farbeFuer(m_farbe, QGuiApplication::palette())) {
         einkleiden();
@@ -123,21 +140,30 @@ void Textfeld::wertGesetzt()
     }
 }
 
-double Textfeld::textZahl(const QString &text) const
+/// An entry for a number says how numbers are typed, unless it has something of its own to say.
+void Textfeld::erklaeren()
 {
-    bool lesbar = false;
-    const double zahl =
-        nurZahlen() ? QLocale::c().toDouble(QString(text).replace(u',', u'.'), &lesbar) : 0;
-    return lesbar ? zahl : Wertehalter::textZahl(text);
+    const QString hinweis = zahlenhinweis();
+    if (nimmtZahl() && toolTip().isEmpty()) {
+        setToolTip(hinweis);
+    } else if (!nimmtZahl() && toolTip() == hinweis) {
+        setToolTip(QString());
+    }
+}
+
+bool Textfeld::nimmtZahl() const
+{
+    return m_editable && (m_decimals >= 0 || nurZahlen());
 }
 
 QString Textfeld::zahlText(double zahl) const
 {
     if (m_decimals < 0) {
-        return Wertehalter::zahlText(zahl);
+        return nurZahlen() ? zahlenform().toString(zahl, 'f', QLocale::FloatingPointShortest)
+                           : Wertehalter::zahlText(zahl);
     }
     if (!m_trailingZeros && zahl == std::trunc(zahl)) {
-        return QLocale().toString(zahl, 'f', 0);
+        return wertText(zahl, 0);
     }
     int stellen = m_decimals;
     if (m_significantDigits > 0 && zahl != 0 && std::isfinite(zahl)) {
@@ -145,11 +171,7 @@ QString Textfeld::zahlText(double zahl) const
         stellen = std::clamp(m_significantDigits - 1 - fuehrend, m_decimals,
                              std::max(m_decimals, meisteNachkommastellen));
     }
-    QLocale locale;
-    if (m_editable) { // so that the text can be typed on
-        locale.setNumberOptions(QLocale::OmitGroupSeparator);
-    }
-    return locale.toString(zahl, 'f', stellen);
+    return wertText(zahl, stellen);
 }
 
 QString Textfeld::angezeigterText() const
@@ -171,7 +193,11 @@ void Textfeld::zeigen()
         const QString neu = angezeigterText();
         if (neu != text()) {
             setText(neu);
-            setCursorPosition(0);
+            if (hasFocus() && nimmtZahl()) {
+                markiereZahl(); // what is typed next is another number
+            } else {
+                setCursorPosition(0);
+            }
         }
     }
 }
@@ -182,30 +208,27 @@ bool Textfeld::event(QEvent *event)
         zeigen();
         return true;
     }
-    return QLineEdit::event(event);
+    return Zahlenzeile::event(event);
 }
 
 void Textfeld::paintEvent(QPaintEvent *event)
 {
     zeigen();
-    QLineEdit::paintEvent(event);
+    Zahlenzeile::paintEvent(event);
 }
 
 void Textfeld::focusInEvent(QFocusEvent *event)
 {
-    QLineEdit::focusInEvent(event);
     if (m_editable && haeltZahl()) {
         m_veraltet = true;
-        zeigen();
-        if (event->reason() == Qt::TabFocusReason || event->reason() == Qt::BacktabFocusReason) {
-            selectAll();
-        }
+        zeigen(); // without its unit, before the number is taken
     }
+    Zahlenzeile::focusInEvent(event);
 }
 
 void Textfeld::focusOutEvent(QFocusEvent *event)
 {
-    QLineEdit::focusOutEvent(event);
+    Zahlenzeile::focusOutEvent(event);
     wertGesetzt();
 }
 

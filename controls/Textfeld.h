@@ -2,20 +2,21 @@
 
 #include "Textfarbe.h"
 #include "Wertehalter.h"
-
-#include <QLineEdit>
+#include "Zahlenzeile.h"
 
 /// A field that shows a value, or takes one from the user when it is editable. A shown number
 /// carries its unit; while the user types in it, the number stands alone.
-class Textfeld : public QLineEdit, public Wertehalter
+class Textfeld : public Zahlenzeile, public Wertehalter
 {
     Q_OBJECT
     /// False: a flat display that is no stop of the Tab key. True: an entry field.
     Q_PROPERTY(bool editable READ isEditable WRITE setEditable)
-    /// True: nothing but a number can be typed. A comma and a point both mean the decimals, in
-    /// every language: thousands can't be parted in such a field.
+    /// True: nothing but a number can be typed, with a comma or a point before the decimals; a mark
+    /// that turns out to part thousands goes away. What was typed is shown to its last digit unless
+    /// `decimals` says otherwise.
     Q_PROPERTY(bool nurZahlen READ nurZahlen WRITE setNurZahlen)
-    /// Digits behind the comma of a shown number; −1 writes it as short as it is.
+    /// Digits behind the comma of a shown number, more where it would look like 0; −1 writes it as
+    /// short as it is.
     Q_PROPERTY(int decimals READ decimals WRITE setDecimals)
     /// Small numbers get more digits behind the comma until this many that matter are seen
     /// (0: never); so 0.012 mg does not show as 0.
@@ -58,8 +59,8 @@ Q_SIGNALS:
 
 protected:
     void wertGesetzt() override;
-    double textZahl(const QString &text) const override;
     QString zahlText(double zahl) const override;
+    bool nimmtZahl() const override;
     bool event(QEvent *event) override;
     void changeEvent(QEvent *event) override;
     void paintEvent(QPaintEvent *event) override;
@@ -69,6 +70,7 @@ protected:
 private:
     void zeigen();
     void einkleiden();
+    void erklaeren();
     QString angezeigterText() const;
 
     bool m_editable = false;

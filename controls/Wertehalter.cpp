@@ -1,38 +1,86 @@
 #include "Wertehalter.h"
 
-#include <QLocale>
 #include <QRegularExpression>
 
+#include <algorithm>
 #include <cmath>
 #include <limits>
 
+namespace {
+
+/// The same digits as programs write them: no mark between the thousands, a point before the
+/// decimals.
+QString ohneTausender(QString ziffern)
+{
+    static const QRegularExpression leerraum(QStringLiteral("\\h"));
+    ziffern.remove(leerraum);
+    const qsizetype letzte = std::max(ziffern.lastIndexOf(u'.'), ziffern.lastIndexOf(u','));
+    if (letzte < 0) {
+        return ziffern;
+    }
+    const QString trennung = ziffern.count(ziffern[letzte]) == 1 ? QStringLiteral(".") : QString();
+    const QString dahinter = ziffern.mid(letzte + 1);
+    return ziffern.left(letzte).remove(u'.').remove(u',') + trennung + dahinter;
+}
+
+bool zeigtMehrAlsNullen(const QString &text)
+{
+    static const QRegularExpression bedeutsam(QStringLiteral("[1-9]"));
+    return text.contains(bedeutsam);
+}
+
+} // namespace
+
 double zahlAusText(const QString &text)
 {
-    static const QRegularExpression vorn(
-        QStringLiteral("^\\s*([+-]?)((?:\\d[\\d.,]*|[.,]\\d+)(?:[eE][+-]?\\d+)?)"));
+    static const QRegularExpression vorn(QStringLiteral(
+        "^[\\s\\h]*([+-]?)(\\d(?:[\\d.,]|\\h(?=\\d))*|[.,]\\d+)((?:[eE][+-]?\\d+)?)"));
     const auto treffer = vorn.match(text);
     if (!treffer.hasMatch()) {
         return 0;
     }
-    QString ziffern = treffer.captured(2);
-    while (ziffern.endsWith(u'.') || ziffern.endsWith(u',')) {
-        ziffern.chop(1);
-    }
-
-    // "0.125" is a small number everywhere; no one groups thousands behind a leading zero.
-    static const QRegularExpression nullPunkt(QStringLiteral("^0*[.,]"));
     bool lesbar = false;
-    double zahl = 0;
-    if (!nullPunkt.match(ziffern).hasMatch()) {
-        zahl = QLocale().toDouble(ziffern, &lesbar);
+    const double zahl = QLocale::c().toDouble(
+        treffer.captured(1) + ohneTausender(treffer.captured(2)) + treffer.captured(3), &lesbar);
+    return lesbar ? zahl : 0;
+}
+
+bool entferneTausender(QString &ziffern, int &stelle)
+{
+    static const QRegularExpression einfach(QStringLiteral("^\\d*[.,]?\\d*$"));
+    static const QRegularExpression gruppen(
+        QStringLiteral("^\\d{1,3}([.,\\h])\\d{3}(?:\\1\\d{3})*(?:\\1|[.,]\\d*)?$"));
+    if (einfach.match(ziffern).hasMatch()) {
+        return true;
     }
-    if (!lesbar) {
-        zahl = QLocale::c().toDouble(ziffern.replace(u',', u'.'), &lesbar);
+    const auto treffer = gruppen.match(ziffern);
+    if (!treffer.hasMatch()) {
+        return false;
     }
-    if (!lesbar) {
-        return 0;
+    const QString trenner = treffer.captured(1);
+    stelle -= static_cast<int>(ziffern.left(stelle).count(trenner));
+    ziffern.remove(trenner);
+    return true;
+}
+
+QLocale zahlenform()
+{
+    QLocale form;
+    form.setNumberOptions(QLocale::OmitGroupSeparator);
+    return form;
+}
+
+QString wertText(double zahl, int nachkommastellen)
+{
+    constexpr int meisteStellen = 6;
+    const QString text = zahlenform().toString(zahl == 0 ? 0.0 : zahl, 'f', nachkommastellen);
+    if (zahl == 0 || !std::isfinite(zahl) || zeigtMehrAlsNullen(text)) {
+        return text;
     }
-    return treffer.captured(1) == QLatin1String("-") ? -zahl : zahl;
+    // Rounded to one digit first: 0.01 in single precision is a little less than that.
+    const int stellen = -QString::number(zahl, 'e', 0).section(u'e', 1).toInt();
+    return stellen <= meisteStellen ? zahlenform().toString(zahl, 'f', stellen)
+                                    : zahlenform().toString(zahl, 'e', 0);
 }
 
 double Wertehalter::doubleValue() const
@@ -40,7 +88,7 @@ double Wertehalter::doubleValue() const
     if (const auto *zahl = std::get_if<double>(&m_wert)) {
         return *zahl;
     }
-    return textZahl(std::get<QString>(m_wert));
+    return zahlAusText(std::get<QString>(m_wert));
 }
 
 int Wertehalter::intValue() const
@@ -76,7 +124,5 @@ void Wertehalter::setStringValue(const QString &text)
 
 QString Wertehalter::zahlText(double zahl) const
 {
-    QLocale locale;
-    locale.setNumberOptions(QLocale::OmitGroupSeparator);
-    return locale.toString(zahl, 'g', 6);
+    return zahlenform().toString(zahl, 'g', 6);
 }

@@ -741,6 +741,10 @@ Nothing is worked out for children under 10 years; it resumes at 11 years.</tr
   <translation>Kind of sport</translation>
  </message>
  <message>
+  <source>unbekannt, zählt nicht</source>
+  <translation>unknown, does not count</translation>
+ </message>
+ <message>
   <source>Verbrauch</source>
   <translation>Energy used</translation>
  </message>
@@ -1206,6 +1210,10 @@ Nothing is worked out for children under 10 years; it resumes at 11 years.</tr
  <message>
   <source>Kohlenhydrate</source>
   <translation>Carbohydrate</translation>
+ </message>
+ <message>
+  <source>Komma und Punkt trennen beide die Nachkommastellen: 12,5 und 12.5 sind dasselbe, 1.500 ist 1,5.</source>
+  <translation>Comma and point both separate the decimals: 12,5 and 12.5 are the same, 1,500 is 1.5.</translation>
  </message>
  <message>
   <source>LM anPlanmodul</source>

@@ -23,6 +23,7 @@ private Q_SLOTS:
     void theGenderColoursGreen();
     void redHasWordsBesideIt();
     void anUnknownDrinkKeepsThePreviousOne();
+    void aNameWithoutEffectIsCalledUnknown();
     void oneNameSpelledInTwoWays();
     void placeholders_data();
     void placeholders();
@@ -229,6 +230,26 @@ void TestAnthroControllerAlkohol::anUnknownDrinkKeepsThePreviousOne()
     QCOMPARE(r.ml->intValue(), 1000);
     QCOMPARE(r.alkgramm->floatValue(), 20.0F);
     QCOMPARE(r.abbaudauer->floatValue(), 10.0F); // 40 g at 4 g per hour
+}
+
+void TestAnthroControllerAlkohol::aNameWithoutEffectIsCalledUnknown()
+{
+    const auto probe = mitMenge(100);
+    AnthroController &r = probe->rechner();
+    QVERIFY(r.getraenkworte->isHidden());
+    QCOMPARE(r.getraenkworte->text(), QStringLiteral("unbekannt, zählt nicht"));
+    const std::pair<const char *, bool> folge[] = {
+        {"Met", true}, {"Pils", false}, {"Pils ", true}, {"vodka", false},   {"Limonade", true},
+        {"-", false},  {"Wein", true},  {" ", false},    {"red wine", false}};
+    for (const auto &[getraenk, unbekannt] : folge) {
+        waehle(r, getraenk);
+        QVERIFY2(r.getraenkworte->isHidden() != unbekannt, getraenk);
+        QCOMPARE(r.alkohol->currentText(), QString::fromUtf8(getraenk)); // as it was typed
+    }
+    waehle(r, "red wine lightbodied"); // counts as soon as its quantity is set
+    QVERIFY(!r.getraenkworte->isHidden());
+    r.wievielalkohol(*r.zieher);
+    QVERIFY(r.getraenkworte->isHidden());
 }
 
 void TestAnthroControllerAlkohol::oneNameSpelledInTwoWays()

@@ -23,6 +23,7 @@ private Q_SLOTS:
     void noSport();
     void anUnknownSportKeepsThePreviousOne_data();
     void anUnknownSportKeepsThePreviousOne();
+    void aNameWithoutEffectIsCalledUnknown();
     void theHoursReadAsTheyWereSent();
 };
 
@@ -102,7 +103,7 @@ void TestAnthroControllerEnergie::losingWeight()
     QCOMPARE(r.kalunbereinigt, 1320);
     QCOMPARE(r.kalfaceview->entscheidungszahl(), 2);
     QCOMPARE(probe->gemerkt("Gewichtredukt"), QVariant(0.0));
-    QCOMPARE(Rechnerprobe::text(*r.resultatkal), QStringLiteral("1.320 kcal"));
+    QCOMPARE(Rechnerprobe::text(*r.resultatkal), QStringLiteral("1320 kcal"));
 }
 
 void TestAnthroControllerEnergie::theFace_data()
@@ -264,6 +265,21 @@ void TestAnthroControllerEnergie::anUnknownSportKeepsThePreviousOne()
     const QStringList gesagt = {QStringLiteral("kal 2782"), QStringLiteral("unbereinigt 2782")};
     QCOMPARE(probe->rufe(), gesagt);
     QCOMPARE(r.kalfaceview->entscheidungszahl(), 2);
+}
+
+void TestAnthroControllerEnergie::aNameWithoutEffectIsCalledUnknown()
+{
+    const auto probe = Rechnerprobe::mitKlient();
+    AnthroController &r = probe->rechner();
+    QVERIFY(r.sportworte->isHidden());
+    QCOMPARE(r.sportworte->text(), QStringLiteral("unbekannt, zählt nicht"));
+    const std::pair<const char *, bool> folge[] = {{"Schach", true},     {"Karate", false},
+                                                   {"Basketball", true}, {"ice-hockey", false},
+                                                   {"Tennis ", true},    {"", false}};
+    for (const auto &[sport, unbekannt] : folge) {
+        r.welchersport(Sender(QString::fromUtf8(sport)));
+        QVERIFY2(r.sportworte->isHidden() != unbekannt, sport);
+    }
 }
 
 void TestAnthroControllerEnergie::theHoursReadAsTheyWereSent()

@@ -390,7 +390,7 @@ void TestEigeneSichern::lookingAtAValueDoesNotRoundIt()
 {
     oeffne();
     m_fenster->klicke(1, inName);
-    QCOMPARE(Probefenster::text(*controller().nafeld), QStringLiteral("1.540 mg"));
+    QCOMPARE(Probefenster::text(*controller().nafeld), QStringLiteral("1540 mg"));
     oeffneKasten();
     for (Textfeld *feld : controller().wertfelder()) {
         feld->setFocus();
@@ -405,7 +405,7 @@ void TestEigeneSichern::lookingAtAValueDoesNotRoundIt()
     QCOMPARE(datei().value(QStringLiteral("Brot")).kal(), 240.25F);
     QCOMPARE(datei().value(QStringLiteral("Brot")).protein(), 7.125F);
     oeffneKasten();
-    QCOMPARE(Probefenster::text(*controller().nafeld), QStringLiteral("1.540 mg"));
+    QCOMPARE(Probefenster::text(*controller().nafeld), QStringLiteral("1540 mg"));
 }
 
 void TestEigeneSichern::aChoiceShowsTheFoodAgain()

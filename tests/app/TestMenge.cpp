@@ -26,6 +26,7 @@ private Q_SLOTS:
     void onlyAHundredGramsCanBeSaved();
     void theValuesAreThoseOfTheAmount();
     void theyAreWorkedOutInSinglePrecision();
+    void aTraceIsNotNothing();
     void theLevelsStayThoseOfAHundredGrams();
     void nothingHidesEveryValue();
     void aNewFoodIsShownForTheAmount();
@@ -233,6 +234,20 @@ void TestMenge::theyAreWorkedOutInSinglePrecision()
     m_fenster->tippeMenge(QStringLiteral("33"));
     QVERIFY(controller().khfeld->floatValue() == 3.7289998531341553F);
     QCOMPARE(Probefenster::text(*controller().khfeld), QStringLiteral("3,7 g"));
+}
+
+void TestMenge::aTraceIsNotNothing()
+{
+    oeffne(verzeichnis(
+        {lebensmittel(QStringLiteral("Gurke"), {{kal, 12}, {protein, 0.6F}, {b1, 0.02F}})}));
+    m_fenster->klicke(0, inName);
+    m_fenster->tippeMenge(QStringLiteral("1"));
+    QCOMPARE(Probefenster::text(*controller().feldB), QStringLiteral("0,1 kcal"));
+    QCOMPARE(Probefenster::text(*controller().proteinfeld), QStringLiteral("0,006 g"));
+    QCOMPARE(Probefenster::text(*controller().b1feld), QStringLiteral("0,0002 mg"));
+    m_fenster->tippeMenge(QStringLiteral("100"));
+    QCOMPARE(Probefenster::text(*controller().proteinfeld), QStringLiteral("0,6 g"));
+    QCOMPARE(Probefenster::text(*controller().b1feld), QStringLiteral("0,020 mg"));
 }
 
 void TestMenge::theLevelsStayThoseOfAHundredGrams()

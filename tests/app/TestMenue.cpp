@@ -37,6 +37,10 @@ private Q_SLOTS:
     void theLanguageIsKept();
     void aLanguageIsTakenAtTheStart_data();
     void aLanguageIsTakenAtTheStart();
+    void keysHaveTheNamesOfTheKeyboard_data();
+    void keysHaveTheNamesOfTheKeyboard();
+    void noNumberPartsItsThousands_data() { aLanguageIsTakenAtTheStart_data(); }
+    void noNumberPartsItsThousands();
     void theToolbarCanBePutAway();
 
 private:
@@ -300,6 +304,40 @@ void TestMenue::aLanguageIsTakenAtTheStart()
         QTEST(QLocale().language(), "erwartet");
     }
     m_heim.reset();
+}
+
+void TestMenue::keysHaveTheNamesOfTheKeyboard_data()
+{
+    QTest::addColumn<QString>("sprache");
+    QTest::addColumn<QStringList>("tasten");
+    QTest::newRow("German") << QStringLiteral("de")
+                            << QStringList{QStringLiteral("Strg+Eingabe"),
+                                           QStringLiteral("Strg+Umschalt+F"),
+                                           QStringLiteral("Strg+P")};
+    QTest::newRow("English") << QStringLiteral("en")
+                             << QStringList{QStringLiteral("Ctrl+Return"),
+                                            QStringLiteral("Ctrl+Shift+F"),
+                                            QStringLiteral("Ctrl+P")};
+}
+
+void TestMenue::keysHaveTheNamesOfTheKeyboard()
+{
+    QFETCH(QStringList, tasten);
+    const QList<QAction *> alle = {eintrag(QStringLiteral("In den Mahlzeitenplan")),
+                                   eintrag(QStringLiteral("Profilsuche")),
+                                   eintrag(QStringLiteral("Drucken …"))};
+    QFETCH(QString, sprache);
+    const Sprache genommen(sprache);
+    for (qsizetype i = 0; i < alle.size(); ++i) {
+        QCOMPARE(alle[i]->shortcut().toString(QKeySequence::NativeText), tasten[i]);
+    }
+}
+
+void TestMenue::noNumberPartsItsThousands()
+{
+    QFETCH(QString, sprache);
+    const Sprache genommen(sprache);
+    QCOMPARE(QLocale().toString(1234567), QStringLiteral("1234567"));
 }
 
 void TestMenue::theToolbarCanBePutAway()

@@ -85,8 +85,8 @@ void TestRechnereingabe::numbersAsPeopleTypeThem_data()
         zeile("hours with a point", "sportmenge", "1.9", 1.9F);
         zeile("hours with a comma", "sportmenge", "1,9", 1.9F);
         zeile("thousands of millilitres", "zieher", "1500", 1500.0F);
-        zeile("thousands parted by a point", "zieher", "1.500", 1500.0F);
-        zeile("thousands parted by a comma", "zieher", "1,500", 1500.0F);
+        zeile("a point before three digits", "zieher", "1.500", 2.0F);
+        zeile("a comma before three digits", "zieher", "1,500", 2.0F);
         zeile("half a millilitre is rounded", "zieher", "330,5", 331.0F);
         zeile("less than that is dropped", "zieher", "330.4", 330.0F);
         zeile("a comma and nothing behind it", "zieher", "330,", 330.0F);

@@ -34,6 +34,7 @@ private Q_SLOTS:
     void aDrinkOfTheOtherLanguageCounts();
     void aSportIsChosenAndTakenBack();
     void aSportSpelledOtherwiseIsNone();
+    void aNameInOtherCaseCounts();
     void theListsSpeakTheLanguageShown_data();
     void theListsSpeakTheLanguageShown();
     void theNextStartKnowsTheClient();
@@ -103,7 +104,7 @@ void TestRechnerfenster::aClientIsTypedIn()
     QCOMPARE(text(*r->hueftumfang), QStringLiteral("86,0 cm"));
     QCOMPARE(text(*r->resultatbmi), QStringLiteral("24,69 kg/m²"));
     QCOMPARE(text(*r->resultatwh), QStringLiteral("0,83"));
-    QCOMPARE(text(*r->resultatkal), QStringLiteral("2.112 kcal"));
+    QCOMPARE(text(*r->resultatkal), QStringLiteral("2112 kcal"));
     QCOMPARE(text(*r->feet), QStringLiteral("5 ft"));
     QCOMPARE(text(*r->inch), QStringLiteral("10 in"));
     QCOMPARE(text(*r->lbs), QStringLiteral("176 lb"));
@@ -198,12 +199,12 @@ void TestRechnerfenster::theSwitchesTakeClicks()
     QCOMPARE(m_heim->einstellungen().value(QStringLiteral("metrik")).toDouble(), 1.0);
     QTest::mouseClick(r->gewichtredu, Qt::LeftButton, {}, QPoint(8, r->gewichtredu->height() / 2));
     QCOMPARE(r->gewichtredu->text(), QStringLiteral("moderat ( -1/5 Kcal)"));
-    QCOMPARE(text(*r->resultatkal), QStringLiteral("1.690 kcal"));
+    QCOMPARE(text(*r->resultatkal), QStringLiteral("1690 kcal"));
     QTest::mouseClick(r->frau, Qt::LeftButton, {}, QPoint(8, r->frau->height() / 2));
     QCOMPARE(text(*r->geschlecht), QStringLiteral("Frau"));
-    QCOMPARE(text(*r->resultatkal), QStringLiteral("1.408 kcal"));
+    QCOMPARE(text(*r->resultatkal), QStringLiteral("1408 kcal"));
     QTest::mouseClick(r->arbeitschwer, Qt::LeftButton, {}, QPoint(8, r->frau->height() / 2));
-    QCOMPARE(text(*r->resultatkal), QStringLiteral("1.920 kcal"));
+    QCOMPARE(text(*r->resultatkal), QStringLiteral("1920 kcal"));
     QCOMPARE(Planmodul::klient.bedarf, 1920);
     QCOMPARE(Planmodul::klient.unbereinigt, 2400);
 }
@@ -300,7 +301,7 @@ void TestRechnerfenster::aSportIsChosenAndTakenBack()
     tippe(*r->sportmenge, QStringLiteral("1,9"));
     QCOMPARE(text(*r->sportstunden), QStringLiteral("1,9 h"));
     QCOMPARE(text(*r->resultatsportkal), QStringLiteral("570 kcal"));
-    QCOMPARE(text(*r->resultatkal), QStringLiteral("2.412 kcal"));
+    QCOMPARE(text(*r->resultatkal), QStringLiteral("2412 kcal"));
     QCOMPARE(Planmodul::klient.bedarf, 2412);
     tippeUndBestaetige(*r->sport, QString());
     QCOMPARE(text(*r->resultatsportkal), QStringLiteral("0 kcal"));
@@ -314,13 +315,38 @@ void TestRechnerfenster::aSportSpelledOtherwiseIsNone()
     zeige("fünf");
     tippeUndBestaetige(*r->sport, QStringLiteral("Baskettball"));
     QCOMPARE(r->sportkal, 360);
-    for (const QString &wort : {QStringLiteral("Basketball"), QStringLiteral("KARATE")}) {
+    QVERIFY(!r->sportworte->isVisible());
+    for (const QString &wort : {QStringLiteral("Basketball"), QStringLiteral("Schach")}) {
         tippeUndBestaetige(*r->sport, wort);
         QCOMPARE(r->sportname, wort);
+        QCOMPARE(r->sport->currentText(), wort);
         QCOMPARE(r->sportkal, 360);
+        QVERIFY(r->sportworte->isVisible());
     }
     tippeUndBestaetige(*r->sport, QStringLiteral("ice-hockey"));
     QCOMPARE(r->sportkal, 510);
+    QVERIFY(!r->sportworte->isVisible());
+}
+
+void TestRechnerfenster::aNameInOtherCaseCounts()
+{
+    gibKlient();
+    zeige("fünf");
+    tippe(*r->zieher, QStringLiteral("100"));
+    const std::pair<const char *, const char *> folge[] = {
+        {"pils", "Pils"}, {"WODKA", "Wodka"}, {"Vodka", "vodka"}, {"GRAPPA", "Grappa"}};
+    for (const auto &[getippt, name] : folge) {
+        tippeUndBestaetige(*r->alkohol, QString::fromUtf8(getippt));
+        QCOMPARE(r->name, QString::fromUtf8(name));
+        QCOMPARE(r->alkohol->currentText(), QString::fromUtf8(name));
+        QVERIFY(!r->getraenkworte->isVisible());
+    }
+    QCOMPARE(text(*r->alkgramm), QStringLiteral("35,6 g"));
+    tippeUndBestaetige(*r->alkohol, QStringLiteral("pilz"));
+    QVERIFY(r->getraenkworte->isVisible());
+    tippeUndBestaetige(*r->sport, QStringLiteral("KARATE"));
+    QCOMPARE(r->sportname, QStringLiteral("Karate"));
+    QCOMPARE(r->sportkal, 670);
 }
 
 void TestRechnerfenster::theListsSpeakTheLanguageShown_data()

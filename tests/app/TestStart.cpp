@@ -267,7 +267,7 @@ void TestStart::theNumberOfFoodsIsThatOfTheBuiltInOnes()
     heim.schreibeEigene(dreiSpeisen());
     const Probefenster fenster(heim);
     QCOMPARE(fenster->LManzahl->intValue(), 1020);
-    QCOMPARE(Probefenster::text(*fenster->LManzahl), QStringLiteral("1.020"));
+    QCOMPARE(Probefenster::text(*fenster->LManzahl), QStringLiteral("1020"));
 }
 
 void TestStart::theAmountIsAHundredGrams()

@@ -22,6 +22,7 @@ private Q_SLOTS:
     void numbersAreSinglePrecision();
     void commaAndPointAreAlike_data();
     void commaAndPointAreAlike();
+    void aNumberIsShownToItsLastDigit();
     void aRatingMustBeEqual_data();
     void aRatingMustBeEqual();
     void anUnknownTextIsMetByNoFood_data();
@@ -248,6 +249,30 @@ void TestSucheProfil::commaAndPointAreAlike()
     tippe(controller().proteineingabe, zahl);
     QTest::keyClick(controller().proteineingabe, Qt::Key_Return);
     QCOMPARE(controller().suchArray, liste("fünf Viertel"));
+}
+
+void TestSucheProfil::aNumberIsShownToItsLastDigit()
+{
+    oeffne({speise("genau", 12.34F, 1234.5F)});
+    QCOMPARE(Probefenster::text(*controller().proteineingabe), QStringLiteral("10 g"));
+    QCOMPARE(Probefenster::text(*controller().kalorieneingabe), QStringLiteral("100 kcal"));
+    schalte(protein_);
+    schalte(energie_);
+    waehle(controller().proteingroesserkleiner, QStringLiteral("="));
+    waehle(controller().kaloriengroesserkleiner, QStringLiteral("="));
+    tippe(controller().proteineingabe, QStringLiteral("12,34"));
+    tippe(controller().kalorieneingabe, QStringLiteral("1.234,5"));
+    QTest::mouseClick(controller().profilsuchen, Qt::LeftButton);
+    controller().suchfeld->setFocus();
+    for (int mal = 0; mal < 2; ++mal) {
+        QCOMPARE(Probefenster::text(*controller().proteineingabe), QStringLiteral("12,34 g"));
+        QCOMPARE(Probefenster::text(*controller().kalorieneingabe), QStringLiteral("1234,5 kcal"));
+        QCOMPARE(controller().suchArray, liste("genau"));
+        controller().profilaufzu->click(); // put away
+        QVERIFY(!controller().proteineingabe->isVisible());
+        controller().profilaufzu->click();
+        QVERIFY(controller().proteineingabe->isVisible());
+    }
 }
 
 void TestSucheProfil::aRatingMustBeEqual_data()

@@ -17,6 +17,8 @@ private Q_SLOTS:
     void aTypedTextCountsWithReturn_data();
     void aTypedTextCountsWithReturn();
     void aTypedTextCountsWhenTheFieldIsLeft();
+    void anEntryInOtherCaseIsTaken_data();
+    void anEntryInOtherCaseIsTaken();
     void aTextIsReportedOnce();
     void entriesThatContainTheTextAreOffered();
     void anOfferIsPickedByKey();
@@ -91,7 +93,6 @@ void TestAuswahlfeld::aTypedTextCountsWithReturn_data()
 {
     QTest::addColumn<QString>("text");
     QTest::newRow("an entry") << QStringLiteral("Wodka");
-    QTest::newRow("an entry in other case stays as typed") << QStringLiteral("wodka");
     QTest::newRow("the beginning of an entry stays as typed") << QStringLiteral("Wod");
     QTest::newRow("no entry") << QStringLiteral("cider");
     QTest::newRow("the entry that stood there") << QStringLiteral("Pils");
@@ -117,6 +118,44 @@ void TestAuswahlfeld::aTypedTextCountsWhenTheFieldIsLeft()
     probe.feld.clearFocus();
     QCOMPARE(probe.feld.stringValue(), QStringLiteral("cider"));
     QCOMPARE(probe.gemeldet.count(), 1);
+}
+
+void TestAuswahlfeld::anEntryInOtherCaseIsTaken_data()
+{
+    QTest::addColumn<QString>("getippt");
+    QTest::addColumn<QString>("name");
+    QTest::newRow("small letters") << QStringLiteral("wodka") << QStringLiteral("Wodka");
+    QTest::newRow("capitals") << QStringLiteral("WODKA LEMON") << QStringLiteral("Wodka Lemon");
+    QTest::newRow("the entry that stood there") << QStringLiteral("pils") << QStringLiteral("Pils");
+    QTest::newRow("a name that is not listed")
+        << QStringLiteral("CIDER") << QStringLiteral("cider");
+    QTest::newRow("the listed one before the other")
+        << QStringLiteral("APFELWEIN") << QStringLiteral("Apfelwein");
+    QTest::newRow("the other as it is spelled")
+        << QStringLiteral("apfelwein") << QStringLiteral("apfelwein");
+    QTest::newRow("no name") << QStringLiteral("wod") << QStringLiteral("wod");
+}
+
+void TestAuswahlfeld::anEntryInOtherCaseIsTaken()
+{
+    QFETCH(QString, getippt);
+    QFETCH(QString, name);
+    for (const bool verlassen : {false, true}) {
+        Getraenkefeld probe;
+        probe.feld.setWeitereNamen({QStringLiteral("cider"), QStringLiteral("apfelwein")});
+        QVERIFY(QTest::qWaitForWindowActive(&probe.feld));
+        QTest::keyClicks(&probe.feld, getippt);
+        QCOMPARE(probe.feld.stringValue(), getippt); // not while it is being typed
+        if (verlassen) {
+            probe.feld.completer()->popup()->hide(); // a click beside it closes it
+            probe.feld.clearFocus();
+        } else {
+            QTest::keyClick(&probe.feld, Qt::Key_Return);
+        }
+        QCOMPARE(probe.feld.stringValue(), name);
+        QCOMPARE(probe.feld.currentText(), name);
+        QCOMPARE(probe.gemeldet.count(), 1);
+    }
 }
 
 void TestAuswahlfeld::aTextIsReportedOnce()

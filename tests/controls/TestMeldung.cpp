@@ -27,6 +27,11 @@ private Q_SLOTS:
     void keysAndClosingAnswer_data();
     void keysAndClosingAnswer();
     void everyButtonAnswersWithItsNumber();
+    void onlyADangerCarriesTheWarningSign_data();
+    void onlyADangerCarriesTheWarningSign();
+    void theMessageStandsOutFromItsExplanation();
+    void itIsAsWideAsItsText_data();
+    void itIsAsWideAsItsText();
     void aMessageWithoutButtonsShowsNothing();
 };
 
@@ -190,6 +195,83 @@ void TestMeldung::everyButtonAnswersWithItsNumber()
         });
         QCOMPARE(gegeben, i);
     }
+}
+
+void TestMeldung::onlyADangerCarriesTheWarningSign_data()
+{
+    QTest::addColumn<QStringList>("knoepfe");
+    QTest::addColumn<bool>("verwerfbar");
+    QTest::addColumn<bool>("gefahr");
+    QTest::addColumn<QMessageBox::Icon>("zeichen");
+    const QStringList ok = {u"ok"_s};
+    const QStringList wahl = {u"Nein"_s, u"Ja"_s};
+    QTest::newRow("something to know") << ok << false << false << QMessageBox::Information;
+    QTest::newRow("a question") << wahl << false << false << QMessageBox::Question;
+    QTest::newRow("a question that may be refused")
+        << drei << true << false << QMessageBox::Question;
+    QTest::newRow("what can't be taken back") << wahl << false << true << QMessageBox::Warning;
+    QTest::newRow("a danger that may be refused") << wahl << true << true << QMessageBox::Warning;
+}
+
+void TestMeldung::onlyADangerCarriesTheWarningSign()
+{
+    QFETCH(QStringList, knoepfe);
+    QFETCH(bool, verwerfbar);
+    QFETCH(bool, gefahr);
+    QMessageBox::Icon zeichen = QMessageBox::NoIcon;
+    zeige({u"Frage"_s, {}, knoepfe, verwerfbar, gefahr},
+          [&](const QMessageBox &kasten) { zeichen = kasten.icon(); });
+    QTEST(zeichen, "zeichen");
+}
+
+void TestMeldung::theMessageStandsOutFromItsExplanation()
+{
+    QStringList fett;
+    const auto sieh = [&](const QMessageBox &kasten) {
+        for (const QLabel *feld : kasten.findChildren<QLabel *>()) {
+            fett << (feld->font().bold() ? feld->text() : QString());
+        }
+        fett.removeAll(QString());
+    };
+    zeige({u"Achtung !"_s, u"Wirklich löschen?"_s, {u"Nein"_s, u"Ja"_s}}, sieh);
+    QCOMPARE(fett, QStringList{u"Achtung !"_s});
+    fett.clear();
+    zeige({{}, u"Bitte einen Namen eingeben"_s, {u"ok"_s}}, sieh);
+    QVERIFY(fett.isEmpty()); // there is nothing for it to stand out from
+}
+
+void TestMeldung::itIsAsWideAsItsText_data()
+{
+    QTest::addColumn<QString>("text");
+    QTest::addColumn<QString>("erklaerung");
+    QTest::addColumn<int>("zeilen");
+    const QString satz = u"Moechten Sie dieses eigene Lebensmittel wirklich dauerhaft loeschen ?"_s;
+    QTest::newRow("a sentence below a word") << u"Achtung !"_s << satz << 1;
+    QTest::newRow("a sentence alone") << QString() << satz << 1;
+    QTest::newRow("a word") << QString() << u"Fertig"_s << 1;
+    QTest::newRow("two sentences in two lines") << u"Achtung !"_s << satz + u'\n' + satz << 2;
+    QTest::newRow("three sentences at a stretch") << u"Achtung !"_s << satz + satz + satz << 3;
+}
+
+void TestMeldung::itIsAsWideAsItsText()
+{
+    QFETCH(QString, text);
+    QFETCH(QString, erklaerung);
+    QFETCH(int, zeilen);
+    zeige({text, erklaerung, {u"Nein"_s, u"Ja"_s}}, [&](const QMessageBox &kasten) {
+        for (const QLabel *feld : kasten.findChildren<QLabel *>()) {
+            if (feld->text() == erklaerung) {
+                const QMargins rand = feld->contentsMargins();
+                const int noetig = feld->heightForWidth(feld->width());
+                const int hoehe = noetig < 0 ? feld->sizeHint().height() : noetig;
+                QCOMPARE((hoehe - rand.top() - rand.bottom()) / feld->fontMetrics().lineSpacing(),
+                         zeilen);
+                QVERIFY(feld->height() >= noetig); // nothing is cut off
+                QVERIFY(feld->wordWrap() || feld->width() >= feld->sizeHint().width());
+            }
+        }
+        QVERIFY(kasten.width() <= 900);
+    });
 }
 
 /// Such a box could not be closed.

@@ -21,6 +21,8 @@ private Q_SLOTS:
     void aTypedNumberIsTakenWithReturn();
     void commaAndPointBothMeanDecimals_data();
     void commaAndPointBothMeanDecimals();
+    void aWholeNumberIsReadLikeAnyOther_data();
+    void aWholeNumberIsReadLikeAnyOther();
     void aNumberBeyondTheRangeIsShownAndNotAltered();
     void aKeyAtTheEndTakesAValueBackIntoTheRange();
     void whatTheUserTypesKeepsToTheRange();
@@ -145,6 +147,47 @@ void TestSchieber::commaAndPointBothMeanDecimals()
     QVERIFY(schieber.eingabe()->text().endsWith(QStringLiteral("Std.")));
 }
 
+void TestSchieber::aWholeNumberIsReadLikeAnyOther_data()
+{
+    QTest::addColumn<QLocale>("sprache");
+    QTest::addColumn<QString>("getippt");
+    QTest::addColumn<double>("zahl");
+    const QLocale deutsch(QLocale::German, QLocale::Germany);
+    const QLocale englisch(QLocale::English, QLocale::UnitedKingdom);
+    const auto zeile = [&](const QString &getippt, double zahl) {
+        QTest::addRow("%s in German", qPrintable(getippt)) << deutsch << getippt << zahl;
+        QTest::addRow("%s in English", qPrintable(getippt)) << englisch << getippt << zahl;
+    };
+    zeile(QStringLiteral("1500"), 1500);
+    zeile(QStringLiteral("12.5"), 13);
+    zeile(QStringLiteral("12,4"), 12);
+    zeile(QStringLiteral("1.500"), 2);
+    zeile(QStringLiteral("1,500"), 2);
+    zeile(QStringLiteral("1.500,4"), 1500);
+    zeile(QStringLiteral("1,500.6"), 1501);
+    zeile(QStringLiteral("1 500"), 1500);
+    zeile(QStringLiteral(",6"), 1);
+    zeile(QStringLiteral(","), 100); // no number: what stood there stays
+}
+
+void TestSchieber::aWholeNumberIsReadLikeAnyOther()
+{
+    QFETCH(QLocale, sprache);
+    QFETCH(QString, getippt);
+    QLocale::setDefault(sprache);
+    Schieber schieber;
+    schieber.setMaximumValue(3000);
+    schieber.setUnit(QStringLiteral("ml"));
+    schieber.setIntValue(100);
+    schieber.show();
+    QVERIFY(QTest::qWaitForWindowActive(&schieber));
+    schieber.eingabe()->setFocus();
+    schieber.eingabe()->selectAll();
+    QTest::keyClicks(schieber.eingabe(), getippt);
+    QTest::keyClick(schieber.eingabe(), Qt::Key_Return);
+    QTEST(schieber.doubleValue(), "zahl");
+}
+
 void TestSchieber::aNumberBeyondTheRangeIsShownAndNotAltered()
 {
     Schieber schieber;
@@ -196,6 +239,8 @@ void TestSchieber::itsTextIsTheNumber()
     QCOMPARE(schieber.stringValue(), QStringLiteral("100"));
     schieber.setDoubleValue(2.5);
     QCOMPARE(schieber.stringValue(), QStringLiteral("2,5"));
+    schieber.setIntValue(2000);
+    QCOMPARE(schieber.stringValue(), QStringLiteral("2000"));
 }
 
 void TestSchieber::itsPartsGoOffWithIt()

@@ -22,6 +22,10 @@ private Q_SLOTS:
     void aDisplayIsNoStopOfTheTabKey();
     void aTypedValueIsHeldAtOnceAndReportedAtTheEnd();
     void anEntryShowsTheBareNumberWhileItIsTyped();
+    void whatWasTypedIsShownToItsLastDigit_data();
+    void whatWasTypedIsShownToItsLastDigit();
+    void aMarkThatPartsThousandsGoesAwayWhileItIsTyped_data();
+    void aMarkThatPartsThousandsGoesAwayWhileItIsTyped();
     void leavingWithoutTypingReportsNothing();
     void aHiddenFieldKeepsItsPlace();
     void theVerdictFollowsTheTheme();
@@ -49,14 +53,18 @@ void TestTextfeld::aNumberIsShownInItsFormatWithItsUnit_data()
         << 155.4 << 0 << 0 << QStringLiteral("kcal") << nbsp(QStringLiteral("155_kcal"));
     QTest::newRow("grams have one")
         << 12.0 << 1 << 0 << QStringLiteral("g") << nbsp(QStringLiteral("12,0_g"));
-    QTest::newRow("thousands are grouped")
-        << 1234.0 << 0 << 0 << mg << nbsp(QStringLiteral("1.234_mg"));
+    QTest::newRow("thousands are not parted")
+        << 1234.0 << 0 << 0 << mg << nbsp(QStringLiteral("1234_mg"));
+    QTest::newRow("a trace of protein")
+        << 0.03 << 1 << 0 << QStringLiteral("g") << nbsp(QStringLiteral("0,03_g"));
+    QTest::newRow("no protein") << 0.0 << 1 << 0 << QStringLiteral("g")
+                                << nbsp(QStringLiteral("0,0_g"));
     QTest::newRow("many milligrams") << 123.4 << 0 << 2 << mg << nbsp(QStringLiteral("123_mg"));
     QTest::newRow("ten milligrams") << 12.34 << 0 << 2 << mg << nbsp(QStringLiteral("12_mg"));
     QTest::newRow("one milligram") << 1.234 << 0 << 2 << mg << nbsp(QStringLiteral("1,2_mg"));
     QTest::newRow("a tenth") << 0.1234 << 0 << 2 << mg << nbsp(QStringLiteral("0,12_mg"));
     QTest::newRow("a hundredth") << 0.01234 << 0 << 2 << mg << nbsp(QStringLiteral("0,012_mg"));
-    QTest::newRow("less still") << 0.0001 << 0 << 2 << mg << nbsp(QStringLiteral("0,000_mg"));
+    QTest::newRow("less still") << 0.0001 << 0 << 2 << mg << nbsp(QStringLiteral("0,0001_mg"));
     QTest::newRow("nothing") << 0.0 << 0 << 2 << mg << nbsp(QStringLiteral("0_mg"));
     QTest::newRow("as short as it is") << 2.5 << -1 << 0 << QString() << QStringLiteral("2,5");
 }
@@ -94,7 +102,7 @@ void TestTextfeld::wholeNumbersCanBeShownWithoutAComma()
     feld.setDoubleValue(7);
     QCOMPARE(feld.stringValue(), QStringLiteral("7"));
     feld.setDoubleValue(-1200);
-    QCOMPARE(feld.stringValue(), QStringLiteral("-1.200"));
+    QCOMPARE(feld.stringValue(), QStringLiteral("-1200"));
     feld.setDoubleValue(7.25);
     QCOMPARE(feld.stringValue(), QStringLiteral("7,3"));
     feld.setTrailingZeros(true);
@@ -171,6 +179,79 @@ void TestTextfeld::anEntryShowsTheBareNumberWhileItIsTyped()
     QTest::keyClicks(feld, QStringLiteral("4,25"));
     andere->setFocus();
     QCOMPARE(feld->doubleValue(), 4.25);
+}
+
+void TestTextfeld::whatWasTypedIsShownToItsLastDigit_data()
+{
+    QTest::addColumn<QString>("getippt");
+    QTest::addColumn<QString>("text");
+    QTest::newRow("whole") << "12" << nbsp(QStringLiteral("12_g"));
+    QTest::newRow("hundredths") << "12,34" << nbsp(QStringLiteral("12,34_g"));
+    QTest::newRow("with a point") << "12.34" << nbsp(QStringLiteral("12,34_g"));
+    QTest::newRow("the smallest") << "0,000001" << nbsp(QStringLiteral("0,000001_g"));
+    QTest::newRow("the largest") << "9999999" << nbsp(QStringLiteral("9999999_g"));
+    QTest::newRow("a mark and nothing else") << "," << nbsp(QStringLiteral("0_g"));
+}
+
+void TestTextfeld::whatWasTypedIsShownToItsLastDigit()
+{
+    QFETCH(QString, getippt);
+    QFETCH(QString, text);
+    QWidget fenster;
+    auto *anordnung = new QVBoxLayout(&fenster);
+    auto *andere = new QLineEdit;
+    auto *feld = new Textfeld;
+    anordnung->addWidget(feld);
+    anordnung->addWidget(andere);
+    feld->setEditable(true);
+    feld->setNurZahlen(true);
+    feld->setUnit(QStringLiteral("g"));
+    feld->setDoubleValue(10);
+    fenster.show();
+    QVERIFY(QTest::qWaitForWindowActive(&fenster));
+    feld->setFocus(Qt::TabFocusReason);
+    QTest::keyClicks(feld, getippt);
+    andere->setFocus();
+    QTRY_COMPARE(feld->text(), text);
+    feld->hide();
+    feld->show();
+    QCoreApplication::processEvents();
+    QCOMPARE(feld->text(), text);
+}
+
+void TestTextfeld::aMarkThatPartsThousandsGoesAwayWhileItIsTyped_data()
+{
+    QTest::addColumn<QString>("getippt");
+    QTest::addColumn<QString>("text");
+    QTest::addColumn<double>("zahl");
+    QTest::newRow("decimals") << "1.234"
+                              << "1.234" << 1.234;
+    QTest::newRow("a point, then a comma") << "1.234,5"
+                                           << "1234,5" << 1234.5;
+    QTest::newRow("a comma, then a point") << "1,234.5"
+                                           << "1234.5" << 1234.5;
+    QTest::newRow("two points") << "1.500.000"
+                                << "1500000" << 1500000.0;
+    QTest::newRow("a comma hit twice") << "1,,5"
+                                       << "1,5" << 1.5;
+    QTest::newRow("blanks") << "1 500"
+                            << "1500" << 1500.0;
+}
+
+void TestTextfeld::aMarkThatPartsThousandsGoesAwayWhileItIsTyped()
+{
+    QFETCH(QString, getippt);
+    Textfeld feld;
+    feld.setEditable(true);
+    feld.setNurZahlen(true);
+    feld.show();
+    QVERIFY(QTest::qWaitForWindowActive(&feld));
+    QTest::keyClicks(&feld, getippt);
+    QTEST(feld.text(), "text");
+    QTEST(feld.doubleValue(), "zahl");
+    feld.selectAll();
+    feld.insert(getippt); // all at once, as from the clipboard
+    QCOMPARE(feld.doubleValue(), zahlAusText(feld.text()));
 }
 
 void TestTextfeld::leavingWithoutTypingReportsNothing()

@@ -47,8 +47,12 @@ class TestWertehalter : public QObject
 
 private Q_SLOTS:
     void init() { QLocale::setDefault(QLocale(QLocale::German, QLocale::Germany)); }
-    void aTypedNumberIsReadInTheUsersLocale_data();
-    void aTypedNumberIsReadInTheUsersLocale();
+    void aTypedNumberIsReadByOneRule_data();
+    void aTypedNumberIsReadByOneRule();
+    void aMarkThatPartsThousandsGoesAway_data();
+    void aMarkThatPartsThousandsGoesAway();
+    void aValueThatCountsNeverShowsAsZero_data();
+    void aValueThatCountsNeverShowsAsZero();
     void aNumberIsHeldExactly();
     void theWholeNumberIsTruncated_data();
     void theWholeNumberIsTruncated();
@@ -60,40 +64,53 @@ private Q_SLOTS:
     void verdictColoursCanBeReadOnBothThemes();
 };
 
-void TestWertehalter::aTypedNumberIsReadInTheUsersLocale_data()
+void TestWertehalter::aTypedNumberIsReadByOneRule_data()
 {
     QTest::addColumn<QString>("sprache");
     QTest::addColumn<QString>("text");
     QTest::addColumn<double>("zahl");
-    const QString de = QStringLiteral("de_DE");
-    const QString en = QStringLiteral("en_GB");
-    QTest::newRow("German decimal comma") << de << QStringLiteral("12,5") << 12.5;
-    QTest::newRow("German with a point") << de << QStringLiteral("12.5") << 12.5;
-    QTest::newRow("German thousands") << de << QStringLiteral("1.250") << 1250.0;
-    QTest::newRow("German thousands and comma") << de << QStringLiteral("1.250,5") << 1250.5;
-    QTest::newRow("zero point is never thousands") << de << QStringLiteral("0.125") << 0.125;
-    QTest::newRow("point without a zero") << de << QStringLiteral(".5") << 0.5;
-    QTest::newRow("comma without a zero") << de << QStringLiteral(",5") << 0.5;
-    QTest::newRow("English decimal point") << en << QStringLiteral("12.5") << 12.5;
-    QTest::newRow("English with a comma") << en << QStringLiteral("12,5") << 12.5;
-    QTest::newRow("English thousands") << en << QStringLiteral("1,250") << 1250.0;
-    QTest::newRow("a dash is 0") << de << QStringLiteral("-") << 0.0;
-    QTest::newRow("nothing is 0") << de << QString() << 0.0;
-    QTest::newRow("blanks are 0") << de << QStringLiteral("   - ") << 0.0;
-    QTest::newRow("a word is 0") << de << QStringLiteral("viel") << 0.0;
-    QTest::newRow("inf is a word") << de << QStringLiteral("inf") << 0.0;
-    QTest::newRow("nan is a word") << de << QStringLiteral("nan") << 0.0;
-    QTest::newRow("negative") << de << QStringLiteral("-3,5") << -3.5;
-    QTest::newRow("plus sign") << de << QStringLiteral("+3") << 3.0;
-    QTest::newRow("blanks before") << de << QStringLiteral("  7") << 7.0;
-    QTest::newRow("a unit behind") << de << QStringLiteral("150,5 kcal") << 150.5;
-    QTest::newRow("a unit without a blank") << de << QStringLiteral("30g") << 30.0;
-    QTest::newRow("a comma left open") << de << QStringLiteral("12,") << 12.0;
-    QTest::newRow("two commas make no German number") << de << QStringLiteral("1,2,3") << 0.0;
-    QTest::newRow("exponent") << de << QStringLiteral("1e3") << 1000.0;
+    const auto zeile = [](const char *was, const QString &text, double zahl) {
+        for (const char *sprache : {"de_DE", "en_GB", "de_CH"}) {
+            QTest::addRow("%s, %s", was, sprache) << QString::fromLatin1(sprache) << text << zahl;
+        }
+    };
+    zeile("a comma", QStringLiteral("12,5"), 12.5);
+    zeile("a point", QStringLiteral("12.5"), 12.5);
+    zeile("a comma before three digits", QStringLiteral("1,250"), 1.25);
+    zeile("a point before three digits", QStringLiteral("1.500"), 1.5);
+    zeile("a point parts thousands, a comma the decimals", QStringLiteral("1.250,5"), 1250.5);
+    zeile("a comma parts thousands, a point the decimals", QStringLiteral("1,250.5"), 1250.5);
+    zeile("points part millions", QStringLiteral("1.500.000"), 1500000.0);
+    zeile("commas part millions", QStringLiteral("1,500,000"), 1500000.0);
+    zeile("points part millions, a comma the decimals", QStringLiteral("1.500.000,25"), 1500000.25);
+    zeile("what stands twice parts thousands only", QStringLiteral("1,2,3"), 123.0);
+    zeile("a blank parts thousands", QStringLiteral("1 500"), 1500.0);
+    zeile("a blank that does not break", QStringLiteral("1\u00A0500,5"), 1500.5);
+    zeile("a narrow blank", QStringLiteral("1\u202F500.5"), 1500.5);
+    zeile("a thin blank", QStringLiteral("1\u2009500"), 1500.0);
+    zeile("a zero and a point", QStringLiteral("0.125"), 0.125);
+    zeile("a point without a zero", QStringLiteral(".5"), 0.5);
+    zeile("a comma without a zero", QStringLiteral(",5"), 0.5);
+    zeile("a comma left open", QStringLiteral("12,"), 12.0);
+    zeile("a point left open behind thousands", QStringLiteral("1.500."), 1500.0);
+    zeile("a dash is 0", QStringLiteral("-"), 0.0);
+    zeile("nothing is 0", QString(), 0.0);
+    zeile("blanks are 0", QStringLiteral("   - "), 0.0);
+    zeile("a word is 0", QStringLiteral("viel"), 0.0);
+    zeile("inf is a word", QStringLiteral("inf"), 0.0);
+    zeile("nan is a word", QStringLiteral("nan"), 0.0);
+    zeile("more than a number can hold is 0", QStringLiteral("1e999"), 0.0);
+    zeile("negative", QStringLiteral("-3,5"), -3.5);
+    zeile("plus sign", QStringLiteral("+3"), 3.0);
+    zeile("blanks before", QStringLiteral("  7"), 7.0);
+    zeile("a unit behind", QStringLiteral("150,5 kcal"), 150.5);
+    zeile("a unit without a blank", QStringLiteral("30g"), 30.0);
+    zeile("a unit behind a blank that does not break", QStringLiteral("30\u00A0g"), 30.0);
+    zeile("exponent", QStringLiteral("1e3"), 1000.0);
+    zeile("exponent as the program writes it", QStringLiteral("1E-09"), 1e-9);
 }
 
-void TestWertehalter::aTypedNumberIsReadInTheUsersLocale()
+void TestWertehalter::aTypedNumberIsReadByOneRule()
 {
     QFETCH(QString, sprache);
     QFETCH(QString, text);
@@ -104,6 +121,68 @@ void TestWertehalter::aTypedNumberIsReadInTheUsersLocale()
     QCOMPARE(probe.doubleValue(), zahl);
     QCOMPARE(probe.stringValue(), text);
     QVERIFY(!probe.haeltZahl());
+}
+
+void TestWertehalter::aMarkThatPartsThousandsGoesAway_data()
+{
+    QTest::addColumn<QString>("getippt");
+    QTest::addColumn<bool>("richtig");
+    QTest::addColumn<QString>("bleibt");
+    QTest::newRow("a decimal comma stays") << "1,234" << true << "1,234";
+    QTest::newRow("a decimal point stays") << "1.234" << true << "1.234";
+    QTest::newRow("before a comma") << "1.234," << true << "1234,";
+    QTest::newRow("before a point") << "1,234." << true << "1234.";
+    QTest::newRow("the second of its kind") << "1.500." << true << "1500";
+    QTest::newRow("millions") << "1.500.000,25" << true << "1500000,25";
+    QTest::newRow("a blank") << "12 500,5" << true << "12500,5";
+    QTest::newRow("a comma hit twice") << "1,," << false << "1,,";
+    QTest::newRow("a comma within decimals") << "1,5," << false << "1,5,";
+    QTest::newRow("no group of three") << "1.2," << false << "1.2,";
+    QTest::newRow("four digits before the first mark") << "1234.567," << false << "1234.567,";
+    QTest::newRow("a blank behind the number") << "5 " << false << "5 ";
+    QTest::newRow("a letter") << "5g" << false << "5g";
+}
+
+void TestWertehalter::aMarkThatPartsThousandsGoesAway()
+{
+    QFETCH(QString, getippt);
+    QFETCH(bool, richtig);
+    QString ziffern = getippt;
+    int stelle = static_cast<int>(ziffern.size());
+    QCOMPARE(entferneTausender(ziffern, stelle), richtig);
+    QTEST(ziffern, "bleibt");
+    QCOMPARE(stelle, static_cast<int>(ziffern.size()));
+}
+
+void TestWertehalter::aValueThatCountsNeverShowsAsZero_data()
+{
+    QTest::addColumn<double>("zahl");
+    QTest::addColumn<int>("stellen");
+    QTest::addColumn<QString>("text");
+    QTest::newRow("enough digits") << 12.34 << 1 << "12,3";
+    QTest::newRow("rounded up") << 0.05 << 1 << "0,1";
+    QTest::newRow("a trace of protein") << 0.03 << 1 << "0,03";
+    QTest::newRow("in single precision") << static_cast<double>(0.01F) << 1 << "0,01";
+    QTest::newRow("a trace of B1") << 0.0001 << 3 << "0,0001";
+    QTest::newRow("a trace of energy") << 0.12 << 0 << "0,1";
+    QTest::newRow("rounds to one digit") << 0.0096 << 1 << "0,01";
+    QTest::newRow("keeps its first digit") << 0.0043 << 1 << "0,004";
+    QTest::newRow("six places") << 0.000001 << 1 << "0,000001";
+    QTest::newRow("less than six places show") << 1e-9 << 1 << "1E-09";
+    QTest::newRow("below 0") << -0.04 << 1 << "-0,04";
+    QTest::newRow("far below 0") << -12.34 << 1 << "-12,3";
+    QTest::newRow("nothing") << 0.0 << 1 << "0,0";
+    QTest::newRow("nothing, without places") << 0.0 << 0 << "0";
+    QTest::newRow("nothing has no sign") << -0.0 << 1 << "0,0";
+    QTest::newRow("thousands are not parted") << 1234567.5 << 1 << "1234567,5";
+}
+
+void TestWertehalter::aValueThatCountsNeverShowsAsZero()
+{
+    QFETCH(double, zahl);
+    QFETCH(int, stellen);
+    QTEST(wertText(zahl, stellen), "text");
+    QCOMPARE(zahlAusText(wertText(zahl, stellen)) == 0, zahl == 0);
 }
 
 void TestWertehalter::aNumberIsHeldExactly()

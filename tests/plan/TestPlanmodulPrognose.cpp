@@ -318,7 +318,7 @@ void TestPlanmodulPrognose::nonsenseIsNothing()
 void TestPlanmodulPrognose::aTypedRequirementCounts()
 {
     oeffne(1800, klient2500);
-    tippe(plan().Kalorienbedarf, u"2.800"_s);
+    tippe(plan().Kalorienbedarf, u"2800"_s);
     QCOMPARE(plan().Gewichtsverlust->floatValue(), -1.0F);
     QCOMPARE(plan().gewichtview->kalorienbedarf(), 2800);
 }

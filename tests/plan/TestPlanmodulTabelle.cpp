@@ -212,7 +212,7 @@ void TestPlanmodulTabelle::amounts_data()
     QTest::newRow("whole") << "250" << 250.0F;
     QTest::newRow("with a comma") << "150,7" << 150.7F;
     QTest::newRow("with a point") << "150.7" << 150.7F;
-    QTest::newRow("a grouped number") << "1.250" << 1250.0F;
+    QTest::newRow("a point before three digits") << "1.250" << 1.25F;
     QTest::newRow("with its unit") << "80 g" << 80.0F;
     QTest::newRow("nothing") << "" << 0.0F;
     QTest::newRow("nonsense") << "viel" << 0.0F;
