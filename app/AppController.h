@@ -176,6 +176,7 @@ private:
     void zeigeJoule();
     void faerbeWertungen();
     void beschrifteMengen(const QString &menge);
+    void zeigeName(const QString &name);
     void zeigeWert(std::size_t stelle, float zahl);
     Naehrwertreihe gezeigteWerte() const;
 
