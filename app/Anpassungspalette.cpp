@@ -80,11 +80,19 @@ private:
     QPoint m_druckort;
 };
 
-/// The two kinds of room have no label of their own in the bar.
-QString raumtext(const QString &kennung)
+/// The two kinds of room have neither label nor picture in the bar; here they need both, so that
+/// one sees what is being dragged.
+Werkzeug palettenwerkzeug(Werkzeugquelle &quelle, const QString &kennung)
 {
-    return kennung == Werkzeugleiste::space ? localizedString(QStringLiteral("Leerraum"))
-                                            : localizedString(QStringLiteral("Flexibler Leerraum"));
+    Werkzeug werkzeug = quelle.toolbarItem(kennung);
+    if (kennung == Werkzeugleiste::space) {
+        werkzeug.palettenbeschriftung = localizedString(QStringLiteral("Leerraum"));
+        werkzeug.bild = QIcon(QStringLiteral(":/bilder/Leerraum.svg"));
+    } else if (kennung == Werkzeugleiste::flexibleSpace) {
+        werkzeug.palettenbeschriftung = localizedString(QStringLiteral("Flexibler Leerraum"));
+        werkzeug.bild = QIcon(QStringLiteral(":/bilder/Flexibler Leerraum.svg"));
+    }
+    return werkzeug;
 }
 
 } // namespace
@@ -117,11 +125,10 @@ QWidget *Anpassungspalette::kacheln()
     raster->setContentsMargins(0, 0, 0, 0);
     int i = 0;
     for (const QString &kennung : m_leiste.quelle().toolbarAllowedItemIdentifiers()) {
-        const Werkzeug werkzeug = m_leiste.quelle().toolbarItem(kennung);
+        const Werkzeug werkzeug = palettenwerkzeug(m_leiste.quelle(), kennung);
         auto *kachel = new Kachel(kennung, m_leiste, flaeche);
         kachel->setIcon(werkzeug.bild);
-        kachel->setText(werkzeug.palettenbeschriftung.isEmpty() ? raumtext(kennung)
-                                                                : werkzeug.palettenbeschriftung);
+        kachel->setText(werkzeug.palettenbeschriftung);
         raster->addWidget(kachel, i / spalten, i % spalten);
         ++i;
     }

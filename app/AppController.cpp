@@ -8,7 +8,6 @@
 
 #include <QAbstractButton>
 #include <QEvent>
-#include <QHeaderView>
 #include <QKeyEvent>
 
 int AppController::angeklickteSpalte = -1;
@@ -142,10 +141,7 @@ void AppController::verbinde()
                        {{QStringLiteral("name"), localizedString(QStringLiteral("Lebensmittel"))},
                         {QStringLiteral("eigen"), localizedString(QStringLiteral("Eigene"))},
                         {QStringLiteral("such"), localizedString(QStringLiteral("Suche"))}});
-    Tabelle->horizontalHeader()->setStretchLastSection(true);
-    for (int spalte = 0; spalte < std::ssize(spaltenbreiten); ++spalte) {
-        Tabelle->setColumnWidth(spalte, spaltenbreiten[spalte]);
-    }
+    Tabelle->setSpaltenbreiten({std::begin(spaltenbreiten), std::end(spaltenbreiten)});
     connect(Tabelle, &Tabellenansicht::betaetigt, this, &AppController::Laden);
     connect(lebensmittelmenge, &Schieber::betaetigt, this,
             [this] { wieviellebensmittel(*lebensmittelmenge); });
@@ -194,6 +190,8 @@ void AppController::verbindeEigene()
     for (Textfeld *feld : m_wertfelder) {
         feld->setNurZahlen(true); // they can be typed into while the save box is open
     }
+    // While the save box is open the name can be typed over; the marked cell follows.
+    connect(feldA, &QLineEdit::textEdited, Tabelle->viewport(), qOverload<>(&QWidget::update));
     connect(sichernaufzu, &QAbstractButton::clicked, this, &AppController::SichernFensterAuf);
     connect(sichernknopf, &QAbstractButton::clicked, this, &AppController::SicherneigeneLM);
     connect(loeschenknopf, &QAbstractButton::clicked, this, &AppController::LoescheneigeneLM);

@@ -19,6 +19,7 @@
 #include <QTimer>
 
 #include <array>
+#include <optional>
 
 /// Runs the main window: holds the foods, shows the chosen one for an amount of grams, and judges
 /// it. Its outlets are the objects of the two interface descriptions, under their names.
@@ -148,6 +149,7 @@ private:
 
     // Searching
     class Suchanzeige;
+    void zeigeTrefferzahl(std::optional<qsizetype> treffer);
     void schalteKriterien();
     Profil gewaehltesProfil() const;
     void sucheGetipptes();
@@ -181,6 +183,7 @@ private:
     void zeigeJoule();
     void faerbeWertungen();
     void beschrifteMengen(const QString &menge);
+    void zeigeName(const QString &name);
     void zeigeWert(std::size_t stelle, float zahl);
     Naehrwertreihe gezeigteWerte() const;
 

@@ -21,7 +21,7 @@ void AppController::rausholen(const Datenmodul *lebensmittel)
     if (lebensmittel == nullptr) {
         return; // what stands on display stays
     }
-    feldA->setStringValue(localizedString(lebensmittel->name()));
+    zeigeName(localizedString(lebensmittel->name()));
     unuebersetztername = lebensmittel->name();
     const Naehrwertreihe werte = skalieren(*lebensmittel, lebensmittelmenge->intValue());
     for (std::size_t i = 0; i < werte.size(); ++i) {
@@ -34,6 +34,13 @@ void AppController::rausholen(const Datenmodul *lebensmittel)
         m_wertungsfelder[stelle(zeile.wertung)]->setStringValue(
             lebensmittel->wertung(zeile.wertung));
     }
+}
+
+/// Shows the name of a food. The marked cell of the table bears it too.
+void AppController::zeigeName(const QString &name)
+{
+    feldA->setStringValue(name);
+    Tabelle->viewport()->update();
 }
 
 /// Shows one value, and hides it with its label when it is 0. Energy takes its kilojoules along.

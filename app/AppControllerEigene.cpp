@@ -35,9 +35,8 @@ void AppController::umschreibenDerEingabeFelder()
     for (Schieber *regler : m_mengenregler) {
         regler->setIntValue(eingegebeneMenge);
     }
-    sichernknopf->setEnabled(true); // the amount is the one that can be saved
     beschrifteMengen(QStringLiteral("100"));
-    feldA->setStringValue(EingabeFensterfeldA->stringValue());
+    zeigeName(EingabeFensterfeldA->stringValue());
     for (std::size_t i = 0; i < m_wertfelder.size(); ++i) {
         m_wertfelder[i]->setFloatValue(m_eingabefelder[i]->floatValue());
     }

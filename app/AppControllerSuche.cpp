@@ -8,6 +8,7 @@
 
 #include <QApplication>
 #include <QElapsedTimer>
+#include <QLocale>
 
 namespace {
 
@@ -73,18 +74,33 @@ void AppController::suchen(const Wertehalter &sender)
             Laden();
         }
     }
+    const bool gesucht = !sender.stringValue().isEmpty();
+    zeigeTrefferzahl(gesucht ? std::optional(ergebnis.treffer.size()) : std::nullopt);
 }
 
 void AppController::proteinsuche()
 {
     Suchanzeige anzeige(*this);
     Tabelle->reloadData();
+    Tabelle->scrollRowToVisible(0); // the results begin there, and nothing else leads to them
     schalteKriterien();
     const QStringList treffer =
         profilSuchen({KundenDictionary, KundenArray}, {Dictionary, Array}, gewaehltesProfil());
     for (const QString &name : treffer) {
         anzeige.zeile(name, name);
     }
+    zeigeTrefferzahl(treffer.size());
+}
+
+/// Says above the results how many foods were found; absent when nothing was looked for.
+void AppController::zeigeTrefferzahl(std::optional<qsizetype> treffer)
+{
+    const QString zahl = treffer ? QLocale().toString(*treffer) : QString();
+    const QString titel = !treffer ? localizedString(QStringLiteral("Suche"))
+                          : *treffer == 0
+                              ? localizedString(QStringLiteral("Suche: nichts gefunden"))
+                              : localizedString(QStringLiteral("Suche: %1 gefunden")).arg(zahl);
+    Tabelle->modell()->setTitel(QStringLiteral("such"), titel, zahl);
 }
 
 /// A switch that is off takes its criterion out of the search.

@@ -170,6 +170,7 @@ const Datenmodul *AppController::gesuchtesLebensmittel(int zeile)
 
 void AppController::LadeneigeneLM()
 {
+    Tabelle->viewport()->update();
     loeschenknopf->setEnabled(true);
     const int zeile = Tabelle->selectedRow();
     const bool gewaehlt = zeile >= 0;

@@ -44,6 +44,8 @@ Werkzeugleiste::Werkzeugleiste(const QString &kennung, Werkzeugquelle &quelle,
     setToolButtonStyle(gemerkterStil());
     m_kennungen = gemerkteKennungen();
     aufbauen();
+    setVisible(gemerkteSichtbarkeit());
+    connect(this, &QToolBar::visibilityChanged, this, &Werkzeugleiste::merkeSichtbarkeit);
 }
 
 /// A bar from which all items were taken comes back empty, one of which nothing is known does not.
@@ -66,6 +68,12 @@ Qt::ToolButtonStyle Werkzeugleiste::gemerkterStil() const
         }
     }
     return Qt::ToolButtonTextUnderIcon;
+}
+
+bool Werkzeugleiste::gemerkteSichtbarkeit() const
+{
+    return m_einstellungen.value(m_kennung + QStringLiteral("/sichtbar")).toString() !=
+           QLatin1String("false");
 }
 
 QStringList Werkzeugleiste::zulaessige(const QStringList &kennungen) const
@@ -141,6 +149,15 @@ void Werkzeugleiste::merken()
     m_einstellungen.sync();
 }
 
+/// A bar also comes into sight with its window; only what its user changes is kept.
+void Werkzeugleiste::merkeSichtbarkeit(bool sichtbar)
+{
+    if (sichtbar != gemerkteSichtbarkeit()) {
+        m_einstellungen.setValue(m_kennung + QStringLiteral("/sichtbar"), sichtbar);
+        m_einstellungen.sync();
+    }
+}
+
 void Werkzeugleiste::aufbauen()
 {
     clear(); // removes the actions; the widgets go when no event stands on them any more
@@ -200,21 +217,25 @@ void Werkzeugleiste::dragEnterEvent(QDragEnterEvent *event)
 void Werkzeugleiste::dragMoveEvent(QDragMoveEvent *event)
 {
     if (m_anpassbar && event->mimeData()->hasFormat(ziehformat)) {
-        m_einfuegestelle = stelleBei(event->position().toPoint());
+        zeigeEinfuegestelle(stelleBei(event->position().toPoint()));
         event->acceptProposedAction();
-        update();
     }
 }
 
 void Werkzeugleiste::dragLeaveEvent(QDragLeaveEvent *)
 {
-    m_einfuegestelle = -1;
+    zeigeEinfuegestelle(-1);
+}
+
+void Werkzeugleiste::zeigeEinfuegestelle(int stelle)
+{
+    m_einfuegestelle = stelle;
     update();
 }
 
 void Werkzeugleiste::dropEvent(QDropEvent *event)
 {
-    m_einfuegestelle = -1;
+    zeigeEinfuegestelle(-1);
     if (!m_anpassbar || !event->mimeData()->hasFormat(ziehformat)) {
         return;
     }

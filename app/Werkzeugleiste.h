@@ -35,7 +35,8 @@ protected:
 };
 
 /// A toolbar that its user can arrange by drag and drop. The list of identifiers is its truth: the
-/// bar is built from it, and every change is kept in the settings at once.
+/// bar is built from it, and every change is kept in the settings at once. A bar that was put away
+/// stays away until its user wants it back.
 class Werkzeugleiste : public QToolBar
 {
     Q_OBJECT
@@ -92,10 +93,13 @@ protected:
 private:
     QStringList gemerkteKennungen() const;
     Qt::ToolButtonStyle gemerkterStil() const;
+    bool gemerkteSichtbarkeit() const;
     QStringList zulaessige(const QStringList &kennungen) const;
     void aufbauen();
     QWidget *feldFuer(const QString &kennung);
     void merken();
+    void merkeSichtbarkeit(bool sichtbar);
+    void zeigeEinfuegestelle(int stelle);
     void zieheHeraus(int stelle);
 
     QString m_kennung;

@@ -3,6 +3,7 @@
 #include "Tabellenkopf.h"
 #include "Zellenmaler.h"
 
+#include <QCoreApplication>
 #include <QDrag>
 #include <QDragMoveEvent>
 #include <QHeaderView>
@@ -10,8 +11,20 @@
 #include <QMimeData>
 #include <QMouseEvent>
 #include <QPainter>
+#include <QScopedValueRollback>
+#include <QScrollBar>
 
 #include <utility>
+
+namespace {
+
+constexpr int ziehbildbreite = 320;
+constexpr int ziehbildrand = 8;
+
+/// The picture of a drag stands beside the pointer, so that one sees where it points to.
+constexpr int zeigerabstand = 12;
+
+} // namespace
 
 Tabellenansicht::Tabellenansicht(QWidget *parent)
     : QTableView(parent)
@@ -26,8 +39,13 @@ Tabellenansicht::Tabellenansicht(QWidget *parent)
     setShowGrid(false);
     setDragEnabled(true);
     setDragDropMode(QAbstractItemView::DragOnly);
+    setDropIndicatorShown(false); // the table paints a line of its own
     setTabKeyNavigation(false);
     setWordWrap(false);
+    setHorizontalScrollMode(QAbstractItemView::ScrollPerPixel);
+    horizontalHeader()->setResizeContentsPrecision(-1); // the longest entry may be the last one
+    connect(horizontalHeader(), &QHeaderView::sectionResized, this,
+            [this](int spalte) { m_breiteVonHand |= spalte == 0 && !m_verteilt; });
     verticalHeader()->hide();
     verticalHeader()->setMinimumSectionSize(8);
 }
@@ -37,9 +55,57 @@ void Tabellenansicht::setQuelle(Tabellenquelle *quelle, const QList<Spalte> &spa
     m_modell->setQuelle(quelle, spalten);
 }
 
+void Tabellenansicht::setSpaltenbreiten(const QList<int> &breiten)
+{
+    const QScopedValueRollback programm(m_verteilt, true);
+    m_grundbreiten = breiten;
+    horizontalHeader()->setStretchLastSection(true);
+    for (int spalte = 0; spalte < breiten.size(); ++spalte) {
+        setColumnWidth(spalte, breiten[spalte]);
+    }
+}
+
+/// The first column takes what the others leave, but no more than it needs; the last one is then
+/// as wide as what remains.
+void Tabellenansicht::verteileBreiten()
+{
+    if (m_grundbreiten.isEmpty() || m_breiteVonHand) {
+        return;
+    }
+    if (m_bedarf < 0) {
+        m_bedarf = sizeHintForColumn(0);
+    }
+    int frei = viewport()->width() - m_grundbreiten.last();
+    for (int spalte = 1; spalte < m_grundbreiten.size() - 1; ++spalte) {
+        frei -= columnWidth(spalte);
+    }
+    const QScopedValueRollback programm(m_verteilt, true);
+    setColumnWidth(0, qMax(m_grundbreiten.first(), qMin(frei, m_bedarf)));
+}
+
+void Tabellenansicht::resizeEvent(QResizeEvent *event)
+{
+    verteileBreiten();
+    QTableView::resizeEvent(event);
+}
+
+void Tabellenansicht::changeEvent(QEvent *event)
+{
+    QTableView::changeEvent(event);
+    if (event->type() == QEvent::FontChange || event->type() == QEvent::StyleChange) {
+        m_bedarf = -1;
+        verteileBreiten();
+    }
+}
+
 void Tabellenansicht::reloadData()
 {
+    const int zeilen = m_modell->rowCount();
     m_modell->reloadData();
+    if (m_modell->rowCount() != zeilen) {
+        m_bedarf = -1;
+        verteileBreiten();
+    }
     viewport()->update();
 }
 
@@ -56,11 +122,19 @@ bool Tabellenansicht::nurMitReturn(int spalte) const
     return m_bestaetigt.contains(m_modell->kennung(spalte));
 }
 
-/// Arrow keys leave the selection alone where only Return chooses.
+bool Tabellenansicht::istZiehbar(const QModelIndex &index) const
+{
+    return !m_modell->ziehtext(index.column(), index.row()).isNull();
+}
+
+/// Arrow keys leave the selection alone where only Return chooses, and a press where a drag may
+/// begin.
 QItemSelectionModel::SelectionFlags Tabellenansicht::selectionCommand(const QModelIndex &index,
                                                                       const QEvent *event) const
 {
-    if (event != nullptr && event->type() == QEvent::KeyPress && nurMitReturn(index.column())) {
+    const QEvent::Type art = event != nullptr ? event->type() : QEvent::None;
+    if ((art == QEvent::KeyPress && nurMitReturn(index.column())) ||
+        (art == QEvent::MouseButtonPress && istZiehbar(index))) {
         return QItemSelectionModel::NoUpdate;
     }
     return QTableView::selectionCommand(index, event);
@@ -71,6 +145,17 @@ QItemSelectionModel::SelectionFlags Tabellenansicht::neueAuswahl() const
 {
     const QItemSelectionModel::SelectionFlags neu = QItemSelectionModel::ClearAndSelect;
     return selectionBehavior() == SelectRows ? neu | QItemSelectionModel::Rows : neu;
+}
+
+/// Moves the keyboard's cursor to a cell that lies under the mouse: what is under the mouse stays
+/// there.
+void Tabellenansicht::setzeUngerollt(const QModelIndex &index,
+                                     QItemSelectionModel::SelectionFlags auswahl)
+{
+    const bool rollt = hasAutoScroll();
+    setAutoScroll(false);
+    selectionModel()->setCurrentIndex(index, auswahl);
+    setAutoScroll(rollt);
 }
 
 void Tabellenansicht::setzeSchreibmarke(int zeile, const QString &kennung)
@@ -102,6 +187,7 @@ void Tabellenansicht::selectRow(int zeile)
     if (!index.isValid()) {
         return;
     }
+    const QScopedValueRollback senkrecht(m_nurSenkrecht, true);
     if (nurMitReturn(m_clickedColumn)) { // who walks through results finds the cursor there again
         selectionModel()->select(index, neueAuswahl());
     } else {
@@ -114,10 +200,27 @@ void Tabellenansicht::scrollRowToVisible(int zeile)
 {
     const int oben = rowViewportPosition(zeile);
     const bool sichtbar = oben >= 0 && oben + rowHeight() <= viewport()->height();
-    const QModelIndex index = sichtbar ? QModelIndex() : m_modell->index(zeile, 0);
-    if (index.isValid()) {
-        scrollTo(index.siblingAtColumn(qMax(0, currentIndex().column())));
+    const QScopedValueRollback senkrecht(m_nurSenkrecht, true);
+    if (!sichtbar) {
+        scrollTo(m_modell->index(zeile, 0));
     }
+}
+
+void Tabellenansicht::scrollTo(const QModelIndex &index, ScrollHint hint)
+{
+    const int seitwaerts = horizontalScrollBar()->value();
+    QTableView::scrollTo(index, hint);
+    if (m_nurSenkrecht) {
+        horizontalScrollBar()->setValue(seitwaerts);
+    }
+}
+
+/// A while after a click the table rolls to the clicked cell, where only a part of it was seen.
+/// Sideways that would pull the next cell away from under the mouse.
+void Tabellenansicht::timerEvent(QTimerEvent *event)
+{
+    const QScopedValueRollback senkrecht(m_nurSenkrecht, true);
+    QTableView::timerEvent(event);
 }
 
 void Tabellenansicht::beendeEingabe()
@@ -169,9 +272,13 @@ void Tabellenansicht::mousePressEvent(QMouseEvent *event)
     m_mausort = event->position().toPoint();
     m_gedrueckteZeile = rowAt(m_mausort.y());
     m_gedrueckt = true;
-    m_vorDruck = selectionModel()->selectedIndexes().value(0);
+    const QPersistentModelIndex schreibmarke = currentIndex();
     QTableView::mousePressEvent(event);
-    if (!indexAt(m_mausort).isValid()) {
+    const QModelIndex zelle = indexAt(m_mausort);
+    m_angefasst = istZiehbar(zelle) ? zelle : QModelIndex();
+    if (m_angefasst.isValid()) {
+        setzeUngerollt(schreibmarke, QItemSelectionModel::NoUpdate);
+    } else if (!zelle.isValid()) {
         clearSelection();
     }
 }
@@ -182,10 +289,14 @@ void Tabellenansicht::mouseMoveEvent(QMouseEvent *event)
     QTableView::mouseMoveEvent(event);
 }
 
-/// The press has chosen a cell, or none, and pulling the mouse may have moved on to another one:
-/// the action runs for what is chosen in the end. A drag away has chosen nothing.
+/// What was pressed is chosen, or nothing, and where nothing can be dragged pulling the mouse may
+/// have moved on to another cell: the action runs for what is chosen in the end. A drag away has
+/// chosen nothing.
 void Tabellenansicht::mouseReleaseEvent(QMouseEvent *event)
 {
+    if (event->button() == Qt::LeftButton && m_angefasst.isValid()) {
+        setzeUngerollt(std::exchange(m_angefasst, {}), neueAuswahl());
+    }
     QTableView::mouseReleaseEvent(event);
     if (event->button() == Qt::LeftButton && std::exchange(m_gedrueckt, false)) {
         melde(selectionModel()->selectedIndexes().value(0).column());
@@ -224,18 +335,42 @@ QMimeData *Tabellenansicht::ziehdaten(int zeile, const QPoint &mausort) const
     return daten;
 }
 
+QPixmap Tabellenansicht::ziehbild(const QString &text) const
+{
+    const QString name =
+        fontMetrics().elidedText(QCoreApplication::translate("Mahlberg", text.toUtf8().constData()),
+                                 Qt::ElideRight, ziehbildbreite);
+    const QRect flaeche(0, 0, fontMetrics().horizontalAdvance(name) + 2 * ziehbildrand,
+                        fontMetrics().height() + ziehbildrand);
+    QPixmap bild(flaeche.size() * devicePixelRatio());
+    bild.setDevicePixelRatio(devicePixelRatio());
+    bild.fill(Qt::transparent);
+    QPainter painter(&bild);
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.setFont(font());
+    painter.setPen(palette().color(QPalette::Highlight));
+    painter.setBrush(palette().base());
+    painter.drawRoundedRect(QRectF(flaeche).adjusted(0.5, 0.5, -0.5, -0.5), 4, 4);
+    painter.setPen(palette().color(QPalette::Text));
+    painter.drawText(flaeche, Qt::AlignCenter, name);
+    return bild;
+}
+
 void Tabellenansicht::startDrag(Qt::DropActions supportedActions)
 {
+    const QPersistentModelIndex angefasst = std::exchange(m_angefasst, {});
     QMimeData *daten = ziehdaten(m_gedrueckteZeile, m_mausort);
     if (daten == nullptr) {
+        if (angefasst.isValid()) { // pulling goes on from what was pressed
+            setzeUngerollt(angefasst, neueAuswahl());
+        }
         return;
     }
-    // The press has selected what is being dragged. The food on display stays chosen.
     m_gedrueckt = false;
-    selectionModel()->setCurrentIndex(m_vorDruck, neueAuswahl());
-    viewport()->update();
     auto *zug = new QDrag(this);
     zug->setMimeData(daten);
+    zug->setPixmap(ziehbild(daten->text()));
+    zug->setHotSpot({-zeigerabstand, 0});
     zug->exec(supportedActions | Qt::CopyAction, Qt::CopyAction);
 }
 

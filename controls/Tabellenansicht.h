@@ -8,7 +8,8 @@
 #include <optional>
 
 /// A table that follows its controller (`Tabellenquelle`). A cell is chosen with the mouse or the
-/// arrow keys; the action then finds the chosen row and the column in which it was chosen. Where
+/// arrow keys; the action then finds the chosen row and the column in which it was chosen. What can
+/// be dragged is chosen when the mouse is let go: a drag chooses nothing and moves nothing. Where
 /// the controller takes drops (and `acceptDrops` is on), a line shows where they go.
 class Tabellenansicht : public QTableView
 {
@@ -24,6 +25,12 @@ public:
     explicit Tabellenansicht(QWidget *parent = nullptr);
 
     void setQuelle(Tabellenquelle *quelle, const QList<Spalte> &spalten);
+
+    /// The widths that the columns have at least, in points of the layout; a narrower table rolls
+    /// sideways. Where there is more room, the first column gets as much as its longest entry
+    /// needs, and the last one what is left; but a first column whose width the user has set keeps
+    /// it.
+    void setSpaltenbreiten(const QList<int> &breiten);
 
     /// Reads the number of rows anew and paints what stands in them; cheap enough to be called for
     /// every single entry of a list that grows.
@@ -48,7 +55,9 @@ public:
     /// Selects a row in place of what was selected, without running the action. A row that does
     /// not exist leaves the selection as it is.
     void selectRow(int zeile);
+    /// Rolls the table up or down as far as it takes to show a row, and never sideways.
     void scrollRowToVisible(int zeile);
+    void scrollTo(const QModelIndex &index, ScrollHint hint = EnsureVisible) override;
 
     /// Ends typing into a cell and takes over what was typed. Where rows come and go, what is typed
     /// would otherwise end up in the row of another food.
@@ -72,6 +81,9 @@ public:
     /// the row that was pressed, the column that lies under the mouse.
     QMimeData *ziehdaten(int zeile, const QPoint &mausort) const;
 
+    /// The picture under the mouse while this text is dragged: the name that is read in the table.
+    QPixmap ziehbild(const QString &text) const;
+
 Q_SIGNALS:
     /// The user has chosen a cell, or clicked beside all rows.
     void betaetigt();
@@ -81,6 +93,9 @@ protected:
     void mouseMoveEvent(QMouseEvent *event) override;
     void mouseReleaseEvent(QMouseEvent *event) override;
     void keyPressEvent(QKeyEvent *event) override;
+    void timerEvent(QTimerEvent *event) override;
+    void resizeEvent(QResizeEvent *event) override;
+    void changeEvent(QEvent *event) override;
     void selectionChanged(const QItemSelection &selected,
                           const QItemSelection &deselected) override;
     QItemSelectionModel::SelectionFlags selectionCommand(const QModelIndex &index,
@@ -95,6 +110,9 @@ protected:
 private:
     QItemSelectionModel::SelectionFlags neueAuswahl() const;
     void melde(int spalte);
+    bool istZiehbar(const QModelIndex &index) const;
+    void setzeUngerollt(const QModelIndex &index, QItemSelectionModel::SelectionFlags auswahl);
+    void verteileBreiten();
     bool pruefeAbwurf(QDropEvent &event);
     int oberkante(int zeile) const;
     bool nurMitReturn(int spalte) const;
@@ -108,6 +126,11 @@ private:
     std::optional<int> m_abwurfzeile; ///< while something is held over the table
     QPoint m_mausort;
     int m_gedrueckteZeile = -1;
-    bool m_gedrueckt = false;         ///< the left button is down, and no drag has begun
-    QPersistentModelIndex m_vorDruck; ///< what was selected before the press
+    bool m_gedrueckt = false;          ///< the left button is down, and no drag has begun
+    QPersistentModelIndex m_angefasst; ///< what is chosen when no drag has begun until the release
+    bool m_nurSenkrecht = false;       ///< what is scrolled to now is not looked for sideways
+    QList<int> m_grundbreiten;
+    int m_bedarf = -1; ///< width of the first column's longest entry; −1 while it is not known
+    bool m_breiteVonHand = false;
+    bool m_verteilt = false; ///< a width that changes now is not set by the user
 };

@@ -48,6 +48,17 @@ void Tabellenmodell::reloadData()
     }
 }
 
+void Tabellenmodell::setTitel(const QString &kennung, const QString &titel,
+                              const QString &kurztitel)
+{
+    const int stelle = spaltenstelle(kennung);
+    if (stelle >= 0) {
+        m_spalten[stelle].titel = titel;
+        m_spalten[stelle].kurztitel = kurztitel;
+        Q_EMIT headerDataChanged(Qt::Horizontal, stelle, stelle);
+    }
+}
+
 QString Tabellenmodell::kennung(int spalte) const
 {
     return spalte >= 0 && spalte < m_spalten.size() ? m_spalten[spalte].kennung : QString();

@@ -78,6 +78,9 @@ public:
     void setQuelle(Tabellenquelle *quelle, const QList<Spalte> &spalten);
     void reloadData();
 
+    /// Puts another title above a column; the short one stands there while the column is narrow.
+    void setTitel(const QString &kennung, const QString &titel, const QString &kurztitel);
+
     QString kennung(int spalte) const;
     int spaltenstelle(const QString &kennung) const;
     Tabellenquelle *quelle() const { return m_quelle; }

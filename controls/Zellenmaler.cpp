@@ -71,6 +71,13 @@ void Zellenmaler::paint(QPainter *painter, const QStyleOptionViewItem &option,
     painter->restore();
 }
 
+QSize Zellenmaler::sizeHint(const QStyleOptionViewItem &option, const QModelIndex &index) const
+{
+    const int text = option.fontMetrics.horizontalAdvance(m_tabelle->modell()->bild(index).text);
+    const int grosserAnfang = option.fontMetrics.averageCharWidth();
+    return {text + grosserAnfang + 2 * zellenrand, m_tabelle->rowHeight()};
+}
+
 QWidget *Zellenmaler::createEditor(QWidget *parent, const QStyleOptionViewItem &option,
                                    const QModelIndex &index) const
 {

@@ -1376,6 +1376,14 @@ Nothing is worked out for children under 10 years; it resumes at 11 years.</tr
   <translation>Search</translation>
  </message>
  <message>
+  <source>Suche: %1 gefunden</source>
+  <translation>Search: %1 found</translation>
+ </message>
+ <message>
+  <source>Suche: nichts gefunden</source>
+  <translation>Search: nothing found</translation>
+ </message>
+ <message>
   <source>Sy&amp;mbolleiste zeigen</source>
   <translation>Show &amp;toolbar</translation>
  </message>

@@ -223,14 +223,15 @@ QString Probeuebersetzer::translate(const char *context, const char *sourceText,
                                              : QString();
 }
 
-void ziehe(const QWidget &von, const QPoint &start, const QWidget &nach, const QPoint &ziel)
+void ziehe(const QWidget &von, const QPoint &start, const QWidget &nach, const QPoint &ziel,
+           const QPoint &richtung)
 {
     QWindow *hier = von.window()->windowHandle();
     QWindow *dort = nach.window()->windowHandle();
     const QPoint anfang = von.mapTo(von.window(), start);
     const QPoint ende = nach.mapTo(nach.window(), ziel);
     QTest::mousePress(hier, Qt::LeftButton, {}, anfang);
-    QTest::mouseMove(hier, anfang + QPoint(0, 1));
+    QTest::mouseMove(hier, anfang + richtung);
     // A drag has an event loop of its own, which the move after this one enters: what is due then
     // runs within it.
     bool losgelassen = false;
@@ -241,7 +242,7 @@ void ziehe(const QWidget &von, const QPoint &start, const QWidget &nach, const Q
         QTest::mouseRelease(dort, Qt::LeftButton, {}, ende);
         losgelassen = true;
     });
-    QTest::mouseMove(hier, anfang + QPoint(0, QApplication::startDragDistance() + 1));
+    QTest::mouseMove(hier, anfang + richtung * (QApplication::startDragDistance() + 1));
     QTRY_VERIFY(losgelassen);
 }
 

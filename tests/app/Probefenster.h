@@ -132,9 +132,11 @@ private:
     QHash<QString, QString> m_worte;
 };
 
-/// Presses the left button, moves the mouse as far as it takes for a drag to start, then to the
-/// target, and lets go. The window system's own events are used, so that the drag is a real one.
-void ziehe(const QWidget &von, const QPoint &start, const QWidget &nach, const QPoint &ziel);
+/// Presses the left button, moves the mouse in a direction as far as it takes for a drag to start,
+/// then to the target, and lets go. The window system's own events are used, so that the drag is a
+/// real one.
+void ziehe(const QWidget &von, const QPoint &start, const QWidget &nach, const QPoint &ziel,
+           const QPoint &richtung = QPoint(0, 1));
 
 /// Chooses the platform without a display on which a drag is a real one ("offscreen" ends every
 /// drag as soon as it begins). Called before the application is made.

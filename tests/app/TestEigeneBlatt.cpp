@@ -22,7 +22,7 @@ private Q_SLOTS:
     void aNewFoodIsAppended();
     void itIsOnDisplayForAHundredGrams();
     void theCaptionsAreTranslatedAndTheGramsAreNot();
-    void itCanBeSavedFromTheDisplayAtOnce();
+    void theSaveButtonStaysAsTheAmountLeftIt();
     void everyValueFindsItsPlace();
     void anEmptyFieldIsZero();
     void ratingsAreTakenAsTheyStand_data();
@@ -197,7 +197,7 @@ void TestEigeneBlatt::theCaptionsAreTranslatedAndTheGramsAreNot()
              QStringLiteral("Units in 100 gramm"));
 }
 
-void TestEigeneBlatt::itCanBeSavedFromTheDisplayAtOnce()
+void TestEigeneBlatt::theSaveButtonStaysAsTheAmountLeftIt()
 {
     oeffne();
     controller().Fensterschliessen();
@@ -207,7 +207,12 @@ void TestEigeneBlatt::itCanBeSavedFromTheDisplayAtOnce()
     controller().Fenster();
     trageEin(QStringLiteral("Apfelmus"));
     uebernimm();
-    QVERIFY(controller().sichernknopf->isEnabled()); // the amount is 100 g again
+    QVERIFY(!controller().sichernknopf->isEnabled()); // only an amount wakes it
+    m_fenster->tippeMenge(QStringLiteral("50"));
+    m_fenster->tippeMenge(QStringLiteral("100"));
+    QVERIFY(controller().sichernknopf->isEnabled());
+    uebernimm();
+    QVERIFY(controller().sichernknopf->isEnabled());
 }
 
 void TestEigeneBlatt::everyValueFindsItsPlace()

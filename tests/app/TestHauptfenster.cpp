@@ -4,6 +4,7 @@
 
 #include <QAccessible>
 #include <QFileInfo>
+#include <QLabel>
 #include <QSignalSpy>
 #include <QSlider>
 #include <QTest>
@@ -36,6 +37,7 @@ private Q_SLOTS:
     void tabReachesWhatCanBeUsed();
     void displaysAreNoStopsOfTheTabKey();
     void hiddenValuesKeepTheirPlaces();
+    void theNameHasACaption();
 
 private:
     AppController &controller() const { return m_fenster->controller(); }
@@ -305,6 +307,29 @@ void TestHauptfenster::hiddenValuesKeepTheirPlaces()
     QCOMPARE(c.vitcfeld->geometry(), vitaminC);
     QCOMPARE(c.DatenAnsicht->geometry(), ansicht);
     QCOMPARE(c.proteinanzeige->geometry(), balken);
+}
+
+/// Nothing that is done to the food changes what stands beside its name.
+void TestHauptfenster::theNameHasACaption()
+{
+    const QLabel *beschriftung = controller().feldAeinaus;
+    const QRect ort = beschriftung->geometry();
+    const auto unveraendert = [&] {
+        QCoreApplication::processEvents();
+        return beschriftung->isVisible() && beschriftung->geometry() == ort &&
+               beschriftung->text() == QStringLiteral("Lebensmittel");
+    };
+    QCOMPARE(beschriftung->buddy(), controller().feldA);
+    QVERIFY(unveraendert());
+    QVERIFY(ort.right() < controller().feldA->geometry().left());
+    m_fenster->klicke(2, inName);
+    m_fenster->tippeMenge(QStringLiteral("0"));
+    QVERIFY(unveraendert());
+    controller().SichernFensterAuf();
+    controller().feldA->setStringValue(QString());
+    controller().suchen(*controller().suchfeld);
+    m_fenster->klickeDaneben();
+    QVERIFY(unveraendert());
 }
 
 QTEST_MAIN(TestHauptfenster)

@@ -1,5 +1,6 @@
 #include "Probefenster.h"
 
+#include <QScrollBar>
 #include <QTest>
 
 using enum Naehrwert;
@@ -26,6 +27,8 @@ private Q_SLOTS:
     void theRowOfTheFoodDecidesWhatIsHidden();
     void rowsWithASecondNameReachIntoTheResults();
     void theFoodIsScrolledIntoView();
+    void aChosenResultRollsNothingSideways_data();
+    void aChosenResultRollsNothingSideways();
     void anOwnFoodBelowTheTableIsShownAllTheSame();
     void theEvaluationRunsOnWhatStands();
 
@@ -259,6 +262,39 @@ void TestSuchspalte::theFoodIsScrolledIntoView()
     suche({zaehlname(850)});
     m_fenster->klicke(0, inSuch);
     QVERIFY(controller().Tabelle->viewport()->rect().contains(m_fenster->mitte(850, inName)));
+}
+
+void TestSuchspalte::aChosenResultRollsNothingSideways_data()
+{
+    QTest::addColumn<bool>("maus");
+    QTest::newRow("with the mouse") << true;
+    QTest::newRow("with Return") << false;
+}
+
+/// The user has made the column of the names so wide that the results are only half in sight.
+void TestSuchspalte::aChosenResultRollsNothingSideways()
+{
+    QFETCH(bool, maus);
+    oeffne(zaehltabelle(900));
+    suche({zaehlname(850), zaehlname(4)});
+    Tabellenansicht *tabelle = controller().Tabelle;
+    tabelle->setColumnWidth(inName, 600);
+    QTRY_VERIFY(tabelle->horizontalScrollBar()->isVisible());
+    tabelle->setFocus();
+    tabelle->setzeSchreibmarke(0, QStringLiteral("such"));
+    for (const int stand : {tabelle->horizontalScrollBar()->maximum() / 2, 170}) {
+        tabelle->verticalScrollBar()->setValue(0);
+        tabelle->horizontalScrollBar()->setValue(stand);
+        if (maus) {
+            const QPoint ort(tabelle->columnViewportPosition(inSuch) + 5, 5);
+            QTest::mouseClick(tabelle->viewport(), Qt::LeftButton, {}, ort);
+        } else {
+            QTest::keyClick(tabelle, Qt::Key_Return);
+        }
+        QCOMPARE(gezeigt(), zaehlname(850));
+        QVERIFY(tabelle->verticalScrollBar()->value() > 0);
+        QCOMPARE(tabelle->horizontalScrollBar()->value(), stand);
+    }
 }
 
 void TestSuchspalte::anOwnFoodBelowTheTableIsShownAllTheSame()

@@ -115,6 +115,7 @@ void TestWerkzeugziehen::thePaletteOffersEveryAllowedItem()
     for (const QString &kennung : leiste().quelle().toolbarAllowedItemIdentifiers()) {
         QVERIFY2(kachel(kennung) != nullptr, qPrintable(kennung));
         QCOMPARE(kachel(kennung)->text(), texte.value(kennung));
+        QVERIFY(!kachel(kennung)->icon().pixmap(32).isNull()); // room has one here too
         QCOMPARE(kachel(kennung)->toolTip(), QString());
     }
     QVERIFY(kachel(QStringLiteral("sport")) == nullptr);

@@ -1,8 +1,11 @@
 #include "Probefenster.h"
 
 #include <QApplication>
+#include <QDrag>
+#include <QImage>
 #include <QMimeData>
 #include <QPlainTextEdit>
+#include <QScrollBar>
 #include <QTest>
 
 using enum Naehrwert;
@@ -17,7 +20,15 @@ private Q_SLOTS:
     void cleanup();
     void aDragCarriesTheStoreKey_data();
     void aDragCarriesTheStoreKey();
+    void aDragTakesTheColumnUnderTheMouse_data();
+    void aDragTakesTheColumnUnderTheMouse();
+    void aDragTakesTheRowThatWasPressed_data();
+    void aDragTakesTheRowThatWasPressed();
+    void aDragCarriesAPictureWithTheName();
     void aDragCarriesPlainTextAlone();
+    void aDragMovesNothing_data();
+    void aDragMovesNothing();
+    void aPressAloneMovesNothing();
     void aDragLeavesTheDisplayAlone();
     void aDragBackIntoTheTableChoosesNothing();
     void nothingIsDraggedFromAnEmptyCell_data();
@@ -27,17 +38,53 @@ private Q_SLOTS:
     void pullingWhereNothingCanBeDraggedChooses();
 
 private:
-    QString abgelegt(int zeile, int spalte) const;
+    QString abgelegt(int zeile, int spalte) const
+    {
+        return abgelegt(m_fenster->mitte(zeile, spalte));
+    }
+    QString abgelegt(const QPoint &start, const QPoint &richtung = QPoint(0, 1)) const;
+    QRect zelle(int zeile, int spalte) const
+    {
+        const Tabellenansicht &tabelle = *controller().Tabelle;
+        return tabelle.visualRect(tabelle.model()->index(zeile, spalte));
+    }
     AppController &controller() const { return m_fenster->controller(); }
 
     std::unique_ptr<Probeheim> m_heim;
     std::unique_ptr<Probefenster> m_fenster;
+    std::function<void()> m_beimZiehen; ///< runs when the drag has reached its target
 };
+
+namespace {
+
+/// Runs when something is dragged into a widget.
+class Zoellner : public QObject
+{
+public:
+    Zoellner(QWidget *ziel, std::function<void()> aufruf) : m_aufruf(std::move(aufruf))
+    {
+        ziel->installEventFilter(this);
+    }
+    bool eventFilter(QObject *, QEvent *event) override
+    {
+        if (event->type() == QEvent::DragEnter) {
+            m_aufruf();
+        }
+        return false;
+    }
+
+private:
+    std::function<void()> m_aufruf;
+};
+
+} // namespace
 
 void TestZiehen::init()
 {
+    m_beimZiehen = [] {
+    };
     m_heim = std::make_unique<Probeheim>();
-    m_heim->schreibeTabelle(zaehltabelle(30));
+    m_heim->schreibeTabelle(zaehltabelle(80));
     m_heim->schreibeEigene(verzeichnis({lebensmittel(QStringLiteral("Eigenes A"), {{kal, 11}}),
                                         lebensmittel(QStringLiteral("Eigenes B"), {{kal, 22}})}));
     m_fenster = std::make_unique<Probefenster>(*m_heim);
@@ -53,17 +100,20 @@ void TestZiehen::cleanup()
     m_heim.reset();
 }
 
-/// What arrives in an editor beside the window when a cell is dragged there.
-QString TestZiehen::abgelegt(int zeile, int spalte) const
+/// What arrives in an editor beside the window when the mouse pulls from a place of the table, at
+/// first in this direction.
+QString TestZiehen::abgelegt(const QPoint &start, const QPoint &richtung) const
 {
     QPlainTextEdit ziel;
     ziel.setGeometry(controller().Hauptfenster->geometry().right() + 50, 0, 300, 200);
+    ziel.setAttribute(Qt::WA_ShowWithoutActivating); // the table keeps the keyboard
     ziel.show();
     if (!QTest::qWaitForWindowExposed(&ziel)) {
         return QStringLiteral("no editor");
     }
-    ziehe(*controller().Tabelle->viewport(), m_fenster->mitte(zeile, spalte), *ziel.viewport(),
-          ziel.viewport()->rect().center());
+    const Zoellner zoellner(ziel.viewport(), m_beimZiehen);
+    ziehe(*controller().Tabelle->viewport(), start, *ziel.viewport(),
+          ziel.viewport()->rect().center(), richtung);
     return ziel.toPlainText();
 }
 
@@ -87,6 +137,120 @@ void TestZiehen::aDragCarriesTheStoreKey()
     const Probeuebersetzer englisch({{zaehlname(7), QStringLiteral("Dish 7")},
                                      {QStringLiteral("Eigenes B"), QStringLiteral("Own B")}});
     QCOMPARE(abgelegt(zeile, spalte), text);
+}
+
+void TestZiehen::aDragTakesTheColumnUnderTheMouse_data()
+{
+    QTest::addColumn<int>("zeile");
+    QTest::addColumn<int>("spalte");
+    QTest::addColumn<bool>("nachRechts");
+    QTest::addColumn<QString>("text");
+    QTest::newRow("pressed in the names, pulled to the own foods")
+        << 1 << inName << true << QStringLiteral("Eigenes B");
+    QTest::newRow("pressed in the own foods, pulled to the names")
+        << 1 << inEigen << false << zaehlname(1);
+    QTest::newRow("pressed in the own foods, pulled to the results")
+        << 0 << inEigen << true << zaehlname(20);
+    QTest::newRow("pressed in an empty cell, pulled to the names")
+        << 7 << inEigen << false << zaehlname(7);
+    QTest::newRow("pressed in the names, pulled to an empty cell")
+        << 7 << inName << true << QString();
+}
+
+void TestZiehen::aDragTakesTheColumnUnderTheMouse()
+{
+    QFETCH(int, zeile);
+    QFETCH(int, spalte);
+    QFETCH(bool, nachRechts);
+    const QRect feld = zelle(zeile, spalte);
+    const QPoint start(nachRechts ? feld.right() - 3 : feld.left() + 3, feld.center().y());
+    QTEST(abgelegt(start, QPoint(nachRechts ? 1 : -1, 0)), "text");
+}
+
+void TestZiehen::aDragTakesTheRowThatWasPressed_data()
+{
+    QTest::addColumn<bool>("nachUnten");
+    QTest::newRow("pulled down into the next row") << true;
+    QTest::newRow("pulled up into the one before") << false;
+}
+
+void TestZiehen::aDragTakesTheRowThatWasPressed()
+{
+    QFETCH(bool, nachUnten);
+    const QRect feld = zelle(4, inName);
+    const QPoint start(feld.center().x(), nachUnten ? feld.bottom() - 1 : feld.top() + 1);
+    QCOMPARE(abgelegt(start, QPoint(0, nachUnten ? 1 : -1)), zaehlname(4));
+}
+
+void TestZiehen::aDragCarriesAPictureWithTheName()
+{
+    const Tabellenansicht *tabelle = controller().Tabelle;
+    QImage bild;
+    m_beimZiehen = [tabelle, &bild] {
+        bild = tabelle->findChild<QDrag *>()->pixmap().toImage();
+    };
+    QCOMPARE(abgelegt(2, inSuch), zaehlname(3));
+    QVERIFY(!bild.isNull());
+    QCOMPARE(bild, tabelle->ziehbild(zaehlname(3)).toImage());
+}
+
+void TestZiehen::aDragMovesNothing_data()
+{
+    QTest::addColumn<int>("gewaehlt");
+    QTest::addColumn<int>("spalte");
+    QTest::newRow("the food on display is above") << 2 << inName;
+    QTest::newRow("it is in sight") << 25 << inName;
+    QTest::newRow("it is below") << 70 << inName;
+    QTest::newRow("it is an own food") << 1 << inEigen;
+    QTest::newRow("it was found") << 0 << inSuch;
+}
+
+/// The table was rolled on from the food on display. What the user sees stays as it is, while the
+/// drag is under way and after it, so that the next drag takes what it seems to take.
+void TestZiehen::aDragMovesNothing()
+{
+    QFETCH(int, gewaehlt);
+    QFETCH(int, spalte);
+    Tabellenansicht *tabelle = controller().Tabelle;
+    m_fenster->klicke(gewaehlt, spalte);
+    const int zeile = tabelle->selectedRow();
+    tabelle->verticalScrollBar()->setValue(20);
+    const QPersistentModelIndex schreibmarke = tabelle->currentIndex();
+    const QImage anblick = tabelle->viewport()->grab().toImage();
+    const auto unbewegt = [&] {
+        QCOMPARE(tabelle->verticalScrollBar()->value(), 20);
+        QCOMPARE(tabelle->horizontalScrollBar()->value(), 0);
+        QCOMPARE(tabelle->selectedRow(), zeile);
+        QVERIFY(tabelle->currentIndex() == schreibmarke);
+    };
+    const QPoint ort = m_fenster->mitte(28, inName);
+    int erreicht = 0;
+    m_beimZiehen = [&] {
+        ++erreicht;
+        unbewegt();
+        QCOMPARE(tabelle->viewport()->grab().toImage(), anblick);
+    };
+    QCOMPARE(abgelegt(ort), zaehlname(28));
+    QCOMPARE(abgelegt(ort), zaehlname(28));
+    QCOMPARE(erreicht, 2);
+    unbewegt();
+    controller().Hauptfenster->activateWindow();
+    QVERIFY(QTest::qWaitForWindowActive(controller().Hauptfenster));
+    QCOMPARE(tabelle->viewport()->grab().toImage(), anblick);
+}
+
+/// The mark does not jump ahead with the name of another food: only letting go chooses.
+void TestZiehen::aPressAloneMovesNothing()
+{
+    m_fenster->klicke(9, inName);
+    QWidget *flaeche = controller().Tabelle->viewport();
+    const QImage anblick = flaeche->grab().toImage();
+    QTest::mousePress(flaeche, Qt::LeftButton, {}, m_fenster->mitte(4, inName));
+    QCOMPARE(controller().Tabelle->selectedRow(), 9);
+    QCOMPARE(flaeche->grab().toImage(), anblick);
+    QTest::mouseRelease(flaeche, Qt::LeftButton, {}, m_fenster->mitte(4, inName));
+    QCOMPARE(controller().Tabelle->selectedRow(), 4);
+    QCOMPARE(Probefenster::text(*controller().feldA), zaehlname(4));
 }
 
 void TestZiehen::aDragCarriesPlainTextAlone()

@@ -39,7 +39,8 @@ void leistenbilder()
 {
     QTest::addColumn<QString>("name");
     for (const char *name : {"Planmodul", "Drucken", "LM an Planmodul", "Anpassen", "Ansicht2",
-                             "SportIcon", "Neues LM", "Papierkorb"}) {
+                             "SportIcon", "Neues LM", "Papierkorb", "Leerraum",
+                             "Flexibler Leerraum"}) {
         QTest::newRow(name) << QString::fromLatin1(name);
     }
 }
