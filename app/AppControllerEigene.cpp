@@ -140,7 +140,8 @@ void AppController::LoescheneigeneLM()
              "Moechten Sie dieses eigene Lebensmittel wirklich dauerhaft loeschen ?  ")),
          .knoepfe = {localizedString(QStringLiteral("Nein")),
                      localizedString(QStringLiteral("Ja"))},
-         .gefahr = true});
+         .gefahr = true,
+         .gegenstand = localizedString(QStringLiteral("„%1“")).arg(name)});
     if (antwort == 0) {
         return;
     }

@@ -45,7 +45,10 @@ int zeigeMeldung(QWidget *fenster, const Meldung &meldung)
     kasten.setIcon(zeichenFuer(meldung));
     // A message without a heading says its explanation where the heading would stand.
     kasten.setText(meldung.text.isEmpty() ? meldung.erklaerung : meldung.text);
-    kasten.setInformativeText(meldung.text.isEmpty() ? QString() : meldung.erklaerung);
+    QStringList darunter = {meldung.text.isEmpty() ? QString() : meldung.erklaerung,
+                            meldung.gegenstand};
+    darunter.removeAll(QString());
+    kasten.setInformativeText(darunter.join(QStringLiteral("\n\n")));
     gibBreite(kasten, QStringLiteral("qt_msgbox_label"), !meldung.text.isEmpty());
     gibBreite(kasten, QStringLiteral("qt_msgbox_informativelabel"), false);
 

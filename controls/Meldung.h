@@ -17,6 +17,7 @@ struct Meldung
     QStringList knoepfe;
     bool verwerfbar = false; ///< it may be closed without an answer
     bool gefahr = false;     ///< something of the user's may be lost: it carries the warning sign
+    QString gegenstand = {}; ///< what it is about, on a line of its own below; null: nothing
 };
 
 /// Shows a message over the window and answers with the number of the pressed button, counted

@@ -213,6 +213,26 @@ void Planmodul::loeschenvonkundeneintraegen(const QString &name)
     }
 }
 
+void Planmodul::uebernimmEigene(const Lebensmittelverzeichnis &eigene)
+{
+    KundenDictionary = eigene;
+    if (m_fenster != nullptr) {
+        PlanTabelle->viewport()->update();
+    }
+}
+
+void Planmodul::uebernimmPlan(const Lebensmittelverzeichnis &gesichert)
+{
+    beendeEingabe();
+    laden(gesichert);
+    uebernimmAenderung();
+}
+
+void Planmodul::sichere()
+{
+    schreibePlan();
+}
+
 /// An amount that is being typed still belongs to the row in which it is typed.
 void Planmodul::beendeEingabe()
 {

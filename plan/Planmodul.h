@@ -81,6 +81,14 @@ public:
     /// A food is wanted in the plan, named by its key. It comes last, with 100 g.
     virtual void nameimportvontoolbar(const QString &name);
 
+    // Bringing back what was kept
+    /// Takes these own foods as the copy to work with from now on. The file is left to the caller.
+    void uebernimmEigene(const Lebensmittelverzeichnis &eigene);
+    /// Takes over a plan as it was read from a file, in place of the one that is there.
+    void uebernimmPlan(const Lebensmittelverzeichnis &gesichert);
+    /// Writes the plan's file once more, after it could not be written.
+    void sichere();
+
     // Actions of the window; without one they do nothing
     /// Takes the selected row out of the plan; without one, nothing happens.
     void Lebensmittelentfernen();

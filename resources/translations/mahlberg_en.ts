@@ -1588,6 +1588,10 @@ Nothing is worked out for children under 10 years; it resumes at 11 years.</tr
   <translation>Overweight</translation>
  </message>
  <message>
+  <source>„%1“</source>
+  <translation>“%1”</translation>
+ </message>
+ <message>
   <source>„%1“ ist gesichert. Kreis, Balken und Farben zeigen noch das Lebensmittel davor.</source>
   <translation>“%1” is saved. Circle, bars and colours still show the food before.</translation>
  </message>

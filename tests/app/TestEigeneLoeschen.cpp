@@ -132,6 +132,7 @@ void TestEigeneLoeschen::theQuestionIsAsked()
         QStringLiteral("Moechten Sie dieses eigene Lebensmittel wirklich dauerhaft loeschen ?  "));
     QCOMPARE(m_heim->meldungen[0].knoepfe,
              QStringList({QStringLiteral("Nein"), QStringLiteral("Ja")}));
+    QCOMPARE(m_heim->meldungen[0].gegenstand, u'„' + a + u'“'); // which one would go
 }
 
 void TestEigeneLoeschen::theTextsAreTranslated()

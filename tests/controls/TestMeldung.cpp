@@ -18,6 +18,7 @@ class TestMeldung : public QObject
 
 private Q_SLOTS:
     void textsStandWhereTheyBelong();
+    void whatItIsAboutStandsBelow();
     void withoutAHeadingTheExplanationIsTheHeading();
     void textsAreShownAsTheyAreWritten_data();
     void textsAreShownAsTheyAreWritten();
@@ -82,6 +83,19 @@ void TestMeldung::textsStandWhereTheyBelong()
     });
     QCOMPARE(text, u"Drucken"_s);
     QCOMPARE(erklaerung, u"Was moechten Sie drucken ? "_s); // with its blank
+}
+
+void TestMeldung::whatItIsAboutStandsBelow()
+{
+    QStringList darunter;
+    for (const QString &erklaerung : {u"Wirklich löschen ?  "_s, QString()}) {
+        zeige({.text = u"Achtung !"_s,
+               .erklaerung = erklaerung,
+               .knoepfe = {u"Nein"_s, u"Ja"_s},
+               .gegenstand = u"„Linsen“"_s},
+              [&](const QMessageBox &kasten) { darunter << kasten.informativeText(); });
+    }
+    QCOMPARE(darunter, (QStringList{u"Wirklich löschen ?  \n\n„Linsen“"_s, u"„Linsen“"_s}));
 }
 
 void TestMeldung::withoutAHeadingTheExplanationIsTheHeading()
