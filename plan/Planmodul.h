@@ -1,6 +1,5 @@
 #pragma once
 
-#include "Bestandsdatei.h"
 #include "Datenmodul.h"
 #include "Datenordner.h"
 #include "Drucktuer.h"
@@ -15,7 +14,10 @@
 
 #include <array>
 #include <cstdint>
+#include <memory>
 #include <vector>
+
+class Dateihueter;
 
 /// The doors through which a plan reaches the world outside of its window.
 struct Plantueren
@@ -24,6 +26,9 @@ struct Plantueren
     Datenordner datenordner;   ///< the user's data folder
     Meldungstuer melde;        ///< shows a message and waits for its answer
     Drucktuer drucke = {};     ///< prints; while it is absent, nothing does
+    /// Reads and writes the user's files, for all windows of the program; a plan that gets none
+    /// makes one of its own.
+    std::shared_ptr<Dateihueter> dateien = {};
 };
 
 /// What the calculator told about the client. There is one client at a time, so every plan window
@@ -125,7 +130,7 @@ private:
 
     // The files
     void schreibePlan() const;
-    void schreibeEigeneLebensmittel();
+    void schreibeEigeneLebensmittel() const;
     void uebernimmAenderung();
 
     // The evaluation
@@ -141,7 +146,6 @@ private:
 
     Plantueren m_tueren;
     QMainWindow *m_fenster = nullptr;
-    Bestandsdatei m_eigeneDatei;
     std::array<QLabel *, anzahlNaehrwerte> m_zeichen = {}; ///< the verdicts beside the bars
 
     // What the table shows: the rows of the last reload, and the amounts typed since.

@@ -8,6 +8,8 @@
 
 #include <memory>
 
+#include <sys/stat.h>
+
 class TestDatenordner : public QObject
 {
     Q_OBJECT
@@ -22,6 +24,7 @@ private Q_SLOTS:
     void aFolderThatCannotBeMadeIsNoMatter();
     void theHomeMayEndInASlash();
     void theUsersHomeIsTheDefault();
+    void foldersAreForTheUserAlone();
 
 private:
     QString ordner() const
@@ -123,6 +126,23 @@ void TestDatenordner::theUsersHomeIsTheDefault()
     qputenv("HOME", vorher);
     QCOMPARE(daten.pathForDataFile(QStringLiteral("customdaten")),
              ordner() + QStringLiteral("/MahlbergCustomnutr.daten"));
+}
+
+/// Those that the program makes; what somebody else made keeps its rights.
+void TestDatenordner::foldersAreForTheUserAlone()
+{
+    const auto rechte = [this](const char *name) {
+        struct stat angaben = {};
+        stat(QFile::encodeName(m_home->filePath(QLatin1String(name))).constData(), &angaben);
+        return angaben.st_mode & 0777U;
+    };
+    const mode_t vorher = umask(0);
+    QVERIFY(QDir(m_home->path()).mkdir(QStringLiteral("Library")));
+    Datenordner(m_home->path()).pathForDataFile(QStringLiteral("customdaten"));
+    umask(vorher);
+    QCOMPARE(rechte("Library"), mode_t(0777));
+    QCOMPARE(rechte("Library/Application Support"), mode_t(0700));
+    QCOMPARE(rechte("Library/Application Support/Mahlberg"), mode_t(0700));
 }
 
 QTEST_GUILESS_MAIN(TestDatenordner)
