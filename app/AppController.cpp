@@ -1,5 +1,6 @@
 #include "AppController.h"
 
+#include "Dateihueter.h"
 #include "Fensterplatz.h"
 #include "Lebensmittelbestand.h"
 #include "Menue.h"
@@ -44,6 +45,9 @@ AppController::AppController(Tueren tueren)
     , einfenster(nullptr)
     , m_tueren(std::move(tueren))
 {
+    if (m_tueren.dateien == nullptr) {
+        m_tueren.dateien = std::make_shared<Dateihueter>();
+    }
     ladeBestaende();
     HauptfensterGestalt::setupUi(Hauptfenster);
     for (QWidget *reiter : {tabEins, tabZwei, tabDrei}) {
@@ -73,8 +77,8 @@ void AppController::ladeBestaende()
     for (const QString &name : std::as_const(Array)) {
         m_uebersetzt << localizedString(name);
     }
-    Lebensmittelbestand eigene =
-        ladeEigenenBestand(m_tueren.datenordner.pathForDataFile(QStringLiteral("customdaten")));
+    Lebensmittelbestand eigene = ladeEigenenBestand(
+        *m_tueren.dateien, m_tueren.datenordner.pathForDataFile(QStringLiteral("customdaten")));
     KundenDictionary = std::move(eigene.verzeichnis);
     KundenArray = std::move(eigene.namen);
 }

@@ -2,7 +2,7 @@
 
 #include "AppController.h"
 
-#include "Archivdatei.h"
+#include "Dateihueter.h"
 #include "Zeichenkettentabelle.h"
 
 namespace {
@@ -83,9 +83,10 @@ void AppController::SicherneigeneLM()
 
 void AppController::schreibeEigeneLebensmittel() const
 {
-    // Whether it worked is not asked: the program goes on with what it holds in memory.
-    Archivdatei::schreiben(m_tueren.datenordner.pathForDataFile(QStringLiteral("customdaten")),
-                           KundenDictionary);
+    // Whether it worked is not asked: the program goes on with what it holds in memory, and the
+    // keeper of the files tells who wants to know.
+    m_tueren.dateien->schreiben(m_tueren.datenordner.pathForDataFile(QStringLiteral("customdaten")),
+                                KundenDictionary);
 }
 
 void AppController::SichernFensterAuf()

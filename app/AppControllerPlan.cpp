@@ -12,7 +12,8 @@ void AppController::Planmoduloeffnen()
         planmodul = new Planmodul({.eingebauteTabelle = m_tueren.eingebauteTabelle,
                                    .datenordner = m_tueren.datenordner,
                                    .melde = m_tueren.melde,
-                                   .drucke = m_tueren.drucke});
+                                   .drucke = m_tueren.drucke,
+                                   .dateien = m_tueren.dateien});
         stellePlanDaneben();
     }
     planmodul->showWindow();

@@ -1,5 +1,6 @@
 #include "Oberflaeche.h"
 
+#include "Dateihueter.h"
 #include "Rollbereich.h"
 
 namespace {
@@ -16,14 +17,24 @@ Anthrotueren anthrotueren(const Tueren &tueren)
                     .datenordner = tueren.datenordner,
                     .melde = tueren.melde,
                     .drucke = tueren.drucke,
+                    .dateien = tueren.dateien,
                 });
             },
     };
 }
 
+Tueren mitDateien(Tueren tueren, const std::shared_ptr<Dateihueter> &dateien)
+{
+    tueren.dateien = dateien;
+    return tueren;
+}
+
 } // namespace
 
-Oberflaeche::Oberflaeche(const Tueren &tueren) : hauptfenster(tueren), rechner(anthrotueren(tueren))
+Oberflaeche::Oberflaeche(const Tueren &tueren)
+    : dateien(tueren.dateien != nullptr ? tueren.dateien : std::make_shared<Dateihueter>())
+    , hauptfenster(mitDateien(tueren, dateien))
+    , rechner(anthrotueren(mitDateien(tueren, dateien)))
 {
     Rollbereich::fuelle(*hauptfenster.tabVier, rechner.koerperseite);
     Rollbereich::fuelle(*hauptfenster.tabFuenf, rechner.lebensweiseseite);

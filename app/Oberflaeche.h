@@ -3,6 +3,10 @@
 #include "AnthroController.h"
 #include "AppController.h"
 
+#include <memory>
+
+class Dateihueter;
+
 /// All that is there once the program has started: the main window with its controller, and the
 /// calculator, whose two pages lie in the last two tabs of that window.
 class Oberflaeche
@@ -13,6 +17,8 @@ public:
     /// Start-up of the main window, then of the calculator. Called once, after construction.
     void awakeFromNib();
 
+    /// The keeper of the user's files, which all windows share.
+    std::shared_ptr<Dateihueter> dateien;
     AppController hauptfenster;
     AnthroController rechner;
 };

@@ -7,7 +7,9 @@
 #include <QString>
 
 #include <functional>
+#include <memory>
 
+class Dateihueter;
 class QSettings;
 
 /// The doors through which the program reaches the world outside of its windows. They are made in
@@ -20,4 +22,7 @@ struct Tueren
     std::function<void(const QString &)> protokolliere; ///< writes a line to the system log
     QSettings *einstellungen; ///< the user defaults; outlives all controllers
     Drucktuer drucke = {};    ///< prints; while it is absent, nothing does
+    /// Reads and writes the user's files, for all windows of the program; a controller that gets
+    /// none makes one of its own.
+    std::shared_ptr<Dateihueter> dateien = {};
 };

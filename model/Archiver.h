@@ -33,7 +33,8 @@ struct Ergebnis
 
 /// Reads a store in either byte order. Bytes that are anything but a whole store of foods, down to
 /// the class versions, are damaged; they never bring the program down, take time beyond their
-/// length or memory beyond a small multiple of it.
+/// length or memory beyond a small multiple of it: a long file whose entries share their foods is
+/// damaged, since no program writes such.
 Ergebnis read(QByteArrayView bytes);
 
 /// Writes a store, always little-endian and by name, so that equal stores give equal bytes. Reading

@@ -6,6 +6,9 @@
 #include <QStringDecoder>
 
 #include <algorithm>
+#include <array>
+#include <deque>
+#include <map>
 #include <tuple>
 #include <utility>
 #include <vector>
@@ -38,6 +41,9 @@ using Form = Objektanfang::Form;
 /// Walks the one shape that a store of foods has: a dictionary of texts and records, each record of
 /// a name, seventeen values and four ratings. The shape fixes the depth, so nothing here calls
 /// itself, however deeply a bad file nests.
+///
+/// What is read is kept once and in pieces that never move, so that a file takes little more memory
+/// than the store that it holds.
 class Archivleser
 {
 public:
@@ -46,9 +52,11 @@ public:
 
 private:
     void leseVorspann();
-    Archiver::Ergebnis leseVerzeichnis();
+    qint32 leseVerzeichnis();
+    qint32 leseAnzahl();
     QString leseText();
-    quint32 leseLebensmittel();
+    void leseEintrag(const QString &schluessel);
+    const Datenmodul *trageEin(const QString &schluessel, const Datenmodul &lebensmittel);
     void leseFelder(Datenmodul &lebensmittel);
 
     Objektanfang leseObjektanfang();
@@ -63,15 +71,26 @@ private:
     std::size_t verweisnummer(quint8 kopf, std::size_t anzahl);
     void meldeFalscheKlasse(const Objektanfang &anfang, const QString &gesucht);
 
+    using Verzeichnis = std::map<QString, Datenmodul>;
+
     Archivstrom m_strom;
-    std::vector<QByteArrayView> m_kennungen;
-    std::vector<Nummeriertes> m_nummeriert;
-    std::vector<QString> m_texte;
-    std::vector<Datenmodul> m_lebensmittel;
+    std::deque<QByteArrayView> m_kennungen;
+    std::deque<Nummeriertes> m_nummeriert;
+    std::deque<QString> m_texte;
+    std::deque<const Datenmodul *> m_lebensmittel; ///< each in one of the two below
+    Verzeichnis m_verzeichnis;
+    std::multimap<QString, Datenmodul> m_abgeloeste; ///< of names that stood there again later
+    std::array<QString, 128> m_zeichen; ///< the texts of one letter that were met, mostly ratings
 };
 
 /// The fewest bytes of an entry: twice a type and a reference.
 constexpr qsizetype kleinsterEintrag = 4;
+
+/// A food that is only referred to takes some 30 times its bytes in memory. No program ever wrote
+/// such a file, so beyond some entries each must have room for a food of its own: the types and
+/// beginnings of two objects, a name, seventeen values, four ratings and an end.
+constexpr qsizetype kleinsterEigener = 50;
+constexpr qint32 stetsErlaubt = 1000;
 
 /// A text from the file as it may stand in a reason: not too long, and without bytes that a
 /// terminal would obey.
@@ -88,7 +107,8 @@ QString zitat(QByteArrayView roh)
 Archiver::Ergebnis Archivleser::lesen()
 {
     leseVorspann();
-    Archiver::Ergebnis ergebnis = leseVerzeichnis();
+    Archiver::Ergebnis ergebnis;
+    ergebnis.eintraege = leseVerzeichnis();
     if (!m_strom.heil()) {
         Archiver::Ergebnis schaden;
         schaden.position = m_strom.schadensort();
@@ -96,6 +116,7 @@ Archiver::Ergebnis Archivleser::lesen()
         return schaden;
     }
     ergebnis.zustand = Archiver::Zustand::Gelesen;
+    ergebnis.verzeichnis = Lebensmittelverzeichnis(std::move(m_verzeichnis));
     ergebnis.rest = m_strom.rest();
     return ergebnis;
 }
@@ -115,38 +136,38 @@ void Archivleser::leseVorspann()
     m_strom.ganzzahl(); // the version of the system that wrote it
 }
 
-/// The root: the number of entries, then for each a name and a food.
-Archiver::Ergebnis Archivleser::leseVerzeichnis()
+/// The root: the number of entries, which is the answer, then for each a name and a food.
+qint32 Archivleser::leseVerzeichnis()
 {
     const Objektanfang anfang = leseObjektanfang();
     if (anfang.form != Form::Neu ||
         (anfang.klasse != Klasse::Verzeichnis && anfang.klasse != Klasse::VerzeichnisVar)) {
         meldeFalscheKlasse(anfang, QStringLiteral("a dictionary"));
     }
-    erwarteTyp(Typ::ganzzahl);
-    const qsizetype position = m_strom.position();
-    const qint32 anzahl = m_strom.ganzzahl();
-    if (anzahl < 0 || anzahl > m_strom.rest() / kleinsterEintrag) {
-        m_strom.melde(position, QStringLiteral("%1 entries can't follow").arg(anzahl));
-    }
-
-    Archiver::Ergebnis ergebnis;
-    ergebnis.eintraege = anzahl;
+    const qint32 anzahl = leseAnzahl();
     for (qint32 i = 0; i < anzahl && m_strom.heil(); ++i) {
         const qsizetype ort = m_strom.position();
         const QString schluessel = leseText();
         if (schluessel.isNull()) {
             m_strom.melde(ort, QStringLiteral("an entry has no name"));
         }
-        const quint32 platz = leseLebensmittel();
-        if (m_strom.heil()) {
-            // Most files are in order, so the end is the right place to look first.
-            auto &verzeichnis = ergebnis.verzeichnis;
-            verzeichnis.insert(verzeichnis.cend(), schluessel, m_lebensmittel[platz]);
-        }
+        leseEintrag(schluessel);
     }
     erwarteEnde();
-    return ergebnis;
+    return anzahl;
+}
+
+/// The number of entries; a fault when the bytes left can't hold so many.
+qint32 Archivleser::leseAnzahl()
+{
+    erwarteTyp(Typ::ganzzahl);
+    const qsizetype position = m_strom.position();
+    const qint32 anzahl = m_strom.ganzzahl();
+    const qsizetype kleinster = anzahl > stetsErlaubt ? kleinsterEigener : kleinsterEintrag;
+    if (anzahl < 0 || anzahl > m_strom.rest() / kleinster) {
+        m_strom.melde(position, QStringLiteral("%1 entries can't follow").arg(anzahl));
+    }
+    return anzahl;
 }
 
 /// A text; null when it is absent, and after a fault.
@@ -178,6 +199,10 @@ QString Archivleser::leseTextinhalt(std::size_t nummer)
     QStringDecoder decoder(QStringConverter::Utf8, QStringConverter::Flag::ConvertInitialBom |
                                                        QStringConverter::Flag::Stateless);
     QString text = roh.isEmpty() ? QString(QLatin1String("")) : QString(decoder.decode(roh));
+    if (text.size() == 1 && text.front().unicode() < m_zeichen.size()) {
+        QString &bekannter = m_zeichen[text.front().unicode()];
+        text = bekannter.isNull() ? bekannter = text : bekannter;
+    }
     if (decoder.hasError()) {
         m_strom.melde(position, QStringLiteral("a text is not valid UTF-8"));
     }
@@ -190,29 +215,46 @@ QString Archivleser::leseTextinhalt(std::size_t nummer)
     return text;
 }
 
-/// A food's place in the list of foods; 0 after a fault.
-quint32 Archivleser::leseLebensmittel()
+/// The food of an entry, put into the store under its name.
+void Archivleser::leseEintrag(const QString &schluessel)
 {
     const Objektanfang anfang = leseObjektanfang();
     if (!m_strom.heil()) {
-        return 0;
+        return;
     }
     if (anfang.form == Form::Bekannt) {
-        return verweis(anfang, Art::Lebensmittel).platz;
+        const quint32 platz = verweis(anfang, Art::Lebensmittel).platz;
+        if (m_strom.heil()) {
+            trageEin(schluessel, *m_lebensmittel[platz]);
+        }
+        return;
     }
     if (anfang.form == Form::Nil || anfang.klasse != Klasse::Lebensmittel) {
         meldeFalscheKlasse(anfang, QStringLiteral("a food"));
-        return 0;
+        return;
     }
     Datenmodul lebensmittel;
     leseFelder(lebensmittel);
     erwarteEnde();
-    const auto platz = static_cast<quint32>(m_lebensmittel.size());
     if (m_strom.heil()) {
-        m_nummeriert[anfang.nummer] = {Art::Lebensmittel, Klasse::Keine, platz};
-        m_lebensmittel.push_back(std::move(lebensmittel));
+        m_nummeriert[anfang.nummer] = {Art::Lebensmittel, Klasse::Keine,
+                                       static_cast<quint32>(m_lebensmittel.size())};
+        m_lebensmittel.push_back(trageEin(schluessel, lebensmittel));
     }
-    return platz;
+}
+
+/// Where the food stands in the store. Of two under one name the later one counts; the earlier one
+/// is kept as long as others may refer to it.
+const Datenmodul *Archivleser::trageEin(const QString &schluessel, const Datenmodul &lebensmittel)
+{
+    // Most files are in order, so the end is the right place to look first.
+    const std::size_t bisher = m_verzeichnis.size();
+    auto platz = m_verzeichnis.try_emplace(m_verzeichnis.cend(), schluessel, lebensmittel);
+    if (m_verzeichnis.size() == bisher) {
+        m_abgeloeste.insert(m_verzeichnis.extract(platz));
+        platz = m_verzeichnis.try_emplace(m_verzeichnis.cend(), schluessel, lebensmittel);
+    }
+    return &platz->second;
 }
 
 void Archivleser::leseFelder(Datenmodul &lebensmittel)

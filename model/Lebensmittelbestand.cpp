@@ -1,6 +1,7 @@
 #include "Lebensmittelbestand.h"
 
 #include "Archivdatei.h"
+#include "Dateihueter.h"
 #include "Zeichenkettentabelle.h"
 
 #include <QCollator>
@@ -64,10 +65,10 @@ Lebensmittelbestand ladeBestand(const QString &path, const QLocale &locale)
     return bestand;
 }
 
-Lebensmittelbestand ladeEigenenBestand(const QString &path)
+Lebensmittelbestand ladeEigenenBestand(Dateihueter &dateien, const QString &path)
 {
     Lebensmittelbestand bestand;
-    bestand.verzeichnis = Archivdatei::lesen(path).archiv.verzeichnis;
+    bestand.verzeichnis = dateien.lesen(path).archiv.verzeichnis;
     bestand.namen = sortiertNachName(bestand.verzeichnis.keys());
     return bestand;
 }

@@ -6,6 +6,8 @@
 #include <QString>
 #include <QStringList>
 
+class Dateihueter;
+
 /// A store of foods as it is loaded: the records by name, and the names in the order in which they
 /// are shown. Every name is a key of the dictionary and stands in the list once.
 struct Lebensmittelbestand
@@ -30,4 +32,4 @@ Lebensmittelbestand ladeBestand(const QString &path, const QLocale &locale = QLo
 
 /// The user's own foods, in the plain order of their names. Empty when the file is missing, as on
 /// the first start, unreadable or damaged.
-Lebensmittelbestand ladeEigenenBestand(const QString &path);
+Lebensmittelbestand ladeEigenenBestand(Dateihueter &dateien, const QString &path);

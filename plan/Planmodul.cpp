@@ -2,6 +2,7 @@
 
 #include "Ampel.h"
 #include "Archivdatei.h"
+#include "Dateihueter.h"
 #include "Zeichenkettentabelle.h"
 
 #include <QImage>
@@ -31,13 +32,16 @@ QImage gesicht(const char *name)
 
 Planmodul::Planmodul(Plantueren tueren) : PlanmodulGestalt(), m_tueren(std::move(tueren))
 {
-    const Datenordner &ordner = m_tueren.datenordner;
-    const auto lies = [](const QString &path) {
-        return Archivdatei::lesen(path).archiv.verzeichnis;
+    if (m_tueren.dateien == nullptr) {
+        m_tueren.dateien = std::make_shared<Dateihueter>();
+    }
+    const auto lies = [this](const QString &name) {
+        const QString path = m_tueren.datenordner.pathForDataFile(name);
+        return m_tueren.dateien->lesen(path).archiv.verzeichnis;
     };
-    Dictionary = lies(m_tueren.eingebauteTabelle);
-    KundenDictionary = lies(ordner.pathForDataFile(QStringLiteral("customdaten")));
-    laden(lies(ordner.pathForDataFile(QStringLiteral("plandaten"))));
+    Dictionary = Archivdatei::lesen(m_tueren.eingebauteTabelle).archiv.verzeichnis;
+    KundenDictionary = lies(QStringLiteral("customdaten"));
+    laden(lies(QStringLiteral("plandaten")));
     allePlaene() << this;
 }
 
@@ -241,18 +245,19 @@ void Planmodul::beendeEingabe()
     }
 }
 
-// Whether writing worked is not asked: the plan goes on with what it holds in memory.
+// Whether writing worked is not asked: the plan goes on with what it holds in memory, and the
+// keeper of the files tells who wants to know.
 
 void Planmodul::schreibePlan() const
 {
-    Archivdatei::schreiben(m_tueren.datenordner.pathForDataFile(QStringLiteral("plandaten")),
-                           plansavedictionary);
+    m_tueren.dateien->schreiben(m_tueren.datenordner.pathForDataFile(QStringLiteral("plandaten")),
+                                plansavedictionary);
 }
 
-void Planmodul::schreibeEigeneLebensmittel()
+void Planmodul::schreibeEigeneLebensmittel() const
 {
-    m_eigeneDatei.halte(m_tueren.datenordner.pathForDataFile(QStringLiteral("customdaten")),
-                        KundenDictionary);
+    m_tueren.dateien->halte(m_tueren.datenordner.pathForDataFile(QStringLiteral("customdaten")),
+                            KundenDictionary);
 }
 
 /// What follows a change of the rows that ran through.

@@ -1,6 +1,5 @@
 #pragma once
 
-#include "Bestandsdatei.h"
 #include "Datenmodul.h"
 #include "Datenordner.h"
 #include "Drucktuer.h"
@@ -15,8 +14,11 @@
 
 #include <array>
 #include <cstdint>
+#include <memory>
 #include <optional>
 #include <vector>
+
+class Dateihueter;
 
 /// The doors through which a plan reaches the world outside of its window.
 struct Plantueren
@@ -25,6 +27,9 @@ struct Plantueren
     Datenordner datenordner;   ///< the user's data folder
     Meldungstuer melde;        ///< shows a message and waits for its answer
     Drucktuer drucke = {};     ///< prints; while it is absent, nothing does
+    /// Reads and writes the user's files, for all windows of the program; a plan that gets none
+    /// makes one of its own.
+    std::shared_ptr<Dateihueter> dateien = {};
 };
 
 /// What the calculator told about the client. There is one client at a time, so every plan window
@@ -136,7 +141,7 @@ private:
 
     // The files
     void schreibePlan() const;
-    void schreibeEigeneLebensmittel();
+    void schreibeEigeneLebensmittel() const;
     void uebernimmAenderung();
 
     // The notices
@@ -161,7 +166,6 @@ private:
 
     Plantueren m_tueren;
     QMainWindow *m_fenster = nullptr;
-    Bestandsdatei m_eigeneDatei;
     std::array<QLabel *, anzahlNaehrwerte> m_zeichen = {}; ///< the verdicts beside the bars
     std::optional<Klient>
         m_projiziert; ///< whom the chart shows; absent before the first projection

@@ -1,5 +1,6 @@
 #include "Archivbau.h"
 #include "Archivdatei.h"
+#include "Dateihueter.h"
 #include "Lebensmittelbestand.h"
 
 #include <QFile>
@@ -173,14 +174,16 @@ void TestLebensmittelbestand::nothingToLoad()
 {
     QFETCH(QByteArray, inhalt);
     const QTemporaryDir ordner;
+    Dateihueter dateien;
     QFile datei(ordner.filePath(QStringLiteral("a.daten")));
     if (!inhalt.isNull()) {
         QVERIFY(datei.open(QIODevice::WriteOnly));
         datei.write(inhalt);
         datei.close();
     }
-    for (const auto &bestand : {ladeBestand(datei.fileName()), ladeBestand(QString()),
-                                ladeEigenenBestand(datei.fileName()), ladeBestand(ordner.path())}) {
+    for (const auto &bestand :
+         {ladeBestand(datei.fileName()), ladeBestand(QString()),
+          ladeEigenenBestand(dateien, datei.fileName()), ladeBestand(ordner.path())}) {
         QVERIFY(bestand.verzeichnis.isEmpty());
         QVERIFY(bestand.namen.isEmpty());
     }
@@ -200,7 +203,8 @@ void TestLebensmittelbestand::theTwoStoresSortDifferently()
     QCOMPARE(fest.namen, woerter("apfel|Äpfel|Brot|Zucker"));
     QVERIFY(gleich(fest.verzeichnis, verzeichnis));
 
-    const auto eigen = ladeEigenenBestand(path);
+    Dateihueter dateien;
+    const auto eigen = ladeEigenenBestand(dateien, path);
     QCOMPARE(eigen.namen, woerter("apfel|Brot|Zucker|Äpfel"));
     QVERIFY(gleich(eigen.verzeichnis, verzeichnis));
 }

@@ -1,0 +1,201 @@
+#include "Sicherungen.h"
+
+#include "Dateiwechsel.h"
+
+#include <QDir>
+#include <QFile>
+#include <QFileInfo>
+#include <QRegularExpression>
+#include <QStringList>
+
+#include <algorithm>
+#include <cstdio>
+#include <tuple>
+#include <utility>
+
+namespace Sicherungen {
+
+namespace {
+
+constexpr int meisteKopien = 10;
+
+const QString tagesform = QStringLiteral("yyyy-MM-dd");
+const QString momentform = QStringLiteral("yyyy-MM-dd HH.mm.ss");
+
+/// A file's name in two parts, between which its copies have a date. The second one is empty or
+/// begins with the last point.
+struct Name
+{
+    QDir ordner;
+    QString rumpf;
+    QString endung;
+
+    explicit Name(const QString &path)
+    {
+        const QFileInfo original(Dateiwechsel::ziel(path));
+        ordner.setPath(original.path());
+        rumpf = original.completeBaseName();
+        endung = original.fileName().mid(rumpf.size());
+    }
+    QString mit(const QString &zusatz) const { return rumpf + QLatin1Char(' ') + zusatz + endung; }
+    QDir tagesordner() const { return QDir(ordner.filePath(ordnername)); }
+};
+
+/// The files in a folder that are named like copies of this one, and what stands in the groups of
+/// the pattern.
+QList<std::pair<QString, QStringList>> kopien(const Name &name, const QDir &ordner,
+                                              const QString &muster)
+{
+    const QRegularExpression regel(QRegularExpression::anchoredPattern(
+        QRegularExpression::escape(name.rumpf) + muster + QRegularExpression::escape(name.endung)));
+    QList<std::pair<QString, QStringList>> gefunden;
+    for (const QString &datei : ordner.entryList(QDir::Files | QDir::Hidden)) {
+        const QRegularExpressionMatch treffer = regel.match(datei);
+        if (treffer.hasMatch()) {
+            gefunden.append({ordner.filePath(datei), treffer.capturedTexts()});
+        }
+    }
+    return gefunden;
+}
+
+/// A file that was put beside another one. Those of one second are told apart by a number.
+struct Beiseiteliegendes
+{
+    QString path;
+    QString moment;
+    int nummer;
+};
+
+/// What was put beside the file, oldest first.
+QList<Beiseiteliegendes> beiseiteliegende(const Name &name)
+{
+    QList<Beiseiteliegendes> alle;
+    for (const auto &[path, teile] :
+         kopien(name, name.ordner,
+                QStringLiteral(R"( (\d{4}-\d\d-\d\d \d\d\.\d\d\.\d\d)(?: \((\d{1,4})\))?)"))) {
+        alle.append({path, teile.value(1), std::max(1, teile.value(2).toInt())});
+    }
+    std::sort(alle.begin(), alle.end(), [](const auto &a, const auto &b) {
+        return std::tie(a.moment, a.nummer) < std::tie(b.moment, b.nummer);
+    });
+    return alle;
+}
+
+bool enthaelt(const QString &path, const QByteArray &bytes)
+{
+    QFile datei(path);
+    return datei.size() == bytes.size() && datei.open(QIODevice::ReadOnly) &&
+           datei.readAll() == bytes;
+}
+
+/// A name for a copy that nothing has yet. Its number is higher than those of the same second, also
+/// when the first of them are gone already, so that it counts as the newest.
+QString freierName(const Name &name, const QDateTime &jetzt)
+{
+    const QString moment = jetzt.toString(momentform);
+    int nummer = 1;
+    for (const Beiseiteliegendes &eines : beiseiteliegende(name)) {
+        nummer = eines.moment == moment ? eines.nummer + 1 : nummer;
+    }
+    const QString zusatz = nummer > 1 ? QStringLiteral(" (%1)").arg(nummer) : QString();
+    return name.ordner.filePath(name.mit(moment + zusatz));
+}
+
+bool benenneUm(const QString &von, const QString &nach)
+{
+    return std::rename(QFile::encodeName(von).constData(), QFile::encodeName(nach).constData()) ==
+           0;
+}
+
+} // namespace
+
+QList<Sicherung> tage(const QString &path)
+{
+    const Name name(path);
+    QList<Sicherung> alle;
+    for (const auto &[kopie, teile] :
+         kopien(name, name.tagesordner(), QStringLiteral(R"( (\d{4}-\d\d-\d\d))"))) {
+        const QDate tag = QDate::fromString(teile.value(1), tagesform);
+        if (tag.isValid()) {
+            alle.append({kopie, tag});
+        }
+    }
+    std::sort(alle.begin(), alle.end(),
+              [](const Sicherung &a, const Sicherung &b) { return a.tag > b.tag; });
+    return alle;
+}
+
+bool sichereTag(const QString &path, const QByteArray &bytes, const QDateTime &geaendert)
+{
+    const Name name(path);
+    const QDir ordner = name.tagesordner();
+    constexpr auto nurDerNutzer = QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner;
+    if (!ordner.exists() && !QDir().mkdir(ordner.path(), nurDerNutzer)) {
+        return false;
+    }
+    const QString kopie = ordner.filePath(name.mit(geaendert.date().toString(tagesform)));
+    const QFileInfo bisher(kopie);
+    if (bisher.exists() && bisher.lastModified() > geaendert) {
+        return true;
+    }
+    Dateiwechsel neu(kopie);
+    if (!neu.bereite(bytes, geaendert) || !neu.vollziehe()) {
+        return false;
+    }
+    // A clock that goes wrong gives wrong days: the copy just made stays even as the oldest one.
+    QList<Sicherung> alle = tage(path);
+    alle.removeIf([&kopie](const Sicherung &eine) { return eine.path == kopie; });
+    for (; alle.size() >= meisteKopien; alle.removeLast()) {
+        QFile::remove(alle.constLast().path);
+    }
+    return true;
+}
+
+Beiseitegelegtes legeBeiseite(const QString &path, const Archivdatei::Rohdaten &vorher,
+                              const QDateTime &jetzt)
+{
+    using Wie = Beiseitegelegtes::Wie;
+    const Name name(path);
+    const QString kopie = freierName(name, jetzt);
+    if (vorher.zustand == Archivdatei::Zustand::Unlesbar) {
+        const bool frei = !QFileInfo::exists(kopie) && benenneUm(Dateiwechsel::ziel(path), kopie);
+        return frei ? Beiseitegelegtes{Wie::Verschoben, kopie} : Beiseitegelegtes();
+    }
+    for (const Beiseiteliegendes &frueheres : beiseiteliegende(name)) {
+        if (enthaelt(frueheres.path, vorher.bytes)) {
+            return {Wie::Frueher, frueheres.path};
+        }
+    }
+    Dateiwechsel neu(kopie);
+    const bool gelungen = neu.bereite(vorher.bytes) && neu.vollziehe();
+    return gelungen ? Beiseitegelegtes{Wie::Kopiert, kopie} : Beiseitegelegtes();
+}
+
+void nimmZurueck(const QString &path, const Beiseitegelegtes &beiseite)
+{
+    if (beiseite.wie == Beiseitegelegtes::Wie::Verschoben) {
+        benenneUm(beiseite.path, Dateiwechsel::ziel(path));
+    } else if (beiseite.wie == Beiseitegelegtes::Wie::Kopiert) {
+        QFile::remove(beiseite.path);
+    }
+}
+
+/// The oldest ones go, but never the largest: what was put aside first often has the work of years
+/// in it, and what trouble with the disk leaves afterwards little.
+void begrenze(const QString &path, const Beiseitegelegtes &beiseite)
+{
+    const QList<Beiseiteliegendes> alle = beiseiteliegende(Name(path));
+    const auto kleiner = [](const Beiseiteliegendes &a, const Beiseiteliegendes &b) {
+        return QFileInfo(a.path).size() < QFileInfo(b.path).size();
+    };
+    const auto groesstes = std::max_element(alle.begin(), alle.end(), kleiner);
+    qsizetype zuViele = alle.size() - meisteKopien;
+    for (auto eines = alle.begin(); eines != alle.end() && zuViele > 0; ++eines) {
+        if (eines != groesstes && eines->path != beiseite.path) {
+            QFile::remove(eines->path);
+            --zuViele;
+        }
+    }
+}
+
+} // namespace Sicherungen
