@@ -303,6 +303,14 @@ void Tabellenansicht::mouseReleaseEvent(QMouseEvent *event)
     }
 }
 
+/// Where the first click has rolled another row under the mouse, the second is no choice of it.
+void Tabellenansicht::mouseDoubleClickEvent(QMouseEvent *event)
+{
+    if (rowAt(event->position().toPoint().y()) == m_gedrueckteZeile) {
+        QTableView::mouseDoubleClickEvent(event);
+    }
+}
+
 void Tabellenansicht::keyPressEvent(QKeyEvent *event)
 {
     const QModelIndex vorher = currentIndex();

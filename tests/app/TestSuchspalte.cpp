@@ -2,6 +2,7 @@
 
 #include <QScrollBar>
 #include <QTest>
+#include <QWindow>
 
 using enum Naehrwert;
 
@@ -27,6 +28,7 @@ private Q_SLOTS:
     void theRowOfTheFoodDecidesWhatIsHidden();
     void rowsWithASecondNameReachIntoTheResults();
     void theFoodIsScrolledIntoView();
+    void aDoubleClickStaysWithTheFirstChoice();
     void aChosenResultRollsNothingSideways_data();
     void aChosenResultRollsNothingSideways();
     void anOwnFoodBelowTheTableIsShownAllTheSame();
@@ -262,6 +264,23 @@ void TestSuchspalte::theFoodIsScrolledIntoView()
     suche({zaehlname(850)});
     m_fenster->klicke(0, inSuch);
     QVERIFY(controller().Tabelle->viewport()->rect().contains(m_fenster->mitte(850, inName)));
+}
+
+/// The first click has rolled the table, and another result lies under the mouse.
+void TestSuchspalte::aDoubleClickStaysWithTheFirstChoice()
+{
+    oeffne(zaehltabelle(900));
+    QStringList treffer;
+    for (int i = 0; i < 900; ++i) {
+        treffer << zaehlname(899 - i);
+    }
+    suche(treffer);
+    QWindow *fenster = controller().Hauptfenster->windowHandle();
+    const QPoint ort = controller().Tabelle->viewport()->mapTo(controller().Hauptfenster,
+                                                               m_fenster->mitte(5, inSuch));
+    QTest::mouseDClick(fenster, Qt::LeftButton, {}, ort);
+    QCOMPARE(gezeigt(), zaehlname(894));
+    QCOMPARE(controller().Tabelle->selectedRow(), 894);
 }
 
 void TestSuchspalte::aChosenResultRollsNothingSideways_data()
