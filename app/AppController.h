@@ -121,6 +121,8 @@ Q_SIGNALS:
     /// The main window was closed, and with it the program ends. Nothing is left to save: every
     /// change was written when it was made.
     void beendet();
+    /// The copies of own foods and plan are to be shown.
+    void fruehereStaendeGewuenscht();
 
 protected:
     bool eventFilter(QObject *watched, QEvent *event) override;

@@ -61,6 +61,8 @@ void baueAblage(AppController &controller)
     ablage.addSeparator();
     eintrag(ablage, QT_TRANSLATE_NOOP("Mahlberg", "&Drucken …"),
             QKeySequence(QStringLiteral("Ctrl+P")), [&controller] { controller.drucken(); });
+    eintrag(ablage, QT_TRANSLATE_NOOP("Mahlberg", "&Frühere Stände …"), {},
+            [&controller] { Q_EMIT controller.fruehereStaendeGewuenscht(); });
     ablage.addSeparator();
     // A key of its own, which not every desktop has for this; from the plan's window as well.
     eintrag(ablage, QT_TRANSLATE_NOOP("Mahlberg", "&Beenden"),

@@ -1,6 +1,7 @@
 #include "Oberflaeche.h"
 
 #include "Dateihueter.h"
+#include "Einstellungen.h"
 #include "Rollbereich.h"
 
 namespace {
@@ -35,7 +36,11 @@ Oberflaeche::Oberflaeche(const Tueren &tueren)
     : dateien(tueren.dateien != nullptr ? tueren.dateien : std::make_shared<Dateihueter>())
     , hauptfenster(mitDateien(tueren, dateien))
     , rechner(anthrotueren(mitDateien(tueren, dateien)))
+    , ansage(hauptfenster, tueren.datenordner, dateien)
 {
+    if (const auto *einstellungen = qobject_cast<Einstellungen *>(tueren.einstellungen)) {
+        ansage.beachte(*einstellungen);
+    }
     Rollbereich::fuelle(*hauptfenster.tabVier, rechner.koerperseite);
     Rollbereich::fuelle(*hauptfenster.tabFuenf, rechner.lebensweiseseite);
 }
@@ -44,4 +49,5 @@ void Oberflaeche::awakeFromNib()
 {
     hauptfenster.awakeFromNib();
     rechner.awakeFromNib();
+    ansage.beginne();
 }

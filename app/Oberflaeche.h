@@ -2,6 +2,7 @@
 
 #include "AnthroController.h"
 #include "AppController.h"
+#include "Dateiansage.h"
 
 #include <memory>
 
@@ -21,4 +22,5 @@ public:
     std::shared_ptr<Dateihueter> dateien;
     AppController hauptfenster;
     AnthroController rechner;
+    Dateiansage ansage;
 };

@@ -116,6 +116,14 @@ void Dateihueter::halte(const QString &path, const Lebensmittelverzeichnis &verz
     }
 }
 
+void Dateihueter::hebeAuf(const QString &path) const
+{
+    const Archivdatei::Rohdaten jetzt = Archivdatei::leseBytes(path);
+    if (jetzt.zustand == Zustand::Gelesen) {
+        Sicherungen::begrenze(path, Sicherungen::legeBeiseite(path, jetzt, m_uhr()));
+    }
+}
+
 bool Dateihueter::mussGehaltenWerden(const QString &path,
                                      const Lebensmittelverzeichnis &verzeichnis) const
 {

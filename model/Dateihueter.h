@@ -59,6 +59,10 @@ public:
     /// again after a change of the store or of what is at the path, or some seconds later.
     void halte(const QString &path, const Lebensmittelverzeichnis &verzeichnis);
 
+    /// Keeps a copy of the file as it stands now, beside the others, because the user is about to
+    /// replace it by an earlier state. A file that is not there or can't be read is left alone.
+    void hebeAuf(const QString &path) const;
+
     /// What the user should know now: at most one report for each path and kind, oldest first.
     const QList<Dateimeldung> &offeneMeldungen() const { return m_meldungen; }
 

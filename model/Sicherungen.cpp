@@ -117,12 +117,29 @@ QList<Sicherung> tage(const QString &path)
          kopien(name, name.tagesordner(), QStringLiteral(R"( (\d{4}-\d\d-\d\d))"))) {
         const QDate tag = QDate::fromString(teile.value(1), tagesform);
         if (tag.isValid()) {
-            alle.append({kopie, tag});
+            alle.append({.path = kopie, .tag = tag});
         }
     }
     std::sort(alle.begin(), alle.end(),
               [](const Sicherung &a, const Sicherung &b) { return a.tag > b.tag; });
     return alle;
+}
+
+QList<Sicherung> alle(const QString &path)
+{
+    QList<Sicherung> kopien = tage(path);
+    for (const Beiseiteliegendes &eines : beiseiteliegende(Name(path))) {
+        const QDateTime moment = QDateTime::fromString(eines.moment, momentform);
+        if (moment.isValid()) {
+            kopien.prepend({.path = eines.path, .tag = moment.date(), .moment = moment});
+        }
+    }
+    const auto wann = [](const Sicherung &eine) {
+        return eine.moment.isValid() ? eine.moment : eine.tag.endOfDay();
+    };
+    std::stable_sort(kopien.begin(), kopien.end(),
+                     [&](const Sicherung &a, const Sicherung &b) { return wann(a) > wann(b); });
+    return kopien;
 }
 
 bool sichereTag(const QString &path, const QByteArray &bytes, const QDateTime &geaendert)

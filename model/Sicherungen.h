@@ -11,11 +11,13 @@
 /// lies, which is where its link leads to, and are readable by the user alone.
 namespace Sicherungen {
 
-/// The file as it stood at the end of a day on which it was changed.
+/// A copy of the file: as it stood at the end of a day on which it was changed, or as it was put
+/// aside at some moment.
 struct Sicherung
 {
     QString path;
     QDate tag;
+    QDateTime moment = {}; ///< when it was put aside; null for the copy of a day
 };
 
 /// The folder of the day copies, below that of the file.
@@ -23,6 +25,9 @@ inline const QString ordnername = QStringLiteral("Sicherungen");
 
 /// The day copies of a file, newest first.
 QList<Sicherung> tage(const QString &path);
+
+/// All copies of a file, the newest first; that of a day comes before what was put aside on it.
+QList<Sicherung> alle(const QString &path);
 
 /// Keeps the content of a file under the day of its last change, in a copy like
 /// "Sicherungen/Foods 2026-11-20.daten". Of two states of one day the later one stays. False when

@@ -232,11 +232,6 @@ void Planmodul::uebernimmPlan(const Lebensmittelverzeichnis &gesichert)
     uebernimmAenderung();
 }
 
-void Planmodul::sichere()
-{
-    schreibePlan();
-}
-
 /// An amount that is being typed still belongs to the row in which it is typed.
 void Planmodul::beendeEingabe()
 {

@@ -91,8 +91,6 @@ public:
     void uebernimmEigene(const Lebensmittelverzeichnis &eigene);
     /// Takes over a plan as it was read from a file, in place of the one that is there.
     void uebernimmPlan(const Lebensmittelverzeichnis &gesichert);
-    /// Writes the plan's file once more, after it could not be written.
-    void sichere();
 
     // Actions of the window; without one they do nothing
     /// Takes the selected row out of the plan; without one, nothing happens.

@@ -68,40 +68,9 @@ const Wertungsbeschreibung *wertungVon(const QString &spalte)
     return zeile != wertungen.end() ? zeile : nullptr;
 }
 
-/// Thousands are not parted: a typed point or comma always means the decimals.
-QLocale zahlensprache()
-{
-    QLocale locale;
-    locale.setNumberOptions(QLocale::OmitGroupSeparator);
-    return locale;
-}
-
 QString mengentext(float gramm)
 {
-    return zahlensprache().toString(static_cast<double>(gramm), 'g', bedeutsameStellen);
-}
-
-bool zeigtEtwas(double zahl, int stellen)
-{
-    const QString text = QString::number(zahl, 'f', stellen);
-    return std::any_of(text.begin(), text.end(),
-                       [](QChar zeichen) { return zeichen > u'0' && zeichen <= u'9'; });
-}
-
-/// A value with so many digits behind the comma, and with more where nothing but zeros would be
-/// seen of it: a trace is not nothing. What ran over is a dash.
-QString wertText(double zahl, int stellen)
-{
-    constexpr int meisteStellen = 6;
-    if (!std::isfinite(zahl)) {
-        return QStringLiteral("-");
-    }
-    int noetig = stellen;
-    while (zahl != 0 && noetig <= meisteStellen && !zeigtEtwas(zahl, noetig)) {
-        ++noetig;
-    }
-    return noetig <= meisteStellen ? zahlensprache().toString(zahl, 'f', noetig)
-                                   : zahlensprache().toString(zahl, 'g', 1);
+    return zahlenform().toString(static_cast<double>(gramm), 'g', bedeutsameStellen);
 }
 
 Spalte wertspalte(const Naehrwertbeschreibung &zeile)
@@ -217,7 +186,9 @@ Zellenbild Planmodul::willDisplayCell(const QString &spalte, int zeile, const QS
         const float zahl = eintrag != nullptr ? eintrag->wert(naehrwert->wert) *
                                                     (m_gezeigteMengen.value(zeile) / 100.0F)
                                               : 0.0F;
-        bild.text = wertText(static_cast<double>(zahl), nachkommastellen[stelle(naehrwert->wert)]);
+        bild.text = std::isfinite(zahl) ? wertText(static_cast<double>(zahl),
+                                                   nachkommastellen[stelle(naehrwert->wert)])
+                                        : QStringLiteral("-"); // it ran over
     }
     return bild;
 }

@@ -772,6 +772,10 @@ Nothing is worked out for children under 10 years; it resumes at 11 years.</tr
   <translation>% of the daily need in </translation>
  </message>
  <message>
+  <source>%1 Lebensmittel; davon fehlen heute %2 und sind heute anders %3. Nur heute da: %4.</source>
+  <translation>%1 foods; of these %2 are missing today and %3 are different today. Only there today: %4.</translation>
+ </message>
+ <message>
   <source>%1 mehr</source>
   <translation>%1 more</translation>
  </message>
@@ -786,6 +790,10 @@ Nothing is worked out for children under 10 years; it resumes at 11 years.</tr
  <message>
   <source>%1 von 21 Punkten</source>
   <translation>%1 of 21 points</translation>
+ </message>
+ <message>
+  <source>%1 weitere</source>
+  <translation>%1 more</translation>
  </message>
  <message>
   <source>%1 weniger</source>
@@ -832,6 +840,10 @@ Nothing is worked out for children under 10 years; it resumes at 11 years.</tr
   <translation>&amp;Window</translation>
  </message>
  <message>
+  <source>&amp;Frühere Stände …</source>
+  <translation>&amp;Earlier states …</translation>
+ </message>
+ <message>
   <source>&amp;Hell</source>
   <translation>&amp;Light</translation>
  </message>
@@ -864,6 +876,10 @@ Nothing is worked out for children under 10 years; it resumes at 11 years.</tr
   <translation>&amp;Undo</translation>
  </message>
  <message>
+  <source>&amp;Stände von</source>
+  <translation>&amp;States of</translation>
+ </message>
+ <message>
   <source>&amp;Vollbild</source>
   <translation>&amp;Full screen</translation>
  </message>
@@ -872,8 +888,16 @@ Nothing is worked out for children under 10 years; it resumes at 11 years.</tr
   <translation>&amp;Redo</translation>
  </message>
  <message>
+  <source>&amp;Zurückholen</source>
+  <translation>&amp;Bring back</translation>
+ </message>
+ <message>
   <source>&amp;Über Mahlberg</source>
   <translation>&amp;About Mahlberg</translation>
+ </message>
+ <message>
+  <source>(ohne Namen)</source>
+  <translation>(without a name)</translation>
  </message>
  <message>
   <source>100 % der Energie = %1 am Tag</source>
@@ -902,6 +926,10 @@ Nothing is worked out for children under 10 years; it resumes at 11 years.</tr
  <message>
   <source>Achtung !  Sie koennen nur eigene Lebensmittel loeschen !</source>
   <translation>Attention! You can only delete foods of your own!</translation>
+ </message>
+ <message>
+  <source>anders</source>
+  <translation>different</translation>
  </message>
  <message>
   <source>Anpassen</source>
@@ -934,6 +962,10 @@ Nothing is worked out for children under 10 years; it resumes at 11 years.</tr
  <message>
   <source>BE und Relationen in </source>
   <translation>BE and ratios in </translation>
+ </message>
+ <message>
+  <source>beiseitegelegt am %1</source>
+  <translation>put aside on %1</translation>
  </message>
  <message>
   <source>BS</source>
@@ -984,6 +1016,10 @@ Nothing is worked out for children under 10 years; it resumes at 11 years.</tr
   <translation>The printer “%1” does not take the job. Perhaps it is switched off or no longer connected.</translation>
  </message>
  <message>
+  <source>Der frühere Stand ist zurückgeholt.</source>
+  <translation>The earlier state is back.</translation>
+ </message>
+ <message>
   <source>Der Plan ist leer</source>
   <translation>The plan is empty</translation>
  </message>
@@ -1008,8 +1044,28 @@ Nothing is worked out for children under 10 years; it resumes at 11 years.</tr
   <translation>The selected row stands for “%1”.</translation>
  </message>
  <message>
+  <source>Die Datei „%1“ ist beschädigt; was in ihr stand, fehlt hier. Sie wird aufgehoben. Vielleicht hilft ein früherer Stand.</source>
+  <translation>The file “%1” is damaged; what it held is missing here. It is kept. Perhaps an earlier state helps.</translation>
+ </message>
+ <message>
+  <source>Die Datei „%1“ lässt sich nicht lesen; was in ihr steht, fehlt hier, geht aber nicht verloren. Bitte prüfen Sie Ordner und Platte und starten Sie Mahlberg neu.</source>
+  <translation>The file “%1” can’t be read; what it holds is missing here, but is not lost. Please check the folder and the disk and start Mahlberg again.</translation>
+ </message>
+ <message>
   <source>Die Datei „%1“ lässt sich nicht schreiben. Vielleicht ist der Ordner geschützt oder kein Platz mehr frei.</source>
   <translation>The file “%1” cannot be written. Perhaps the folder is protected or there is no space left.</translation>
+ </message>
+ <message>
+  <source>Die Datei „%1“ lässt sich nicht schreiben: Die letzte Änderung ist nicht gesichert. Ist die Platte voll oder der Ordner geschützt?</source>
+  <translation>The file “%1” can’t be written: the last change is not saved. Is the disk full or the folder protected?</translation>
+ </message>
+ <message>
+  <source>Die des Fensters sichern</source>
+  <translation>Save the window’s</translation>
+ </message>
+ <message>
+  <source>Die Einstellungen lassen sich nicht sichern: Die Datei „%1“ ist nicht zu lesen oder nicht zu schreiben.</source>
+  <translation>The settings can’t be saved: the file “%1” can’t be read or can’t be written.</translation>
  </message>
  <message>
   <source>Die Sprache wechselt beim nächsten Start.</source>
@@ -1028,6 +1084,10 @@ Nothing is worked out for children under 10 years; it resumes at 11 years.</tr
   <translation>Its rows stand for other foods.</translation>
  </message>
  <message>
+  <source>Diese Datei lässt sich nicht lesen: %1</source>
+  <translation>This file can’t be read: %1</translation>
+ </message>
+ <message>
   <source>Drucken</source>
   <translation>Print</translation>
  </message>
@@ -1036,8 +1096,16 @@ Nothing is worked out for children under 10 years; it resumes at 11 years.</tr
   <translation>&amp;Appearance</translation>
  </message>
  <message>
+  <source>ebenso</source>
+  <translation>the same</translation>
+ </message>
+ <message>
   <source>Eigene</source>
   <translation>Own</translation>
+ </message>
+ <message>
+  <source>Eigene Lebensmittel</source>
+  <translation>Own foods</translation>
  </message>
  <message>
   <source>Eigenes Lebensmittel &amp;löschen …</source>
@@ -1064,6 +1132,10 @@ Nothing is worked out for children under 10 years; it resumes at 11 years.</tr
   <translation>An aid for counselling; it does not replace a doctor’s judgement. Licence: MIT.</translation>
  </message>
  <message>
+  <source>eines ohne Namen</source>
+  <translation>one without a name</translation>
+ </message>
+ <message>
   <source>Einfache Liste</source>
   <translation>Simple list</translation>
  </message>
@@ -1084,12 +1156,24 @@ Nothing is worked out for children under 10 years; it resumes at 11 years.</tr
   <translation>Nutrition counselling and diet planning: foods, their nutrients and their suitability, meal plans and the energy requirement.</translation>
  </message>
  <message>
+  <source>es fehlen: %1</source>
+  <translation>missing: %1</translation>
+ </message>
+ <message>
+  <source>Es gibt noch keine früheren Stände. An jedem Tag, an dem sich etwas ändert, wird der Stand davor aufgehoben; die letzten zehn bleiben.</source>
+  <translation>There are no earlier states yet. On each day on which something changes, the state before is kept; the last ten remain.</translation>
+ </message>
+ <message>
   <source>Es wird nichts angezeigt, das gedruckt werden könnte.</source>
   <translation>Nothing is displayed that could be printed.</translation>
  </message>
  <message>
   <source>Fe</source>
   <translation>Fe</translation>
+ </message>
+ <message>
+  <source>fehlt</source>
+  <translation>missing</translation>
  </message>
  <message>
   <source>Fertig</source>
@@ -1106,6 +1190,14 @@ Nothing is worked out for children under 10 years; it resumes at 11 years.</tr
  <message>
   <source>Frau</source>
   <translation>Woman</translation>
+ </message>
+ <message>
+  <source>Frühere Stände</source>
+  <translation>Earlier states</translation>
+ </message>
+ <message>
+  <source>Frühere Stände …</source>
+  <translation>Earlier states …</translation>
  </message>
  <message>
   <source>Für den Verlauf fehlen Gewicht und Größe (unter „Körper und Energie“).</source>
@@ -1148,6 +1240,10 @@ Nothing is worked out for children under 10 years; it resumes at 11 years.</tr
   <translation>Grams</translation>
  </message>
  <message>
+  <source>Heute</source>
+  <translation>Today</translation>
+ </message>
+ <message>
   <source>Hinweis</source>
   <translation>Notice</translation>
  </message>
@@ -1168,6 +1264,18 @@ Nothing is worked out for children under 10 years; it resumes at 11 years.</tr
   <translation>To the meal &amp;plan</translation>
  </message>
  <message>
+  <source>In der Datei stehen jetzt andere eigene Lebensmittel als in diesem Fenster, so wie der Plan sie kennt (%1).</source>
+  <translation>The file now holds other own foods than this window, those that the plan knows (%1).</translation>
+ </message>
+ <message>
+  <source>In der Datei „%1“ stand etwas, das nicht von hier kam. Es ist aufgehoben als „%2“.</source>
+  <translation>The file “%1” held something that did not come from here. It is kept as “%2”.</translation>
+ </message>
+ <message>
+  <source>Inhalt des Standes</source>
+  <translation>What the state holds</translation>
+ </message>
+ <message>
   <source>Inhaltstoffe in </source>
   <translation>Nutrients in </translation>
  </message>
@@ -1182,6 +1290,14 @@ Nothing is worked out for children under 10 years; it resumes at 11 years.</tr
  <message>
   <source>Ja</source>
   <translation>Yes</translation>
+ </message>
+ <message>
+  <source>Jetzt sichern</source>
+  <translation>Save now</translation>
+ </message>
+ <message>
+  <source>kcal je 100 g</source>
+  <translation>kcal per 100 g</translation>
  </message>
  <message>
   <source>KH</source>
@@ -1276,12 +1392,20 @@ Nothing is worked out for children under 10 years; it resumes at 11 years.</tr
   <translation>Amount of food (100g)</translation>
  </message>
  <message>
+  <source>Menge, g</source>
+  <translation>Amount, g</translation>
+ </message>
+ <message>
   <source>Menge, g. Komma und Punkt trennen beide die Nachkommastellen: 12,5 oder 12.5</source>
   <translation>Amount, g. Comma and point both part the decimals: 12,5 or 12.5</translation>
  </message>
  <message>
   <source>Mg</source>
   <translation>Mg</translation>
+ </message>
+ <message>
+  <source>mit anderen Werten: %1</source>
+  <translation>with other values: %1</translation>
  </message>
  <message>
   <source>Moechten Sie dieses eigene Lebensmittel wirklich dauerhaft loeschen ?  </source>
@@ -1324,6 +1448,10 @@ Nothing is worked out for children under 10 years; it resumes at 11 years.</tr
   <translation>Without the height (under “Body and energy”) it is not known which weight is healthy: the colours say nothing yet.</translation>
  </message>
  <message>
+  <source>Ordner zeigen</source>
+  <translation>Show the folder</translation>
+ </message>
+ <message>
   <source>Ph</source>
   <translation>Ph</translation>
  </message>
@@ -1348,6 +1476,10 @@ Nothing is worked out for children under 10 years; it resumes at 11 years.</tr
   <translation>Protein</translation>
  </message>
  <message>
+  <source>Rückgängig</source>
+  <translation>Undo</translation>
+ </message>
+ <message>
   <source>S&amp;prache</source>
   <translation>&amp;Language</translation>
  </message>
@@ -1370,6 +1502,10 @@ Nothing is worked out for children under 10 years; it resumes at 11 years.</tr
  <message>
   <source>Sport</source>
   <translation>Sport</translation>
+ </message>
+ <message>
+  <source>Stände, der jüngste zuerst</source>
+  <translation>States, the latest first</translation>
  </message>
  <message>
   <source>Suche</source>
@@ -1498,6 +1634,10 @@ Nothing is worked out for children under 10 years; it resumes at 11 years.</tr
  <message>
   <source>Zunahme des Gewichts in diesem Zeitraum</source>
   <translation>Gain of weight in this period</translation>
+ </message>
+ <message>
+  <source>zusätzlich: %1</source>
+  <translation>in addition: %1</translation>
  </message>
  <message>
   <source>Zweimal zugleich geöffnet, überschreibt das eine die Lebensmittel und den Plan des anderen.</source>

@@ -1,0 +1,54 @@
+#pragma once
+
+#include "Dateihueter.h"
+#include "Datenordner.h"
+
+#include <QObject>
+
+#include <functional>
+#include <memory>
+
+class AppController;
+class Einstellungen;
+class Hinweisstreifen;
+
+/// Tells the user what becomes of their files, without asking for an answer: what could not be read
+/// or written, what was put aside, and when the file of the own foods came to hold others than the
+/// main window does. Brings earlier states of own foods and plan back.
+class Dateiansage : public QObject
+{
+    Q_OBJECT
+
+public:
+    /// Nothing is told before `beginne`. The controller outlives this object.
+    Dateiansage(AppController &controller, const Datenordner &ordner,
+                std::shared_ptr<Dateihueter> dateien);
+
+    /// Tells what is known from the start, and listens from now on.
+    void beginne();
+
+    /// Tells when these settings can't be kept.
+    void beachte(const Einstellungen &einstellungen);
+
+    /// Opens the window with the copies of own foods and plan.
+    void zeigeFruehereStaende();
+
+private:
+    QString pfad(const QString &name) const { return m_ordner.pathForDataFile(name); }
+    Hinweisstreifen &streifenFuer(const QString &path) const;
+    Hinweisstreifen *streifenDesPlans() const;
+    void zeige(const Dateimeldung &meldung);
+    void nimmErledigtesZurueck(const QString &path);
+    void sichereNochmals(const QString &path);
+
+    void vergleiche(const QString &path, const Lebensmittelverzeichnis &inhalt);
+    void setzeEigene(const Lebensmittelverzeichnis &eigene, const QStringList &namen);
+
+    void holeEigeneZurueck(const Lebensmittelverzeichnis &stand);
+    void holePlanZurueck(const Lebensmittelverzeichnis &stand);
+    void meldeZurueckgeholtes(Hinweisstreifen &streifen, const std::function<void()> &rueckgaengig);
+
+    AppController &m_controller;
+    Datenordner m_ordner;
+    std::shared_ptr<Dateihueter> m_dateien;
+};
