@@ -3,7 +3,7 @@
 
 #include "Absturzhelfer.h"
 
-#include "Archivdatei.h"
+#include "Dateihueter.h"
 
 #include <QFile>
 
@@ -20,7 +20,9 @@ bool sende(int zahl)
 [[noreturn]] void sichere(const QString &pfad, int nummer)
 {
     const Lebensmittelverzeichnis alle = gesicherteLebensmittel(nummer);
-    _exit(sende(getpid()) && Archivdatei::schreiben(pfad, alle) ? 0 : 1);
+    Dateihueter dateien;
+    dateien.lesen(pfad);
+    _exit(sende(getpid()) && dateien.schreiben(pfad, alle) ? 0 : 1);
 }
 
 } // namespace

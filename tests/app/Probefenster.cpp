@@ -43,6 +43,9 @@ void Probeheim::liesEinstellungenNeu()
 void Probeheim::schreibeTabelle(const Lebensmittelverzeichnis &lebensmittel) const
 {
     QVERIFY(Archivdatei::schreiben(tabelle(), lebensmittel));
+    // The shipped table is everybody's.
+    QVERIFY(
+        QFile::setPermissions(tabelle(), QFile::ReadOwner | QFile::WriteOwner | QFile::ReadOther));
 }
 
 void Probeheim::schreibeEigene(const Lebensmittelverzeichnis &lebensmittel) const

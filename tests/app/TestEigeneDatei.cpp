@@ -1,4 +1,5 @@
 #include "Archivdatei.h"
+#include "Dateihueter.h"
 #include "Hindernisse.h"
 #include "Probefenster.h"
 
@@ -34,6 +35,12 @@ private Q_SLOTS:
     void aDamagedFileIsKeptBeforeItIsOverwritten_data();
     void aDamagedFileIsKeptBeforeItIsOverwritten();
     void anUnreadableFileIsKeptToo();
+    void unreadableAtTheStartReadableLater_data();
+    void unreadableAtTheStartReadableLater();
+    void replacedFromOutsideWhileRunning();
+    void yesterdaysFoodsAreKept();
+    void onlyTheUserMayRead();
+    void allWindowsShareOneKeeper();
 
 private:
     void starte() { m_fenster = std::make_unique<Probefenster>(*m_heim); }
@@ -47,7 +54,10 @@ private:
     /// Lets everybody come to the folder of the file, and gives it these rights.
     void gibRechte(mode_t rechte) const
     {
-        QCOMPARE(chmod(QFile::encodeName(m_heim->pfad(QStringLiteral("."))).constData(), 0755), 0);
+        for (const char *oben : {".", "Library", "Library/Application Support"}) {
+            const QString path = m_heim->pfad(QLatin1String(oben));
+            QCOMPARE(chmod(QFile::encodeName(path).constData(), 0755), 0);
+        }
         QCOMPARE(chmod(QFile::encodeName(ordner().path()).constData(), rechte), 0);
     }
     QDir ordner() const { return QFileInfo(m_heim->eigeneDatei()).dir(); }
@@ -245,6 +255,7 @@ void TestEigeneDatei::onAReadOnlyDiskTheProgramGoesOn()
     sichere(lebensmittel(QStringLiteral("A")));
     sichere(lebensmittel(QStringLiteral("B")));
     const QByteArray vorher = bytes();
+    QVERIFY(QFile::setPermissions(m_heim->eigeneDatei(), QFile::ReadOwner | QFile::ReadOther));
     gibRechte(0555);
     {
         const OhneRechte einfach;
@@ -319,6 +330,109 @@ void TestEigeneDatei::anUnreadableFileIsKeptToo()
     QVERIFY(QFile::setPermissions(ordner().filePath(kopien[0]), QFile::ReadOwner));
     QCOMPARE(bytes(kopien[0]), vorher);
     QVERIFY(m_heim->meldungen.isEmpty());
+}
+
+void TestEigeneDatei::unreadableAtTheStartReadableLater_data()
+{
+    QTest::addColumn<bool>("mitPlan");
+    QTest::newRow("the main window alone") << false;
+    QTest::newRow("with a plan, which reads them and then saves first") << true;
+}
+
+/// 300 foods that could not be read at the start: one saved food doesn't take their place.
+void TestEigeneDatei::unreadableAtTheStartReadableLater()
+{
+    QFETCH(bool, mitPlan);
+    m_heim->schreibeEigene(zaehltabelle(300));
+    const QByteArray vorher = bytes();
+    QVERIFY(QFile::setPermissions(m_heim->eigeneDatei(), QFileDevice::Permissions()));
+    gibRechte(0777);
+    {
+        const OhneRechte einfach;
+        QVERIFY(einfach.gelungen());
+        starte();
+        QVERIFY(controller().KundenArray.isEmpty());
+    }
+    QVERIFY(QFile::setPermissions(m_heim->eigeneDatei(), QFile::ReadOwner | QFile::WriteOwner));
+    if (mitPlan) {
+        controller().Planmoduloeffnen();
+        QCOMPARE(controller().planmodul->KundenDictionary.size(), 300);
+    }
+    sichere(lebensmittel(QStringLiteral("A")));
+    QCOMPARE(aufDerPlatte().size(), 1);
+    const QStringList kopien = ordner().entryList(QDir::Files).filter(kopie);
+    QCOMPARE(kopien.size(), 1);
+    QCOMPARE(bytes(kopien[0]), vorher);
+    QVERIFY(m_heim->meldungen.isEmpty());
+}
+
+void TestEigeneDatei::replacedFromOutsideWhileRunning()
+{
+    starte();
+    sichere(lebensmittel(QStringLiteral("A")));
+    m_heim->schreibeEigene(zaehltabelle(300));
+    const QByteArray fremd = bytes();
+    sichere(lebensmittel(QStringLiteral("B")));
+    QCOMPARE(aufDerPlatte().size(), 2);
+    const QStringList kopien = ordner().entryList(QDir::Files).filter(kopie);
+    QCOMPARE(kopien.size(), 1);
+    QCOMPARE(bytes(kopien[0]), fremd);
+    sichere(lebensmittel(QStringLiteral("C")));
+    QCOMPARE(ordner().entryList(QDir::Files).size(), 2);
+}
+
+void TestEigeneDatei::yesterdaysFoodsAreKept()
+{
+    m_heim->schreibeEigene(zaehltabelle(20));
+    const QByteArray gestern = bytes();
+    QFile datei(m_heim->eigeneDatei());
+    QVERIFY(datei.open(QIODevice::ReadWrite));
+    QVERIFY(datei.setFileTime(QDateTime(QDate(2026, 2, 3), QTime(18, 0)),
+                              QFileDevice::FileModificationTime));
+    datei.close();
+    starte();
+    sichere(lebensmittel(QStringLiteral("A")));
+    sichere(lebensmittel(QStringLiteral("B")));
+    QCOMPARE(QDir(ordner().filePath(QStringLiteral("Sicherungen"))).entryList(QDir::Files),
+             QStringList(QStringLiteral("MahlbergCustomnutr 2026-02-03.daten")));
+    QCOMPARE(bytes(QStringLiteral("Sicherungen/MahlbergCustomnutr 2026-02-03.daten")), gestern);
+}
+
+void TestEigeneDatei::onlyTheUserMayRead()
+{
+    starte();
+    sichere(lebensmittel(QStringLiteral("A")));
+    controller().toolbarlebensmittelweitergabe();
+    for (const char *name : {"MahlbergCustomnutr.daten", "MahlbergPlanmod.daten"}) {
+        const QFileInfo info(ordner().filePath(QLatin1String(name)));
+        QCOMPARE(info.permissions() & ~(QFile::ReadUser | QFile::WriteUser),
+                 QFile::ReadOwner | QFile::WriteOwner);
+    }
+}
+
+/// What one window knows of a file, all know; else they would take each other for strangers.
+void TestEigeneDatei::allWindowsShareOneKeeper()
+{
+    const QString plan = ordner().filePath(QStringLiteral("MahlbergPlanmod.daten"));
+    for (const QString &path : {m_heim->eigeneDatei(), plan}) {
+        QFile datei(path);
+        QVERIFY(datei.open(QIODevice::WriteOnly));
+        QVERIFY(datei.write("no foods") > 0);
+    }
+    starte();
+    const Dateihueter &dateien = *m_fenster->oberflaeche().dateien;
+    QCOMPARE(dateien.offeneMeldungen().size(), 2);
+    QCOMPARE(dateien.offeneMeldungen()[0].path, m_heim->eigeneDatei());
+    QCOMPARE(dateien.offeneMeldungen()[1].path, plan); // the calculator's plan has read it
+    controller().Planmoduloeffnen();
+    QCOMPARE(dateien.offeneMeldungen().size(), 2);
+    for (int i = 0; i < 3; ++i) {
+        sichere(lebensmittel(QStringLiteral("A"), {{kal, static_cast<float>(i)}}));
+        controller().planmodul->nameimportvontoolbar(QStringLiteral("A"));
+        QVERIFY(!controller().planmodul->PlanTabelle->grab().isNull());
+        m_fenster->rechner().plan->nameimportvontoolbar(QStringLiteral("B"));
+    }
+    QCOMPARE(ordner().entryList(QDir::Files).filter(QStringLiteral(" 20")).size(), 2);
 }
 
 QTEST_MAIN(TestEigeneDatei)

@@ -42,6 +42,9 @@ QString Planheim::eigeneDatei() const
 void Planheim::schreibeTabelle(const QList<Datenmodul> &lebensmittel) const
 {
     QVERIFY(Archivdatei::schreiben(tabelle(), verzeichnis(lebensmittel)));
+    // The shipped table is everybody's.
+    QVERIFY(
+        QFile::setPermissions(tabelle(), QFile::ReadOwner | QFile::WriteOwner | QFile::ReadOther));
 }
 
 void Planheim::schreibeEigene(const QList<Datenmodul> &lebensmittel) const
@@ -76,7 +79,9 @@ void Planheim::oeffneFuerAlle() const
 {
     constexpr auto alle =
         QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner | QFile::ReadOther | QFile::ExeOther;
-    QVERIFY(QFile::setPermissions(m_ordner.path(), alle));
+    for (const char *ordner : {".", "Library", "Library/Application Support"}) {
+        QVERIFY(QFile::setPermissions(m_ordner.filePath(QLatin1String(ordner)), alle));
+    }
 }
 
 Plantueren Planheim::tueren() const

@@ -1,7 +1,10 @@
 #include "Planprobe.h"
 
 #include "Archivdatei.h"
+#include "Stoerung.h"
 
+#include <QDir>
+#include <QElapsedTimer>
 #include <QFile>
 #include <QFileInfo>
 #include <QTest>
@@ -29,6 +32,8 @@ private Q_SLOTS:
     void theMainWindowsFileIsOverwrittenWhenTheTableIsAsked();
     void aPaintedTableAsksForItsCells();
     void aFileThatNeedNotChangeIsNotTouched();
+    void aFailedWriteIsNotTriedWithEveryCell();
+    void aDamagedFileThatCantBeReplacedIsNotCopiedWithEveryCell();
 
 private:
     void oeffne() { m_fenster = std::make_unique<Planfenster>(*m_heim); }
@@ -226,6 +231,53 @@ void TestPlanmodulEigene::aFileThatNeedNotChangeIsNotTouched()
     QVERIFY(!istGeschrieben());
     (*m_fenster)->umschreibungMitName(speise(u"Eintopf"_s, {{Naehrwert::fett, 1}}));
     QVERIFY(istGeschrieben());
+}
+
+/// With 100,000 own foods every try takes a fifth of a second.
+void TestPlanmodulEigene::aFailedWriteIsNotTriedWithEveryCell()
+{
+    QList<Datenmodul> eigene;
+    QList<std::pair<QString, float>> zeilen;
+    for (int i = 0; i < 20; ++i) {
+        eigene << speise(u"Eintopf %1"_s.arg(i));
+        zeilen << std::pair(eigene.constLast().name(), 100.0F);
+    }
+    m_heim->schreibeEigene(eigene);
+    m_heim->schreibePlan(zeilen);
+    oeffne();
+    const Stoerung stoerung(Stoerung::Schritt::Anlegen, 0, false, EACCES);
+    (*m_fenster)->umschreibungMitName(speise(u"Neu"_s));
+    QCOMPARE(stoerung.ausfaelle(), 1);
+    QElapsedTimer uhr;
+    uhr.start();
+    for (int i = 0; i < 3; ++i) {
+        QVERIFY(!(*m_fenster)->PlanTabelle->grab().isNull());
+    }
+    QVERIFY(stoerung.ausfaelle() <= 1 + uhr.elapsed() / 5000);
+    const int bisher = stoerung.ausfaelle();
+    (*m_fenster)->umschreibungMitName(speise(u"Noch eines"_s)); // a change is tried at once
+    QCOMPARE(stoerung.ausfaelle(), bisher + 1);
+}
+
+void TestPlanmodulEigene::aDamagedFileThatCantBeReplacedIsNotCopiedWithEveryCell()
+{
+    m_heim->schreibePlan({{u"Eintopf"_s, 100}, {u"Niemand"_s, 100}});
+    QFile datei(m_heim->eigeneDatei());
+    QVERIFY(datei.open(QIODevice::WriteOnly));
+    QVERIFY(datei.write("no foods") > 0);
+    datei.close();
+    {
+        const Stoerung stoerung(Stoerung::Schritt::Umbenennen, 1); // the copy goes well each time
+        oeffne();
+        QVERIFY(!(*m_fenster)->PlanTabelle->grab().isNull());
+        QVERIFY(stoerung.ausfaelle() > 0);
+    }
+    const QDir ordner = QFileInfo(m_heim->eigeneDatei()).dir();
+    QCOMPARE(ordner.entryList(QDir::Files),
+             QStringList({u"MahlbergCustomnutr.daten"_s, u"MahlbergPlanmod.daten"_s}));
+    (*m_fenster)->umschreibungMitName(speise(u"Neu"_s));
+    QCOMPARE(m_heim->eigene().keys(), QStringList(u"Neu"_s));
+    QCOMPARE(ordner.entryList(QDir::Files).size(), 3);
 }
 
 QTEST_MAIN(TestPlanmodulEigene)
