@@ -133,6 +133,7 @@ void TestEigeneLoeschen::theQuestionIsAsked()
     QCOMPARE(m_heim->meldungen[0].knoepfe,
              QStringList({QStringLiteral("Nein"), QStringLiteral("Ja")}));
     QCOMPARE(m_heim->meldungen[0].gegenstand, u'„' + a + u'“'); // which one would go
+    QVERIFY(m_heim->meldungen[0].gefahr); // what is deleted is gone
 }
 
 void TestEigeneLoeschen::theTextsAreTranslated()
@@ -151,6 +152,7 @@ void TestEigeneLoeschen::theTextsAreTranslated()
     m_fenster->klicke(0, inEigen);
     loesche();
     QCOMPARE(m_heim->meldungen.size(), 2);
+    QVERIFY(!m_heim->meldungen[0].gefahr); // nothing was to be deleted
     for (const Meldung &meldung : std::as_const(m_heim->meldungen)) {
         for (const QString &text :
              QStringList{meldung.text, meldung.erklaerung} + meldung.knoepfe) {
