@@ -90,7 +90,7 @@ bool zeigtEtwas(double zahl, int stellen)
 
 /// A value with so many digits behind the comma, and with more where nothing but zeros would be
 /// seen of it: a trace is not nothing. What ran over is a dash.
-QString wertText(double zahl, int stellen)
+QString zellentext(double zahl, int stellen)
 {
     constexpr int meisteStellen = 6;
     if (!std::isfinite(zahl)) {
@@ -217,7 +217,8 @@ Zellenbild Planmodul::willDisplayCell(const QString &spalte, int zeile, const QS
         const float zahl = eintrag != nullptr ? eintrag->wert(naehrwert->wert) *
                                                     (m_gezeigteMengen.value(zeile) / 100.0F)
                                               : 0.0F;
-        bild.text = wertText(static_cast<double>(zahl), nachkommastellen[stelle(naehrwert->wert)]);
+        bild.text =
+            zellentext(static_cast<double>(zahl), nachkommastellen[stelle(naehrwert->wert)]);
     }
     return bild;
 }
