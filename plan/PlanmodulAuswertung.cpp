@@ -80,29 +80,21 @@ void zeigeZahl(Textfeld &feld, double zahl)
     }
 }
 
-/// What is missing of the client for the course of the weight, or is newer than the course; null
-/// when nothing is.
-QString klienthinweis(const Klient &jetzt, const Klient &gezeigt)
+/// What is missing of the client for the course of the weight; null when nothing is.
+QString fehlendes(const Klient &klient)
 {
-    const bool gewicht = jetzt.gewicht > 0;
-    const bool groesse = jetzt.groesse > 0;
-    if (!gewicht && !groesse) {
-        return localizedString(QStringLiteral(
-            "Für den Verlauf fehlen Gewicht und Größe (unter „Körper und Energie“)."));
+    const bool gewicht = klient.gewicht > 0;
+    const bool groesse = klient.groesse > 0;
+    if (gewicht && groesse) {
+        return {};
     }
-    if (!gewicht) {
-        return localizedString(
-            QStringLiteral("Für den Verlauf fehlt das Gewicht (unter „Körper und Energie“)."));
-    }
-    if (jetzt.gewicht != gezeigt.gewicht || jetzt.groesse != gezeigt.groesse) {
-        return localizedString(
-            QStringLiteral("Gewicht oder Größe sind inzwischen neu: Der Verlauf folgt mit der "
-                           "nächsten Änderung am Plan."));
-    }
-    return groesse ? QString()
-                   : localizedString(QStringLiteral(
-                         "Ohne Größe (unter „Körper und Energie“) ist nicht bekannt, welches "
-                         "Gewicht gesund ist: Die Farben sagen noch nichts."));
+    return gewicht ? localizedString(QStringLiteral(
+                         "Ohne Größe (unter „Körper und Energie“) sagen die Farben nichts."))
+           : groesse
+               ? localizedString(QStringLiteral(
+                     "Für den Verlauf fehlt das Gewicht (unter „Körper und Energie“)."))
+               : localizedString(QStringLiteral(
+                     "Für den Verlauf fehlen Gewicht und Größe (unter „Körper und Energie“)."));
 }
 
 constexpr const char *leererPlan = QT_TRANSLATE_NOOP("Mahlberg", "Der Plan ist leer");
@@ -230,20 +222,30 @@ void Planmodul::zeigeAenderung(float kilogramm)
 {
     Gewichtsverlust->setFloatValue(kilogramm);
     const bool zunahme = kilogramm > 0;
-    aenderungswort->setText(
-        localizedString(zunahme ? QStringLiteral("Zunahme") : QStringLiteral("Änderung")));
-    Gewichtsverlust->setAccessibleName(
-        localizedString(zunahme ? QStringLiteral("Zunahme des Gewichts in diesem Zeitraum")
-                                : QStringLiteral("Änderung des Gewichts in diesem Zeitraum")));
+    const auto uebersetzt = [](const char *text) {
+        return localizedString(QString::fromUtf8(text));
+    };
+    aenderungswort->setText(uebersetzt(zunahme ? QT_TRANSLATE_NOOP("Mahlberg", "Zunahme")
+                                               : QT_TRANSLATE_NOOP("Mahlberg", "Änderung")));
+    Gewichtsverlust->setAccessibleName(uebersetzt(
+        zunahme ? QT_TRANSLATE_NOOP("Mahlberg", "Zunahme des Gewichts in diesem Zeitraum")
+                : QT_TRANSLATE_NOOP("Mahlberg", "Änderung des Gewichts in diesem Zeitraum")));
 }
 
-/// Before the first projection the window's own words stay.
+/// Before the first projection the window's own words stay. The course of another weight or height
+/// is not told any more.
 void Planmodul::zeigeVerlaufworte()
 {
     if (!m_projiziert) {
         return;
     }
-    QStringList saetze = {gewichtview->beschreibung(), klienthinweis(klient, *m_projiziert)};
+    const bool veraltet =
+        klient.gewicht != m_projiziert->gewicht || klient.groesse != m_projiziert->groesse;
+    QStringList saetze = {
+        veraltet ? localizedString(QStringLiteral("Gewicht oder Größe sind neu: Der Verlauf folgt "
+                                                  "mit der nächsten Änderung am Plan."))
+                 : gewichtview->beschreibung(),
+        fehlendes(klient)};
     saetze.removeAll(QString());
     verlaufworte->setText(saetze.join(u' '));
 }

@@ -1224,8 +1224,8 @@ Nothing is worked out for children under 10 years; it resumes at 11 years.</tr
   <translation>Weight today %1, after one week %2, after two %3, after three %4, after four %5.</translation>
  </message>
  <message>
-  <source>Gewicht oder Größe sind inzwischen neu: Der Verlauf folgt mit der nächsten Änderung am Plan.</source>
-  <translation>Weight or height are new by now: the course follows with the next change of the plan.</translation>
+  <source>Gewicht oder Größe sind neu: Der Verlauf folgt mit der nächsten Änderung am Plan.</source>
+  <translation>Weight or height are new: the course follows with the next change of the plan.</translation>
  </message>
  <message>
   <source>Gicht</source>
@@ -1444,8 +1444,8 @@ Nothing is worked out for children under 10 years; it resumes at 11 years.</tr
   <translation>Values: Swiss Food Composition Database, generic foods, version 7.0 of 1 July 2025. Publisher: Federal Food Safety and Veterinary Office FSVO, Switzerland. Free use, subject to acknowledgment of the source. Names, choice and ratings of the foods are Mahlberg’s own.</translation>
  </message>
  <message>
-  <source>Ohne Größe (unter „Körper und Energie“) ist nicht bekannt, welches Gewicht gesund ist: Die Farben sagen noch nichts.</source>
-  <translation>Without the height (under “Body and energy”) it is not known which weight is healthy: the colours say nothing yet.</translation>
+  <source>Ohne Größe (unter „Körper und Energie“) sagen die Farben nichts.</source>
+  <translation>Without the height (under “Body and energy”) the colours say nothing.</translation>
  </message>
  <message>
   <source>Ordner zeigen</source>
