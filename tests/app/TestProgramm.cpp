@@ -182,10 +182,11 @@ void TestProgramm::theSecondStartAsks_data()
     QTest::addColumn<QString>("sprache");
     QTest::addColumn<QString>("erwartet");
     QTest::newRow("in German") << u"de"_s << frage;
-    QTest::newRow("in English") << u"en"_s
-                              << u"message: Mahlberg is already open. | Opened twice at once, one "
-                                 "overwrites the foods and the plan of the other. | Quit | "
-                                 "Open anyway"_s;
+    QTest::newRow("in English")
+        << u"en"_s
+        << u"message: Mahlberg is already open. | Opened twice at once, one "
+           "overwrites the foods and the plan of the other. | Quit | "
+           "Open anyway"_s;
 }
 
 void TestProgramm::theSecondStartAsks()
