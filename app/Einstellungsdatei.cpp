@@ -120,7 +120,7 @@ void schuetze(const QString &datei)
     const QByteArray pfad = QFile::encodeName(datei);
     struct stat zustand = {};
     if (stat(pfad.constData(), &zustand) == 0 && S_ISREG(zustand.st_mode) &&
-        (zustand.st_mode & ~S_IFMT & ~S_IRWXU) != 0) {
+        (zustand.st_mode & (S_IRWXG | S_IRWXO)) != 0) {
         chmod(pfad.constData(), zustand.st_mode & S_IRWXU);
     }
 }

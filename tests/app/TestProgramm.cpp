@@ -182,10 +182,11 @@ void TestProgramm::theSecondStartAsks_data()
     QTest::addColumn<QString>("sprache");
     QTest::addColumn<QString>("erwartet");
     QTest::newRow("in German") << u"de"_s << frage;
-    QTest::newRow("in English") << u"en"_s
-                              << u"message: Mahlberg is already open. | Opened twice at once, one "
-                                 "overwrites the foods and the plan of the other. | Quit | "
-                                 "Open anyway"_s;
+    QTest::newRow("in English")
+        << u"en"_s
+        << u"message: Mahlberg is already open. | Opened twice at once, one "
+           "overwrites the foods and the plan of the other. | Quit | "
+           "Open anyway"_s;
 }
 
 void TestProgramm::theSecondStartAsks()
@@ -312,10 +313,10 @@ void TestProgramm::theHomeIsTheOneThatTheSystemKnows()
 {
     QFETCH(QString, home);
     QFETCH(bool, bleibt);
-    QProcess frage; // the sixth field of the user's line
-    frage.start(u"getent"_s, {u"passwd"_s, QString::number(getuid())});
-    QVERIFY(frage.waitForFinished());
-    const QString bekannt = QString::fromUtf8(frage.readAll()).section(u':', 5, 5);
+    QProcess konto; // the sixth field of the user's line
+    konto.start(u"getent"_s, {u"passwd"_s, QString::number(getuid())});
+    QVERIFY(konto.waitForFinished());
+    const QString bekannt = QString::fromUtf8(konto.readAll()).section(u':', 5, 5);
 
     QProcessEnvironment umgebung = QProcessEnvironment::systemEnvironment();
     home.isNull() ? umgebung.remove(u"HOME"_s) : umgebung.insert(u"HOME"_s, home);
