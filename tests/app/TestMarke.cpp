@@ -1,5 +1,6 @@
 #include "Probefenster.h"
 
+#include <QDoubleSpinBox>
 #include <QImage>
 #include <QScreen>
 #include <QTest>
@@ -130,6 +131,8 @@ void TestMarke::theMarkFollowsTheNameOnDisplay()
     QFETCH(QString, weg);
     oeffne(5, {QStringLiteral("Eigenes A"), QStringLiteral("Eigenes B")});
     m_fenster->klicke(1, inName);
+    controller().SichernFensterAuf();
+    controller().feldA->setFocus(); // a table that loses the keyboard is painted anew
     const QRect marke = zelle(1, inName);
     const QImage vorher = aufDemSchirm(marke);
     QCOMPARE(vorher, neuGemalt(marke));
@@ -139,8 +142,6 @@ void TestMarke::theMarkFollowsTheNameOnDisplay()
         controller().EingabeFensterfeldA->setStringValue(QStringLiteral("Eigenes B"));
         controller().umschreibenDerEingabeFelder();
     } else {
-        controller().SichernFensterAuf();
-        controller().feldA->setFocus();
         controller().feldA->selectAll();
         QTest::keyClicks(controller().feldA, QStringLiteral("x"));
     }
@@ -156,6 +157,7 @@ void TestMarke::afterAnAmountARowOfAnotherNameBearsItsOwn()
     oeffne(610, {});
     m_fenster->klicke(576, inName);
     QCOMPARE(m_fenster->zelle(576, inName).text, zaehlname(575));
+    controller().lebensmittelmenge->eingabe()->setFocus();
     const QRect marke = zelle(576, inName);
     const QImage vorher = aufDemSchirm(marke);
     QCOMPARE(vorher, neuGemalt(marke));
