@@ -31,7 +31,7 @@ QString nameFuerAnzeige(const QString &name)
 QTableWidgetItem *zelle(const QString &text, Qt::Alignment ausrichtung = Qt::AlignLeft)
 {
     auto *neu = new QTableWidgetItem(text);
-    neu->setTextAlignment(static_cast<int>(ausrichtung | Qt::AlignVCenter));
+    neu->setTextAlignment(ausrichtung | Qt::AlignVCenter);
     neu->setFlags(Qt::ItemIsEnabled | Qt::ItemIsSelectable);
     return neu;
 }
@@ -173,7 +173,8 @@ void Sicherungsfenster::fuelle(const Lebensmittelverzeichnis &stand,
                                   : localizedString(QStringLiteral("anders"));
         m_inhalt->setItem(zeile, spalteName, zelle(nameFuerAnzeige(eines.key())));
         m_inhalt->setItem(zeile, spalteWert,
-                          zelle(wertText(static_cast<double>(eines->kal()), 0), Qt::AlignRight));
+                          zelle(zahlenform().toString(static_cast<double>(eines->kal()), 'g', 6),
+                                Qt::AlignRight));
         m_inhalt->setItem(zeile, spalteHeute, zelle(heute));
     }
     m_worte->setText(localizedString(QStringLiteral("%1 Lebensmittel; davon fehlen heute %2 und "
