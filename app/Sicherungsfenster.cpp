@@ -20,6 +20,7 @@ namespace {
 
 constexpr QSize fenstergroesse(760, 480);
 constexpr int breiteTage = 240;
+constexpr int zeilenhoehe = 24;
 
 enum Inhaltsspalte { spalteName, spalteWert, spalteHeute, anzahlSpalten };
 
@@ -85,6 +86,7 @@ QWidget *Sicherungsfenster::mittelteil()
     m_inhalt->setAlternatingRowColors(true);
     m_inhalt->setTabKeyNavigation(false);
     m_inhalt->verticalHeader()->hide();
+    m_inhalt->verticalHeader()->setDefaultSectionSize(zeilenhoehe);
     m_inhalt->horizontalHeader()->setSectionResizeMode(spalteName, QHeaderView::Stretch);
     m_inhalt->horizontalHeader()->setSectionResizeMode(spalteWert, QHeaderView::ResizeToContents);
     m_inhalt->horizontalHeader()->setSectionResizeMode(spalteHeute, QHeaderView::ResizeToContents);
@@ -177,8 +179,8 @@ void Sicherungsfenster::fuelle(const Lebensmittelverzeichnis &stand,
                                 Qt::AlignRight));
         m_inhalt->setItem(zeile, spalteHeute, zelle(heute));
     }
-    m_worte->setText(localizedString(QStringLiteral("%1 Lebensmittel; davon fehlen heute %2 und "
-                                                    "sind heute anders %3. Nur heute da: %4."))
+    m_worte->setText(localizedString(QStringLiteral("%1 Lebensmittel. Seitdem gelöscht: %2, "
+                                                    "geändert: %3, neu: %4."))
                          .arg(stand.size())
                          .arg(unterschied.fehlend.size())
                          .arg(unterschied.anders.size())

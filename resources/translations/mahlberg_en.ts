@@ -772,8 +772,8 @@ Nothing is worked out for children under 10 years; it resumes at 11 years.</tr
   <translation>% of the daily need in </translation>
  </message>
  <message>
-  <source>%1 Lebensmittel; davon fehlen heute %2 und sind heute anders %3. Nur heute da: %4.</source>
-  <translation>%1 foods; of these %2 are missing today and %3 are different today. Only there today: %4.</translation>
+  <source>%1 Lebensmittel. Seitdem gelöscht: %2, geändert: %3, neu: %4.</source>
+  <translation>%1 foods. Deleted since: %2, changed: %3, new: %4.</translation>
  </message>
  <message>
   <source>%1 mehr</source>

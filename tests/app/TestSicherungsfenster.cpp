@@ -173,8 +173,7 @@ void TestSicherungsfenster::aCopyIsComparedWithToday()
     QCOMPARE(zeile(2), (QStringList{muesli, QStringLiteral("350"), QStringLiteral("ebenso")}));
     QCOMPARE(zeile(3), (QStringList{suppe, QStringLiteral("1234"), QStringLiteral("fehlt")}));
     QCOMPARE(teil<QLabel>("worte").text(),
-             QStringLiteral("4 Lebensmittel; davon fehlen heute 2 und sind heute anders 1. Nur "
-                            "heute da: 1."));
+             QStringLiteral("4 Lebensmittel. Seitdem gelöscht: 2, geändert: 1, neu: 1."));
 }
 
 void TestSicherungsfenster::lookingChangesNothing()
