@@ -7,6 +7,7 @@
 #include <QPlainTextEdit>
 #include <QScrollBar>
 #include <QTest>
+#include <QWindow>
 
 using enum Naehrwert;
 
@@ -29,6 +30,7 @@ private Q_SLOTS:
     void aDragMovesNothing_data();
     void aDragMovesNothing();
     void aPressAloneMovesNothing();
+    void aPullThatCarriesNothingChoosesWhatWasPressed();
     void aDragLeavesTheDisplayAlone();
     void aDragBackIntoTheTableChoosesNothing();
     void nothingIsDraggedFromAnEmptyCell_data();
@@ -145,16 +147,17 @@ void TestZiehen::aDragTakesTheColumnUnderTheMouse_data()
     QTest::addColumn<int>("spalte");
     QTest::addColumn<bool>("nachRechts");
     QTest::addColumn<QString>("text");
+    QTest::addColumn<int>("gewaehlt"); // the row that is selected in the end
     QTest::newRow("pressed in the names, pulled to the own foods")
-        << 1 << inName << true << QStringLiteral("Eigenes B");
+        << 1 << inName << true << QStringLiteral("Eigenes B") << 9;
     QTest::newRow("pressed in the own foods, pulled to the names")
-        << 1 << inEigen << false << zaehlname(1);
+        << 1 << inEigen << false << zaehlname(1) << 9;
     QTest::newRow("pressed in the own foods, pulled to the results")
-        << 0 << inEigen << true << zaehlname(20);
+        << 0 << inEigen << true << zaehlname(20) << 9;
     QTest::newRow("pressed in an empty cell, pulled to the names")
-        << 7 << inEigen << false << zaehlname(7);
-    QTest::newRow("pressed in the names, pulled to an empty cell")
-        << 7 << inName << true << QString();
+        << 7 << inEigen << false << zaehlname(7) << 9;
+    QTest::newRow("pressed in the names, pulled to an empty cell and out of the table: no choice")
+        << 7 << inName << true << QString() << -1;
 }
 
 void TestZiehen::aDragTakesTheColumnUnderTheMouse()
@@ -164,7 +167,9 @@ void TestZiehen::aDragTakesTheColumnUnderTheMouse()
     QFETCH(bool, nachRechts);
     const QRect feld = zelle(zeile, spalte);
     const QPoint start(nachRechts ? feld.right() - 3 : feld.left() + 3, feld.center().y());
+    m_fenster->klicke(9, inName);
     QTEST(abgelegt(start, QPoint(nachRechts ? 1 : -1, 0)), "text");
+    QTEST(controller().Tabelle->selectedRow(), "gewaehlt");
 }
 
 void TestZiehen::aDragTakesTheRowThatWasPressed_data()
@@ -251,6 +256,24 @@ void TestZiehen::aPressAloneMovesNothing()
     QTest::mouseRelease(flaeche, Qt::LeftButton, {}, m_fenster->mitte(4, inName));
     QCOMPARE(controller().Tabelle->selectedRow(), 4);
     QCOMPARE(Probefenster::text(*controller().feldA), zaehlname(4));
+}
+
+/// From a name over the edge to where no own food stands, and let go there.
+void TestZiehen::aPullThatCarriesNothingChoosesWhatWasPressed()
+{
+    m_fenster->klicke(9, inName);
+    const QWidget *flaeche = controller().Tabelle->viewport();
+    QWindow *fenster = controller().Hauptfenster->windowHandle();
+    const QRect feld = zelle(7, inName);
+    const QPoint start =
+        flaeche->mapTo(controller().Hauptfenster, QPoint(feld.right() - 3, feld.center().y()));
+    const QPoint ende = start + QPoint(QApplication::startDragDistance() + 1, 0);
+    QTest::mousePress(fenster, Qt::LeftButton, {}, start);
+    QTest::mouseMove(fenster, start + QPoint(1, 0));
+    QTest::mouseMove(fenster, ende);
+    QTest::mouseRelease(fenster, Qt::LeftButton, {}, ende);
+    QCOMPARE(controller().Tabelle->selectedRow(), 7);
+    QCOMPARE(Probefenster::text(*controller().feldA), zaehlname(7));
 }
 
 void TestZiehen::aDragCarriesPlainTextAlone()
