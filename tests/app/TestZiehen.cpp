@@ -7,7 +7,6 @@
 #include <QPlainTextEdit>
 #include <QScrollBar>
 #include <QTest>
-#include <QWindow>
 
 using enum Naehrwert;
 
@@ -30,7 +29,6 @@ private Q_SLOTS:
     void aDragMovesNothing_data();
     void aDragMovesNothing();
     void aPressAloneMovesNothing();
-    void aPullThatCarriesNothingChoosesWhatWasPressed();
     void aDragLeavesTheDisplayAlone();
     void aDragBackIntoTheTableChoosesNothing();
     void nothingIsDraggedFromAnEmptyCell_data();
@@ -256,24 +254,6 @@ void TestZiehen::aPressAloneMovesNothing()
     QTest::mouseRelease(flaeche, Qt::LeftButton, {}, m_fenster->mitte(4, inName));
     QCOMPARE(controller().Tabelle->selectedRow(), 4);
     QCOMPARE(Probefenster::text(*controller().feldA), zaehlname(4));
-}
-
-/// From a name over the edge to where no own food stands, and let go there.
-void TestZiehen::aPullThatCarriesNothingChoosesWhatWasPressed()
-{
-    m_fenster->klicke(9, inName);
-    const QWidget *flaeche = controller().Tabelle->viewport();
-    QWindow *fenster = controller().Hauptfenster->windowHandle();
-    const QRect feld = zelle(7, inName);
-    const QPoint start =
-        flaeche->mapTo(controller().Hauptfenster, QPoint(feld.right() - 3, feld.center().y()));
-    const QPoint ende = start + QPoint(QApplication::startDragDistance() + 1, 0);
-    QTest::mousePress(fenster, Qt::LeftButton, {}, start);
-    QTest::mouseMove(fenster, start + QPoint(1, 0));
-    QTest::mouseMove(fenster, ende);
-    QTest::mouseRelease(fenster, Qt::LeftButton, {}, ende);
-    QCOMPARE(controller().Tabelle->selectedRow(), 7);
-    QCOMPARE(Probefenster::text(*controller().feldA), zaehlname(7));
 }
 
 void TestZiehen::aDragCarriesPlainTextAlone()
