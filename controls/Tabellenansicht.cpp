@@ -122,19 +122,14 @@ bool Tabellenansicht::nurMitReturn(int spalte) const
     return m_bestaetigt.contains(m_modell->kennung(spalte));
 }
 
-bool Tabellenansicht::istZiehbar(const QModelIndex &index) const
-{
-    return !m_modell->ziehtext(index.column(), index.row()).isNull();
-}
-
-/// Arrow keys leave the selection alone where only Return chooses, and a press where a drag may
-/// begin.
+/// Arrow keys leave the selection alone where only Return chooses, and so does a press: it may be
+/// the beginning of a drag.
 QItemSelectionModel::SelectionFlags Tabellenansicht::selectionCommand(const QModelIndex &index,
                                                                       const QEvent *event) const
 {
     const QEvent::Type art = event != nullptr ? event->type() : QEvent::None;
     if ((art == QEvent::KeyPress && nurMitReturn(index.column())) ||
-        (art == QEvent::MouseButtonPress && istZiehbar(index))) {
+        art == QEvent::MouseButtonPress) {
         return QItemSelectionModel::NoUpdate;
     }
     return QTableView::selectionCommand(index, event);
@@ -274,11 +269,10 @@ void Tabellenansicht::mousePressEvent(QMouseEvent *event)
     m_gedrueckt = true;
     const QPersistentModelIndex schreibmarke = currentIndex();
     QTableView::mousePressEvent(event);
-    const QModelIndex zelle = indexAt(m_mausort);
-    m_angefasst = istZiehbar(zelle) ? zelle : QModelIndex();
+    m_angefasst = indexAt(m_mausort);
     if (m_angefasst.isValid()) {
         setzeUngerollt(schreibmarke, QItemSelectionModel::NoUpdate);
-    } else if (!zelle.isValid()) {
+    } else {
         clearSelection();
     }
 }

@@ -8,9 +8,9 @@
 #include <optional>
 
 /// A table that follows its controller (`Tabellenquelle`). A cell is chosen with the mouse or the
-/// arrow keys; the action then finds the chosen row and the column in which it was chosen. What can
-/// be dragged is chosen when the mouse is let go: a drag chooses nothing and moves nothing. Where
-/// the controller takes drops (and `acceptDrops` is on), a line shows where they go.
+/// arrow keys; the action then finds the chosen row and the column in which it was chosen. The
+/// mouse chooses when it is let go: a drag chooses nothing and moves nothing. Where the controller
+/// takes drops (and `acceptDrops` is on), a line shows where they go.
 class Tabellenansicht : public QTableView
 {
     Q_OBJECT
@@ -111,7 +111,6 @@ protected:
 private:
     QItemSelectionModel::SelectionFlags neueAuswahl() const;
     void melde(int spalte);
-    bool istZiehbar(const QModelIndex &index) const;
     void setzeUngerollt(const QModelIndex &index, QItemSelectionModel::SelectionFlags auswahl);
     void verteileBreiten();
     bool pruefeAbwurf(QDropEvent &event);

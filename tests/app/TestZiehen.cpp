@@ -145,16 +145,17 @@ void TestZiehen::aDragTakesTheColumnUnderTheMouse_data()
     QTest::addColumn<int>("spalte");
     QTest::addColumn<bool>("nachRechts");
     QTest::addColumn<QString>("text");
+    QTest::addColumn<int>("gewaehlt"); // the row that is selected in the end
     QTest::newRow("pressed in the names, pulled to the own foods")
-        << 1 << inName << true << QStringLiteral("Eigenes B");
+        << 1 << inName << true << QStringLiteral("Eigenes B") << 9;
     QTest::newRow("pressed in the own foods, pulled to the names")
-        << 1 << inEigen << false << zaehlname(1);
+        << 1 << inEigen << false << zaehlname(1) << 9;
     QTest::newRow("pressed in the own foods, pulled to the results")
-        << 0 << inEigen << true << zaehlname(20);
+        << 0 << inEigen << true << zaehlname(20) << 9;
     QTest::newRow("pressed in an empty cell, pulled to the names")
-        << 7 << inEigen << false << zaehlname(7);
-    QTest::newRow("pressed in the names, pulled to an empty cell")
-        << 7 << inName << true << QString();
+        << 7 << inEigen << false << zaehlname(7) << 9;
+    QTest::newRow("pressed in the names, pulled to an empty cell and out of the table: no choice")
+        << 7 << inName << true << QString() << -1;
 }
 
 void TestZiehen::aDragTakesTheColumnUnderTheMouse()
@@ -164,7 +165,9 @@ void TestZiehen::aDragTakesTheColumnUnderTheMouse()
     QFETCH(bool, nachRechts);
     const QRect feld = zelle(zeile, spalte);
     const QPoint start(nachRechts ? feld.right() - 3 : feld.left() + 3, feld.center().y());
+    m_fenster->klicke(9, inName);
     QTEST(abgelegt(start, QPoint(nachRechts ? 1 : -1, 0)), "text");
+    QTEST(controller().Tabelle->selectedRow(), "gewaehlt");
 }
 
 void TestZiehen::aDragTakesTheRowThatWasPressed_data()
