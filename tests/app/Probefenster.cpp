@@ -44,8 +44,8 @@ void Probeheim::schreibeTabelle(const Lebensmittelverzeichnis &lebensmittel) con
 {
     QVERIFY(Archivdatei::schreiben(tabelle(), lebensmittel));
     // The shipped table is everybody's.
-    QVERIFY(
-        QFile::setPermissions(tabelle(), QFile::ReadOwner | QFile::WriteOwner | QFile::ReadOther));
+    QVERIFY(QFile::setPermissions(tabelle(), QFile::ReadOwner | QFile::WriteOwner |
+                                                 QFile::ReadGroup | QFile::ReadOther));
 }
 
 void Probeheim::schreibeEigene(const Lebensmittelverzeichnis &lebensmittel) const

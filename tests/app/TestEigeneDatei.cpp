@@ -255,7 +255,7 @@ void TestEigeneDatei::onAReadOnlyDiskTheProgramGoesOn()
     sichere(lebensmittel(QStringLiteral("A")));
     sichere(lebensmittel(QStringLiteral("B")));
     const QByteArray vorher = bytes();
-    QVERIFY(QFile::setPermissions(m_heim->eigeneDatei(), QFile::ReadOwner | QFile::ReadOther));
+    QVERIFY(QFile::setPermissions(m_heim->eigeneDatei(), QFile::ReadOwner | QFile::ReadGroup));
     gibRechte(0555);
     {
         const OhneRechte einfach;

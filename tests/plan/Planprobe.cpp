@@ -43,8 +43,8 @@ void Planheim::schreibeTabelle(const QList<Datenmodul> &lebensmittel) const
 {
     QVERIFY(Archivdatei::schreiben(tabelle(), verzeichnis(lebensmittel)));
     // The shipped table is everybody's.
-    QVERIFY(
-        QFile::setPermissions(tabelle(), QFile::ReadOwner | QFile::WriteOwner | QFile::ReadOther));
+    QVERIFY(QFile::setPermissions(tabelle(), QFile::ReadOwner | QFile::WriteOwner |
+                                                 QFile::ReadGroup | QFile::ReadOther));
 }
 
 void Planheim::schreibeEigene(const QList<Datenmodul> &lebensmittel) const
@@ -77,8 +77,8 @@ QMap<QString, float> Planheim::plan() const
 
 void Planheim::oeffneFuerAlle() const
 {
-    constexpr auto alle =
-        QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner | QFile::ReadOther | QFile::ExeOther;
+    constexpr auto alle = QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner |
+                          QFile::ReadGroup | QFile::ExeGroup | QFile::ReadOther | QFile::ExeOther;
     for (const char *ordner : {".", "Library", "Library/Application Support"}) {
         QVERIFY(QFile::setPermissions(m_ordner.filePath(QLatin1String(ordner)), alle));
     }
