@@ -350,12 +350,10 @@ QPixmap Tabellenansicht::ziehbild(const QString &text) const
 
 void Tabellenansicht::startDrag(Qt::DropActions supportedActions)
 {
-    const QPersistentModelIndex angefasst = std::exchange(m_angefasst, {});
+    m_angefasst =
+        QModelIndex(); // what is not dragged from here is chosen where the mouse is let go
     QMimeData *daten = ziehdaten(m_gedrueckteZeile, m_mausort);
     if (daten == nullptr) {
-        if (angefasst.isValid()) { // pulling goes on from what was pressed
-            setzeUngerollt(angefasst, neueAuswahl());
-        }
         return;
     }
     m_gedrueckt = false;
