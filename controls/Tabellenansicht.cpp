@@ -350,8 +350,8 @@ QPixmap Tabellenansicht::ziehbild(const QString &text) const
 
 void Tabellenansicht::startDrag(Qt::DropActions supportedActions)
 {
-    m_angefasst =
-        QModelIndex(); // what is not dragged from here is chosen where the mouse is let go
+    // What was pressed is dragged now, or pulling goes on to what is chosen where it ends.
+    m_angefasst = QModelIndex();
     QMimeData *daten = ziehdaten(m_gedrueckteZeile, m_mausort);
     if (daten == nullptr) {
         return;
