@@ -360,12 +360,10 @@ QPixmap Tabellenansicht::ziehbild(const QString &text) const
 
 void Tabellenansicht::startDrag(Qt::DropActions supportedActions)
 {
-    const QPersistentModelIndex angefasst = std::exchange(m_angefasst, {});
+    // What was pressed is dragged now, or pulling goes on to what is chosen where it ends.
+    m_angefasst = QModelIndex();
     QMimeData *daten = ziehdaten(m_gedrueckteZeile, m_mausort);
     if (daten == nullptr) {
-        if (angefasst.isValid()) { // pulling goes on from what was pressed
-            setzeUngerollt(angefasst, neueAuswahl());
-        }
         return;
     }
     m_gedrueckt = false;

@@ -1,7 +1,6 @@
 #include "Tabellenansicht.h"
 
 #include <QAbstractItemModelTester>
-#include <QApplication>
 #include <QHeaderView>
 #include <QHelpEvent>
 #include <QMimeData>
@@ -61,7 +60,6 @@ private Q_SLOTS:
     void aReloadKeepsTheSelection();
     void aDragCarriesTheColumnUnderTheMouse();
     void nothingIsDraggedFromAnEmptyCell();
-    void aPullThatCarriesNothingChoosesWhatWasPressed();
     void tabLeavesTheTable();
     void whatIsCutOffStandsInTheToolTip();
 
@@ -234,29 +232,6 @@ void TestTabellenansicht::nothingIsDraggedFromAnEmptyCell()
     QVERIFY(m_tabelle->ziehdaten(-1, mitte(5, 0)) == nullptr);
     QVERIFY(m_tabelle->ziehdaten(99, mitte(5, 0)) == nullptr);
     QVERIFY(m_tabelle->ziehdaten(1, QPoint(5000, 5)) == nullptr);
-}
-
-/// From a filled cell over the edge into an empty one, and let go there.
-void TestTabellenansicht::aPullThatCarriesNothingChoosesWhatWasPressed()
-{
-    klicke(3, 0);
-    int spalte = -2;
-    connect(m_tabelle.get(), &Tabellenansicht::betaetigt, this,
-            [&] { spalte = m_tabelle->clickedColumn(); });
-    const QRect feld = m_tabelle->visualRect(m_tabelle->model()->index(5, 1));
-    const QPoint start(feld.right() - 2, feld.center().y());
-    QTest::mousePress(m_tabelle->viewport(), Qt::LeftButton, {}, start);
-    for (const int weg : {1, QApplication::startDragDistance() + 1}) {
-        const QPoint ort = start + QPoint(weg, 0);
-        QMouseEvent zug(QEvent::MouseMove, ort, m_tabelle->viewport()->mapToGlobal(ort),
-                        Qt::NoButton, Qt::LeftButton, {});
-        QCoreApplication::sendEvent(m_tabelle->viewport(), &zug);
-    }
-    const QPoint ende = start + QPoint(QApplication::startDragDistance() + 1, 0);
-    QCOMPARE(m_tabelle->columnAt(ende.x()), 2);
-    QTest::mouseRelease(m_tabelle->viewport(), Qt::LeftButton, {}, ende);
-    QCOMPARE(m_tabelle->selectedRow(), 5);
-    QCOMPARE(spalte, 1);
 }
 
 void TestTabellenansicht::tabLeavesTheTable()
