@@ -68,6 +68,9 @@ public:
     /// 2 "such". One for the whole process: every table and every action reads the same.
     static int angeklickteSpalte;
 
+    /// The notice that tells what the entry sheet saved.
+    static const QString hinweisGesichert;
+
     /// The tabs of `DatenAnsicht` in the order in which they are cycled.
     static const QStringList ansichten;
 
@@ -162,11 +165,12 @@ private:
 
     // Own foods
     Datenmodul eingegebenesLebensmittel() const;
-    void schreibeEigeneLebensmittel() const;
+    bool sichere();
+    bool schreibeEigeneLebensmittel() const;
     void setzeAnzeigeBearbeitbar(bool bearbeitbar);
 
     // Notices
-    void meldeGesichertesVomBlatt(const QString &name);
+    void meldeUebernommenes(const QString &name, bool gesichert);
     void nimmGesichertesZurueck();
     void zeigeEigenes(const QString &name);
 

@@ -44,8 +44,8 @@ void AppController::umschreibenDerEingabeFelder()
         m_wertungsfelder[i]->setStringValue(m_wertungseingaben[i]->stringValue());
     }
     zeigeJoule();
-    SicherneigeneLM();
-    meldeGesichertesVomBlatt(feldA->stringValue());
+    const bool gesichert = sichere();
+    meldeUebernommenes(feldA->stringValue(), gesichert);
 }
 
 /// What stands in the entry sheet, as a record.
@@ -65,6 +65,13 @@ Datenmodul AppController::eingegebenesLebensmittel() const
 
 void AppController::SicherneigeneLM()
 {
+    sichere();
+}
+
+/// Saves the values on display. False when the file could not be written; the program then goes on
+/// with what it holds in memory.
+bool AppController::sichere()
+{
     if (planmodul != nullptr) {
         planmodul->umschreibungMitName(eingegebenesLebensmittel());
     }
@@ -78,15 +85,13 @@ void AppController::SicherneigeneLM()
             QStringLiteral("array = (%1)").arg(KundenArray.join(QStringLiteral(", "))));
     }
     eintragen(KundenDictionary[name]);
-    schreibeEigeneLebensmittel();
+    return schreibeEigeneLebensmittel();
 }
 
-void AppController::schreibeEigeneLebensmittel() const
+bool AppController::schreibeEigeneLebensmittel() const
 {
-    // Whether it worked is not asked: the program goes on with what it holds in memory, and the
-    // keeper of the files tells who wants to know.
-    m_tueren.dateien->schreiben(m_tueren.datenordner.pathForDataFile(QStringLiteral("customdaten")),
-                                KundenDictionary);
+    return m_tueren.dateien->schreiben(
+        m_tueren.datenordner.pathForDataFile(QStringLiteral("customdaten")), KundenDictionary);
 }
 
 void AppController::SichernFensterAuf()
@@ -155,6 +160,7 @@ void AppController::LoescheneigeneLM()
         KundenArray.removeAt(zeile);
     }
     Tabelle->reloadData();
+    nimmGesichertesZurueck();
     if (planmodul != nullptr) {
         planmodul->loeschenvonkundeneintraegen(name);
     }

@@ -4,22 +4,21 @@
 
 #include "Zeichenkettentabelle.h"
 
-namespace {
-
-const QString gesichert = QStringLiteral("gesichert");
-
-} // namespace
+const QString AppController::hinweisGesichert = QStringLiteral("gesichert");
 
 /// What was typed into the sheet stands in the fields at once. Circle, bars and colours are those
 /// of the food before, and a value that was hidden with it stays hidden, until a food is chosen.
-void AppController::meldeGesichertesVomBlatt(const QString &name)
+void AppController::meldeUebernommenes(const QString &name, bool gesichert)
 {
-    Hinweis hinweis = {
-        .kennung = gesichert,
-        .text = localizedString(
-                    QStringLiteral("„%1“ ist gesichert. Kreis, Balken und Farben zeigen noch "
-                                   "das Lebensmittel davor."))
-                    .arg(name)};
+    const QString was = gesichert
+                            ? localizedString(QStringLiteral("„%1“ ist gesichert."))
+                            : localizedString(QStringLiteral("„%1“ steht in der Liste, ist aber "
+                                                             "nicht gesichert."));
+    Hinweis hinweis = {.kennung = hinweisGesichert,
+                       .text =
+                           was.arg(name) + u' ' +
+                           localizedString(QStringLiteral(
+                               "Kreis, Balken und Farben zeigen noch das Lebensmittel davor."))};
     if (KundenArray.indexOf(name) < Tabelle->modell()->rowCount()) {
         hinweis.knopf = localizedString(QStringLiteral("Zeigen"));
         hinweis.aktion = [this, name] {
@@ -31,7 +30,7 @@ void AppController::meldeGesichertesVomBlatt(const QString &name)
 
 void AppController::nimmGesichertesZurueck()
 {
-    hinweise->nimmZurueck(gesichert);
+    hinweise->nimmZurueck(hinweisGesichert);
 }
 
 /// Chooses an own food as a click on its cell does. Some rows stand for the food of another row,

@@ -54,6 +54,12 @@ QString kennung(const Dateimeldung &meldung)
     return meldung.path + u'|' + QString::number(static_cast<int>(meldung.art));
 }
 
+/// What was put aside is safe; anything else may be lost.
+bool istWarnung(const Dateimeldung &meldung)
+{
+    return meldung.art != Dateimeldung::Art::Beiseitegelegt;
+}
+
 /// Names in one line; of many only the first are named.
 QString aufzaehlung(const QStringList &namen)
 {
@@ -107,10 +113,10 @@ void Dateiansage::beginne()
             Qt::QueuedConnection);
     connect(m_dateien.get(), &Dateihueter::erledigt, this, &Dateiansage::nimmErledigtesZurueck,
             Qt::QueuedConnection);
-    connect(m_dateien.get(), &Dateihueter::geschrieben, this, &Dateiansage::vergleiche,
+    connect(m_dateien.get(), &Dateihueter::geschrieben, this, &Dateiansage::merkeGeschriebenes,
             Qt::QueuedConnection);
     connect(&m_controller, &AppController::fruehereStaendeGewuenscht, this,
-            &Dateiansage::zeigeFruehereStaende);
+            [this] { zeigeFruehereStaende(); });
     for (const Dateimeldung &meldung : m_dateien->offeneMeldungen()) {
         zeige(meldung);
     }
@@ -149,24 +155,42 @@ Hinweisstreifen &Dateiansage::streifenFuer(const QString &path) const
 
 void Dateiansage::zeige(const Dateimeldung &meldung)
 {
-    const auto art = static_cast<std::size_t>(meldung.art);
-    const QString path = meldung.path;
-    const auto staende = [this] {
-        zeigeFruehereStaende();
-    };
-    const std::array<std::function<void()>, meldungsworte.size()> aktionen = {
-        [path] { QDesktopServices::openUrl(QUrl::fromLocalFile(QFileInfo(path).path())); },
-        staende,
-        staende,
-        [this, path] { sichereNochmals(path); },
-    };
-    streifenFuer(path).zeige(
-        {.kennung = kennung(meldung),
-         .text = localizedString(QString::fromUtf8(meldungsworte.at(art).text))
-                     .arg(QDir::toNativeSeparators(path), QFileInfo(meldung.kopie).fileName()),
-         .knopf = localizedString(QString::fromUtf8(meldungsworte.at(art).knopf)),
-         .aktion = aktionen.at(art),
-         .warnung = meldung.art != Dateimeldung::Art::Beiseitegelegt});
+    const auto &[text, knopf] = meldungsworte.at(static_cast<std::size_t>(meldung.art));
+    streifenFuer(meldung.path)
+        .zeige({.kennung = kennung(meldung),
+                .text = localizedString(QString::fromUtf8(text))
+                            .arg(QDir::toNativeSeparators(meldung.path),
+                                 QFileInfo(meldung.kopie).fileName()),
+                .knopf = localizedString(QString::fromUtf8(knopf)),
+                .aktion = [this, meldung] { fuehreAus(meldung); },
+                .warnung = istWarnung(meldung)});
+}
+
+/// Does what the notice offers. That alone settles nothing: what is still amiss is said again.
+void Dateiansage::fuehreAus(const Dateimeldung &meldung)
+{
+    switch (meldung.art) {
+    case Dateimeldung::Art::NichtLesbar:
+        QDesktopServices::openUrl(QUrl::fromLocalFile(QFileInfo(meldung.path).path()));
+        break;
+    case Dateimeldung::Art::Beschaedigt:
+    case Dateimeldung::Art::Beiseitegelegt:
+        zeigeFruehereStaende(meldung.path);
+        break;
+    case Dateimeldung::Art::NichtGeschrieben:
+        sichereNochmals(meldung.path);
+        break;
+    }
+    zeigeUngeloestes();
+}
+
+void Dateiansage::zeigeUngeloestes()
+{
+    for (const Dateimeldung &meldung : m_dateien->offeneMeldungen()) {
+        if (istWarnung(meldung)) {
+            zeige(meldung);
+        }
+    }
 }
 
 void Dateiansage::nimmErledigtesZurueck(const QString &path)
@@ -196,14 +220,30 @@ void Dateiansage::sichereNochmals(const QString &path)
     }
 }
 
+/// On a save the plan writes first and the main window second: in between the two differ, and
+/// nobody need hear of that.
+void Dateiansage::merkeGeschriebenes(const QString &path, const Lebensmittelverzeichnis &inhalt)
+{
+    if (m_zurueckgeholt && m_zurueckgeholt->path == path &&
+        !::vergleiche(m_zurueckgeholt->stand, inhalt).leer()) {
+        nimmZurueckgeholtesZurueck();
+    }
+    if (path == pfad(eigeneDaten)) {
+        if (!m_geschriebeneEigene) {
+            QMetaObject::invokeMethod(this, &Dateiansage::vergleiche, Qt::QueuedConnection);
+        }
+        m_geschriebeneEigene = inhalt;
+    }
+}
+
 /// The plan keeps a copy of the own foods and writes it too. When the file came to hold other foods
 /// than the main window in that way, the user learns which, and can put the window's back.
-void Dateiansage::vergleiche(const QString &path, const Lebensmittelverzeichnis &inhalt)
+void Dateiansage::vergleiche()
 {
-    if (path != pfad(eigeneDaten)) {
-        return;
-    }
-    const Bestandsunterschied unterschied = ::vergleiche(m_controller.KundenDictionary, inhalt);
+    const Lebensmittelverzeichnis inDerDatei =
+        m_geschriebeneEigene.value_or(Lebensmittelverzeichnis());
+    m_geschriebeneEigene.reset();
+    const Bestandsunterschied unterschied = ::vergleiche(m_controller.KundenDictionary, inDerDatei);
     if (unterschied.leer()) {
         m_controller.hinweise->nimmZurueck(andereEigene);
         return;
@@ -222,17 +262,43 @@ void Dateiansage::vergleiche(const QString &path, const Lebensmittelverzeichnis 
 /// Makes these the own foods everywhere: in the main window, in the plan and in the file.
 void Dateiansage::setzeEigene(const Lebensmittelverzeichnis &eigene, const QStringList &namen)
 {
+    const QStringList vorher = m_controller.KundenArray;
     m_controller.KundenDictionary = eigene;
     m_controller.KundenArray = namen;
     m_controller.Tabelle->reloadData();
+    folgeAuswahl(vorher);
+    m_controller.hinweise->nimmZurueck(AppController::hinweisGesichert);
     if (m_controller.planmodul != nullptr) {
         m_controller.planmodul->uebernimmEigene(eigene);
     }
     m_dateien->schreiben(pfad(eigeneDaten), eigene);
 }
 
-void Dateiansage::zeigeFruehereStaende()
+/// Deleting takes the selected row out of the list, so the selection stays with the own food on
+/// display when that has moved. One that is gone can't be selected, nor be deleted.
+void Dateiansage::folgeAuswahl(const QStringList &vorher) const
 {
+    const QString &gezeigt = m_controller.unuebersetztername;
+    const bool eigenes = AppController::angeklickteSpalte > 0 && !gezeigt.isNull() &&
+                         vorher.indexOf(gezeigt) == m_controller.Tabelle->selectedRow();
+    const auto zeile = static_cast<int>(m_controller.KundenArray.indexOf(gezeigt));
+    if (!eigenes || zeile == m_controller.Tabelle->selectedRow()) {
+        return;
+    }
+    if (zeile >= 0 && zeile < m_controller.Tabelle->modell()->rowCount()) {
+        m_controller.Tabelle->selectRow(zeile);
+    } else {
+        m_controller.Tabelle->clearSelection();
+        m_controller.loeschenknopf->setEnabled(false);
+    }
+}
+
+void Dateiansage::zeigeFruehereStaende(const QString &path)
+{
+    if (auto *offen = m_controller.Hauptfenster->findChild<Sicherungsfenster *>()) {
+        offen->activateWindow();
+        return;
+    }
     const auto planstand = [this] {
         return m_controller.planmodul != nullptr
                    ? m_controller.planmodul->plansavedictionary
@@ -255,37 +321,53 @@ void Dateiansage::zeigeFruehereStaende()
                                     [this](const auto &stand) {
                                         holePlanZurueck(stand);
                                     }}},
-                              m_controller.Hauptfenster);
+                              path, m_controller.Hauptfenster);
     fenster->setAttribute(Qt::WA_DeleteOnClose);
     fenster->open();
 }
 
 void Dateiansage::holeEigeneZurueck(const Lebensmittelverzeichnis &stand)
 {
+    const QString path = pfad(eigeneDaten);
     const Lebensmittelverzeichnis vorher = m_controller.KundenDictionary;
     const QStringList namen = m_controller.KundenArray;
-    m_dateien->hebeAuf(pfad(eigeneDaten));
+    m_dateien->hebeAuf(path);
     setzeEigene(stand, sortiertNachName(stand.keys()));
-    meldeZurueckgeholtes(*m_controller.hinweise,
-                         [this, vorher, namen] { setzeEigene(vorher, namen); });
+    meldeZurueckgeholtes(path, stand, [this, vorher, namen] { setzeEigene(vorher, namen); });
 }
 
 void Dateiansage::holePlanZurueck(const Lebensmittelverzeichnis &stand)
 {
+    const QString path = pfad(plandaten);
     m_controller.Planmoduloeffnen();
     Planmodul &plan = *m_controller.planmodul;
-    const Lebensmittelverzeichnis vorher = plan.plansavedictionary;
-    m_dateien->hebeAuf(pfad(plandaten));
-    plan.uebernimmPlan(stand);
-    meldeZurueckgeholtes(*plan.hinweise,
+    const Planliste vorher = plan;
+    Planliste zeilen;
+    zeilen.laden(stand);
+    m_dateien->hebeAuf(path);
+    plan.uebernimmPlan(zeilen);
+    meldeZurueckgeholtes(path, stand,
                          [this, vorher] { m_controller.planmodul->uebernimmPlan(vorher); });
 }
 
-void Dateiansage::meldeZurueckgeholtes(Hinweisstreifen &streifen,
+void Dateiansage::meldeZurueckgeholtes(const QString &path, const Lebensmittelverzeichnis &stand,
                                        const std::function<void()> &rueckgaengig)
 {
-    streifen.zeige({.kennung = zurueckgeholt,
-                    .text = localizedString(QStringLiteral("Der frühere Stand ist zurückgeholt.")),
-                    .knopf = localizedString(QStringLiteral("Rückgängig")),
-                    .aktion = rueckgaengig});
+    nimmZurueckgeholtesZurueck();
+    m_zurueckgeholt = {path, stand};
+    streifenFuer(path).zeige(
+        {.kennung = zurueckgeholt,
+         .text = localizedString(QStringLiteral("Der frühere Stand ist zurückgeholt.")),
+         .knopf = localizedString(QStringLiteral("Rückgängig")),
+         .aktion = rueckgaengig});
+}
+
+/// What has been worked on since would be lost if the way back were still offered.
+void Dateiansage::nimmZurueckgeholtesZurueck()
+{
+    m_zurueckgeholt.reset();
+    m_controller.hinweise->nimmZurueck(zurueckgeholt);
+    if (m_controller.planmodul != nullptr && m_controller.planmodul->hinweise != nullptr) {
+        m_controller.planmodul->hinweise->nimmZurueck(zurueckgeholt);
+    }
 }

@@ -12,6 +12,7 @@
 #include <QListWidget>
 #include <QLocale>
 #include <QPushButton>
+#include <QSignalBlocker>
 #include <QSplitter>
 #include <QTableWidget>
 #include <QVBoxLayout>
@@ -39,7 +40,8 @@ QTableWidgetItem *zelle(const QString &text, Qt::Alignment ausrichtung = Qt::Ali
 
 } // namespace
 
-Sicherungsfenster::Sicherungsfenster(const QList<Sicherungsquelle> &quellen, QWidget *parent)
+Sicherungsfenster::Sicherungsfenster(const QList<Sicherungsquelle> &quellen, const QString &path,
+                                     QWidget *parent)
     : QDialog(parent)
     , m_quellen(quellen)
 {
@@ -50,7 +52,14 @@ Sicherungsfenster::Sicherungsfenster(const QList<Sicherungsquelle> &quellen, QWi
     aufbau->addWidget(mittelteil(), 1);
     aufbau->addWidget(unterteil());
     resize(fenstergroesse);
+    for (int i = 0; i < m_quellen.size(); ++i) {
+        if (m_quellen[i].path == path) {
+            m_wahl->setCurrentIndex(i);
+        }
+    }
     zeigeQuelle();
+    connect(m_wahl, &QComboBox::currentIndexChanged, this, &Sicherungsfenster::zeigeQuelle);
+    connect(m_tage, &QListWidget::currentRowChanged, this, &Sicherungsfenster::zeigeStand);
 }
 
 QWidget *Sicherungsfenster::oberteil()
@@ -68,7 +77,6 @@ QWidget *Sicherungsfenster::oberteil()
     zeile->addWidget(beschriftung);
     zeile->addWidget(m_wahl);
     zeile->addStretch();
-    connect(m_wahl, &QComboBox::currentIndexChanged, this, &Sicherungsfenster::zeigeQuelle);
     return teil;
 }
 
@@ -94,7 +102,6 @@ QWidget *Sicherungsfenster::mittelteil()
     teiler->addWidget(m_inhalt);
     teiler->setSizes({breiteTage, fenstergroesse.width() - breiteTage});
     teiler->setStretchFactor(1, 1);
-    connect(m_tage, &QListWidget::currentRowChanged, this, &Sicherungsfenster::zeigeStand);
     return teiler;
 }
 
@@ -105,6 +112,7 @@ QWidget *Sicherungsfenster::unterteil()
     zeilen->setContentsMargins(0, 0, 0, 0);
     m_worte = new QLabel;
     m_worte->setObjectName(QStringLiteral("worte"));
+    m_worte->setTextFormat(Qt::PlainText); // a folder may be called anything
     m_worte->setWordWrap(true);
     zeilen->addWidget(m_worte);
     auto *knoepfe = new QDialogButtonBox(QDialogButtonBox::Close);
@@ -124,6 +132,7 @@ const Sicherungsquelle &Sicherungsfenster::quelle() const
 
 void Sicherungsfenster::zeigeQuelle()
 {
+    const QSignalBlocker einmal(m_tage); // filling the list chooses a state on the way
     m_sicherungen = Sicherungen::alle(quelle().path);
     m_tage->clear();
     for (const Sicherungen::Sicherung &eine : std::as_const(m_sicherungen)) {

@@ -32,7 +32,9 @@ class Sicherungsfenster : public QDialog
     Q_OBJECT
 
 public:
-    Sicherungsfenster(const QList<Sicherungsquelle> &quellen, QWidget *parent);
+    /// The copies of the file `path` are shown first, those of the first store when it is none of
+    /// theirs.
+    Sicherungsfenster(const QList<Sicherungsquelle> &quellen, const QString &path, QWidget *parent);
 
 private:
     QWidget *oberteil();

@@ -277,9 +277,14 @@ void Tabellenansicht::mousePressEvent(QMouseEvent *event)
     }
 }
 
+/// Qt begins a drag only where something is selected, and the press has selected nothing.
 void Tabellenansicht::mouseMoveEvent(QMouseEvent *event)
 {
     m_mausort = event->position().toPoint();
+    if (m_angefasst.isValid() && dragEnabled() && state() == NoState &&
+        (event->buttons() & Qt::LeftButton) != 0) {
+        setState(DraggingState);
+    }
     QTableView::mouseMoveEvent(event);
 }
 

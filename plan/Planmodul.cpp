@@ -225,10 +225,10 @@ void Planmodul::uebernimmEigene(const Lebensmittelverzeichnis &eigene)
     }
 }
 
-void Planmodul::uebernimmPlan(const Lebensmittelverzeichnis &gesichert)
+void Planmodul::uebernimmPlan(const Planliste &zeilen)
 {
     beendeEingabe();
-    laden(gesichert);
+    Planliste::operator=(zeilen);
     uebernimmAenderung();
 }
 

@@ -89,8 +89,8 @@ public:
     // Bringing back what was kept
     /// Takes these own foods as the copy to work with from now on. The file is left to the caller.
     void uebernimmEigene(const Lebensmittelverzeichnis &eigene);
-    /// Takes over a plan as it was read from a file, in place of the one that is there.
-    void uebernimmPlan(const Lebensmittelverzeichnis &gesichert);
+    /// Takes over these rows in place of those that are there, saves and shows them.
+    void uebernimmPlan(const Planliste &zeilen);
 
     // Actions of the window; without one they do nothing
     /// Takes the selected row out of the plan; without one, nothing happens.

@@ -241,11 +241,13 @@ void Planmodul::zeigeVerlaufworte()
     }
     const bool veraltet =
         klient.gewicht != m_projiziert->gewicht || klient.groesse != m_projiziert->groesse;
-    QStringList saetze = {
-        veraltet ? localizedString(QStringLiteral("Gewicht oder Größe sind neu: Der Verlauf folgt "
-                                                  "mit der nächsten Änderung am Plan."))
-                 : gewichtview->beschreibung(),
-        fehlendes(klient)};
+    const bool unbekannt = klient.gewicht == 0 && klient.groesse == 0;
+    QStringList saetze = {unbekannt  ? QString()
+                          : veraltet ? localizedString(QStringLiteral(
+                                           "Gewicht oder Größe sind neu: Der Verlauf folgt "
+                                           "mit der nächsten Änderung am Plan."))
+                                     : gewichtview->beschreibung(),
+                          fehlendes(klient)};
     saetze.removeAll(QString());
     verlaufworte->setText(saetze.join(u' '));
 }

@@ -205,7 +205,8 @@ QString GewichtsverlaufView::beschreibung() const
         saetze << uebersetzt(QT_TRANSLATE_NOOP("Mahlberg", "Gesund sind %1 bis %2."))
                       .arg(kilogramm(m_unteresbmigewicht), kilogramm(m_oberesbmigewicht));
     }
-    return saetze.join(u' ');
+    return saetze.isEmpty() ? uebersetzt(QT_TRANSLATE_NOOP("Mahlberg", "Noch kein Verlauf."))
+                            : saetze.join(u' ');
 }
 
 /// How much a week's weight differs from the chart's first one. The chart leaves out today's

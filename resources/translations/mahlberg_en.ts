@@ -1332,6 +1332,10 @@ Nothing is worked out for children under 10 years; it resumes at 11 years.</tr
   <translation>Comma and point both separate the decimals: 12,5 and 12.5 are the same, 1,500 is 1.5.</translation>
  </message>
  <message>
+  <source>Kreis, Balken und Farben zeigen noch das Lebensmittel davor.</source>
+  <translation>Circle, bars and colours still show the food before.</translation>
+ </message>
+ <message>
   <source>LM anPlanmodul</source>
   <translation>Food to plan</translation>
  </message>
@@ -1426,6 +1430,10 @@ Nothing is worked out for children under 10 years; it resumes at 11 years.</tr
  <message>
   <source>Neues LM</source>
   <translation>New food</translation>
+ </message>
+ <message>
+  <source>Noch kein Verlauf.</source>
+  <translation>No course yet.</translation>
  </message>
  <message>
   <source>Nur Symbol</source>
@@ -1732,12 +1740,16 @@ Nothing is worked out for children under 10 years; it resumes at 11 years.</tr
   <translation>“%1”</translation>
  </message>
  <message>
-  <source>„%1“ ist gesichert. Kreis, Balken und Farben zeigen noch das Lebensmittel davor.</source>
-  <translation>“%1” is saved. Circle, bars and colours still show the food before.</translation>
+  <source>„%1“ ist gesichert.</source>
+  <translation>“%1” is saved.</translation>
  </message>
  <message>
   <source>„%1“ ist keine Menge. Es bleibt bei %2 g.</source>
   <translation>“%1” is no amount. It stays %2 g.</translation>
+ </message>
+ <message>
+  <source>„%1“ steht in der Liste, ist aber nicht gesichert.</source>
+  <translation>“%1” is in the list, but is not saved.</translation>
  </message>
  <message>
   <source>… oder ziehen Sie den Standardsatz in die Symbolleiste. Was Sie aus der Leiste herausziehen, verschwindet.</source>

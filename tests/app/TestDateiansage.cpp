@@ -24,6 +24,8 @@ private Q_SLOTS:
     void aDamagedFileIsNamedUntilItIsReplaced();
     void aFailedWriteIsSaidUntilItWorks();
     void savingAgainAtOnce();
+    void savingAgainInVainIsSaidAgain();
+    void aSheetThatIsNotSavedIsNotCalledSaved();
     void thePlansFileIsTheMatterOfThePlansWindow();
     void whatThePlanWroteInsteadIsNamed();
     void theWindowsFoodsArePutBack();
@@ -185,6 +187,33 @@ void TestDateiansage::savingAgainAtOnce()
     QTest::mouseClick(knopf(*controller().hinweise), Qt::LeftButton);
     QVERIFY(texte().isEmpty());
     QVERIFY(datei().contains(QStringLiteral("Neues")));
+}
+
+void TestDateiansage::savingAgainInVainIsSaidAgain()
+{
+    oeffne();
+    controller().feldA->setStringValue(QStringLiteral("Neues"));
+    const VolleFestplatte voll(20);
+    controller().SicherneigeneLM();
+    QCOMPARE(texte().size(), 1);
+    QTest::mouseClick(knopf(*controller().hinweise), Qt::LeftButton);
+    QCOMPARE(texte().size(), 1);
+    QVERIFY(texte()[0].contains(QStringLiteral("lässt sich nicht schreiben")));
+}
+
+void TestDateiansage::aSheetThatIsNotSavedIsNotCalledSaved()
+{
+    oeffne();
+    {
+        const VolleFestplatte voll(20);
+        controller().EingabeFensterfeldA->setStringValue(QStringLiteral("Suppe"));
+        controller().umschreibenDerEingabeFelder();
+    }
+    const QStringList gesagt = texte();
+    QCOMPARE(gesagt.size(), 2);
+    QVERIFY(gesagt.filter(QStringLiteral("ist gesichert")).isEmpty());
+    QVERIFY(!gesagt.filter(QStringLiteral("„Suppe“ steht in der Liste, ist aber nicht gesichert."))
+                 .isEmpty());
 }
 
 void TestDateiansage::thePlansFileIsTheMatterOfThePlansWindow()

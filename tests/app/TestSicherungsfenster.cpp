@@ -31,6 +31,11 @@ private Q_SLOTS:
     void bringingBackIsUndone();
     void thePlansCopyFollows();
     void thePlanComesBack();
+    void thePlansOrderComesBackToo();
+    void theWayBackEndsWithTheNextChange();
+    void theFoodOnDisplayStaysChosen();
+    void aFoodThatIsGoneCantBeDeleted();
+    void oneWindowIsEnough();
     void aDamagedCopyCantBeBroughtBack();
     void aCopyThatIsLikeTodayHasNothingToBringBack();
     void theMenuOpensIt();
@@ -265,6 +270,82 @@ void TestSicherungsfenster::thePlanComesBack()
     druecke(*plan.hinweise);
     QCOMPARE(plan.PlanArray, QStringList{zaehlname(2)});
     QCOMPARE(Archivdatei::lesen(plandatei).archiv.verzeichnis[zaehlname(2)].kal(), 150.0F);
+}
+
+/// The file knows neither order nor fractions of a gram, but the plan on the desk does.
+void TestSicherungsfenster::thePlansOrderComesBackToo()
+{
+    controller().Planmoduloeffnen();
+    Planmodul &plan = *controller().planmodul;
+    plan.nameimportvontoolbar(zaehlname(9));
+    plan.nameimportvontoolbar(zaehlname(2));
+    plan.mengeAendern(0, 150.7F);
+    QVERIFY(ordner().mkpath(QStringLiteral("Sicherungen")));
+    QVERIFY(Archivdatei::schreiben(
+        ordner().filePath(QStringLiteral("Sicherungen/MahlbergPlanmod 2026-11-19.daten")),
+        verzeichnis({ration(zaehlname(7), 30)})));
+    oeffne();
+    teil<QComboBox>("quellenwahl").setCurrentIndex(1);
+    holeZurueck();
+    QCOMPARE(plan.PlanArray, QStringList{zaehlname(7)});
+    druecke(*plan.hinweise);
+    QCOMPARE(plan.PlanArray, (QStringList{zaehlname(9), zaehlname(2)}));
+    QCOMPARE(plan.mengenarray, (QList<float>{150.7F, 100}));
+}
+
+void TestSicherungsfenster::theWayBackEndsWithTheNextChange()
+{
+    legeKopie(QStringLiteral("2026-11-20"), {lebensmittel(suppe, {{kal, 40}})});
+    oeffne();
+    holeZurueck();
+    QCoreApplication::processEvents();
+    QCOMPARE(controller().hinweise->hinweise().size(), 1);
+    controller().feldA->setStringValue(QStringLiteral("Danach"));
+    controller().SicherneigeneLM();
+    QCoreApplication::processEvents();
+    QVERIFY(controller().hinweise->hinweise().isEmpty());
+    QCOMPARE(datei().keys(), (QStringList{QStringLiteral("Danach"), suppe}));
+}
+
+/// Deleting takes the selected row, which has to be that of the food on display.
+void TestSicherungsfenster::theFoodOnDisplayStaysChosen()
+{
+    const QString apfel = QStringLiteral("Apfelbrei");
+    legeKopie(QStringLiteral("2026-11-20"),
+              {lebensmittel(apfel, {{kal, 40}}), lebensmittel(eintopf, {{kal, 75}}),
+               lebensmittel(muesli, {{kal, 350}})});
+    m_fenster->klicke(0, inEigen);
+    QCOMPARE(controller().unuebersetztername, eintopf);
+    oeffne();
+    holeZurueck();
+    QCOMPARE(controller().Tabelle->selectedRow(), 1);
+    QVERIFY(m_fenster->zelle(1, inEigen).umrandet);
+    m_heim->antworten = {1};
+    controller().LoescheneigeneLM();
+    QCOMPARE(controller().KundenArray, (QStringList{apfel, muesli}));
+    QCOMPARE(controller().KundenDictionary.keys(), (QStringList{apfel, muesli}));
+    QCOMPARE(datei().keys(), (QStringList{apfel, muesli}));
+}
+
+void TestSicherungsfenster::aFoodThatIsGoneCantBeDeleted()
+{
+    legeKopie(QStringLiteral("2026-11-20"), {lebensmittel(suppe, {{kal, 40}})});
+    m_fenster->klicke(0, inEigen);
+    QVERIFY(controller().loeschenknopf->isEnabled());
+    oeffne();
+    holeZurueck();
+    QCOMPARE(controller().Tabelle->selectedRow(), -1);
+    QVERIFY(!controller().loeschenknopf->isEnabled());
+    controller().LoescheneigeneLM(); // the toolbar still offers it
+    QCOMPARE(m_heim->meldungen.size(), 1);
+    QCOMPARE(controller().KundenArray, QStringList{suppe});
+}
+
+void TestSicherungsfenster::oneWindowIsEnough()
+{
+    oeffne();
+    m_fenster->oberflaeche().ansage.zeigeFruehereStaende();
+    QCOMPARE(controller().Hauptfenster->findChildren<Sicherungsfenster *>().size(), 1);
 }
 
 void TestSicherungsfenster::aDamagedCopyCantBeBroughtBack()

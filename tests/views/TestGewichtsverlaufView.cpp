@@ -425,7 +425,7 @@ void TestGewichtsverlaufView::chartSaysWhatItShows_data()
                           "3000,0_kg mehr, nach drei 4500,0_kg mehr, nach vier 6000,0_kg mehr.");
     QTest::newRow("no weight, but a height")
         << 0 << 2000 << 2000 << 1.8F << QStringLiteral("Gesund sind 64,8_kg bis 81,0_kg.");
-    QTest::newRow("neither") << 0 << 2000 << 2000 << 0.0F << QString();
+    QTest::newRow("neither") << 0 << 2000 << 2000 << 0.0F << QStringLiteral("Noch kein Verlauf.");
 }
 
 void TestGewichtsverlaufView::chartSaysWhatItShows()
