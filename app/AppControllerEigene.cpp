@@ -147,7 +147,7 @@ void AppController::LoescheneigeneLM()
          .knoepfe = {localizedString(QStringLiteral("Nein")),
                      localizedString(QStringLiteral("Ja"))},
          .gefahr = true,
-         .gegenstand = localizedString(QStringLiteral("„%1“")).arg(name)});
+         .gegenstand = localizedString(QStringLiteral("„%1“")).arg(kurzerName(name))});
     if (antwort == 0) {
         return;
     }

@@ -39,7 +39,7 @@ void AppController::zeigeEigenes(const QString &name)
 {
     const auto zeile = static_cast<int>(KundenArray.indexOf(name));
     Tabelle->waehle(zeile, QStringLiteral("eigen"));
-    if (unuebersetztername != name && Tabelle->selectedRow() == zeile) {
+    if (zeile >= 0 && unuebersetztername != name && Tabelle->selectedRow() == zeile) {
         LadeneigeneLM();
     }
 }

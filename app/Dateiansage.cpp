@@ -66,9 +66,9 @@ QString aufzaehlung(const QStringList &namen)
     constexpr qsizetype genannte = 3;
     QStringList worte;
     for (const QString &name : namen.first(std::min(namen.size(), genannte))) {
-        worte << (name.isEmpty()
-                      ? localizedString(QStringLiteral("eines ohne Namen"))
-                      : localizedString(QStringLiteral("„%1“")).arg(localizedString(name)));
+        worte << (name.isEmpty() ? localizedString(QStringLiteral("eines ohne Namen"))
+                                 : localizedString(QStringLiteral("„%1“"))
+                                       .arg(kurzerName(localizedString(name))));
     }
     if (namen.size() > genannte) {
         worte << localizedString(QStringLiteral("%1 weitere")).arg(namen.size() - genannte);

@@ -43,12 +43,11 @@ QRect imSchirm(const QRect &schirm, const QPoint &ort, const QSize &wunsch)
 void bringeInDenSchirm(QWidget &fenster)
 {
     const QRect schirm = fenster.screen()->availableGeometry();
-    const QRect platz = imSchirm(schirm, fenster.pos(), fenster.size());
-    if (platz.size() != fenster.size()) {
+    const QRect platz = imSchirm(schirm, fenster.geometry().topLeft(), fenster.size());
+    if (fenster.testAttribute(Qt::WA_Moved)) {
+        fenster.setGeometry(platz);
+    } else { // the desktop finds a place for it
         fenster.resize(platz.size());
-    }
-    if (fenster.testAttribute(Qt::WA_Moved)) { // else the desktop finds a place for it
-        fenster.move(platz.topLeft());
     }
 }
 

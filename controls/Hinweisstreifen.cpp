@@ -47,11 +47,18 @@ QLabel *worte(const Hinweis &hinweis, QWidget *eltern)
     feld->setTextFormat(Qt::PlainText); // a file or a food may be called anything
     feld->setText(hinweis.text);
     feld->setWordWrap(true);
+    feld->setMinimumWidth(1); // a long word is cut before it makes the window wider
     feld->setTextInteractionFlags(Qt::TextSelectableByMouse);
     return feld;
 }
 
 } // namespace
+
+QString kurzerName(const QString &name)
+{
+    constexpr qsizetype laengster = 60;
+    return name.size() <= laengster ? name : name.left(laengster - 1) + u'…';
+}
 
 Hinweisstreifen::Hinweisstreifen(QWidget *parent)
     : QFrame(parent)

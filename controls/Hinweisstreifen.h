@@ -20,6 +20,10 @@ struct Hinweis
     int dauer = 0;                     ///< goes by itself after so many milliseconds; 0: it stays
 };
 
+/// A name, or what somebody typed, as it may stand in a sentence: of a long one the beginning. One
+/// word of hundreds of letters would be all that can be seen.
+QString kurzerName(const QString &name);
+
 /// A strip at the lower edge of a window that tells what happened without asking for an answer:
 /// nobody has to press anything, and nobody is kept from their work. Hidden while there is nothing
 /// to say. A notice goes when it is settled, when its time is over (never while the mouse or the

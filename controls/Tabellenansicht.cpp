@@ -211,9 +211,13 @@ void Tabellenansicht::scrollTo(const QModelIndex &index, ScrollHint hint)
 }
 
 /// A while after a click the table rolls to the clicked cell, where only a part of it was seen.
-/// Sideways that would pull the next cell away from under the mouse.
+/// Sideways that would pull the next cell away from under the mouse, and while the button is down
+/// a drag may begin.
 void Tabellenansicht::timerEvent(QTimerEvent *event)
 {
+    if (m_angefasst.isValid()) {
+        return;
+    }
     const QScopedValueRollback senkrecht(m_nurSenkrecht, true);
     QTableView::timerEvent(event);
 }
@@ -369,6 +373,10 @@ void Tabellenansicht::startDrag(Qt::DropActions supportedActions)
     m_angefasst = QModelIndex();
     QMimeData *daten = ziehdaten(m_gedrueckteZeile, m_mausort);
     if (daten == nullptr) {
+        const QModelIndex ziel = indexAt(m_mausort);
+        if (ziel.isValid()) {
+            setzeUngerollt(ziel, neueAuswahl());
+        }
         return;
     }
     m_gedrueckt = false;

@@ -70,6 +70,7 @@ constexpr std::array<const char *, 3> gesichtsworte = {
     QT_TRANSLATE_NOOP("Mahlberg", "Ein Plan mit Lücken"),
     QT_TRANSLATE_NOOP("Mahlberg", "Ein unausgewogener Plan"),
 };
+
 /// A figure that ran over says nothing: a dash stands for it, as before anything was worked out.
 void zeigeZahl(Textfeld &feld, double zahl)
 {

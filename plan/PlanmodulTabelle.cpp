@@ -224,9 +224,10 @@ void Planmodul::weiseMengeZurueck(int zeile, const QString &text)
     constexpr int lesezeit = 10000; // milliseconds
     const QString satz =
         localizedString(QStringLiteral("„%1“ ist keine Menge. Es bleibt bei %2 g."));
-    hinweise->zeige({.kennung = falscheMenge,
-                     .text = satz.arg(text.trimmed(), mengentext(m_gezeigteMengen.value(zeile))),
-                     .dauer = lesezeit});
+    hinweise->zeige(
+        {.kennung = falscheMenge,
+         .text = satz.arg(kurzerName(text.trimmed()), mengentext(m_gezeigteMengen.value(zeile))),
+         .dauer = lesezeit});
 }
 
 /// On a row means behind it.
@@ -258,7 +259,7 @@ void Planmodul::zeigeAnsichtshinweis()
         gewaehlt < 0 ? localizedString(QStringLiteral("Die Zeilen stehen für andere Lebensmittel."))
         : gewaehlt < PlanArray.size()
             ? localizedString(QStringLiteral("Die ausgewählte Zeile steht für „%1“."))
-                  .arg(localizedString(PlanArray[gewaehlt]))
+                  .arg(kurzerName(localizedString(PlanArray[gewaehlt])))
             : localizedString(QStringLiteral("Die ausgewählte Zeile gibt es nicht mehr."));
     const QString anfang =
         localizedString(QStringLiteral("Die Tabelle zeigt den Plan vor dem letzten Verschieben."));

@@ -49,7 +49,8 @@ public:
     /// that has no height, is left out.
     void zeichnen(QPainter &maler, const QRectF &bounds) const override;
     /// The course in words: today's weight, and how much more or less it is after each week.
-    /// Without a weight it says nothing of it, without a height nothing of what is healthy.
+    /// Without a weight it says nothing of it, without a height nothing of what is healthy, and
+    /// without either that there is no course yet.
     QString beschreibung() const override;
     QSize sizeHint() const override;
     QSize minimumSizeHint() const override;

@@ -97,10 +97,12 @@ void TestDateiansage::oeffnePlan() const
     QVERIFY(QTest::qWaitForWindowExposed(controller().planmodul->window()));
 }
 
-/// What a strip says, once all that was sent to it has arrived.
+/// What a strip says, once all that was sent to it, and sent on, has arrived.
 QStringList TestDateiansage::texte(const Hinweisstreifen &streifen)
 {
-    QCoreApplication::processEvents();
+    for (int runde = 0; runde < 3; ++runde) {
+        QCoreApplication::processEvents();
+    }
     QStringList ergebnis;
     for (const Hinweis &hinweis : streifen.hinweise()) {
         ergebnis << hinweis.text;

@@ -198,7 +198,7 @@ void TestEinstellungsdatei::aLockThatNobodyHoldsIsClearedAway_data()
                QCoreApplication::applicationName().toUtf8() + "\n\n\n\n";
 }
 
-/// Such a lock used to stop the window for half a minute.
+/// Waiting for such a lock, the window would stand still for half a minute.
 void TestEinstellungsdatei::aLockThatNobodyHoldsIsClearedAway()
 {
     QFETCH(QByteArray, inhalt);

@@ -21,6 +21,8 @@ private Q_SLOTS:
     void thePlanStandsBesideTheTable_data();
     void thePlanStandsBesideTheTable();
     void everyWindowIsBroughtIn();
+    void shownAgainItStaysWhereItWas();
+    void aLongNameMakesNoWindowWider();
     void aMenuIsLeftWhereItIs();
     void theMainWindowRollsWhereItIsSmall();
     void theSheetFitsASmallScreen();
@@ -128,6 +130,35 @@ void TestFensterplatz::everyWindowIsBroughtIn()
     frage.open();
     QVERIFY(QTest::qWaitForWindowExposed(&frage));
     QCOMPARE(frage.height(), schirm.height() - 36);
+}
+
+void TestFensterplatz::shownAgainItStaysWhereItWas()
+{
+    const Schirmwaechter waechter;
+    const QRect schirm = QGuiApplication::primaryScreen()->availableGeometry();
+    QWidget fenster;
+    fenster.setGeometry(4, 32, 300, schirm.height() - 36);
+    for (int i = 0; i < 3; ++i) {
+        fenster.show();
+        QVERIFY(QTest::qWaitForWindowExposed(&fenster));
+        QCOMPARE(fenster.geometry(), QRect(4, 32, 300, schirm.height() - 36));
+        fenster.hide();
+    }
+}
+
+void TestFensterplatz::aLongNameMakesNoWindowWider()
+{
+    Probeheim heim;
+    heim.schreibeTabelle(zaehltabelle(30));
+    const Probefenster fenster(heim);
+    fenster->EingabeFensterfeldA->setStringValue(QString(300, u'W'));
+    fenster->umschreibenDerEingabeFelder();
+    QCOMPARE(fenster->hinweise->hinweise().size(), 1);
+    QVERIFY(fenster->hinweise->hinweise()[0].text.startsWith(u'„' + QString(59, u'W') +
+                                                             QStringLiteral("…“ ist gesichert.")));
+    QVERIFY(fenster->Hauptfenster->minimumSizeHint().width() <= 675);
+    fenster->hinweise->zeige({.kennung = QStringLiteral("lang"), .text = QString(300, u'W')});
+    QVERIFY(fenster->Hauptfenster->minimumSizeHint().width() <= 675);
 }
 
 void TestFensterplatz::aMenuIsLeftWhereItIs()

@@ -18,6 +18,7 @@ private Q_SLOTS:
     void theDisplayStaysAsTheStepsLeaveIt();
     void showingItSelectsItsRow();
     void choosingAnyFoodSettlesIt();
+    void deletingItSettlesIt();
     void aRowThatStandsForAnotherFoodShowsWhatWasSaved_data();
     void aRowThatStandsForAnotherFoodShowsWhatWasSaved();
     void whatTheTableDoesNotReachIsNotOffered();
@@ -128,6 +129,17 @@ void TestHinweise::choosingAnyFoodSettlesIt()
     m_fenster->klicke(7, inName);
     QVERIFY(texte().isEmpty());
     QVERIFY(controller().hinweise->isHidden());
+}
+
+void TestHinweise::deletingItSettlesIt()
+{
+    oeffne(30, 0);
+    sichere(QStringLiteral("Linsensuppe"), QStringLiteral("80"));
+    QCOMPARE(texte().size(), 1);
+    m_heim->antworten = {1};
+    controller().LoescheneigeneLM();
+    QVERIFY(controller().KundenDictionary.isEmpty());
+    QVERIFY(texte().isEmpty());
 }
 
 void TestHinweise::aRowThatStandsForAnotherFoodShowsWhatWasSaved_data()

@@ -298,12 +298,13 @@ void TestSicherungsfenster::theWayBackEndsWithTheNextChange()
     legeKopie(QStringLiteral("2026-11-20"), {lebensmittel(suppe, {{kal, 40}})});
     oeffne();
     holeZurueck();
-    QCoreApplication::processEvents();
+    for (int runde = 0; runde < 3; ++runde) { // its own writing is no change
+        QCoreApplication::processEvents();
+    }
     QCOMPARE(controller().hinweise->hinweise().size(), 1);
     controller().feldA->setStringValue(QStringLiteral("Danach"));
     controller().SicherneigeneLM();
-    QCoreApplication::processEvents();
-    QVERIFY(controller().hinweise->hinweise().isEmpty());
+    QTRY_VERIFY(controller().hinweise->hinweise().isEmpty());
     QCOMPARE(datei().keys(), (QStringList{QStringLiteral("Danach"), suppe}));
 }
 

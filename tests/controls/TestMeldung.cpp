@@ -119,7 +119,7 @@ void TestMeldung::textsAreShownAsTheyAreWritten_data()
     QTest::newRow("an entity") << u"Fish &amp; Chips"_s;
 }
 
-/// A name that looks like rich text used to be shown without its brackets.
+/// A name may look like rich text; its brackets are part of it.
 void TestMeldung::textsAreShownAsTheyAreWritten()
 {
     QFETCH(QString, geschrieben);

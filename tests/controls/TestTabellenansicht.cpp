@@ -1,6 +1,7 @@
 #include "Tabellenansicht.h"
 
 #include <QAbstractItemModelTester>
+#include <QApplication>
 #include <QHeaderView>
 #include <QHelpEvent>
 #include <QMimeData>
@@ -8,6 +9,7 @@
 #include <QTest>
 #include <QToolTip>
 
+#include <functional>
 #include <memory>
 
 namespace {
@@ -18,6 +20,9 @@ class Probequelle : public Tabellenquelle
 public:
     int zeilen = 20;
     int gefragt = 0;
+    std::function<QString(const QString &)> beimZiehen = [](const QString &text) {
+        return text;
+    };
     QString langerName; ///< of row 1 in the first column, where it is given
 
     int numberOfRows() const override { return zeilen; }
@@ -33,7 +38,7 @@ public:
     QString writeRows(const QString &spalte, int zeile) override
     {
         const QString wert = objectValue(spalte, zeile);
-        return wert.isNull() ? wert : QStringLiteral("key ") + wert;
+        return wert.isNull() ? wert : beimZiehen(QStringLiteral("key ") + wert);
     }
 };
 
@@ -60,6 +65,8 @@ private Q_SLOTS:
     void aReloadKeepsTheSelection();
     void aDragCarriesTheColumnUnderTheMouse();
     void nothingIsDraggedFromAnEmptyCell();
+    void aPullThatCarriesNothingChoosesWhereItEnds();
+    void aDragBeginsWhereNothingIsSelected();
     void tabLeavesTheTable();
     void whatIsCutOffStandsInTheToolTip();
 
@@ -67,6 +74,13 @@ private:
     QPoint mitte(int zeile, int spalte) const
     {
         return m_tabelle->visualRect(m_tabelle->model()->index(zeile, spalte)).center();
+    }
+    /// Moves the mouse while its left button is down.
+    void ziehe(const QPoint &ort)
+    {
+        QMouseEvent zug(QEvent::MouseMove, ort, m_tabelle->viewport()->mapToGlobal(ort),
+                        Qt::NoButton, Qt::LeftButton, {});
+        QCoreApplication::sendEvent(m_tabelle->viewport(), &zug);
     }
     void klicke(int zeile, int spalte)
     {
@@ -232,6 +246,41 @@ void TestTabellenansicht::nothingIsDraggedFromAnEmptyCell()
     QVERIFY(m_tabelle->ziehdaten(-1, mitte(5, 0)) == nullptr);
     QVERIFY(m_tabelle->ziehdaten(99, mitte(5, 0)) == nullptr);
     QVERIFY(m_tabelle->ziehdaten(1, QPoint(5000, 5)) == nullptr);
+}
+
+/// From a filled cell over the edge into an empty one, and let go there.
+void TestTabellenansicht::aPullThatCarriesNothingChoosesWhereItEnds()
+{
+    klicke(3, 0);
+    int spalte = -2;
+    connect(m_tabelle.get(), &Tabellenansicht::betaetigt, this,
+            [&] { spalte = m_tabelle->clickedColumn(); });
+    const QRect feld = m_tabelle->visualRect(m_tabelle->model()->index(5, 1));
+    const QPoint start(feld.right() - 2, feld.center().y());
+    const QPoint ende = start + QPoint(QApplication::startDragDistance() + 1, 0);
+    QCOMPARE(m_tabelle->columnAt(ende.x()), 2);
+    QTest::mousePress(m_tabelle->viewport(), Qt::LeftButton, {}, start);
+    ziehe(start + QPoint(1, 0));
+    ziehe(ende);
+    QTest::mouseRelease(m_tabelle->viewport(), Qt::LeftButton, {}, ende);
+    QCOMPARE(m_tabelle->selectedRow(), 5);
+    QCOMPARE(spalte, 2);
+}
+
+/// A table in which nobody has chosen anything yet is dragged from like any other.
+void TestTabellenansicht::aDragBeginsWhereNothingIsSelected()
+{
+    QCOMPARE(m_tabelle->selectedRow(), -1);
+    QString gezogen;
+    m_quelle.beimZiehen = [&](const QString &text) {
+        gezogen = text;
+        return QString(); // none begins, so that the test goes on
+    };
+    QTest::mousePress(m_tabelle->viewport(), Qt::LeftButton, {}, mitte(4, 1));
+    ziehe(mitte(4, 1) + QPoint(0, 1));
+    ziehe(mitte(4, 1) + QPoint(QApplication::startDragDistance() + 2, 0));
+    QTest::mouseRelease(m_tabelle->viewport(), Qt::LeftButton, {}, mitte(4, 1));
+    QCOMPARE(gezogen, QStringLiteral("key b4"));
 }
 
 void TestTabellenansicht::tabLeavesTheTable()
