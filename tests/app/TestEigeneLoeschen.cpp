@@ -133,7 +133,7 @@ void TestEigeneLoeschen::theQuestionIsAsked()
     QCOMPARE(m_heim->meldungen[0].knoepfe,
              QStringList({QStringLiteral("Nein"), QStringLiteral("Ja")}));
     QCOMPARE(m_heim->meldungen[0].gegenstand, u'„' + a + u'“'); // which one would go
-    QVERIFY(m_heim->meldungen[0].gefahr); // what is deleted is gone
+    QVERIFY(m_heim->meldungen[0].gefahr);                       // what is deleted is gone
 }
 
 void TestEigeneLoeschen::theTextsAreTranslated()

@@ -38,9 +38,9 @@ void gesichter()
 void leistenbilder()
 {
     QTest::addColumn<QString>("name");
-    for (const char *name : {"Planmodul", "Drucken", "LM an Planmodul", "Anpassen", "Ansicht2",
-                             "SportIcon", "Neues LM", "Papierkorb", "Leerraum",
-                             "Flexibler Leerraum"}) {
+    for (const char *name :
+         {"Planmodul", "Drucken", "LM an Planmodul", "Anpassen", "Ansicht2", "SportIcon",
+          "Neues LM", "Papierkorb", "Leerraum", "Flexibler Leerraum"}) {
         QTest::newRow(name) << QString::fromLatin1(name);
     }
 }
