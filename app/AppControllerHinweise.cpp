@@ -16,7 +16,7 @@ void AppController::meldeUebernommenes(const QString &name, bool gesichert)
                                                              "nicht gesichert."));
     Hinweis hinweis = {.kennung = hinweisGesichert,
                        .text =
-                           was.arg(name) + u' ' +
+                           was.arg(kurzerName(name)) + u' ' +
                            localizedString(QStringLiteral(
                                "Kreis, Balken und Farben zeigen noch das Lebensmittel davor."))};
     if (KundenArray.indexOf(name) < Tabelle->modell()->rowCount()) {
