@@ -39,10 +39,8 @@ double zahlAusText(const QString &text)
     if (!treffer.hasMatch()) {
         return 0;
     }
-    bool lesbar = false;
-    const double zahl = QLocale::c().toDouble(
-        treffer.captured(1) + ohneTausender(treffer.captured(2)) + treffer.captured(3), &lesbar);
-    return lesbar ? zahl : 0;
+    return QLocale::c().toDouble(treffer.captured(1) + ohneTausender(treffer.captured(2)) +
+                                 treffer.captured(3));
 }
 
 bool entferneTausender(QString &ziffern, int &stelle)

@@ -9,7 +9,8 @@
 /// language: 12.5 is typed at the number pad of a German keyboard, and 1.500 is 1,5. Where both
 /// stand, the last one means the decimals and the other one parts thousands; a mark that stands
 /// more than once can only part thousands, and so do blanks between digits. A unit or anything else
-/// behind the number is passed over. Text that starts with no number, such as "-", is 0.
+/// behind the number is passed over. Text that starts with no number, such as "-", is 0. More than a
+/// number can hold is infinite, so that nobody takes it for nothing.
 double zahlAusText(const QString &text);
 
 /// Takes out of digits that are being typed what can only part thousands: "1.234," becomes "1234,".
