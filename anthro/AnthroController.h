@@ -132,5 +132,6 @@ private:
     static void zeigeFarbe(Textfeld &feld, QWidget &worte, std::optional<Ampel> farbe);
 
     Anthrotueren m_tueren;
+    QString m_geltenderName; ///< the drink whose alcohol is in force; null before the first
     std::unique_ptr<Planmodul> m_eigenerPlan;
 };

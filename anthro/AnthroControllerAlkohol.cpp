@@ -20,19 +20,21 @@ void AnthroController::wievielalkohol(const Wertehalter &sender)
     nimmGetraenk(Alkoholanlass::Menge, milliliter);
 }
 
-/// A name that is no drink leaves the alcohol of the previous one and the grams as they stand, and
-/// words beside it say so; the time is computed all the same.
+/// A name that is no drink leaves the alcohol of the previous one and the grams as they stand; the
+/// time is computed all the same. Words beside the name say so, unless the alcohol in force is the
+/// one that this very name brought.
 void AnthroController::nimmGetraenk(Alkoholanlass anlass, std::int32_t milliliter)
 {
     const Getraenk *getrunken = getraenk(name, anlass);
-    getraenkworte->setVisible(getrunken == nullptr);
     if (getrunken != nullptr) {
         if (!getrunken->protokollzeile.isNull()) {
             m_tueren.protokolliere(getrunken->protokollzeile.toString());
         }
         alk = getrunken->alkohol;
         alkgramm->setFloatValue(alkoholgramm(milliliter, alk));
+        m_geltenderName = name;
     }
+    getraenkworte->setVisible(name != m_geltenderName);
     zwischenvariable = abbaurate(gewicht->floatValue(), anlass);
     abbaudauer->setFloatValue(::abbaudauer(alkoholgramm(milliliter, alk), zwischenvariable));
     gewicht2->setFloatValue(gewicht->floatValue());

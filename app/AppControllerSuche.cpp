@@ -8,7 +8,6 @@
 
 #include <QApplication>
 #include <QElapsedTimer>
-#include <QLocale>
 
 namespace {
 
@@ -95,7 +94,7 @@ void AppController::proteinsuche()
 /// Says above the results how many foods were found; absent when nothing was looked for.
 void AppController::zeigeTrefferzahl(std::optional<qsizetype> treffer)
 {
-    const QString zahl = treffer ? QLocale().toString(*treffer) : QString();
+    const QString zahl = treffer ? zahlenform().toString(*treffer) : QString();
     const QString titel = !treffer ? localizedString(QStringLiteral("Suche"))
                           : *treffer == 0
                               ? localizedString(QStringLiteral("Suche: nichts gefunden"))

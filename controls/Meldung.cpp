@@ -3,6 +3,7 @@
 #include <QLabel>
 #include <QMessageBox>
 #include <QPushButton>
+#include <QScreen>
 
 #include <algorithm>
 
@@ -19,7 +20,8 @@ QMessageBox::Icon zeichenFuer(const Meldung &meldung)
 }
 
 /// Makes room for a text in one line, or for lines that the eye still follows. A message box by
-/// itself is as wide as its heading and breaks the explanation.
+/// itself is as wide as its heading and breaks the explanation. With large letters on a small
+/// screen, the buttons would lie beyond its edge: there the lines are shorter.
 void gibBreite(QMessageBox &kasten, const QString &name, bool fett)
 {
     auto *feld = kasten.findChild<QLabel *>(name);
@@ -30,11 +32,13 @@ void gibBreite(QMessageBox &kasten, const QString &name, bool fett)
     schrift.setBold(fett);
     feld->setFont(schrift);
     constexpr int laengsteZeile = 100; // in characters
+    constexpr int daneben = 120;       // points for the sign, the margins and the window's frame
     const QFontMetrics mass(schrift);
     const QMargins rand = feld->contentsMargins();
     const int text = mass.size(Qt::TextExpandTabs, feld->text()).width() + mass.averageCharWidth();
-    feld->setMinimumWidth(rand.left() + rand.right() +
-                          std::min(text, laengsteZeile * mass.averageCharWidth()));
+    const int breite =
+        rand.left() + rand.right() + std::min(text, laengsteZeile * mass.averageCharWidth());
+    feld->setMinimumWidth(std::min(breite, kasten.screen()->availableGeometry().width() - daneben));
 }
 
 } // namespace

@@ -42,7 +42,7 @@ Textfeld::Textfeld(QWidget *parent) : Zahlenzeile(parent)
     policy.setRetainSizeWhenHidden(true); // a value of 0 hides its field; the others stay in place
     setSizePolicy(policy);
     setEditable(false);
-    connect(this, &QLineEdit::textEdited, this, [this](const QString &text) { uebernimm(text); });
+    connect(this, &QLineEdit::textEdited, this, &Textfeld::tippe);
     connect(this, &QLineEdit::editingFinished, this, [this] {
         if (isModified()) {
             setModified(false);
@@ -132,8 +132,23 @@ void Textfeld::changeEvent(QEvent *event)
     }
 }
 
+/// A number field keeps the number from before where the typed one is more than can be computed
+/// with: infinity would spread to all that depends on it.
+void Textfeld::tippe(const QString &text)
+{
+    if (!m_vorher) {
+        m_vorher = doubleValue();
+    }
+    if (nimmtZahl() && !std::isfinite(static_cast<float>(zahlAusText(text)))) {
+        uebernimm(*m_vorher);
+    } else {
+        uebernimm(text);
+    }
+}
+
 void Textfeld::wertGesetzt()
 {
+    m_vorher.reset();
     if (!m_veraltet) {
         m_veraltet = true;
         QCoreApplication::postEvent(this, new QEvent(auffrischen));

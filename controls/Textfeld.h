@@ -4,6 +4,8 @@
 #include "Wertehalter.h"
 #include "Zahlenzeile.h"
 
+#include <optional>
+
 /// A field that shows a value, or takes one from the user when it is editable. A shown number
 /// carries its unit; while the user types in it, the number stands alone.
 class Textfeld : public Zahlenzeile, public Wertehalter
@@ -68,6 +70,7 @@ protected:
     void focusOutEvent(QFocusEvent *event) override;
 
 private:
+    void tippe(const QString &text);
     void zeigen();
     void einkleiden();
     void erklaeren();
@@ -80,5 +83,6 @@ private:
     QString m_unit;
     bool m_uebersetzt = false;
     Textfarbe m_farbe = Textfarbe::Standard;
-    bool m_veraltet = false; ///< the shown text is older than the held value
+    bool m_veraltet = false;        ///< the shown text is older than the held value
+    std::optional<double> m_vorher; ///< the number before the one that is being typed
 };

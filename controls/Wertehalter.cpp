@@ -23,12 +23,6 @@ QString ohneTausender(QString ziffern)
     return ziffern.left(letzte).remove(u'.').remove(u',') + trennung + dahinter;
 }
 
-bool zeigtMehrAlsNullen(const QString &text)
-{
-    static const QRegularExpression bedeutsam(QStringLiteral("[1-9]"));
-    return text.contains(bedeutsam);
-}
-
 } // namespace
 
 double zahlAusText(const QString &text)
@@ -39,10 +33,8 @@ double zahlAusText(const QString &text)
     if (!treffer.hasMatch()) {
         return 0;
     }
-    bool lesbar = false;
-    const double zahl = QLocale::c().toDouble(
-        treffer.captured(1) + ohneTausender(treffer.captured(2)) + treffer.captured(3), &lesbar);
-    return lesbar ? zahl : 0;
+    return QLocale::c().toDouble(treffer.captured(1) + ohneTausender(treffer.captured(2)) +
+                                 treffer.captured(3));
 }
 
 bool entferneTausender(QString &ziffern, int &stelle)
@@ -61,26 +53,6 @@ bool entferneTausender(QString &ziffern, int &stelle)
     stelle -= static_cast<int>(ziffern.left(stelle).count(trenner));
     ziffern.remove(trenner);
     return true;
-}
-
-QLocale zahlenform()
-{
-    QLocale form;
-    form.setNumberOptions(QLocale::OmitGroupSeparator);
-    return form;
-}
-
-QString wertText(double zahl, int nachkommastellen)
-{
-    constexpr int meisteStellen = 6;
-    const QString text = zahlenform().toString(zahl == 0 ? 0.0 : zahl, 'f', nachkommastellen);
-    if (zahl == 0 || !std::isfinite(zahl) || zeigtMehrAlsNullen(text)) {
-        return text;
-    }
-    // Rounded to one digit first: 0.01 in single precision is a little less than that.
-    const int stellen = -QString::number(zahl, 'e', 0).section(u'e', 1).toInt();
-    return stellen <= meisteStellen ? zahlenform().toString(zahl, 'f', stellen)
-                                    : zahlenform().toString(zahl, 'e', 0);
 }
 
 double Wertehalter::doubleValue() const

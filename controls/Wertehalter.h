@@ -1,6 +1,7 @@
 #pragma once
 
-#include <QLocale>
+#include "Zahlenform.h"
+
 #include <QString>
 
 #include <variant>
@@ -9,22 +10,14 @@
 /// language: 12.5 is typed at the number pad of a German keyboard, and 1.500 is 1,5. Where both
 /// stand, the last one means the decimals and the other one parts thousands; a mark that stands
 /// more than once can only part thousands, and so do blanks between digits. A unit or anything else
-/// behind the number is passed over. Text that starts with no number, such as "-", is 0.
+/// behind the number is passed over. Text that starts with no number, such as "-", is 0. More than
+/// a number can hold is infinite, so that nobody takes it for nothing.
 double zahlAusText(const QString &text);
 
 /// Takes out of digits that are being typed what can only part thousands: "1.234," becomes "1234,".
 /// `stelle` is the place of the cursor and moves along. False when the marks don't part groups of
 /// three digits: such a mark was hit by mistake.
 bool entferneTausender(QString &ziffern, int &stelle);
-
-/// How numbers are written on screen: with the user's decimal mark, and with nothing between the
-/// thousands. A point there would look like the point that is typed for the decimals.
-QLocale zahlenform();
-
-/// A value with so many digits behind the comma. One that would then look like 0 gets as many more
-/// as its first digit that counts needs, up to six; what is smaller still is written in powers of
-/// ten ("1E-09"), which `zahlAusText` reads as well. Only 0 itself shows as 0.
-QString wertText(double zahl, int nachkommastellen);
 
 /// What every control of the program can do with its value: hold a number or a text, give it back
 /// as either, and show it. A control holds exactly what it was given; its number format only

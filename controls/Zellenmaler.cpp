@@ -94,7 +94,13 @@ bool Zellenmaler::eventFilter(QObject *feld, QEvent *event)
 {
     auto *zeile = qobject_cast<QLineEdit *>(feld);
     if (zeile != nullptr && event->type() == QEvent::MouseButtonDblClick) {
+        m_gehalten = true;
         zeile->selectAll();
+        return true;
+    }
+    if (event->type() == QEvent::MouseButtonPress || event->type() == QEvent::MouseButtonRelease) {
+        m_gehalten = false;
+    } else if (m_gehalten && event->type() == QEvent::MouseMove) {
         return true;
     }
     return QStyledItemDelegate::eventFilter(feld, event);

@@ -21,7 +21,7 @@ public:
     QWidget *createEditor(QWidget *parent, const QStyleOptionViewItem &option,
                           const QModelIndex &index) const override;
     /// A double click takes the whole of what stands in a cell that is being edited, and not the
-    /// part of a number before or behind the comma.
+    /// part of a number before or behind the comma, nor less than all when the hand shakes.
     bool eventFilter(QObject *feld, QEvent *event) override;
     /// A text that is cut off stands whole in the cell's tool tip.
     bool helpEvent(QHelpEvent *event, QAbstractItemView *view, const QStyleOptionViewItem &option,
@@ -35,4 +35,5 @@ private:
                   const QModelIndex &index) const;
 
     Tabellenansicht *m_tabelle;
+    bool m_gehalten = false; ///< the mouse button of a double click is still down
 };

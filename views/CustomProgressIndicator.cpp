@@ -1,9 +1,9 @@
 #include "CustomProgressIndicator.h"
 
 #include "Balken.h"
+#include "Zahlenform.h"
 
 #include <QCoreApplication>
-#include <QLocale>
 
 namespace {
 
@@ -32,7 +32,7 @@ QString CustomProgressIndicator::beschreibung() const
         return QCoreApplication::translate("Mahlberg", "kein Balken");
     }
     return QCoreApplication::translate("Mahlberg", "%1 von %2")
-        .arg(QLocale().toString(m_value, 'f', 1), QLocale().toString(m_maxValue));
+        .arg(wertText(m_value, 1), zahlenform().toString(m_maxValue));
 }
 
 QSize CustomProgressIndicator::sizeHint() const

@@ -1,7 +1,8 @@
 #include "GewichtsverlaufView.h"
 
+#include "Zahlenform.h"
+
 #include <QCoreApplication>
-#include <QLocale>
 #include <QPainter>
 #include <QPainterPath>
 #include <QStringList>
@@ -29,23 +30,19 @@ QString uebersetzt(const char *text)
 }
 
 /// No line ends between the number and its unit.
-QString inKilogramm(float wert, char form, int stellen)
-{
-    QLocale locale;
-    locale.setNumberOptions(QLocale::OmitGroupSeparator);
-    return locale.toString(wert, form, stellen) + QChar(QChar::Nbsp) + QStringLiteral("kg");
-}
+const QString kilogrammzeichen = QChar(QChar::Nbsp) + QStringLiteral("kg");
 
+/// Less than a scale shows is no change worth a word, so small values get no more digits.
 QString kilogramm(float wert)
 {
-    return inKilogramm(wert, 'f', 1);
+    return zahlenform().toString(wert, 'f', 1) + kilogrammzeichen;
 }
 
 /// As it was entered, without a digit more.
 QString genaueKilogramm(float wert)
 {
     constexpr int bedeutsameStellen = 7; // of single precision
-    return inKilogramm(wert, 'g', bedeutsameStellen);
+    return zahlenform().toString(wert, 'g', bedeutsameStellen) + kilogrammzeichen;
 }
 
 QPen stift(Qt::GlobalColor farbe, double strichbreite)

@@ -1,7 +1,8 @@
 #include "NahrstoffraumView.h"
 
+#include "Zahlenform.h"
+
 #include <QCoreApplication>
-#include <QLocale>
 #include <QPainter>
 #include <QPainterPath>
 
@@ -65,7 +66,7 @@ void zeichneKreis(QPainter &maler, const Kreis &kreis, const Energieverteilung &
 QString anteileInWorten(const char *satz, const Energieverteilung &anteile)
 {
     const auto prozent = [](float anteil) {
-        return QLocale().toString(anteil * 100.0F, 'f', 0) + QChar(QChar::Nbsp) + u'%';
+        return wertText(static_cast<double>(anteil * 100.0F), 0) + QChar(QChar::Nbsp) + u'%';
     };
     return QCoreApplication::translate("Mahlberg", satz)
         .arg(prozent(anteile.protein), prozent(anteile.kohlenhydrat), prozent(anteile.fett));

@@ -24,6 +24,7 @@ private Q_SLOTS:
     void redHasWordsBesideIt();
     void anUnknownDrinkKeepsThePreviousOne();
     void aNameWithoutEffectIsCalledUnknown();
+    void aNameInForceIsNotCalledUnknown();
     void oneNameSpelledInTwoWays();
     void placeholders_data();
     void placeholders();
@@ -250,6 +251,23 @@ void TestAnthroControllerAlkohol::aNameWithoutEffectIsCalledUnknown()
     QVERIFY(!r.getraenkworte->isHidden());
     r.wievielalkohol(*r.zieher);
     QVERIFY(r.getraenkworte->isHidden());
+    waehle(r, "red wine lightbodied"); // its alcohol is in force already
+    QVERIFY(r.getraenkworte->isHidden());
+}
+
+void TestAnthroControllerAlkohol::aNameInForceIsNotCalledUnknown()
+{
+    const auto probe = mitMenge(100);
+    AnthroController &r = probe->rechner();
+    waehle(r, "red wine lightbodiedt");
+    QVERIFY(r.getraenkworte->isHidden());
+    r.wievielalkohol(Sender(300.0)); // has no entry of its own for the quantity
+    QCOMPARE(r.alk, 7.9F);
+    QVERIFY(r.getraenkworte->isHidden());
+    waehle(r, "Met");
+    QVERIFY(!r.getraenkworte->isHidden());
+    r.wievielalkohol(Sender(200.0));
+    QVERIFY(!r.getraenkworte->isHidden());
 }
 
 void TestAnthroControllerAlkohol::oneNameSpelledInTwoWays()

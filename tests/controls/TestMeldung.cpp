@@ -4,6 +4,8 @@
 #include <QLabel>
 #include <QMessageBox>
 #include <QPushButton>
+#include <QScopeGuard>
+#include <QScreen>
 #include <QTest>
 #include <QTimer>
 
@@ -33,6 +35,7 @@ private Q_SLOTS:
     void theMessageStandsOutFromItsExplanation();
     void itIsAsWideAsItsText_data();
     void itIsAsWideAsItsText();
+    void largeLettersStayOnTheScreen();
     void aMessageWithoutButtonsShowsNothing();
 };
 
@@ -285,6 +288,25 @@ void TestMeldung::itIsAsWideAsItsText()
             }
         }
         QVERIFY(kasten.width() <= 900);
+    });
+}
+
+void TestMeldung::largeLettersStayOnTheScreen()
+{
+    const QFont vorher = QApplication::font();
+    const auto zurueck = qScopeGuard([&vorher] { QApplication::setFont(vorher); });
+    QFont doppelt = vorher;
+    doppelt.setPointSizeF(2 * vorher.pointSizeF());
+    QApplication::setFont(doppelt);
+    const QString satz =
+        u"Moechten Sie dieses eigene Lebensmittel wirklich dauerhaft loeschen ? "_s;
+    zeige({satz + satz, satz + satz + satz, {u"Nein"_s, u"Ja"_s}}, [](const QMessageBox &kasten) {
+        const int platz = kasten.screen()->availableGeometry().width();
+        QVERIFY(kasten.width() <= platz);
+        for (const QLabel *feld : kasten.findChildren<QLabel *>()) {
+            QVERIFY(feld->minimumWidth() <= platz - 120);
+            QVERIFY(feld->height() >= feld->heightForWidth(feld->width())); // nothing is cut off
+        }
     });
 }
 

@@ -19,6 +19,8 @@ private Q_SLOTS:
     void anArrowKeyMovesOneStep();
     void stepsOfHundredthsStayExact();
     void aTypedNumberIsTakenWithReturn();
+    void aNumberThatCantBeHeldStaysWithinTheRange_data();
+    void aNumberThatCantBeHeldStaysWithinTheRange();
     void commaAndPointBothMeanDecimals_data();
     void commaAndPointBothMeanDecimals();
     void aWholeNumberIsReadLikeAnyOther_data();
@@ -113,6 +115,40 @@ void TestSchieber::aTypedNumberIsTakenWithReturn()
     QCOMPARE(schieber.intValue(), 30);
     QCOMPARE(gemeldet.count(), 1);
     QTRY_COMPARE(schieber.regler()->value(), 30);
+}
+
+void TestSchieber::aNumberThatCantBeHeldStaysWithinTheRange_data()
+{
+    QTest::addColumn<int>("decimals");
+    QTest::addColumn<QString>("getippt");
+    for (const int decimals : {0, 1}) {
+        QTest::addRow("an exponent, %d decimals", decimals) << decimals << QStringLiteral("1e999");
+        QTest::addRow("many nines, %d decimals", decimals) << decimals << QString(400, u'9');
+        QTest::addRow("many nines and a comma, %d decimals", decimals)
+            << decimals << QString(400, u'9') + QStringLiteral(",5");
+    }
+}
+
+/// At once, as from the clipboard.
+void TestSchieber::aNumberThatCantBeHeldStaysWithinTheRange()
+{
+    QFETCH(int, decimals);
+    QFETCH(QString, getippt);
+    Schieber schieber;
+    schieber.setDecimals(decimals);
+    schieber.setMaximumValue(1000);
+    schieber.setIntValue(100);
+    schieber.show();
+    QVERIFY(QTest::qWaitForWindowActive(&schieber));
+    QTRY_COMPARE(schieber.eingabe()->value(), 100.0);
+    schieber.eingabe()->setFocus();
+    auto *zeile = schieber.eingabe()->findChild<QLineEdit *>();
+    QVERIFY(zeile != nullptr);
+    zeile->selectAll();
+    zeile->insert(getippt);
+    QTest::keyClick(schieber.eingabe(), Qt::Key_Return);
+    QCOMPARE(schieber.doubleValue(), 100.0);
+    QTRY_COMPARE(schieber.regler()->value(), 100);
 }
 
 void TestSchieber::commaAndPointBothMeanDecimals_data()

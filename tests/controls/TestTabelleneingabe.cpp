@@ -9,6 +9,7 @@
 #include <QHeaderView>
 #include <QLineEdit>
 #include <QMimeData>
+#include <QMouseEvent>
 #include <QTest>
 
 #include <memory>
@@ -65,6 +66,7 @@ private Q_SLOTS:
     void aCellShowsItsPictureAndEditsItsValue();
     void onlyEditableColumnsTakeATypedValue();
     void returnOpensTheEditor();
+    void aHandThatShakesInADoubleClickTakesTheWholeNumber();
     void withoutEditTriggersReturnChooses();
     void aDropGoesWhereTheLineIs_data();
     void aDropGoesWhereTheLineIs();
@@ -155,6 +157,32 @@ void TestTabelleneingabe::returnOpensTheEditor()
     QTest::keyClicks(eingabe, u"99"_s);
     QTest::keyClick(eingabe, Qt::Key_Return);
     QTRY_COMPARE(m_quelle.zahlen[1], u"99"_s);
+}
+
+void TestTabelleneingabe::aHandThatShakesInADoubleClickTakesTheWholeNumber()
+{
+    m_quelle.zahlen[1] = u"12,5"_s;
+    m_tabelle->setzeSchreibmarke(1, u"zahl"_s);
+    QTest::keyClick(m_tabelle.get(), Qt::Key_Return);
+    auto *eingabe = qobject_cast<QLineEdit *>(QApplication::focusWidget());
+    QVERIFY(eingabe != nullptr);
+    const auto sende = [eingabe](QEvent::Type was, int x, Qt::MouseButtons gedrueckt) {
+        const QPointF ort(x, eingabe->height() / 2.0);
+        const Qt::MouseButton taste = was == QEvent::MouseMove ? Qt::NoButton : Qt::LeftButton;
+        QMouseEvent ereignis(was, ort, eingabe->mapToGlobal(ort), taste, gedrueckt, Qt::NoModifier);
+        QApplication::sendEvent(eingabe, &ereignis);
+    };
+    const int rechts = eingabe->width() - 8;
+    sende(QEvent::MouseButtonDblClick, rechts, Qt::LeftButton);
+    sende(QEvent::MouseMove, rechts - 10, Qt::LeftButton);
+    QCOMPARE(eingabe->selectedText(), u"12,5"_s);
+    sende(QEvent::MouseButtonRelease, rechts - 10, Qt::NoButton);
+    QCOMPARE(eingabe->selectedText(), u"12,5"_s);
+    // A drag of its own selects as ever.
+    sende(QEvent::MouseButtonPress, eingabe->width() - 2, Qt::LeftButton);
+    sende(QEvent::MouseMove, rechts - 4, Qt::LeftButton);
+    QVERIFY(eingabe->hasSelectedText());
+    QVERIFY(eingabe->selectedText() != u"12,5"_s);
 }
 
 void TestTabelleneingabe::withoutEditTriggersReturnChooses()

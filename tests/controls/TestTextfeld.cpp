@@ -26,6 +26,8 @@ private Q_SLOTS:
     void whatWasTypedIsShownToItsLastDigit();
     void aMarkThatPartsThousandsGoesAwayWhileItIsTyped_data();
     void aMarkThatPartsThousandsGoesAwayWhileItIsTyped();
+    void aNumberThatCantBeHeldLeavesTheOneBefore_data();
+    void aNumberThatCantBeHeldLeavesTheOneBefore();
     void leavingWithoutTypingReportsNothing();
     void aHiddenFieldKeepsItsPlace();
     void theVerdictFollowsTheTheme();
@@ -252,6 +254,37 @@ void TestTextfeld::aMarkThatPartsThousandsGoesAwayWhileItIsTyped()
     feld.selectAll();
     feld.insert(getippt); // all at once, as from the clipboard
     QCOMPARE(feld.doubleValue(), zahlAusText(feld.text()));
+}
+
+void TestTextfeld::aNumberThatCantBeHeldLeavesTheOneBefore_data()
+{
+    QTest::addColumn<QString>("getippt");
+    QTest::newRow("more than any number") << "1e999";
+    QTest::newRow("as much below 0") << "-1e999";
+    QTest::newRow("more than is computed with") << "1e39";
+    QTest::newRow("a key held down") << QString(400, u'9');
+}
+
+void TestTextfeld::aNumberThatCantBeHeldLeavesTheOneBefore()
+{
+    QFETCH(QString, getippt);
+    Textfeld feld;
+    feld.setEditable(true);
+    feld.setDecimals(1);
+    feld.setDoubleValue(12.5);
+    feld.show();
+    QVERIFY(QTest::qWaitForWindowActive(&feld));
+    feld.selectAll();
+    QTest::keyClicks(&feld, getippt);
+    QCOMPARE(feld.text(), getippt);
+    QCOMPARE(feld.doubleValue(), 12.5);
+    QTest::keyClick(&feld, Qt::Key_Return);
+    QCOMPARE(feld.doubleValue(), 12.5);
+    QTRY_COMPARE(feld.text(), QStringLiteral("12,5"));
+    feld.selectAll();
+    QTest::keyClicks(&feld, QStringLiteral("7"));
+    QTest::keyClick(&feld, Qt::Key_Return);
+    QCOMPARE(feld.doubleValue(), 7.0);
 }
 
 void TestTextfeld::leavingWithoutTypingReportsNothing()

@@ -99,7 +99,12 @@ void TestWertehalter::aTypedNumberIsReadByOneRule_data()
     zeile("a word is 0", QStringLiteral("viel"), 0.0);
     zeile("inf is a word", QStringLiteral("inf"), 0.0);
     zeile("nan is a word", QStringLiteral("nan"), 0.0);
-    zeile("more than a number can hold is 0", QStringLiteral("1e999"), 0.0);
+    constexpr double unendlich = std::numeric_limits<double>::infinity();
+    zeile("more than a number can hold", QStringLiteral("1e999"), unendlich);
+    zeile("just more than a number can hold", QStringLiteral("1e309"), unendlich);
+    zeile("as much below 0", QStringLiteral("-1e999"), -unendlich);
+    zeile("more digits than a number can hold", QString(400, u'9'), unendlich);
+    zeile("less than a number can tell from 0", QStringLiteral("1e-999"), 0.0);
     zeile("negative", QStringLiteral("-3,5"), -3.5);
     zeile("plus sign", QStringLiteral("+3"), 3.0);
     zeile("blanks before", QStringLiteral("  7"), 7.0);

@@ -241,6 +241,8 @@ void TestPlanmodulTabelle::anAmountThatNoNumberHoldsIsRefused_data()
     QTest::newRow("more than the program can hold") << "1e300";
     QTest::newRow("as much below nothing") << "-1e300";
     QTest::newRow("a little more than the largest number") << "3.5e38";
+    QTest::newRow("more than any number") << "1e999";
+    QTest::newRow("a key held down") << QString(400, u'9');
 }
 
 void TestPlanmodulTabelle::anAmountThatNoNumberHoldsIsRefused()

@@ -23,6 +23,7 @@ private Q_SLOTS:
     void aScaleThatMeasuresNothingLeavesTheOutline_data();
     void aScaleThatMeasuresNothingLeavesTheOutline();
     void barSaysWhatItShows();
+    void barSaysATraceAsOne();
     void cleanup() { m_probe.sichereNachFehler(); }
 
 private:
@@ -176,6 +177,18 @@ void TestCustomProgressIndicator::barSaysWhatItShows()
     QCOMPARE(view.beschreibung(), QStringLiteral("12,3 von 100"));
     QLocale::setDefault(QLocale(QLocale::English));
     QCOMPARE(view.beschreibung(), QStringLiteral("12.3 von 100"));
+}
+
+/// What is drawn is never said to be nothing.
+void TestCustomProgressIndicator::barSaysATraceAsOne()
+{
+    CustomProgressIndicator view;
+    QLocale::setDefault(QLocale(QLocale::German));
+    view.setDoubleValue(0.04);
+    QCOMPARE(view.beschreibung(), QStringLiteral("0,04 von 100"));
+    view.setDoubleValue(1234);
+    view.setMaxValue(2000);
+    QCOMPARE(view.beschreibung(), QStringLiteral("1234,0 von 2000"));
 }
 
 QTEST_MAIN(TestCustomProgressIndicator)

@@ -29,6 +29,7 @@ private Q_SLOTS:
     void nothingIsDrawnOutsideTheBounds();
     void circlesAreSharpAtRatioTwo();
     void circlesSayWhatTheyShow();
+    void circlesSayATraceAsOne();
     void cleanup() { m_probe.sichereNachFehler(); }
 
 private:
@@ -280,6 +281,19 @@ void TestNahrstoffraumView::circlesSayWhatTheyShow()
     QCOMPARE(view.beschreibung().replace(QChar(QChar::Nbsp), u'_'),
              QStringLiteral("Soll: Protein 15_%, Kohlenhydrate 55_%, Fett 30_%. "
                             "Ist: Protein 21_%, Kohlenhydrate 50_%, Fett 29_%."));
+}
+
+/// A share that is there is never said to be nothing.
+void TestNahrstoffraumView::circlesSayATraceAsOne()
+{
+    QLocale::setDefault(QLocale(QLocale::German));
+    NahrstoffraumView view;
+    view.wert1(0.3F);
+    view.wert2(0);
+    view.wert3(99.7F);
+    QVERIFY(view.beschreibung()
+                .replace(QChar(QChar::Nbsp), u'_')
+                .endsWith(QStringLiteral("Ist: Protein 0,3_%, Kohlenhydrate 0_%, Fett 100_%.")));
 }
 
 QTEST_MAIN(TestNahrstoffraumView)

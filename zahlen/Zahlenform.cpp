@@ -1,0 +1,35 @@
+#include "Zahlenform.h"
+
+#include <QRegularExpression>
+
+#include <cmath>
+
+namespace {
+
+bool zeigtMehrAlsNullen(const QString &text)
+{
+    static const QRegularExpression bedeutsam(QStringLiteral("[1-9]"));
+    return text.contains(bedeutsam);
+}
+
+} // namespace
+
+QLocale zahlenform()
+{
+    QLocale form;
+    form.setNumberOptions(QLocale::OmitGroupSeparator);
+    return form;
+}
+
+QString wertText(double zahl, int nachkommastellen)
+{
+    constexpr int meisteStellen = 6;
+    const QString text = zahlenform().toString(zahl == 0 ? 0.0 : zahl, 'f', nachkommastellen);
+    if (zahl == 0 || !std::isfinite(zahl) || zeigtMehrAlsNullen(text)) {
+        return text;
+    }
+    // Rounded to one digit first: 0.01 in single precision is a little less than that.
+    const int stellen = -QString::number(zahl, 'e', 0).section(u'e', 1).toInt();
+    return stellen <= meisteStellen ? zahlenform().toString(zahl, 'f', stellen)
+                                    : zahlenform().toString(zahl, 'e', 0);
+}
