@@ -3,10 +3,9 @@
 #include "AppController.h"
 
 #include "Anpassungspalette.h"
+#include "Einstellungen.h"
 #include "Erscheinungsbild.h"
 #include "Zeichenkettentabelle.h"
-
-#include <QSettings>
 
 namespace {
 

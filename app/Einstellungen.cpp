@@ -40,11 +40,16 @@ Einstellungen::~Einstellungen()
     schreibe();
 }
 
-/// Writes what was set since the last time. False when that failed.
-bool Einstellungen::schreibe()
+void Einstellungen::sync()
 {
     const EngeRechte eng;
     Einstellungsdatei::schuetze(fileName());
+    QSettings::sync();
+}
+
+/// Writes what was set since the last time. False when that failed.
+bool Einstellungen::schreibe()
+{
     sync();
     // An error sticks to the object that met it. Another one on the same file shares all but that.
     return status() == NoError || QSettings(fileName(), format()).status() == NoError;

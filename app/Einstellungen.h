@@ -8,6 +8,8 @@
 /// value a hundred times on its way, and each write would stop it for several milliseconds. What
 /// is not written yet is written by `sync()` and at the end of the program. The file is for the
 /// user alone. One that can't be read or written stays as it is, and the program works without.
+///
+/// Whoever writes at once holds this class, not its base: there, `sync()` knows of no care.
 class Einstellungen : public QSettings
 {
     Q_OBJECT
@@ -18,6 +20,10 @@ public:
     /// Those in a file of one's own.
     Einstellungen(const QString &datei, Format format);
     ~Einstellungen() override;
+
+    /// Writes at once what must outlast a program that is killed in the next moment. A failure is
+    /// told a little later, as with all that is set.
+    void sync();
 
 Q_SIGNALS:
     /// What was set could not be written to this file. Sent once, until writing succeeds again;

@@ -1,8 +1,9 @@
 #include "Erscheinungsbild.h"
 
+#include "Einstellungen.h"
+
 #include <QApplication>
 #include <QPalette>
-#include <QSettings>
 #include <QStyle>
 
 namespace {
@@ -68,7 +69,7 @@ Erscheinungsbild gemerktesErscheinungsbild(const QSettings &einstellungen)
                           : Erscheinungsbild::System;
 }
 
-void merkeErscheinungsbild(QSettings &einstellungen, Erscheinungsbild bild)
+void merkeErscheinungsbild(Einstellungen &einstellungen, Erscheinungsbild bild)
 {
     einstellungen.setValue(schluessel, static_cast<int>(bild));
     einstellungen.sync();

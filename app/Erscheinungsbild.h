@@ -2,6 +2,7 @@
 
 #include <QString>
 
+class Einstellungen;
 class QPalette;
 class QSettings;
 
@@ -12,7 +13,7 @@ enum class Erscheinungsbild { System, Hell, Dunkel };
 Erscheinungsbild gemerktesErscheinungsbild(const QSettings &einstellungen);
 
 /// Keeps the appearance in the settings.
-void merkeErscheinungsbild(QSettings &einstellungen, Erscheinungsbild bild);
+void merkeErscheinungsbild(Einstellungen &einstellungen, Erscheinungsbild bild);
 
 /// Dresses all windows of the program.
 void zeigeErscheinungsbild(Erscheinungsbild bild);

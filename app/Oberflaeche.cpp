@@ -38,9 +38,7 @@ Oberflaeche::Oberflaeche(const Tueren &tueren)
     , rechner(anthrotueren(mitDateien(tueren, dateien)))
     , ansage(hauptfenster, tueren.datenordner, dateien)
 {
-    if (const auto *einstellungen = qobject_cast<Einstellungen *>(tueren.einstellungen)) {
-        ansage.beachte(*einstellungen);
-    }
+    ansage.beachte(*tueren.einstellungen);
     Rollbereich::fuelle(*hauptfenster.tabVier, rechner.koerperseite);
     Rollbereich::fuelle(*hauptfenster.tabFuenf, rechner.lebensweiseseite);
 }

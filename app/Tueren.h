@@ -10,7 +10,7 @@
 #include <memory>
 
 class Dateihueter;
-class QSettings;
+class Einstellungen;
 
 /// The doors through which the program reaches the world outside of its windows. They are made in
 /// `main`; a test opens doors of its own.
@@ -20,8 +20,8 @@ struct Tueren
     Datenordner datenordner;   ///< the user's data folder
     Meldungstuer melde;        ///< shows a message and waits for its answer
     std::function<void(const QString &)> protokolliere; ///< writes a line to the system log
-    QSettings *einstellungen; ///< the user defaults; outlives all controllers
-    Drucktuer drucke = {};    ///< prints; while it is absent, nothing does
+    Einstellungen *einstellungen; ///< the user defaults; outlives all controllers
+    Drucktuer drucke = {};        ///< prints; while it is absent, nothing does
     /// Reads and writes the user's files, for all windows of the program; a controller that gets
     /// none makes one of its own.
     std::shared_ptr<Dateihueter> dateien = {};

@@ -1,5 +1,6 @@
 #include "Werkzeugleiste.h"
 
+#include "Einstellungen.h"
 #include "Zeichenkettentabelle.h"
 
 #include <QApplication>
@@ -8,7 +9,6 @@
 #include <QMenu>
 #include <QMimeData>
 #include <QPainter>
-#include <QSettings>
 #include <QToolButton>
 
 #include <algorithm>
@@ -30,7 +30,7 @@ bool istRaum(const QString &kennung)
 } // namespace
 
 Werkzeugleiste::Werkzeugleiste(const QString &kennung, Werkzeugquelle &quelle,
-                               QSettings &einstellungen, QWidget *parent)
+                               Einstellungen &einstellungen, QWidget *parent)
     : QToolBar(parent)
     , m_kennung(kennung)
     , m_quelle(quelle)

@@ -6,7 +6,7 @@
 
 #include <functional>
 
-class QSettings;
+class Einstellungen;
 
 /// One thing that can stand in the toolbar. Without a label, picture and action it is an item that
 /// nobody knows, and does not come into the bar.
@@ -48,7 +48,7 @@ public:
     /// What a dragged item carries: its identifier.
     static const QString ziehformat;
 
-    Werkzeugleiste(const QString &kennung, Werkzeugquelle &quelle, QSettings &einstellungen,
+    Werkzeugleiste(const QString &kennung, Werkzeugquelle &quelle, Einstellungen &einstellungen,
                    QWidget *parent = nullptr);
 
     const QStringList &kennungen() const { return m_kennungen; }
@@ -104,7 +104,7 @@ private:
 
     QString m_kennung;
     Werkzeugquelle &m_quelle;
-    QSettings &m_einstellungen;
+    Einstellungen &m_einstellungen;
     QStringList m_kennungen;
     QList<QWidget *> m_felder;
     bool m_anpassbar = false;

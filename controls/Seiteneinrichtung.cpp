@@ -68,5 +68,4 @@ void merkeSeite(QSettings &einstellungen, const QPageLayout &seite)
     einstellungen.setValue(querformat, seite.orientation() == QPageLayout::Landscape);
     einstellungen.setValue(raender,
                            QVariantList{rand.left(), rand.top(), rand.right(), rand.bottom()});
-    einstellungen.sync();
 }

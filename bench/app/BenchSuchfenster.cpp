@@ -6,6 +6,7 @@
 #include "AppController.h"
 #include "Archivdatei.h"
 #include "Bedarfsbeurteilung.h"
+#include "Einstellungen.h"
 #include "Energieanteile.h"
 #include "Erfundenes.h"
 #include "Namenssuche.h"
@@ -14,7 +15,6 @@
 #include <benchmark/benchmark.h>
 
 #include <QApplication>
-#include <QSettings>
 #include <QTemporaryDir>
 
 namespace {
@@ -59,7 +59,7 @@ public:
 
 private:
     QTemporaryDir m_heim;
-    QSettings m_einstellungen;
+    Einstellungen m_einstellungen;
     std::unique_ptr<AppController> m_controller;
 };
 

@@ -3,12 +3,12 @@
 // beside this one starts it many times.
 
 #include "AppController.h"
+#include "Einstellungen.h"
 #include "Erscheinungsbild.h"
 #include "Sprache.h"
 
 #include <QApplication>
 #include <QMainWindow>
-#include <QSettings>
 #include <QStyleFactory>
 #include <QTemporaryDir>
 
@@ -62,7 +62,8 @@ int main(int argc, char **argv)
         return QApplication::exec();
     }
     const QTemporaryDir heim;
-    QSettings einstellungen(heim.filePath(QStringLiteral("Mahlberg.conf")), QSettings::IniFormat);
+    Einstellungen einstellungen(heim.filePath(QStringLiteral("Mahlberg.conf")),
+                                QSettings::IniFormat);
     const Sprache sprache(QStringLiteral("de"));
     zeigeErscheinungsbild(Erscheinungsbild::System);
     AppController controller({

@@ -12,7 +12,7 @@
 #include <QWindow>
 
 Probeheim::Probeheim()
-    : m_einstellungen(std::make_unique<QSettings>(einstellungsdatei(), QSettings::IniFormat))
+    : m_einstellungen(std::make_unique<Einstellungen>(einstellungsdatei(), QSettings::IniFormat))
 {
     // Most tests carry no pictures; those of the toolbar look whether they are there.
     QLoggingCategory::setFilterRules(QStringLiteral("qt.svg.warning=false"));
@@ -37,7 +37,7 @@ void Probeheim::liesEinstellungenNeu()
     const QString bisher = einstellungsdatei();
     ++m_starts;
     QFile::copy(bisher, einstellungsdatei());
-    m_einstellungen = std::make_unique<QSettings>(einstellungsdatei(), QSettings::IniFormat);
+    m_einstellungen = std::make_unique<Einstellungen>(einstellungsdatei(), QSettings::IniFormat);
 }
 
 void Probeheim::schreibeTabelle(const Lebensmittelverzeichnis &lebensmittel) const

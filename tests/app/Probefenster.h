@@ -1,9 +1,9 @@
 #pragma once
 
+#include "Einstellungen.h"
 #include "Oberflaeche.h"
 
 #include <QHash>
-#include <QSettings>
 #include <QTemporaryDir>
 #include <QTranslator>
 
@@ -27,7 +27,7 @@ public:
     void schreibeTabelle(const Lebensmittelverzeichnis &lebensmittel) const;
     void schreibeEigene(const Lebensmittelverzeichnis &lebensmittel) const;
 
-    QSettings &einstellungen() { return *m_einstellungen; }
+    Einstellungen &einstellungen() { return *m_einstellungen; }
     /// What the settings' file holds on the disk, past everything that is still in memory.
     QVariant aufDerPlatte(const QString &schluessel) const;
     /// Reads the settings from the disk as a new start of the program does. No window is open then.
@@ -46,7 +46,7 @@ public:
 private:
     QTemporaryDir m_ordner;
     int m_starts = 0;
-    std::unique_ptr<QSettings> m_einstellungen;
+    std::unique_ptr<Einstellungen> m_einstellungen;
 };
 
 /// The main window, started and shown, and the hands of its user.

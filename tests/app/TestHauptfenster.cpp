@@ -182,7 +182,8 @@ void TestHauptfenster::closingAsksNothingAndWritesNothing()
     controller().Hauptfenster->close();
     QVERIFY(m_heim->meldungen.isEmpty());
     QVERIFY(!QFileInfo::exists(m_heim->eigeneDatei()));
-    QVERIFY(!QFileInfo::exists(m_heim->einstellungsdatei()));
+    m_heim->einstellungen().sync();
+    QCOMPARE(QFileInfo(m_heim->einstellungsdatei()).size(), 0);
 }
 
 void TestHauptfenster::everyControlHasANameForThoseWhoCantSeeIt()
