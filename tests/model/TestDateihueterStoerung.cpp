@@ -20,6 +20,8 @@ private Q_SLOTS:
     void init();
     void readingFails_data();
     void readingFails();
+    void aLaterReadingFails_data() { readingFails_data(); }
+    void aLaterReadingFails();
     void writingFails_data();
     void writingFails();
     void theFirstFileFails_data() { writingFails_data(); }
@@ -118,6 +120,27 @@ void TestDateihueterStoerung::readingFails()
     QVERIFY(kopie.open(QIODevice::ReadOnly));
     QCOMPARE(kopie.readAll(), speisebytes(7, 300));
     QCOMPARE(m_probe->dateien().size(), 2);
+}
+
+/// A part of the program that is opened later has nothing then, though the others have it all.
+void TestDateihueterStoerung::aLaterReadingFails()
+{
+    QFETCH(Schritt, schritt);
+    QFETCH(bool, einmal);
+    m_probe->lege(speisebytes(7, 300));
+    QCOMPARE(m_hueter->lesen(m_probe->path()).archiv.verzeichnis.size(), 300);
+    {
+        const Stoerung stoerung(schritt, 0, einmal);
+        QVERIFY(m_hueter->lesen(m_probe->path()).archiv.verzeichnis.isEmpty());
+        QVERIFY(stoerung.ausfaelle() > 0);
+    }
+    QCOMPARE(m_hueter->lesen(m_probe->path()).archiv.verzeichnis.size(), 300);
+    QVERIFY(schreibe(1));
+    QCOMPARE(m_probe->bytes(), speisebytes(1));
+    QCOMPARE(offen(), QList<Art>{Art::Beiseitegelegt});
+    QFile kopie(m_hueter->offeneMeldungen()[0].kopie);
+    QVERIFY(kopie.open(QIODevice::ReadOnly));
+    QCOMPARE(kopie.readAll(), speisebytes(7, 300));
 }
 
 void TestDateihueterStoerung::writingFails_data()
