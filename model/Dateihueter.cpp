@@ -81,10 +81,10 @@ Archivdatei::Inhalt Dateihueter::lesen(const QString &path)
     }
     const Archivdatei::Rohdaten daten = Archivdatei::leseBytes(path);
     Archivdatei::Inhalt inhalt = Archivdatei::deute(daten);
-    Akte &akte = m_akten[path];
-    if (erstesMal && inhalt.zustand == Zustand::Gelesen) {
-        akte.bekannt = fingerabdruck(daten.bytes);
-    }
+    const QByteArray gelesenes =
+        inhalt.zustand == Zustand::Gelesen ? fingerabdruck(daten.bytes) : QByteArray();
+    QByteArray &bekannt = m_akten[path].bekannt;
+    bekannt = erstesMal || gelesenes == bekannt ? gelesenes : QByteArray();
     if (inhalt.zustand == Zustand::Unlesbar) {
         melde({Dateimeldung::Art::NichtLesbar, path, {}, inhalt.grund});
     } else if (inhalt.zustand == Zustand::Beschaedigt) {

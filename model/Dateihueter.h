@@ -41,9 +41,9 @@ public:
 
     explicit Dateihueter(QObject *parent = nullptr) : QObject(parent) {}
 
-    /// Reads a store. What the first reading of a file saw is what the program works with: a file
-    /// that could not be read then, or that stands differently at a later reading, is not
-    /// overwritten without a copy.
+    /// Reads a store. Each reader writes later what it saw and its user's changes, so that only a
+    /// file of which all saw the same is known to the program: one that could not be read at some
+    /// time, or that stood differently, is not overwritten without a copy.
     Archivdatei::Inhalt lesen(const QString &path);
 
     /// Writes a store, as `Archivdatei::schreiben` does. Before the first change of a day the file

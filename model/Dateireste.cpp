@@ -38,6 +38,24 @@ bool gesperrt(const QString &path)
     return !frei;
 }
 
+/// Whether a rest may go. A whole store is somebody's work, unless the file holds the same: it is
+/// put beside it first.
+bool entbehrlich(const QFileInfo &rest, const QFileInfo &original)
+{
+    const Archivdatei::Rohdaten daten = Archivdatei::leseBytes(rest.filePath());
+    const auto zustand = Archivdatei::deute(daten).zustand;
+    if (zustand != Archivdatei::Zustand::Gelesen ||
+        daten.bytes == Archivdatei::leseBytes(original.filePath()).bytes) {
+        return zustand != Archivdatei::Zustand::Unlesbar;
+    }
+    const auto kopie = Sicherungen::legeBeiseite(original.filePath(), daten, rest.lastModified());
+    if (kopie.wie == Sicherungen::Beiseitegelegtes::Wie::Garnicht) {
+        return false;
+    }
+    Sicherungen::begrenze(original.filePath(), kopie);
+    return true;
+}
+
 /// Of the file and of all copies, whose names begin like its own.
 void raeumeOrdnerAuf(const QDir &ordner, const QFileInfo &original)
 {
@@ -48,10 +66,13 @@ void raeumeOrdnerAuf(const QDir &ordner, const QFileInfo &original)
                  QRegularExpression::escape(QLatin1String(Dateiwechsel::endungVorher))));
     for (const QFileInfo &datei : dateien(ordner)) {
         const QRegularExpressionMatch teile = muster.match(datei.fileName());
-        const bool vorher = !teile.captured(3).isEmpty();
         // The new file stays locked when it has taken the old one's place.
-        if (teile.hasMatch() && !gesperrt(ordner.filePath(teile.captured(1))) &&
-            !(vorher && gesperrt(ordner.filePath(teile.captured(2))))) {
+        if (!teile.hasMatch() || gesperrt(ordner.filePath(teile.captured(1))) ||
+            gesperrt(ordner.filePath(teile.captured(2)))) {
+            continue;
+        }
+        const bool derDatei = teile.captured(2) == original.fileName();
+        if (!derDatei || entbehrlich(datei, original)) { // of a copy, the file itself is there
             QFile::remove(datei.filePath());
         }
     }
@@ -65,19 +86,9 @@ void raeumeFruehereAuf(const QFileInfo &original, const QDateTime &jetzt)
                                         .arg(QRegularExpression::escape(original.fileName())));
     for (const QFileInfo &datei : dateien(original.dir())) {
         const bool jung = datei.lastModified().secsTo(jetzt) < nochInArbeit;
-        if (jung || !muster.match(datei.fileName()).hasMatch()) {
-            continue;
+        if (!jung && muster.match(datei.fileName()).hasMatch() && entbehrlich(datei, original)) {
+            QFile::remove(datei.filePath());
         }
-        const Archivdatei::Rohdaten daten = Archivdatei::leseBytes(datei.filePath());
-        if (Archivdatei::deute(daten).zustand == Archivdatei::Zustand::Gelesen) {
-            const auto kopie =
-                Sicherungen::legeBeiseite(original.filePath(), daten, datei.lastModified());
-            if (kopie.wie == Sicherungen::Beiseitegelegtes::Wie::Garnicht) {
-                continue;
-            }
-            Sicherungen::begrenze(original.filePath(), kopie);
-        }
-        QFile::remove(datei.filePath());
     }
 }
 

@@ -6,10 +6,10 @@
 /// What writers of the user's files leave lying about when they are killed.
 namespace Dateireste {
 
-/// Removes what writers of a file and of its copies left, but nothing that one is at work on.
-/// Earlier versions named theirs in a way in which somebody may also name a copy that he made: what
-/// is a whole store among these is put beside the file as a dated copy instead. `jetzt` tells how
-/// old they are.
+/// Removes what writers of a file and of its copies left, but nothing that one is at work on. A
+/// whole store among the rests of the file may be all that there is of a change, or of what stood
+/// there before it, or a copy that somebody made, since earlier versions named their rests like
+/// one: it is put beside the file as a dated copy instead. `jetzt` tells how old they are.
 void raeumeAuf(const QString &path, const QDateTime &jetzt);
 
 } // namespace Dateireste

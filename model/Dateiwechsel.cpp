@@ -6,6 +6,7 @@
 #include <algorithm>
 #include <cerrno>
 #include <cstdio>
+#include <utility>
 
 #include <fcntl.h>
 #include <sys/file.h>
@@ -49,15 +50,12 @@ bool sichereOrdner(int ordner)
     return ordner < 0 || fsync(ordner) == 0 || errno == EINVAL || errno == ENOTSUP;
 }
 
-/// The old file takes its place again. Where the disk knows no links there is no way back, and the
-/// new one stays.
-void stelleZurueck(const QByteArray &ziel, const QByteArray &vorher, bool gabKeine)
+/// Whether two files changed their names with each other. What is no file keeps its own.
+bool tausche(const QByteArray &neues, const QByteArray &ziel)
 {
-    if (gabKeine) {
-        unlink(ziel.constData());
-    } else {
-        rename(vorher.constData(), ziel.constData());
-    }
+    struct stat alt = {};
+    return lstat(ziel.constData(), &alt) == 0 && S_ISREG(alt.st_mode) &&
+           renameat2(AT_FDCWD, neues.constData(), AT_FDCWD, ziel.constData(), RENAME_EXCHANGE) == 0;
 }
 
 } // namespace
@@ -126,19 +124,47 @@ bool Dateiwechsel::vollziehe()
     if (ordner < 0 && errno != EACCES) { // a folder may be one to write into without looking
         return misslungen();
     }
-    const QByteArray vorher = m_neues + endungVorher;
-    const bool gabKeine = link(m_ziel.constData(), vorher.constData()) != 0 && errno == ENOENT;
-    bool gelungen = rename(m_neues.constData(), m_ziel.constData()) == 0 || misslungen();
-    if (gelungen) {
-        m_neues.clear();
-        gelungen = sichereOrdner(ordner) || misslungen();
-        if (!gelungen) {
-            stelleZurueck(m_ziel, vorher, gabKeine);
-        }
+    bool gelungen = setzeEin();
+    if (gelungen && !sichereOrdner(ordner)) {
+        gelungen = misslungen();
+        stelleZurueck();
+    } else if (gelungen && !m_altes.isEmpty()) {
+        unlink(m_altes.constData());
     }
-    unlink(vorher.constData());
     if (ordner >= 0) {
         close(ordner);
     }
     return gelungen;
+}
+
+/// Until the new file is safe, the old one has a name too. Some disks know no second name for a
+/// file, and the system refuses one for what is another user's: there the two change names.
+bool Dateiwechsel::setzeEin()
+{
+    const QByteArray vorher = m_neues + endungVorher;
+    const bool verknuepft = link(m_ziel.constData(), vorher.constData()) == 0;
+    m_gabKeines = !verknuepft && errno == ENOENT;
+    if (!verknuepft && !m_gabKeines && tausche(m_neues, m_ziel)) {
+        m_altes = std::exchange(m_neues, {});
+        return true;
+    }
+    if (rename(m_neues.constData(), m_ziel.constData()) != 0) {
+        misslungen();
+        unlink(vorher.constData());
+        return false;
+    }
+    m_neues.clear();
+    m_altes = verknuepft ? vorher : QByteArray();
+    return true;
+}
+
+/// What fails here leaves the new file in its place and the old one under its other name. On a disk
+/// on which it could have none there is no way back.
+void Dateiwechsel::stelleZurueck()
+{
+    if (m_gabKeines) {
+        unlink(m_ziel.constData());
+    } else if (!m_altes.isEmpty()) {
+        rename(m_altes.constData(), m_ziel.constData());
+    }
 }

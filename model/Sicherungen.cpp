@@ -190,10 +190,16 @@ Beiseitegelegtes legeBeiseite(const QString &path, const Archivdatei::Rohdaten &
 
 void nimmZurueck(const QString &path, const Beiseitegelegtes &beiseite)
 {
+    const QString ziel = Dateiwechsel::ziel(path);
     if (beiseite.wie == Beiseitegelegtes::Wie::Verschoben) {
-        benenneUm(beiseite.path, Dateiwechsel::ziel(path));
+        if (!QFileInfo::exists(ziel)) {
+            benenneUm(beiseite.path, ziel);
+        }
     } else if (beiseite.wie == Beiseitegelegtes::Wie::Kopiert) {
-        QFile::remove(beiseite.path);
+        const Archivdatei::Rohdaten kopie = Archivdatei::leseBytes(beiseite.path);
+        if (kopie.zustand == Archivdatei::Zustand::Gelesen && enthaelt(ziel, kopie.bytes)) {
+            QFile::remove(beiseite.path);
+        }
     }
 }
 

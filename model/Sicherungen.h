@@ -51,7 +51,7 @@ struct Beiseitegelegtes
 /// already, "Foods 2026-11-20 14.03.05 (2).daten". A file that can't be read is moved there.
 Beiseitegelegtes legeBeiseite(const QString &path, const Archivdatei::Rohdaten &vorher,
                               const QDateTime &jetzt);
-/// Undoes that, when nothing took the file's place.
+/// Undoes that, when nothing took the file's place. What is not there as it was keeps its copy.
 void nimmZurueck(const QString &path, const Beiseitegelegtes &beiseite);
 /// Leaves ten of the files that lie beside this one, among them the one that came last.
 void begrenze(const QString &path, const Beiseitegelegtes &beiseite);

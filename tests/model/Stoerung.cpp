@@ -11,7 +11,8 @@
 Stoerung *Stoerung::s_wirkt = nullptr;
 
 Stoerung::Stoerung(Schritt schritt, int heile, bool einmal, int fehler)
-    : m_schritt(schritt)
+    : m_fruehere(s_wirkt)
+    , m_schritt(schritt)
     , m_heile(heile)
     , m_einmal(einmal)
     , m_fehler(fehler)
@@ -21,18 +22,26 @@ Stoerung::Stoerung(Schritt schritt, int heile, bool einmal, int fehler)
 
 Stoerung::~Stoerung()
 {
-    s_wirkt = nullptr;
+    s_wirkt = m_fruehere;
 }
 
 bool Stoerung::trifft(Schritt schritt)
 {
-    Stoerung *eine = s_wirkt;
-    if (eine == nullptr || eine->m_schritt != schritt || eine->m_heile-- > 0 ||
-        (eine->m_einmal && eine->m_ausfaelle > 0)) {
+    for (Stoerung *eine = s_wirkt; eine != nullptr; eine = eine->m_fruehere) {
+        if (eine->faelltAus(schritt)) {
+            return true;
+        }
+    }
+    return false;
+}
+
+bool Stoerung::faelltAus(Schritt schritt)
+{
+    if (m_schritt != schritt || m_heile-- > 0 || (m_einmal && m_ausfaelle > 0)) {
         return false;
     }
-    ++eine->m_ausfaelle;
-    errno = eine->m_fehler;
+    ++m_ausfaelle;
+    errno = m_fehler;
     return true;
 }
 
@@ -125,6 +134,23 @@ int fsync(int datei)
 {
     const Schritt schritt = istOrdner(datei) ? Schritt::OrdnerSichern : Schritt::DateiSichern;
     return Stoerung::trifft(schritt) ? -1 : echte<int(int)>("fsync")(datei);
+}
+
+int link(const char *von, const char *nach) noexcept
+{
+    return Stoerung::trifft(Schritt::Verknuepfen)
+               ? -1
+               : echte<int(const char *, const char *)>("link")(von, nach);
+}
+
+int renameat2(int ordner, const char *von, int zielordner, const char *nach,
+              unsigned int wie) noexcept
+{
+    if ((wie & RENAME_EXCHANGE) != 0 && Stoerung::trifft(Schritt::Tauschen)) {
+        return -1;
+    }
+    return echte<int(int, const char *, int, const char *, unsigned int)>("renameat2")(
+        ordner, von, zielordner, nach, wie);
 }
 
 int rename(const char *von, const char *nach) noexcept

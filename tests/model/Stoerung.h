@@ -3,8 +3,8 @@
 #include <cerrno>
 
 /// As long as one of these lives, one step on the way to the disk fails: what a broken disk, a lost
-/// network or a full one does to a program. Only for tests that are linked with `Stoerung.cpp`,
-/// which stands before the system's own functions.
+/// network or a full one does to a program. Several of them work together. Only for tests that are
+/// linked with `Stoerung.cpp`, which stands before the system's own functions.
 class Stoerung
 {
 public:
@@ -15,6 +15,8 @@ public:
         Schreiben,     ///< into it
         Rechte,        ///< of it
         DateiSichern,  ///< its way from memory to the disk
+        Verknuepfen,   ///< of a second name with it
+        Tauschen,      ///< of its name with another file's
         Umbenennen,    ///< of anything
         OrdnerOeffnen, ///< to make a change of names safe
         OrdnerSichern, ///< its way to the disk
@@ -34,7 +36,10 @@ public:
     static bool trifft(Schritt schritt);
 
 private:
+    bool faelltAus(Schritt schritt);
+
     static Stoerung *s_wirkt;
+    Stoerung *m_fruehere; ///< works as well; null: none
     Schritt m_schritt;
     int m_heile;
     bool m_einmal;

@@ -17,6 +17,8 @@ private Q_SLOTS:
     void whatIsUnreadableIsMovedAside();
     void whatCantBeMovedAsideStays();
     void aLaterReaderOfAnotherStateMakesItNotKnown();
+    void whatALaterReaderSawDifferentlyIsKept_data();
+    void whatALaterReaderSawDifferentlyIsKept();
     void whatCameWithoutBeingReadIsKept();
     void replacedFromOutsideWhileRunning();
     void aTouchedFileNeedsNoCopy();
@@ -160,6 +162,31 @@ void TestDateihueterKopien::aLaterReaderOfAnotherStateMakesItNotKnown()
     m_probe->lege(speisebytes(7, 300));
     lese();
     QVERIFY(schreibe(2));
+    QCOMPARE(m_probe->bytes(kopiename), speisebytes(7, 300));
+}
+
+void TestDateihueterKopien::whatALaterReaderSawDifferentlyIsKept_data()
+{
+    QTest::addColumn<QString>("dazwischen");
+    QTest::newRow("another store") << QStringLiteral("store");
+    QTest::newRow("a damaged one") << QStringLiteral("damaged");
+    QTest::newRow("no file") << QStringLiteral("missing");
+}
+
+/// For a while something else was at the path, as when a disk comes and goes.
+void TestDateihueterKopien::whatALaterReaderSawDifferentlyIsKept()
+{
+    QFETCH(QString, dazwischen);
+    m_probe->lege(speisebytes(7, 300));
+    lese();
+    if (dazwischen == QLatin1String("missing")) {
+        QVERIFY(QFile::remove(m_probe->path()));
+    } else {
+        m_probe->lege(dazwischen == QLatin1String("store") ? speisebytes(8) : "nothing of ours");
+    }
+    lese();
+    m_probe->lege(speisebytes(7, 300));
+    QVERIFY(schreibe(1));
     QCOMPARE(m_probe->bytes(kopiename), speisebytes(7, 300));
 }
 

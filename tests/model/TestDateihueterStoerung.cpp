@@ -20,6 +20,8 @@ private Q_SLOTS:
     void init();
     void readingFails_data();
     void readingFails();
+    void aLaterReadingFails_data() { readingFails_data(); }
+    void aLaterReadingFails();
     void writingFails_data();
     void writingFails();
     void theFirstFileFails_data() { writingFails_data(); }
@@ -31,6 +33,11 @@ private Q_SLOTS:
     void puttingAsideFails_data();
     void puttingAsideFails();
     void aFolderThatKnowsNoSyncIsNoFailure();
+    void withoutSecondNamesTheOldFileIsBackToo();
+    void whatDoesNotComeBackIsKept_data();
+    void whatDoesNotComeBackIsKept();
+    void whatDoesNotComeBackKeepsItsCopy_data();
+    void whatDoesNotComeBackKeepsItsCopy();
 
 private:
     QList<Art> offen() const
@@ -118,6 +125,27 @@ void TestDateihueterStoerung::readingFails()
     QVERIFY(kopie.open(QIODevice::ReadOnly));
     QCOMPARE(kopie.readAll(), speisebytes(7, 300));
     QCOMPARE(m_probe->dateien().size(), 2);
+}
+
+/// A part of the program that is opened later has nothing then, though the others have it all.
+void TestDateihueterStoerung::aLaterReadingFails()
+{
+    QFETCH(Schritt, schritt);
+    QFETCH(bool, einmal);
+    m_probe->lege(speisebytes(7, 300));
+    QCOMPARE(m_hueter->lesen(m_probe->path()).archiv.verzeichnis.size(), 300);
+    {
+        const Stoerung stoerung(schritt, 0, einmal);
+        QVERIFY(m_hueter->lesen(m_probe->path()).archiv.verzeichnis.isEmpty());
+        QVERIFY(stoerung.ausfaelle() > 0);
+    }
+    QCOMPARE(m_hueter->lesen(m_probe->path()).archiv.verzeichnis.size(), 300);
+    QVERIFY(schreibe(1));
+    QCOMPARE(m_probe->bytes(), speisebytes(1));
+    QCOMPARE(offen(), QList<Art>{Art::Beiseitegelegt});
+    QFile kopie(m_hueter->offeneMeldungen()[0].kopie);
+    QVERIFY(kopie.open(QIODevice::ReadOnly));
+    QCOMPARE(kopie.readAll(), speisebytes(7, 300));
 }
 
 void TestDateihueterStoerung::writingFails_data()
@@ -253,6 +281,86 @@ void TestDateihueterStoerung::aFolderThatKnowsNoSyncIsNoFailure()
     QVERIFY(schreibe(1));
     QVERIFY(stoerung.ausfaelle() > 0);
     QCOMPARE(m_probe->bytes(), speisebytes(1));
+}
+
+/// As on a stick, or where the file is another user's.
+void TestDateihueterStoerung::withoutSecondNamesTheOldFileIsBackToo()
+{
+    QVERIFY(schreibe(1));
+    const auto vorher = Dateiprobe::status(m_probe->path());
+    const Stoerung ohneNamen(Schritt::Verknuepfen, 0, false, EPERM);
+    {
+        const Stoerung stoerung(Schritt::OrdnerSichern);
+        QVERIFY(!schreibe(2));
+        QCOMPARE(stoerung.ausfaelle(), 1);
+    }
+    QCOMPARE(Dateiprobe::status(m_probe->path()).st_ino, vorher.st_ino);
+    QCOMPARE(m_probe->bytes(), speisebytes(1));
+    QCOMPARE(m_probe->dateien(), nurDieDatei);
+    QVERIFY(schreibe(3));
+    QCOMPARE(m_probe->bytes(), speisebytes(3));
+    QCOMPARE(m_probe->dateien(), nurDieDatei);
+}
+
+void TestDateihueterStoerung::whatDoesNotComeBackIsKept_data()
+{
+    QTest::addColumn<bool>("zweiNamen");
+    QTest::addColumn<int>("heile");
+    QTest::newRow("the old file had a second name") << true << 1;
+    QTest::newRow("the two changed names") << false << 0;
+}
+
+/// The new file is there, but it was said that it isn't: the old one stays within reach.
+void TestDateihueterStoerung::whatDoesNotComeBackIsKept()
+{
+    QFETCH(bool, zweiNamen);
+    QFETCH(int, heile);
+    QVERIFY(m_hueter->schreiben(m_probe->path(), speisen(7, 300)));
+    m_probe->datiere(QDateTime(QDate(2026, 11, 20), QTime(14, 3, 5)));
+    m_hueter->setUhr([] { return QDateTime(QDate(2026, 11, 20), QTime(15, 0)); });
+    {
+        const Stoerung ohneNamen(Schritt::Verknuepfen, zweiNamen ? 1000 : 0, false, EPERM);
+        const Stoerung sichern(Schritt::OrdnerSichern);
+        const Stoerung zurueck(Schritt::Umbenennen, heile);
+        QVERIFY(!schreibe(1));
+        QCOMPARE(sichern.ausfaelle(), 1);
+        QCOMPARE(zurueck.ausfaelle(), 1);
+    }
+    QCOMPARE(m_probe->bytes(), speisebytes(1));
+    QCOMPARE(m_probe->dateien().size(), 2);
+    Dateihueter naechsterStart;
+    naechsterStart.lesen(m_probe->path());
+    QCOMPARE(m_probe->dateien().size(), 2);
+    QCOMPARE(m_probe->bytes(QStringLiteral("Eigene 2026-11-20 14.03.05.daten")),
+             speisebytes(7, 300));
+}
+
+void TestDateihueterStoerung::whatDoesNotComeBackKeepsItsCopy_data()
+{
+    QTest::addColumn<QList<Schritt>>("wegeZurueck");
+    QTest::addColumn<int>("heile");
+    QTest::newRow("renaming it back fails") << QList<Schritt>{Schritt::Umbenennen} << 2;
+    QTest::newRow("the disk knows no way back")
+        << QList<Schritt>{Schritt::Verknuepfen, Schritt::Tauschen} << 0;
+}
+
+/// Nobody has read the file: its copy may be all that there is of it.
+void TestDateihueterStoerung::whatDoesNotComeBackKeepsItsCopy()
+{
+    QFETCH(QList<Schritt>, wegeZurueck);
+    QFETCH(int, heile);
+    m_probe->lege(speisebytes(7, 300));
+    m_hueter->setUhr([] { return QDateTime(QDate(2026, 11, 20), QTime(14, 3, 5)); });
+    {
+        const Stoerung sichern(Schritt::OrdnerSichern, 1);
+        const Stoerung einer(wegeZurueck.constFirst(), heile, false, EPERM);
+        const Stoerung anderer(wegeZurueck.constLast(), heile, false, EPERM);
+        QVERIFY(!schreibe(1));
+        QCOMPARE(sichern.ausfaelle(), 1);
+    }
+    QCOMPARE(m_probe->bytes(), speisebytes(1));
+    QCOMPARE(m_probe->bytes(QStringLiteral("Eigene 2026-11-20 14.03.05.daten")),
+             speisebytes(7, 300));
 }
 
 QTEST_GUILESS_MAIN(TestDateihueterStoerung)

@@ -21,7 +21,11 @@ private Q_SLOTS:
     void whatIsJustBeingWrittenStays_data();
     void whatIsJustBeingWrittenStays();
     void earlierVersionsAreGivenAMinute();
-    void aWholeStoreOfAnEarlierVersionIsKept();
+    void aWholeStoreIsKept_data();
+    void aWholeStoreIsKept();
+    void whatTheFileHoldsNeedsNoCopy_data() { aWholeStoreIsKept_data(); }
+    void whatTheFileHoldsNeedsNoCopy();
+    void whatCantBeReadStays();
     void onlyTheStartCleansUp();
     void foldersAndLinksStay();
     void theyAreRemovedWhereTheLinkLeads();
@@ -132,16 +136,45 @@ void TestDateireste::earlierVersionsAreGivenAMinute()
     QVERIFY(!istDa(name));
 }
 
-/// It may as well be a copy that somebody made and called like that.
-void TestDateireste::aWholeStoreOfAnEarlierVersionIsKept()
+void TestDateireste::aWholeStoreIsKept_data()
 {
-    const QString name = QStringLiteral("Eigene.daten.meinBu");
+    QTest::addColumn<QString>("name");
+    QTest::newRow("a change that didn't come to its end")
+        << QStringLiteral("Eigene.daten.schreibe-aB3xYz");
+    QTest::newRow("what stood there before one")
+        << QStringLiteral("Eigene.daten.schreibe-aB3xYz.vorher");
+    QTest::newRow("a rest of an earlier version, or a copy that somebody called like that")
+        << QStringLiteral("Eigene.daten.meinBu");
+}
+
+void TestDateireste::aWholeStoreIsKept()
+{
+    QFETCH(QString, name);
     m_probe->lege(speisebytes(7, 300), name);
     m_probe->datiere(QDateTime(QDate(2026, 2, 3), QTime(4, 5, 6)), name);
     starte();
     QVERIFY(!istDa(name));
     QCOMPARE(m_probe->bytes(QStringLiteral("Eigene 2026-02-03 04.05.06.daten")),
              speisebytes(7, 300));
+}
+
+void TestDateireste::whatTheFileHoldsNeedsNoCopy()
+{
+    QFETCH(QString, name);
+    m_probe->lege(speisebytes(1), name);
+    m_probe->datiere(QDateTime(QDate(2026, 2, 3), QTime(4, 5, 6)), name);
+    starte();
+    QCOMPARE(m_probe->dateien(),
+             QStringList({QStringLiteral("Eigene.daten"), QStringLiteral("Sicherungen")}));
+}
+
+void TestDateireste::whatCantBeReadStays()
+{
+    const QString name = QStringLiteral("Eigene.daten.schreibe-aB3xYz.vorher");
+    lege(name);
+    QVERIFY(QFile::resize(m_probe->path(name), 64 * 1024 * 1024 + 1));
+    starte();
+    QVERIFY(istDa(name));
 }
 
 void TestDateireste::onlyTheStartCleansUp()
