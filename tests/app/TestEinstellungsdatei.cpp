@@ -34,6 +34,7 @@ private Q_SLOTS:
     void aSoundFileIsNotCopied();
     void theSameDamageIsKeptOnce();
     void tenCopiesAreKept();
+    void onlyTheOldestCopyGoes();
     void withoutRoomForACopyTheDamagedFileMovesAway();
     void aDamagedFileInAProtectedFolderStays();
     void aFileThatCantBeUsedStaysAsItIs_data();
@@ -306,6 +307,25 @@ void TestEinstellungsdatei::tenCopiesAreKept()
     QCOMPARE(gesehen.size(), 10);
     QCOMPARE(lies(pfad(QStringLiteral("e/") + gesehen.takeLast())), kaputt);
     QCOMPARE(gesehen, erwartet.mid(3));
+}
+
+/// The second one of a second is younger than the first, and what somebody named himself is his.
+void TestEinstellungsdatei::onlyTheOldestCopyGoes()
+{
+    const QString vonHand = QStringLiteral("Mahlberg 2020-01-09 08.00.00 Kopie.conf");
+    const QString erste = QStringLiteral("Mahlberg 2020-01-10 08.00.00.conf");
+    QStringList spaetere = {QStringLiteral("Mahlberg 2020-01-10 08.00.00 (2).conf")};
+    for (int tag = 11; tag < 19; ++tag) {
+        spaetere << QStringLiteral("Mahlberg 2020-01-%1 08.00.00.conf").arg(tag);
+    }
+    for (const QString &name : QStringList{vonHand, erste} + spaetere) {
+        QVERIFY(QFile(pfad(QStringLiteral("e/") + name)).open(QIODevice::WriteOnly));
+    }
+    schreibe(kaputt);
+    starteUndSetze(datei(), 81);
+    QStringList gesehen = kopien();
+    QCOMPARE(lies(pfad(QStringLiteral("e/") + gesehen.takeLast())), kaputt);
+    QCOMPARE(gesehen, QStringList{vonHand} + spaetere);
 }
 
 void TestEinstellungsdatei::withoutRoomForACopyTheDamagedFileMovesAway()
