@@ -1,6 +1,7 @@
 #include "Einstellungsdatei.h"
 
 #include "Archivdatei.h"
+#include "Dateireste.h"
 #include "Dateisperre.h"
 #include "EngeRechte.h"
 #include "Sicherungen.h"
@@ -77,6 +78,7 @@ void bereiteVor(const QString &datei, QSettings::Format format)
 {
     const EngeRechte eng;
     schuetze(datei);
+    Dateireste::raeumeAuf(datei, QDateTime::currentDateTime());
     const Archivdatei::Rohdaten inhalt = Archivdatei::leseBytes(datei);
     if (!inhalt.bytes.isEmpty() && istBeschaedigt(datei, inhalt.bytes, format)) {
         bewahreAuf(datei, inhalt);

@@ -28,6 +28,8 @@ private Q_SLOTS:
     void aLockThatNobodyHoldsIsClearedAway_data();
     void aLockThatNobodyHoldsIsClearedAway();
     void aLockThatIsHeldStays();
+    void whatAKilledWriteLeftIsRemoved_data();
+    void whatAKilledWriteLeftIsRemoved();
     void aDamagedFileIsKept_data();
     void aDamagedFileIsKept();
     void aSoundFileIsNotCopied_data();
@@ -229,6 +231,44 @@ void TestEinstellungsdatei::aLockThatIsHeldStays()
     QVERIFY(QFile::exists(datei() + QStringLiteral(".lock")));
     QVERIFY(anderes.isLocked());
     anderes.unlock();
+}
+
+void TestEinstellungsdatei::whatAKilledWriteLeftIsRemoved_data()
+{
+    QTest::addColumn<QString>("name");
+    QTest::addColumn<QByteArray>("inhalt");
+    QTest::addColumn<int>("sekundenAlt");
+    QTest::addColumn<bool>("bleibt");
+    const QString rest = QStringLiteral("Mahlberg.conf.qWeRtZ");
+    QTest::newRow("empty") << rest << QByteArray() << 3600 << false;
+    QTest::newRow("half written") << rest << heil.first(15) << 3600 << false;
+    QTest::newRow("whole, but it never took its place") << rest << heil << 3600 << false;
+    QTest::newRow("of a dated copy")
+        << QStringLiteral("Mahlberg 2026-11-20 14.03.05.conf.schreibe-aB3xYz") << kaputt << 3600
+        << false;
+    QTest::newRow("perhaps just being written") << rest << heil << 0 << true;
+    QTest::newRow("the user's own copy")
+        << QStringLiteral("Mahlberg.conf.backup") << heil << 3600 << true;
+    QTest::newRow("another file's")
+        << QStringLiteral("Anderes.conf.qWeRtZ") << heil << 3600 << true;
+}
+
+void TestEinstellungsdatei::whatAKilledWriteLeftIsRemoved()
+{
+    QFETCH(QString, name);
+    QFETCH(QByteArray, inhalt);
+    QFETCH(int, sekundenAlt);
+    QFETCH(bool, bleibt);
+    schreibe(heil);
+    QFile rest(pfad(QStringLiteral("e/") + name));
+    QVERIFY(rest.open(QIODevice::WriteOnly | QIODevice::Unbuffered));
+    QCOMPARE(rest.write(inhalt), inhalt.size());
+    QVERIFY(rest.setFileTime(QDateTime::currentDateTime().addSecs(-sekundenAlt),
+                             QFile::FileModificationTime));
+    const Einstellungen einstellungen(datei(), QSettings::IniFormat);
+    QCOMPARE(rest.exists(), bleibt);
+    QCOMPARE(lies(datei()), heil);
+    QCOMPARE(kopien(), QStringList());
 }
 
 void TestEinstellungsdatei::aDamagedFileIsKept_data()
