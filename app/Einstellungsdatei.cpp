@@ -1,11 +1,15 @@
 #include "Einstellungsdatei.h"
 
+#include "Archivdatei.h"
+#include "Dateireste.h"
 #include "Dateisperre.h"
 #include "EngeRechte.h"
+#include "Sicherungen.h"
 
 #include <QCoreApplication>
 #include <QDateTime>
 #include <QDir>
+#include <QFile>
 #include <QFileInfo>
 #include <QStandardPaths>
 #include <QStringDecoder>
@@ -13,19 +17,10 @@
 #include <algorithm>
 
 #include <sys/stat.h>
-#include <unistd.h>
 
 namespace Einstellungsdatei {
 
 namespace {
-
-constexpr qsizetype meisteKopien = 10;
-
-QByteArray bytes(const QString &datei)
-{
-    QFile gelesen(datei);
-    return gelesen.open(QIODevice::ReadOnly) ? gelesen.readAll() : QByteArray();
-}
 
 /// Settings are text without control characters; a machine that went down may leave zeros.
 bool istText(const QByteArray &inhalt)
@@ -47,62 +42,16 @@ bool istBeschaedigt(const QString &datei, const QByteArray &inhalt, QSettings::F
     return probe.status() == QSettings::FormatError;
 }
 
-/// The dated copies beside a file, the oldest first.
-QStringList kopien(const QFileInfo &datei)
-{
-    const QString muster =
-        QStringLiteral("%1 %2%2%2%2-%2%2-%2%2 %2%2.%2%2.%2%2*.%3")
-            .arg(datei.completeBaseName(), QStringLiteral("[0-9]"), datei.suffix());
-    QStringList pfade;
-    for (const QString &name : datei.dir().entryList({muster}, QDir::Files, QDir::Name)) {
-        pfade << datei.dir().filePath(name);
-    }
-    return pfade;
-}
-
-/// "Mahlberg.conf" becomes "Mahlberg 2026-11-20 14.03.05.conf", and where that is taken
-/// "Mahlberg 2026-11-20 14.03.05 (2).conf".
-QString freierKopiename(const QFileInfo &datei)
-{
-    const QString datum =
-        QDateTime::currentDateTime().toString(QStringLiteral("yyyy-MM-dd HH.mm.ss"));
-    const QString stamm = datei.dir().filePath(datei.completeBaseName() + QLatin1Char(' ') + datum);
-    QString name = QStringLiteral("%1.%2").arg(stamm, datei.suffix());
-    for (int nummer = 2; QFileInfo::exists(name); ++nummer) {
-        name = QStringLiteral("%1 (%2).%3").arg(stamm).arg(nummer).arg(datei.suffix());
-    }
-    return name;
-}
-
-bool lege(const QString &kopie, const QByteArray &inhalt)
-{
-    QFile neu(kopie);
-    // Without a buffer, which would still be full after a failure and keep the file from going.
-    if (!neu.open(QIODevice::WriteOnly | QIODevice::NewOnly | QIODevice::Unbuffered)) {
-        return false;
-    }
-    const bool gelungen = neu.write(inhalt) == inhalt.size() && fsync(neu.handle()) == 0;
-    if (!gelungen) {
-        neu.remove();
-    }
-    return gelungen;
-}
-
 /// Keeps what a damaged file holds. Where there is no room for a copy, the file itself moves away.
-void bewahreAuf(const QString &datei, const QByteArray &inhalt)
+void bewahreAuf(const QString &datei, const Archivdatei::Rohdaten &inhalt)
 {
-    const QStringList bisher = kopien(QFileInfo(datei));
-    if (!bisher.isEmpty() && bytes(bisher.last()) == inhalt) {
-        return; // it was seen at the last start, and nothing has been written since
+    using Sicherungen::Beiseitegelegtes;
+    const QDateTime jetzt = QDateTime::currentDateTime();
+    Beiseitegelegtes kopie = Sicherungen::legeBeiseite(datei, inhalt, jetzt);
+    if (kopie.wie == Beiseitegelegtes::Wie::Garnicht) {
+        kopie = Sicherungen::legeBeiseite(datei, {Archivdatei::Zustand::Unlesbar, {}, {}}, jetzt);
     }
-    const QString kopie = freierKopiename(QFileInfo(datei));
-    if (!lege(kopie, inhalt)) {
-        QFile::rename(datei, kopie);
-    }
-    const QStringList alle = kopien(QFileInfo(datei));
-    for (qsizetype i = 0; i < alle.size() - meisteKopien; ++i) {
-        QFile::remove(alle[i]);
-    }
+    Sicherungen::begrenze(datei, kopie);
 }
 
 } // namespace
@@ -129,13 +78,13 @@ void bereiteVor(const QString &datei, QSettings::Format format)
 {
     const EngeRechte eng;
     schuetze(datei);
-    const QFileInfo info(datei);
-    const QByteArray inhalt = info.isFile() ? bytes(datei) : QByteArray();
-    if (!inhalt.isEmpty() && istBeschaedigt(datei, inhalt, format)) {
+    Dateireste::raeumeAuf(datei, QDateTime::currentDateTime());
+    const Archivdatei::Rohdaten inhalt = Archivdatei::leseBytes(datei);
+    if (!inhalt.bytes.isEmpty() && istBeschaedigt(datei, inhalt.bytes, format)) {
         bewahreAuf(datei, inhalt);
     }
     // Made by the first write, the file would be open to others.
-    if (!QFileInfo::exists(datei) && info.dir().mkpath(QStringLiteral("."))) {
+    if (!QFileInfo::exists(datei) && QFileInfo(datei).dir().mkpath(QStringLiteral("."))) {
         QFile(datei).open(QIODevice::WriteOnly | QIODevice::NewOnly);
     }
 }

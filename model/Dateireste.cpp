@@ -16,8 +16,8 @@ namespace Dateireste {
 
 namespace {
 
-/// Earlier versions locked nothing: one of theirs that was changed so many seconds ago is perhaps
-/// still being written.
+/// Earlier versions locked nothing, and Qt doesn't when it writes the settings: one of theirs that
+/// was changed so many seconds ago is perhaps still being written.
 constexpr qint64 nochInArbeit = 60;
 
 QFileInfoList dateien(const QDir &ordner)
@@ -78,8 +78,8 @@ void raeumeOrdnerAuf(const QDir &ordner, const QFileInfo &original)
     }
 }
 
-/// A rest of an earlier version has six letters behind the name, by chance. One without a large
-/// letter behind a small one, like "backup", is left alone.
+/// A rest of an earlier version, or of Qt, has six letters behind the name, by chance. One without
+/// a large letter behind a small one, like "backup", is left alone.
 void raeumeFruehereAuf(const QFileInfo &original, const QDateTime &jetzt)
 {
     const QRegularExpression muster(QStringLiteral("^%1\\.(?=.*[a-z].*[A-Z])[A-Za-z]{6}$")

@@ -28,12 +28,15 @@ private Q_SLOTS:
     void aLockThatNobodyHoldsIsClearedAway_data();
     void aLockThatNobodyHoldsIsClearedAway();
     void aLockThatIsHeldStays();
+    void whatAKilledWriteLeftIsRemoved_data();
+    void whatAKilledWriteLeftIsRemoved();
     void aDamagedFileIsKept_data();
     void aDamagedFileIsKept();
     void aSoundFileIsNotCopied_data();
     void aSoundFileIsNotCopied();
     void theSameDamageIsKeptOnce();
     void tenCopiesAreKept();
+    void onlyTheOldestCopyGoes();
     void withoutRoomForACopyTheDamagedFileMovesAway();
     void aDamagedFileInAProtectedFolderStays();
     void aFileThatCantBeUsedStaysAsItIs_data();
@@ -230,6 +233,44 @@ void TestEinstellungsdatei::aLockThatIsHeldStays()
     anderes.unlock();
 }
 
+void TestEinstellungsdatei::whatAKilledWriteLeftIsRemoved_data()
+{
+    QTest::addColumn<QString>("name");
+    QTest::addColumn<QByteArray>("inhalt");
+    QTest::addColumn<int>("sekundenAlt");
+    QTest::addColumn<bool>("bleibt");
+    const QString rest = QStringLiteral("Mahlberg.conf.qWeRtZ");
+    QTest::newRow("empty") << rest << QByteArray() << 3600 << false;
+    QTest::newRow("half written") << rest << heil.first(15) << 3600 << false;
+    QTest::newRow("whole, but it never took its place") << rest << heil << 3600 << false;
+    QTest::newRow("of a dated copy")
+        << QStringLiteral("Mahlberg 2026-11-20 14.03.05.conf.schreibe-aB3xYz") << kaputt << 3600
+        << false;
+    QTest::newRow("perhaps just being written") << rest << heil << 0 << true;
+    QTest::newRow("the user's own copy")
+        << QStringLiteral("Mahlberg.conf.backup") << heil << 3600 << true;
+    QTest::newRow("another file's")
+        << QStringLiteral("Anderes.conf.qWeRtZ") << heil << 3600 << true;
+}
+
+void TestEinstellungsdatei::whatAKilledWriteLeftIsRemoved()
+{
+    QFETCH(QString, name);
+    QFETCH(QByteArray, inhalt);
+    QFETCH(int, sekundenAlt);
+    QFETCH(bool, bleibt);
+    schreibe(heil);
+    QFile rest(pfad(QStringLiteral("e/") + name));
+    QVERIFY(rest.open(QIODevice::WriteOnly | QIODevice::Unbuffered));
+    QCOMPARE(rest.write(inhalt), inhalt.size());
+    QVERIFY(rest.setFileTime(QDateTime::currentDateTime().addSecs(-sekundenAlt),
+                             QFile::FileModificationTime));
+    const Einstellungen einstellungen(datei(), QSettings::IniFormat);
+    QCOMPARE(rest.exists(), bleibt);
+    QCOMPARE(lies(datei()), heil);
+    QCOMPARE(kopien(), QStringList());
+}
+
 void TestEinstellungsdatei::aDamagedFileIsKept_data()
 {
     QTest::addColumn<QByteArray>("inhalt");
@@ -306,6 +347,25 @@ void TestEinstellungsdatei::tenCopiesAreKept()
     QCOMPARE(gesehen.size(), 10);
     QCOMPARE(lies(pfad(QStringLiteral("e/") + gesehen.takeLast())), kaputt);
     QCOMPARE(gesehen, erwartet.mid(3));
+}
+
+/// The second one of a second is younger than the first, and what somebody named himself is his.
+void TestEinstellungsdatei::onlyTheOldestCopyGoes()
+{
+    const QString vonHand = QStringLiteral("Mahlberg 2020-01-09 08.00.00 Kopie.conf");
+    const QString erste = QStringLiteral("Mahlberg 2020-01-10 08.00.00.conf");
+    QStringList spaetere = {QStringLiteral("Mahlberg 2020-01-10 08.00.00 (2).conf")};
+    for (int tag = 11; tag < 19; ++tag) {
+        spaetere << QStringLiteral("Mahlberg 2020-01-%1 08.00.00.conf").arg(tag);
+    }
+    for (const QString &name : QStringList{vonHand, erste} + spaetere) {
+        QVERIFY(QFile(pfad(QStringLiteral("e/") + name)).open(QIODevice::WriteOnly));
+    }
+    schreibe(kaputt);
+    starteUndSetze(datei(), 81);
+    QStringList gesehen = kopien();
+    QCOMPARE(lies(pfad(QStringLiteral("e/") + gesehen.takeLast())), kaputt);
+    QCOMPARE(gesehen, QStringList{vonHand} + spaetere);
 }
 
 void TestEinstellungsdatei::withoutRoomForACopyTheDamagedFileMovesAway()

@@ -1,5 +1,7 @@
 #include "Druckprobe.h"
 
+#include <QFont>
+#include <QPainter>
 #include <QPrinter>
 #include <QProcess>
 #include <QRegularExpression>
@@ -168,4 +170,15 @@ Druckwort finde(const QList<Druckwort> &worte, const QString &text)
     const auto treffer = std::find_if(worte.begin(), worte.end(),
                                       [&text](const Druckwort &wort) { return wort.text == text; });
     return treffer == worte.end() ? Druckwort() : *treffer;
+}
+
+Druckauftrag beziffert(int seiten)
+{
+    return {QStringLiteral("Probe"), [seiten](const QPageLayout &) { return seiten; },
+            [](QPainter &maler, const QPageLayout &, int nummer) {
+                QFont schrift(QStringLiteral("Helvetica"));
+                schrift.setPixelSize(20);
+                maler.setFont(schrift);
+                maler.drawText(QPointF(100, 100), QStringLiteral("Seite %1").arg(nummer));
+            }};
 }

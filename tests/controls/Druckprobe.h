@@ -65,3 +65,7 @@ private:
 
 /// The first word of this text, on whatever page; an empty one with page 0 when there is none.
 Druckwort finde(const QList<Druckwort> &worte, const QString &text);
+
+/// Pages that say which they are: "Seite 1" with its line 100 points from the left and from the
+/// top.
+Druckauftrag beziffert(int seiten);

@@ -186,6 +186,17 @@ Datenmodul speise(const QString &name, const Wertliste &werte, const QStringList
     return neu;
 }
 
+Datenmodul zaehlspeise(const QString &name)
+{
+    Datenmodul neu = speise(
+        name, {},
+        {QStringLiteral("+"), QStringLiteral("0"), QStringLiteral("-"), QStringLiteral("egal")});
+    for (const auto &zeile : naehrwerte) {
+        neu.setWert(zeile.wert, 2.0F * static_cast<float>(stelle(zeile.wert) + 1));
+    }
+    return neu;
+}
+
 void vergissKlient()
 {
     Planmodul::klient = {};

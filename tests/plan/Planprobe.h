@@ -76,5 +76,8 @@ using Wertliste = QList<std::pair<Naehrwert, float>>;
 Datenmodul speise(const QString &name, const Wertliste &werte = {},
                   const QStringList &urteile = {});
 
+/// Every value of it is a number of its own: 2, 4, 6 ...
+Datenmodul zaehlspeise(const QString &name);
+
 /// Nothing is known of the client, as before the calculator was ever opened.
 void vergissKlient();
