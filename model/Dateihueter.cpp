@@ -60,6 +60,7 @@ Archivdatei::Inhalt Dateihueter::lesen(const QString &path)
     const bool erstesMal = !m_akten.contains(path);
     if (erstesMal) {
         Dateireste::raeumeAuf(path, m_uhr());
+        Sicherungen::verengeAlle(path);
     }
     const Archivdatei::Rohdaten daten = Archivdatei::leseBytes(path);
     Archivdatei::Inhalt inhalt = Archivdatei::deute(daten);
