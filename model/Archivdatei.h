@@ -65,12 +65,13 @@ struct Ausgang
 };
 
 /// Is shown the file that is about to be replaced, once the new one is complete, so that a full
-/// disk leaves no copy. False: it must stay.
+/// disk leaves no copy; again if another program changes it meanwhile. False: it must stay.
 using Bewahrer = std::function<bool(const Rohdaten &vorher)>;
 
 /// Writes a store so that at any moment, also on a power cut, either the old or the new file is
 /// there whole. Something at this path that is no file is not overwritten, nor is a store written
-/// that would be too large to be read again.
+/// that would be too large to be read again. What another program or a synchronised folder puts
+/// there meanwhile is not overwritten unseen.
 ///
 /// Without a `bewahre` nothing is kept of a file that was there before.
 Ausgang schreiben(const QString &path, const Lebensmittelverzeichnis &verzeichnis,

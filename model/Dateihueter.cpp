@@ -9,8 +9,6 @@
 
 #include <algorithm>
 
-#include <sys/stat.h>
-
 using Archivdatei::Ausgang;
 using Archivdatei::Zustand;
 using Sicherungen::Beiseitegelegtes;
@@ -57,27 +55,12 @@ const char *worte(Dateimeldung::Art art)
 
 } // namespace
 
-bool Dateihueter::Stempel::operator==(const Stempel &anderer) const
-{
-    return geraet == anderer.geraet && nummer == anderer.nummer && groesse == anderer.groesse &&
-           geaendert.tv_sec == anderer.geaendert.tv_sec &&
-           geaendert.tv_nsec == anderer.geaendert.tv_nsec;
-}
-
-std::optional<Dateihueter::Stempel> Dateihueter::stempelVon(const QString &path)
-{
-    struct stat angaben = {};
-    if (stat(QFile::encodeName(path).constData(), &angaben) != 0) {
-        return std::nullopt;
-    }
-    return Stempel{angaben.st_dev, angaben.st_ino, angaben.st_size, angaben.st_mtim};
-}
-
 Archivdatei::Inhalt Dateihueter::lesen(const QString &path)
 {
     const bool erstesMal = !m_akten.contains(path);
     if (erstesMal) {
         Dateireste::raeumeAuf(path, m_uhr());
+        Sicherungen::verengeAlle(path);
     }
     const Archivdatei::Rohdaten daten = Archivdatei::leseBytes(path);
     Archivdatei::Inhalt inhalt = Archivdatei::deute(daten);
@@ -131,7 +114,7 @@ bool Dateihueter::mussGehaltenWerden(const QString &path,
     const auto eines = std::find_if(alle.begin(), alle.end(), [&](const Gehaltenes &gehaltenes) {
         return gehaltenes.verzeichnis.isSharedWith(verzeichnis);
     });
-    if (eines == alle.end() || eines->stempel != stempelVon(path)) {
+    if (eines == alle.end() || eines->stempel != Dateistempel::von(path)) {
         return true;
     }
     return eines->misslungen.isValid() ? !geradeErst(eines->misslungen, m_uhr(), wartezeit)
@@ -146,7 +129,7 @@ void Dateihueter::merkeGehaltenes(const QString &path, const Lebensmittelverzeic
     alle.removeIf([&](const Gehaltenes &eines) {
         return eines.verzeichnis.isDetached() || eines.verzeichnis.isSharedWith(verzeichnis);
     });
-    alle.append({verzeichnis, stempelVon(path), gelungen ? QDateTime() : m_uhr()});
+    alle.append({verzeichnis, Dateistempel::von(path), gelungen ? QDateTime() : m_uhr()});
 }
 
 Dateihueter::Versuch Dateihueter::versuche(const QString &path,

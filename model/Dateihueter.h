@@ -1,6 +1,7 @@
 #pragma once
 
 #include "Archivdatei.h"
+#include "Dateistempel.h"
 #include "Sicherungen.h"
 
 #include <QDateTime>
@@ -8,7 +9,6 @@
 #include <QList>
 #include <QObject>
 
-#include <ctime>
 #include <functional>
 #include <optional>
 
@@ -85,22 +85,11 @@ Q_SIGNALS:
     void geschrieben(const QString &path, const Lebensmittelverzeichnis &verzeichnis);
 
 private:
-    /// What tells one state of a file from another without reading it.
-    struct Stempel
-    {
-        quint64 geraet;
-        quint64 nummer; ///< every rewriting gives the file another one
-        qint64 groesse;
-        timespec geaendert;
-
-        bool operator==(const Stempel &anderer) const;
-    };
-
     /// A store that was last asked to be held, and what came of it.
     struct Gehaltenes
     {
         Lebensmittelverzeichnis verzeichnis; ///< shares its data with the store until that changes
-        std::optional<Stempel> stempel;      ///< of what is at the path; absent when nothing is
+        std::optional<Dateistempel> stempel; ///< of what is at the path; absent when nothing is
         QDateTime misslungen;                ///< when it could not be written; null when it was
     };
 
@@ -119,7 +108,6 @@ private:
         Sicherungen::Beiseitegelegtes beiseite;
     };
 
-    static std::optional<Stempel> stempelVon(const QString &path);
     bool mussGehaltenWerden(const QString &path, const Lebensmittelverzeichnis &verzeichnis) const;
     void merkeGehaltenes(const QString &path, const Lebensmittelverzeichnis &verzeichnis,
                          bool gelungen);

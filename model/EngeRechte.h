@@ -1,5 +1,7 @@
 #pragma once
 
+#include <QString>
+
 #include <sys/stat.h>
 
 /// As long as one of these lives, what the program makes is for its user alone: 0600 for files,
@@ -16,3 +18,7 @@ public:
 private:
     mode_t m_vorher;
 };
+
+/// Takes from a file what others than its user may do with it. What its user may not do stays
+/// forbidden; what is no file, or not the user's, stays as it is.
+void verenge(const QString &path);

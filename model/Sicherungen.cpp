@@ -1,6 +1,7 @@
 #include "Sicherungen.h"
 
 #include "Dateiwechsel.h"
+#include "EngeRechte.h"
 
 #include <QDir>
 #include <QFile>
@@ -107,6 +108,32 @@ bool benenneUm(const QString &von, const QString &nach)
            0;
 }
 
+/// What is put aside once more counts as new: under its old date it would soon be the oldest copy
+/// and go, and no other one has what is replaced now. Returns where it is then.
+QString erneuere(const Beiseiteliegendes &frueheres, const QString &kopie, const QDateTime &jetzt)
+{
+    const bool aelter = frueheres.moment < jetzt.toString(momentform);
+    const bool erneuert = aelter && !QFileInfo::exists(kopie) && benenneUm(frueheres.path, kopie);
+    return erneuert ? kopie : frueheres.path;
+}
+
+/// The largest store among what was put aside. What can't be read counts only when there is none:
+/// it may be as large as it likes and hold nothing.
+QString groesstes(const QList<Beiseiteliegendes> &alle)
+{
+    QStringList pfade;
+    for (const Beiseiteliegendes &eines : alle) {
+        pfade << eines.path;
+    }
+    std::stable_sort(pfade.begin(), pfade.end(), [](const QString &a, const QString &b) {
+        return QFileInfo(a).size() > QFileInfo(b).size();
+    });
+    const auto bestand = std::find_if(pfade.begin(), pfade.end(), [](const QString &path) {
+        return Archivdatei::lesen(path).zustand == Archivdatei::Zustand::Gelesen;
+    });
+    return bestand != pfade.end() ? *bestand : pfade.value(0);
+}
+
 } // namespace
 
 QList<Sicherung> tage(const QString &path)
@@ -142,6 +169,14 @@ QList<Sicherung> alle(const QString &path)
     return kopien;
 }
 
+void verengeAlle(const QString &path)
+{
+    verenge(Dateiwechsel::ziel(path));
+    for (const Sicherung &eine : alle(path)) {
+        verenge(eine.path);
+    }
+}
+
 bool sichereTag(const QString &path, const QByteArray &bytes, const QDateTime &geaendert)
 {
     const Name name(path);
@@ -175,12 +210,15 @@ Beiseitegelegtes legeBeiseite(const QString &path, const Archivdatei::Rohdaten &
     const Name name(path);
     const QString kopie = freierName(name, jetzt);
     if (vorher.zustand == Archivdatei::Zustand::Unlesbar) {
-        const bool frei = !QFileInfo::exists(kopie) && benenneUm(Dateiwechsel::ziel(path), kopie);
-        return frei ? Beiseitegelegtes{Wie::Verschoben, kopie} : Beiseitegelegtes();
+        if (QFileInfo::exists(kopie) || !benenneUm(Dateiwechsel::ziel(path), kopie)) {
+            return {};
+        }
+        verenge(kopie);
+        return {Wie::Verschoben, kopie};
     }
     for (const Beiseiteliegendes &frueheres : beiseiteliegende(name)) {
         if (enthaelt(frueheres.path, vorher.bytes)) {
-            return {Wie::Frueher, frueheres.path};
+            return {Wie::Frueher, erneuere(frueheres, kopie, jetzt)};
         }
     }
     Dateiwechsel neu(kopie);
@@ -208,13 +246,13 @@ void nimmZurueck(const QString &path, const Beiseitegelegtes &beiseite)
 void begrenze(const QString &path, const Beiseitegelegtes &beiseite)
 {
     const QList<Beiseiteliegendes> alle = beiseiteliegende(Name(path));
-    const auto kleiner = [](const Beiseiteliegendes &a, const Beiseiteliegendes &b) {
-        return QFileInfo(a.path).size() < QFileInfo(b.path).size();
-    };
-    const auto groesstes = std::max_element(alle.begin(), alle.end(), kleiner);
     qsizetype zuViele = alle.size() - meisteKopien;
+    if (zuViele <= 0) {
+        return;
+    }
+    const QString bleibendes = groesstes(alle);
     for (auto eines = alle.begin(); eines != alle.end() && zuViele > 0; ++eines) {
-        if (eines != groesstes && eines->path != beiseite.path) {
+        if (eines->path != bleibendes && eines->path != beiseite.path) {
             QFile::remove(eines->path);
             --zuViele;
         }

@@ -29,6 +29,10 @@ QList<Sicherung> tage(const QString &path);
 /// All copies of a file, the newest first; that of a day comes before what was put aside on it.
 QList<Sicherung> alle(const QString &path);
 
+/// Makes sure that a file and its copies are readable by the user alone: earlier versions left them
+/// as open as they were.
+void verengeAlle(const QString &path);
+
 /// Keeps the content of a file under the day of its last change, in a copy like
 /// "Sicherungen/Foods 2026-11-20.daten". Of two states of one day the later one stays. False when
 /// that could not be done.
@@ -39,7 +43,7 @@ struct Beiseitegelegtes
 {
     enum class Wie {
         Garnicht, ///< it could not be kept
-        Frueher,  ///< there is a copy of the same bytes already
+        Frueher,  ///< there was a copy of the same bytes already; it counts as new now
         Kopiert,
         Verschoben, ///< it could not be read; the path is free now
     };

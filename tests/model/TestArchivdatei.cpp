@@ -41,6 +41,9 @@ private Q_SLOTS:
     void writingFails();
     void aFullDiskLeavesTheOldFile();
     void aReadOnlyFolderLeavesTheOldFile();
+    void whatComesMeanwhileIsSeen_data();
+    void whatComesMeanwhileIsSeen();
+    void whatIsWrittenAgainAndAgainStays();
 
 private:
     QString path(const char *name) const { return m_ordner->filePath(QString::fromUtf8(name)); }
@@ -327,6 +330,77 @@ void TestArchivdatei::aReadOnlyFolderLeavesTheOldFile()
     }
     QCOMPARE(chmod(ordner.constData(), 0700), 0);
     QCOMPARE(leseRoh(ort), beispielBytes());
+    QCOMPARE(dateien(), QStringList(QStringLiteral("Eigene.daten")));
+}
+
+void TestArchivdatei::whatComesMeanwhileIsSeen_data()
+{
+    QTest::addColumn<QByteArray>("vorher");
+    QTest::addColumn<QByteArray>("inzwischen");
+    QTest::addColumn<bool>("alsNeueDatei");
+    const QByteArray erste = "das Erste";
+    QTest::newRow("a longer one, written into the file")
+        << erste << QByteArray("ein anderes") << false;
+    QTest::newRow("another file of the same size and date")
+        << erste << QByteArray("ein neues") << true;
+    QTest::newRow("none any more") << erste << QByteArray() << false;
+    QTest::newRow("one where none was") << QByteArray() << QByteArray("ein neues") << true;
+}
+
+/// While the file is being replaced, another program writes there.
+void TestArchivdatei::whatComesMeanwhileIsSeen()
+{
+    QFETCH(QByteArray, vorher);
+    QFETCH(QByteArray, inzwischen);
+    QFETCH(bool, alsNeueDatei);
+    const QString ort = path("Eigene.daten");
+    const auto lege = [&](const QString &name, const QByteArray &bytes) {
+        schreibeRoh(name, bytes);
+        QFile datei(name);
+        QVERIFY(datei.open(QIODevice::ReadWrite));
+        QVERIFY(datei.setFileTime(moment, QFileDevice::FileModificationTime));
+    };
+    if (!vorher.isEmpty()) {
+        lege(ort, vorher);
+    }
+    QList<QByteArray> gesehenes;
+    const auto bewahre = [&](const Archivdatei::Rohdaten &alt) {
+        gesehenes << alt.bytes;
+        if (gesehenes.size() > 1) {
+            return true;
+        }
+        if (alsNeueDatei) {
+            lege(path("anderswo"), inzwischen);
+            QFile::remove(ort);
+            return QFile::rename(path("anderswo"), ort);
+        }
+        if (inzwischen.isEmpty()) {
+            return QFile::remove(ort);
+        }
+        schreibeRoh(ort, inzwischen);
+        return true;
+    };
+    QVERIFY(Archivdatei::schreiben(ort, beispielVerzeichnis(), bewahre));
+    QCOMPARE(gesehenes, QList<QByteArray>({vorher, inzwischen}));
+    QCOMPARE(leseRoh(ort), beispielBytes());
+    QCOMPARE(dateien(), QStringList(QStringLiteral("Eigene.daten")));
+}
+
+void TestArchivdatei::whatIsWrittenAgainAndAgainStays()
+{
+    const QString ort = path("Eigene.daten");
+    schreibeRoh(ort, "x");
+    QByteArray letztes;
+    const auto ausgang =
+        Archivdatei::schreiben(ort, beispielVerzeichnis(), [&](const Archivdatei::Rohdaten &alt) {
+            letztes = alt.bytes + 'x';
+            schreibeRoh(ort, letztes);
+            return true;
+        });
+    QVERIFY(!ausgang);
+    QCOMPARE(ausgang.grund, QStringLiteral("another program is writing it again and again"));
+    QVERIFY(letztes.size() > 2); // it was tried more than once
+    QCOMPARE(leseRoh(ort), letztes);
     QCOMPARE(dateien(), QStringList(QStringLiteral("Eigene.daten")));
 }
 

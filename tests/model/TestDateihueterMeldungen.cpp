@@ -2,6 +2,7 @@
 #include "Dateiprobe.h"
 #include "Stoerung.h"
 
+#include <QRegularExpression>
 #include <QSignalSpy>
 
 #include <memory>
@@ -25,8 +26,20 @@ private Q_SLOTS:
     void aFurtherCopyIsAFurtherReport();
     void eachFileHasItsOwn();
     void theFailedTurnsOfAPlanAreToldOnce();
+    void theLogSaysWhyAFileIsNotRead_data();
+    void theLogSaysWhyAFileIsNotRead();
+    void theLogSaysWhyAFileIsNotWritten();
+    void theLogSaysWhereAFileWasPut();
+    void theLogSaysThatADayHasNoCopy();
 
 private:
+    /// From now on just this is said about the file, to those who look after files.
+    void erwarteImProtokoll(const QString &worte) const
+    {
+        QLoggingCategory::setFilterRules(QStringLiteral("mahlberg.dateien=true"));
+        QTest::failOnWarning(QRegularExpression(QStringLiteral(".*")));
+        QTest::ignoreMessage(QtWarningMsg, qPrintable(m_probe->path() + QLatin1Char(' ') + worte));
+    }
     bool schreibe(int nummer) const
     {
         return m_hueter->schreiben(m_probe->path(), speisen(nummer));
@@ -199,6 +212,63 @@ void TestDateihueterMeldungen::theFailedTurnsOfAPlanAreToldOnce()
     }
     QCOMPARE(stoerung.ausfaelle(), 20);
     QCOMPARE(gemeldet(), QList<Art>{Art::NichtGeschrieben});
+}
+
+void TestDateihueterMeldungen::theLogSaysWhyAFileIsNotRead_data()
+{
+    QTest::addColumn<QByteArray>("inhalt");
+    QTest::addColumn<qint64>("groesse");
+    QTest::addColumn<QString>("worte");
+    const auto row = [](const char *wie, const QByteArray &inhalt, qint64 groesse,
+                        const char *worte) {
+        QTest::newRow(wie) << inhalt << groesse << QString::fromLatin1(worte);
+    };
+    row("over 64 MiB", "x", 64 * 1024 * 1024 + 1, "could not be read it is too large");
+    row("a store without its end", speisebytes(1).chopped(1), speisebytes(1).size() - 1,
+        "holds no store of foods the data end too early");
+    row("a folder", {}, 0, "could not be read it is a folder or a device, not a file");
+}
+
+void TestDateihueterMeldungen::theLogSaysWhyAFileIsNotRead()
+{
+    QFETCH(QByteArray, inhalt);
+    QFETCH(qint64, groesse);
+    QFETCH(QString, worte);
+    if (inhalt.isEmpty()) {
+        QVERIFY(QDir().mkdir(m_probe->path()));
+    } else {
+        m_probe->lege(inhalt);
+        QVERIFY(QFile::resize(m_probe->path(), groesse));
+    }
+    erwarteImProtokoll(worte);
+    m_hueter->lesen(m_probe->path());
+    m_hueter->lesen(m_probe->path()); // said once
+}
+
+void TestDateihueterMeldungen::theLogSaysWhyAFileIsNotWritten()
+{
+    const Stoerung stoerung(Schritt::Schreiben, 0, false, ENOSPC);
+    erwarteImProtokoll(QStringLiteral("could not be written No space left on device"));
+    QVERIFY(!schreibe(1));
+    QVERIFY(!schreibe(2));
+}
+
+void TestDateihueterMeldungen::theLogSaysWhereAFileWasPut()
+{
+    m_probe->lege("zerstört");
+    m_jetzt = QDateTime(QDate(2026, 11, 20), QTime(14, 3, 5));
+    erwarteImProtokoll(QStringLiteral("was put aside ") +
+                       m_probe->path(QStringLiteral("Eigene 2026-11-20 14.03.05.daten")));
+    QVERIFY(schreibe(1));
+}
+
+void TestDateihueterMeldungen::theLogSaysThatADayHasNoCopy()
+{
+    QVERIFY(schreibe(1));
+    m_probe->datiere(m_jetzt.addDays(-1));
+    m_probe->lege("in the way of the folder", QStringLiteral("Sicherungen"));
+    erwarteImProtokoll(QStringLiteral("could not be copied before it was changed"));
+    QVERIFY(schreibe(2));
 }
 
 QTEST_GUILESS_MAIN(TestDateihueterMeldungen)
