@@ -122,8 +122,7 @@ void TestBestandsvergleich::aCopyOfAStoreIsEqual()
     const Lebensmittelverzeichnis eines = {
         {QStringLiteral("A"),
          speise(QStringLiteral("A"), std::numeric_limits<float>::quiet_NaN())}};
-    const Lebensmittelverzeichnis kopie = eines;
-    QVERIFY(vergleiche(eines, kopie).leer());
+    QVERIFY(vergleiche(eines, Lebensmittelverzeichnis(eines)).leer());
     Lebensmittelverzeichnis geaendert = eines;
     geaendert[QStringLiteral("A")].setkal(1);
     QCOMPARE(vergleiche(eines, geaendert).anders, QStringList{QStringLiteral("A")});
