@@ -24,7 +24,7 @@ QLocale zahlenform()
 QString wertText(double zahl, int nachkommastellen)
 {
     constexpr int meisteStellen = 6;
-    const QString text = zahlenform().toString(zahl == 0 ? 0.0 : zahl, 'f', nachkommastellen);
+    QString text = zahlenform().toString(zahl == 0 ? 0.0 : zahl, 'f', nachkommastellen);
     if (zahl == 0 || !std::isfinite(zahl) || zeigtMehrAlsNullen(text)) {
         return text;
     }

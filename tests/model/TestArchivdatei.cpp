@@ -172,7 +172,7 @@ void TestArchivdatei::aHugeFileIsUnreadable()
 {
     QFile datei(path("Eigene.daten"));
     QVERIFY(datei.open(QIODevice::WriteOnly));
-    QVERIFY(datei.resize(64 * 1024 * 1024)); // no more than its size is ever on the disk
+    QVERIFY(datei.resize(qint64(64) * 1024 * 1024)); // no more than its size is ever on the disk
     QVERIFY(Archivdatei::lesen(datei.fileName()).zustand == Zustand::Beschaedigt);
     QVERIFY(datei.resize(64 * 1024 * 1024 + 1));
     const auto inhalt = Archivdatei::lesen(datei.fileName());
@@ -185,7 +185,7 @@ void TestArchivdatei::whatIsTooLargeToBeReadIsNotWritten()
 {
     schreibeRoh(path("Eigene.daten"), beispielBytes());
     Datenmodul riese;
-    riese.setgicht(QString(64 * 1024 * 1024, QLatin1Char('x')));
+    riese.setgicht(QString(qsizetype(64) * 1024 * 1024, QLatin1Char('x')));
     const auto ausgang =
         Archivdatei::schreiben(path("Eigene.daten"), {{QStringLiteral("Riese"), riese}});
     QVERIFY(!ausgang);

@@ -37,7 +37,7 @@ private:
     Beiseitegelegtes lege(const QByteArray &bytes, const QDateTime &jetzt) const
     {
         m_probe->lege(bytes);
-        const Beiseitegelegtes eines = Sicherungen::legeBeiseite(
+        Beiseitegelegtes eines = Sicherungen::legeBeiseite(
             m_probe->path(), Archivdatei::leseBytes(m_probe->path()), jetzt);
         Sicherungen::begrenze(m_probe->path(), eines);
         return eines;
@@ -46,7 +46,7 @@ private:
     {
         for (int i = 0; i < anzahl; ++i) {
             QVERIFY(lege("Rest " + jetzt.toString().toUtf8() + QByteArray::number(i),
-                         jetzt.addSecs(60 * i))
+                         jetzt.addSecs(qint64(60) * i))
                         .wie == Wie::Kopiert);
         }
     }
