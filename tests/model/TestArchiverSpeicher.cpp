@@ -113,7 +113,7 @@ void TestArchiverSpeicher::sharedRows()
     };
     zeile("shared foods", geteilt);
     zeile("shared foods, as many as the bytes behind them allow", geteilt, 9'000,
-          QByteArray(9'000 * 41, 'x'));
+          QByteArray(qsizetype(9'000) * 41, 'x'));
     zeile("one name for all of them", [](int) { return QByteArray("\x92\x96\x92\x98", 4); });
 }
 

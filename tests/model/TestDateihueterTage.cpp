@@ -86,12 +86,12 @@ void TestDateihueterTage::aDayIsKeptAsItEnded()
 void TestDateihueterTage::theLastTenDaysStay()
 {
     for (int tag = 0; tag < 15; ++tag) {
-        arbeite(erster.addDays(2 * tag), {tag});
+        arbeite(erster.addDays(qint64(2) * tag), {tag});
     }
     const auto tage = Dateihueter().sicherungen(m_probe->path());
     QCOMPARE(tage.size(), 10);
     for (int i = 0; i < 10; ++i) {
-        QCOMPARE(tage[i].tag, erster.addDays(2 * (13 - i)));
+        QCOMPARE(tage[i].tag, erster.addDays(qint64(2) * (13 - i)));
         QFile kopie(tage[i].path);
         QVERIFY(kopie.open(QIODevice::ReadOnly));
         QCOMPARE(kopie.readAll(), speisebytes(13 - i));
@@ -106,7 +106,7 @@ void TestDateihueterTage::eachFileHasItsOwn()
         arbeite(erster.addDays(tag), {tag});
         Dateihueter hueter;
         const QDateTime jetzt(erster.addDays(tag), QTime(9, 0));
-        hueter.setUhr([jetzt] { return jetzt; });
+        hueter.setUhr([jetzt] { return QDateTime(jetzt); });
         hueter.lesen(plan);
         QVERIFY(hueter.schreiben(plan, speisen(100 + tag)));
         m_probe->datiere(jetzt, QStringLiteral("Eigene Plan.daten"));
