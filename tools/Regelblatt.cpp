@@ -6,18 +6,17 @@ namespace {
 
 using namespace Qt::StringLiterals;
 
-constexpr std::array<std::pair<Merkmal, const char *>, 11> merkmalsnamen = {{
+constexpr std::array<std::pair<Merkmal, const char *>, 10> merkmalsnamen = {{
     {Merkmal::Getraenk, "drink"},
     {Merkmal::Fluessig, "liquid"},
     {Merkmal::Gewuerz, "seasoning"},
-    {Merkmal::Tierisch, "meat or fish"},
+    {Merkmal::Pflanzlich, "plant purines"},
+    {Merkmal::RotesFleisch, "red meat or sausage"},
     {Merkmal::Fettquelle, "recommended fat"},
     {Merkmal::Beilage, "salted by its cooking water"},
     {Merkmal::Milchzucker, "its own sugar is lactose"},
-    {Merkmal::Bier, "beer"},
+    {Merkmal::Koffein, "soft drink with caffeine"},
     {Merkmal::Zuckerarm, "low in free sugars"},
-    {Merkmal::PurinMittel, "moderate in purines"},
-    {Merkmal::PurinHoch, "high in purines"},
 }};
 
 QStringList worte(Merkmale merkmale, const QString &davor)
@@ -29,19 +28,6 @@ QStringList worte(Merkmale merkmale, const QString &davor)
         }
     }
     return liste;
-}
-
-QString wort(Purinklasse klasse)
-{
-    switch (klasse) {
-    case Purinklasse::Niedrig:
-        return u"low"_s;
-    case Purinklasse::Mittel:
-        return u"moderate"_s;
-    case Purinklasse::Hoch:
-        return u"high"_s;
-    }
-    return {};
 }
 
 QString tabellenzeile(const QStringList &zellen)
@@ -63,7 +49,7 @@ QString Regelblatt::bedingungen(const Wertungsregel &regel)
     for (const Bedingung &bedingung : regel.bedingungen) {
         const auto &groesse = groessen[static_cast<std::size_t>(bedingung.groesse)];
         teile.append(u"%1 %2 %3 %4"_s.arg(
-            QLatin1String(groesse.name), vergleichswort(bedingung.vergleich),
+            groesse.name.in(Regelsprache::Englisch), vergleichswort(bedingung.vergleich),
             QString::number(bedingung.grenze), QLatin1String(groesse.einheit)));
     }
     return teile.isEmpty() ? u"always"_s : teile.join(u", ");
@@ -82,7 +68,7 @@ QStringList Regelblatt::regeltabelle(Wertung wertung, const Regelwerk &regeln)
             schluessel.append(QLatin1String(einer));
         }
         zeilen.append(tabellenzeile({QLatin1String(regel.kennung), QLatin1String(regel.urteil),
-                                     bedingungen(regel), QString::fromUtf8(regel.satz),
+                                     bedingungen(regel), regel.satz.in(Regelsprache::Englisch),
                                      schluessel.join(u", ")}));
     }
     return zeilen;
@@ -90,12 +76,11 @@ QStringList Regelblatt::regeltabelle(Wertung wertung, const Regelwerk &regeln)
 
 QStringList Regelblatt::gruppentabelle()
 {
-    QStringList zeilen = {u"| food group | purines | own sugars | marks |"_s,
-                          u"|---|---|---|---|"_s};
+    QStringList zeilen = {u"| food group | own sugars | marks |"_s, u"|---|---|---|"_s};
     for (const Lebensmittelgruppe &gruppe : lebensmittelgruppen()) {
-        zeilen.append(tabellenzeile({QString::fromUtf8(gruppe.name), wort(gruppe.purin),
-                                     eigenerZucker(gruppe.eigenerZucker),
-                                     worte(gruppe.merkmale, QString()).join(u", ")}));
+        zeilen.append(
+            tabellenzeile({QString::fromUtf8(gruppe.name), eigenerZucker(gruppe.eigenerZucker),
+                           worte(gruppe.merkmale, QString()).join(u", ")}));
     }
     return zeilen;
 }

@@ -135,8 +135,9 @@ Beanstandungen grenzenPruefen(const Tabellenzeile &zeile)
     if (zeile.quelle.isEmpty()) {
         beanstanden(u"mark"_s, u"the source's id is missing"_s);
     }
-    const bool markiert = zeile.purin || zeile.zuckerart != Zuckerart::Ueblich ||
-                          zeile.verzehrfertig > 100 || !zeile.ausnahmen.isEmpty();
+    const bool markiert = zeile.purinklasse || zeile.merkmale ||
+                          zeile.zuckerart != Zuckerart::Ueblich || zeile.verzehrfertig > 100 ||
+                          !zeile.ausnahmen.isEmpty();
     if (markiert && zeile.notiz.isEmpty()) {
         beanstanden(u"mark"_s, u"a mark or an exception needs its reason in the note"_s);
     }
@@ -183,7 +184,9 @@ bool gleichesLebensmittel(const Tabellenzeile &a, const Tabellenzeile &b)
 {
     return a.gruppe == b.gruppe && a.quelle == b.quelle && a.werte == b.werte &&
            a.zucker == b.zucker && a.gesaettigt == b.gesaettigt && a.alkohol == b.alkohol &&
-           a.verzehrfertig == b.verzehrfertig && a.purin == b.purin && a.zuckerart == b.zuckerart;
+           a.verzehrfertig == b.verzehrfertig && a.harnsaeure == b.harnsaeure &&
+           a.purinherkunft == b.purinherkunft && a.purinklasse == b.purinklasse &&
+           a.merkmale == b.merkmale && a.zuckerart == b.zuckerart;
 }
 
 Beanstandungen synonyme(const Tabelle &tabelle)

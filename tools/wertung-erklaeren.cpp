@@ -2,7 +2,7 @@
 
 #include "Kommandozeile.h"
 #include "Regelblatt.h"
-#include "Wertungsregeln.h"
+#include "Wertungserklaerung.h"
 
 #include <QCoreApplication>
 
@@ -39,16 +39,18 @@ std::optional<Auftrag> auftrag(QStringList argumente)
     return ergebnis;
 }
 
-void regelErklaeren(const Wertungsregel &regel, const Wertungsgroessen &food)
+void wertungErklaeren(Wertung wertung, const Tabellenzeile &zeile)
 {
     using Kommandozeile::drucken;
-    drucken(u"%1: \"%2\" by rule %3. %4"_s.arg(
-        QString::fromUtf8(beschreibung(regel.wertung).bezeichnung), QLatin1String(regel.urteil),
-        QLatin1String(regel.kennung), QString::fromUtf8(regel.satz)));
-    for (const QString &teil : begruendung(regel, food)) {
-        drucken(u"    "_s + teil);
+    const Wertungserklaerung erklaerung(wertung, zeile, Regelsprache::Englisch, QLocale::c());
+    const QStringList zeilen = erklaerung.zeilen();
+    for (const QString &eine : zeilen) {
+        drucken((&eine == &zeilen.first() ? QString() : u"    "_s) + eine);
     }
-    for (const char *const schluessel : regel.quellen) {
+    if (erklaerung.regel() == nullptr) {
+        return;
+    }
+    for (const char *const schluessel : erklaerung.regel()->quellen) {
         if (const Quelle *const eine = quelle(schluessel)) {
             drucken(
                 u"    [%1] %2"_s.arg(QLatin1String(schluessel), QString::fromUtf8(eine->angabe)));
@@ -64,11 +66,12 @@ void erklaeren(const Tabellenzeile &zeile)
     if (!zeile.notiz.isEmpty()) {
         drucken(u"Note: "_s + zeile.notiz);
     }
-    const Wertungsgroessen food = wertungsgroessen(zeile);
+    if (zeile.harnsaeure) {
+        drucken(u"Purines: %1 mg uric acid, from %2 [%3]"_s.arg(*zeile.harnsaeure)
+                    .arg(zeile.purinherkunft, zeile.purinquellen));
+    }
     for (const auto &wertung : wertungen) {
-        if (const auto *regel = entscheidendeRegel(wertung.wertung, food)) {
-            regelErklaeren(*regel, food);
-        }
+        wertungErklaeren(wertung.wertung, zeile);
     }
 }
 

@@ -1,13 +1,13 @@
 #pragma once
 
 #include "Tabellenzeile.h"
+#include "Zweisprachig.h"
 
 #include <array>
 
 /// What a rating rule can ask for in figures, per 100 g ready to eat.
 enum class Groesse {
     Energie,                     ///< kcal
-    Protein,                     ///< g
     Fett,                        ///< g
     Gesaettigt,                  ///< saturated fat, g
     GesaettigtAnteil,            ///< saturated fat in percent of fat
@@ -21,14 +21,15 @@ enum class Groesse {
     Cholesterin,                 ///< mg
     Natrium,                     ///< mg
     Alkohol,                     ///< g
+    Harnsaeure,                  ///< uric acid from purines, mg
 };
-inline constexpr std::size_t anzahlGroessen = static_cast<std::size_t>(Groesse::Alkohol) + 1;
+inline constexpr std::size_t anzahlGroessen = static_cast<std::size_t>(Groesse::Harnsaeure) + 1;
 
 /// How a figure is called and counted where a rating is explained.
 struct Groessenbeschreibung
 {
     Groesse groesse;
-    const char *name; ///< English
+    Zweisprachig name;
     const char *einheit;
 };
 
@@ -40,9 +41,15 @@ struct Wertungsgroessen
 {
     std::array<double, anzahlGroessen> zahlen = {};
     Merkmale merkmale;
+    /// Stands for the uric acid where nobody published a figure; that then has no meaning of its
+    /// own.
+    std::optional<Purinklasse> purinklasse;
 
     double zahl(Groesse groesse) const { return zahlen[static_cast<std::size_t>(groesse)]; }
 };
+
+/// The most free sugars, in g per 100 g, of a food that is low in them: liquids may hold less.
+double zuckerarmgrenze(Merkmale merkmale);
 
 /// Works out what the rules ask for from a line of the table.
 Wertungsgroessen wertungsgroessen(const Tabellenzeile &zeile);

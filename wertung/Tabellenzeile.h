@@ -10,11 +10,18 @@
 #include <array>
 #include <optional>
 
+/// How rich in purines a food is for which nobody published a figure, in milligrams of uric acid
+/// that 100 g give.
+enum class Purinklasse {
+    Niedrig, ///< up to 50 mg
+    Mittel,  ///< 50 to 150 mg
+    Hoch,    ///< more than 150 mg
+};
+
 /// What kind of sugar a food holds, where that is not the usual half of fructose.
 enum class Zuckerart {
-    Ueblich,           ///< about half of the sugars is fructose
-    OhneFruktose,      ///< glucose or lactose only
-    AlleKohlenhydrate, ///< the source gives no sugars; all carbohydrate is sugar
+    Ueblich,      ///< about half of the sugars is fructose
+    OhneFruktose, ///< glucose or lactose only
 };
 
 /// One line of the food table: a food with its figures per 100 g, and what rating and checking it
@@ -32,11 +39,18 @@ struct Tabellenzeile
     double alkohol = 0;    ///< g
     /// Grams ready to eat that 100 g give: more than 100 for what is cooked in water or dissolved.
     double verzehrfertig = 100;
-    std::optional<Purinklasse> purin; ///< where the group's class does not fit
+    std::optional<double> harnsaeure; ///< mg uric acid that the purines of 100 g give
+    QString purinquellen;             ///< keys of the publications, parted by blanks
+    /// What of which published foods 100 g hold, such as "40 Linsen, getrocknet + 10 Zwiebel"; a
+    /// food alone stands for 100 g of it.
+    QString purinherkunft;
+    std::optional<Purinklasse> purinklasse; ///< only where there is no figure
+    Merkmale merkmale;                      ///< those of this food beside its group's
     Zuckerart zuckerart = Zuckerart::Ueblich;
     QString synonymVon; ///< German name of the entry that is the same food; empty for a food's own
     QStringList ausnahmen; ///< checks that this food may fail, for the reason in `notiz`
     QString notiz;
+    QString pruefzeichen; ///< the seal of the line, see `Siegel`
 
     double wert(Naehrwert wert) const { return werte[stelle(wert)]; }
 };

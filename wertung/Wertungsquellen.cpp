@@ -6,6 +6,7 @@
 const std::vector<Quelle> &quellen()
 {
     static const std::vector<Quelle> liste = {
+        {"Own", "Mahlberg's own limit; the page says why."},
         {"WHO-2012", "WHO. Guideline: Sodium intake for adults and children. Geneva: World Health "
                      "Organization, 2012."},
         {"WHO-2015", "WHO. Guideline: Sugars intake for adults and children. Geneva: World Health "
@@ -34,15 +35,6 @@ const std::vector<Quelle> &quellen()
          "Diabetes and Nutrition Study Group of the European Association for the Study "
          "of Diabetes. Evidence-based European recommendations for the dietary "
          "management of diabetes. Diabetologia 2023; 66: 965-985."},
-        {"ADA-2024", "American Diabetes Association Professional Practice Committee. Facilitating "
-                     "Positive Health Behaviors and Well-being to Improve Health Outcomes: "
-                     "Standards of Care in Diabetes 2024. Diabetes Care 2024; 47 (Suppl 1): "
-                     "S77-S110."},
-        {"SFK-2016", "Souci SW, Fachmann W, Kraut H. Food Composition and Nutrition Tables. 8th "
-                     "edition. Stuttgart: MedPharm, 2016."},
-        {"Kaneko-2014", "Kaneko K et al. Total purine and purine base content of common foodstuffs "
-                        "for facilitating nutritional therapy for gout and hyperuricemia. "
-                        "Biological and Pharmaceutical Bulletin 2014; 37: 709-721."},
         {"EULAR-2016",
          "Richette P et al. 2016 updated EULAR evidence-based recommendations for the "
          "management of gout. Annals of the Rheumatic Diseases 2017; 76: 29-42."},
@@ -52,13 +44,46 @@ const std::vector<Quelle> &quellen()
                       "gout in men. New England Journal of Medicine 2004; 350: 1093-1103."},
         {"Choi-2008", "Choi HK, Curhan G. Soft drinks, fructose consumption, and the risk of gout "
                       "in men: prospective cohort study. BMJ 2008; 336: 309-312."},
-        {"ESC-2021", "Visseren FLJ et al. 2021 ESC Guidelines on cardiovascular disease prevention "
-                     "in clinical practice. European Heart Journal 2021; 42: 3227-3337."},
-        {"ESC-EAS-2019", "Mach F et al. 2019 ESC/EAS Guidelines for the management of "
-                         "dyslipidaemias. European Heart Journal 2020; 41: 111-188."},
-        {"DGE-2024", "Richter M et al. Alkohol: Zufuhr in Deutschland, gesundheitliche sowie "
-                     "soziale Folgen und Ableitung von Handlungsempfehlungen. Position of the "
-                     "Deutsche Gesellschaft für Ernährung. Ernährungs Umschau 2024; 71."},
+        {"DGE-2024", "Deutsche Gesellschaft für Ernährung. Food-based recommendations of 2024: at "
+                     "most 300 g of meat and sausage a week."},
+        {"DGE-Alkohol-2024",
+         "Richter M et al. Alkohol: Zufuhr in Deutschland, gesundheitliche sowie soziale Folgen "
+         "und Ableitung von Handlungsempfehlungen. Position of the Deutsche Gesellschaft für "
+         "Ernährung. Ernährungs Umschau 2024; 71."},
+        {"ACU", "Table \"Total purines in mg uric acid/100 g\", as published by acumedico.com and "
+                "by https://eatoutwithgout.com/purine-and-gout-printable-gout-food-list/"},
+        {"ZH", "zeit-heute.de. Tabellen und Listen zur Orientierung. "
+               "https://zeit-heute.de/tabellen-und-listen-zur-orientierung/amp"},
+        {"FH", "FoodHealth.info. Purine food sources. http://foodhealth.info/purine/"},
+        {"MV",
+         "mensvita.de. Besondere Ernährung bei Gicht. "
+         "https://www.mensvita.de/lifestyle/ernaehrung/diaet/besondere-ernaehrung-bei-gicht/"},
+        {"USDA23", "USDA and ODS-NIH Database for the Purine Content of Foods. US Department of "
+                   "Agriculture, 2023. It cites the laboratories that follow."},
+        {"BRU88", "Brulé D et al. Purine content of selected Canadian food products. Journal of "
+                  "Food Composition and Analysis 1988; 1: 130-138."},
+        {"CLI76", "Clifford AJ, Story DL. Levels of purines in foods and their metabolic effects "
+                  "in rats. Journal of Nutrition 1976; 106: 435-442."},
+        {"FUK13",
+         "Fukuuchi T et al. Purine content of beer. Analytical Sciences 2013; 29: 511-517."},
+        {"HAV10", "Havlik J et al. Dietary purines in vegetarian meat analogues. Journal of the "
+                  "Science of Food and Agriculture 2010; 90: 2352-2357."},
+        {"KAN08", "Kaneko K et al. Nucleosides, Nucleotides and Nucleic Acids 2008; 27: 628-630."},
+        {"KAN09", "Kaneko K et al. Purine contents of alcoholic beverages. Biomedical "
+                  "Chromatography 2009; 23: 858-864."},
+        {"KAN14", "Kaneko K et al. Total purine and purine base content of common foodstuffs for "
+                  "facilitating nutritional therapy for gout and hyperuricemia. Biological and "
+                  "Pharmaceutical Bulletin 2014; 37: 709-721."},
+        {"KAN20", "Kaneko K et al. Purine content of 80 food products. Nucleosides, Nucleotides "
+                  "and Nucleic Acids 2020; 39: 1449-1457."},
+        {"KLA02", "Klampfl CW et al. Purines and pyrimidines in beer. Analytica Chimica Acta 2002; "
+                  "454: 185-191."},
+        {"QU17", "Qu X et al. Purines in seafood. Journal of the Science of Food and Agriculture "
+                 "2017; 97: 520-525."},
+        {"SAR85", "Sarwar G et al. 1985, purines of minced turkey, as the USDA cites it."},
+        {"YOU80", "Young LL. 1980, purines of poultry, as the USDA cites it."},
+        {"YOU82", "Young LL. 1982, purines of cooked poultry, as the USDA cites it."},
+        {"YOU83", "Young LL. 1983, purines of poultry, as the USDA cites it."},
     };
     return liste;
 }

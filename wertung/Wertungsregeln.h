@@ -24,8 +24,8 @@ struct Wertungsregel
 {
     const char *kennung; ///< such as "G2"
     Wertung wertung;
-    const char *urteil;                ///< "+", "0" or "-"
-    const char *satz;                  ///< English
+    const char *urteil; ///< "+", "0" or "-"
+    Zweisprachig satz;
     std::vector<const char *> quellen; ///< keys of `quellen()`
     Merkmale verlangt;
     Merkmale verboten;
@@ -60,7 +60,7 @@ const Wertungsregel *entscheidendeRegel(Wertung wertung, const Wertungsgroessen 
                                         const Regelwerk &regeln = wertungsregeln());
 
 /// How a comparison is said: "less than", "at most", "at least", "over".
-QString vergleichswort(Vergleich vergleich);
+QString vergleichswort(Vergleich vergleich, Regelsprache sprache = Regelsprache::Englisch);
 
-/// A rule's figures as they are for a food, such as "energy 42 kcal (over 20)".
-QStringList begruendung(const Wertungsregel &regel, const Wertungsgroessen &food);
+/// Whether a figure keeps to a condition.
+bool haelt(const Bedingung &bedingung, const Wertungsgroessen &food);

@@ -20,9 +20,10 @@ const QStringList &vorneweg()
 
 const QStringList &hinterher()
 {
-    static const QStringList namen = {u"sugars"_s,  u"saturated"_s, u"alcohol"_s,
-                                      u"ready_g"_s, u"purine"_s,    u"sugar_kind"_s,
-                                      u"synonym"_s, u"exception"_s, u"note"_s};
+    static const QStringList namen = {
+        u"sugars"_s,      u"saturated"_s,   u"alcohol"_s,      u"ready_g"_s, u"uric_acid"_s,
+        u"purine_keys"_s, u"purine_from"_s, u"purine_class"_s, u"marks"_s,   u"sugar_kind"_s,
+        u"synonym"_s,     u"exception"_s,   u"note"_s,         u"check"_s};
     return namen;
 }
 
@@ -38,6 +39,7 @@ public:
 private:
     QString text() { return m_felder.at(m_feld++); }
     double zahl();
+    std::optional<double> freieZahl();
     template <typename Wert>
     Wert auswahl(const QList<std::pair<QString, Wert>> &moeglich);
 
@@ -58,6 +60,16 @@ double Zeilenleser::zahl()
         return 0;
     }
     return wert;
+}
+
+/// A number that may be left out.
+std::optional<double> Zeilenleser::freieZahl()
+{
+    if (m_felder.at(m_feld).isEmpty()) {
+        ++m_feld;
+        return std::nullopt;
+    }
+    return zahl();
 }
 
 template <typename Wert>
@@ -90,21 +102,24 @@ QStringList Zeilenleser::lesen()
     for (double *wert : {&m_ziel.zucker, &m_ziel.gesaettigt, &m_ziel.alkohol}) {
         *wert = zahl();
     }
-    if (m_felder.at(m_feld).isEmpty()) {
-        ++m_feld;
-    } else {
-        m_ziel.verzehrfertig = zahl();
-    }
-    m_ziel.purin = auswahl<std::optional<Purinklasse>>({{QString(), std::nullopt},
-                                                        {u"low"_s, Purinklasse::Niedrig},
-                                                        {u"moderate"_s, Purinklasse::Mittel},
-                                                        {u"high"_s, Purinklasse::Hoch}});
-    m_ziel.zuckerart = auswahl<Zuckerart>({{QString(), Zuckerart::Ueblich},
-                                           {u"no fructose"_s, Zuckerart::OhneFruktose},
-                                           {u"all carbohydrate"_s, Zuckerart::AlleKohlenhydrate}});
+    m_ziel.verzehrfertig = freieZahl().value_or(m_ziel.verzehrfertig);
+    m_ziel.harnsaeure = freieZahl();
+    m_ziel.purinquellen = text();
+    m_ziel.purinherkunft = text();
+    m_ziel.purinklasse = auswahl<std::optional<Purinklasse>>({{QString(), std::nullopt},
+                                                              {u"low"_s, Purinklasse::Niedrig},
+                                                              {u"moderate"_s, Purinklasse::Mittel},
+                                                              {u"high"_s, Purinklasse::Hoch}});
+    m_ziel.merkmale = auswahl<Merkmale>({{QString(), Merkmale()},
+                                         {u"recommended fat"_s, Merkmal::Fettquelle},
+                                         {u"red meat"_s, Merkmal::RotesFleisch},
+                                         {u"caffeine"_s, Merkmal::Koffein}});
+    m_ziel.zuckerart = auswahl<Zuckerart>(
+        {{QString(), Zuckerart::Ueblich}, {u"no fructose"_s, Zuckerart::OhneFruktose}});
     m_ziel.synonymVon = text();
     m_ziel.ausnahmen = text().split(u',', Qt::SkipEmptyParts);
     m_ziel.notiz = text();
+    m_ziel.pruefzeichen = text();
     return m_fehler;
 }
 

@@ -19,17 +19,22 @@ double geteilt(double zaehler, double nenner)
     return zaehler > 0 ? std::numeric_limits<double>::infinity() : 0;
 }
 
-Merkmale purinmerkmal(Purinklasse klasse)
+/// A food without a figure stands in the middle of its class, or above the highest limit, so that
+/// the rules on figures decide for it as well.
+double harnsaeure(const Tabellenzeile &zeile)
 {
-    switch (klasse) {
-    case Purinklasse::Niedrig:
-        break;
-    case Purinklasse::Mittel:
-        return Merkmal::PurinMittel;
-    case Purinklasse::Hoch:
-        return Merkmal::PurinHoch;
+    if (zeile.harnsaeure) {
+        return *zeile.harnsaeure;
     }
-    return {};
+    switch (zeile.purinklasse.value_or(Purinklasse::Niedrig)) {
+    case Purinklasse::Niedrig:
+        return 25;
+    case Purinklasse::Mittel:
+        return 100;
+    case Purinklasse::Hoch:
+        return 200;
+    }
+    return 0;
 }
 
 /// Dairy sugar is lactose, without fructose; whatever fruit and vegetables hold counts in full.
@@ -45,21 +50,23 @@ double fruktosezucker(const Tabellenzeile &zeile, double zucker)
 } // namespace
 
 const std::array<Groessenbeschreibung, anzahlGroessen> groessen = {{
-    {Groesse::Energie, "energy", "kcal"},
-    {Groesse::Protein, "protein", "g"},
-    {Groesse::Fett, "fat", "g"},
-    {Groesse::Gesaettigt, "saturated fat", "g"},
-    {Groesse::GesaettigtAnteil, "saturated part of the fat", "%"},
-    {Groesse::Kohlenhydrate, "available carbohydrate", "g"},
-    {Groesse::KohlenhydrateJeBallaststoff, "carbohydrate for each gram of fibre", "g"},
-    {Groesse::Ballaststoffe, "fibre", "g"},
-    {Groesse::Zucker, "sugars", "g"},
-    {Groesse::FreierZucker, "free sugars", "g"},
-    {Groesse::FreierZuckerAnteil, "energy from free sugars", "%"},
-    {Groesse::Fruktosezucker, "sugars with fructose", "g"},
-    {Groesse::Cholesterin, "cholesterol", "mg"},
-    {Groesse::Natrium, "sodium", "mg"},
-    {Groesse::Alkohol, "alcohol", "g"},
+    {Groesse::Energie, {"Energie", "energy"}, "kcal"},
+    {Groesse::Fett, {"Fett", "fat"}, "g"},
+    {Groesse::Gesaettigt, {"gesättigtes Fett", "saturated fat"}, "g"},
+    {Groesse::GesaettigtAnteil, {"gesättigter Teil des Fetts", "saturated part of the fat"}, "%"},
+    {Groesse::Kohlenhydrate, {"verwertbare Kohlenhydrate", "available carbohydrate"}, "g"},
+    {Groesse::KohlenhydrateJeBallaststoff,
+     {"Kohlenhydrate je Gramm Ballaststoffe", "carbohydrate for each gram of fibre"},
+     "g"},
+    {Groesse::Ballaststoffe, {"Ballaststoffe", "fibre"}, "g"},
+    {Groesse::Zucker, {"Zucker", "sugars"}, "g"},
+    {Groesse::FreierZucker, {"freier Zucker", "free sugars"}, "g"},
+    {Groesse::FreierZuckerAnteil, {"Energie aus freiem Zucker", "energy from free sugars"}, "%"},
+    {Groesse::Fruktosezucker, {"Zucker mit Fruktose", "sugars with fructose"}, "g"},
+    {Groesse::Cholesterin, {"Cholesterin", "cholesterol"}, "mg"},
+    {Groesse::Natrium, {"Natrium", "sodium"}, "mg"},
+    {Groesse::Alkohol, {"Alkohol", "alcohol"}, "g"},
+    {Groesse::Harnsaeure, {"Harnsäure aus Purinen", "uric acid from purines"}, "mg"},
 }};
 
 Wertungsgroessen wertungsgroessen(const Tabellenzeile &zeile)
@@ -73,8 +80,7 @@ Wertungsgroessen wertungsgroessen(const Tabellenzeile &zeile)
     const double fett = wert(Naehrwert::fett);
     const double kohlenhydrate = wert(Naehrwert::kh);
     const double gesaettigt = zeile.gesaettigt * anteil;
-    const double zucker =
-        zeile.zuckerart == Zuckerart::AlleKohlenhydrate ? kohlenhydrate : zeile.zucker * anteil;
+    const double zucker = zeile.zucker * anteil;
     const double frei = std::max(0.0, zucker - zeile.gruppe->eigenerZucker);
 
     Wertungsgroessen ergebnis;
@@ -82,7 +88,6 @@ Wertungsgroessen wertungsgroessen(const Tabellenzeile &zeile)
         ergebnis.zahlen[static_cast<std::size_t>(groesse)] = zahl;
     };
     setzen(Groesse::Energie, energie);
-    setzen(Groesse::Protein, wert(Naehrwert::protein));
     setzen(Groesse::Fett, fett);
     setzen(Groesse::Gesaettigt, gesaettigt);
     setzen(Groesse::GesaettigtAnteil, 100 * geteilt(gesaettigt, fett));
@@ -96,11 +101,16 @@ Wertungsgroessen wertungsgroessen(const Tabellenzeile &zeile)
     setzen(Groesse::Cholesterin, wert(Naehrwert::chol));
     setzen(Groesse::Natrium, wert(Naehrwert::na));
     setzen(Groesse::Alkohol, zeile.alkohol * anteil);
+    // A class speaks of the food as it is eaten already.
+    setzen(Groesse::Harnsaeure, harnsaeure(zeile) * (zeile.harnsaeure ? anteil : 1));
 
-    ergebnis.merkmale =
-        zeile.gruppe->merkmale | purinmerkmal(zeile.purin.value_or(zeile.gruppe->purin));
-    const bool fluessig = ergebnis.merkmale.testFlag(Merkmal::Fluessig);
-    ergebnis.merkmale.setFlag(Merkmal::Zuckerarm,
-                              frei <= (fluessig ? zuckerarmFluessig : zuckerarmFest));
+    ergebnis.purinklasse = zeile.harnsaeure ? std::nullopt : zeile.purinklasse;
+    ergebnis.merkmale = zeile.gruppe->merkmale | zeile.merkmale;
+    ergebnis.merkmale.setFlag(Merkmal::Zuckerarm, frei <= zuckerarmgrenze(ergebnis.merkmale));
     return ergebnis;
+}
+
+double zuckerarmgrenze(Merkmale merkmale)
+{
+    return merkmale.testFlag(Merkmal::Fluessig) ? zuckerarmFluessig : zuckerarmFest;
 }
