@@ -106,11 +106,11 @@ std::vector<Bedingung> erstes(std::vector<Bedingung> liste)
 } // namespace
 
 Wertungserklaerung::Wertungserklaerung(Wertung wertung, const Tabellenzeile &zeile,
-                                       Regelsprache sprache, QLocale zahlen,
+                                       Regelsprache sprache, const QLocale &zahlen,
                                        const Regelwerk &regeln)
     : m_wertung(wertung)
     , m_sprache(sprache)
-    , m_zahlen(std::move(zahlen))
+    , m_zahlen(zahlen)
     , m_verzehrfertig(zeile.verzehrfertig)
     , m_purinquellen(zeile.purinquellen)
     , m_food(wertungsgroessen(zeile))

@@ -12,7 +12,7 @@ public:
     /// Explains the rating that the rules give. `zahlen` writes the figures as the reader is used
     /// to.
     Wertungserklaerung(Wertung wertung, const Tabellenzeile &zeile, Regelsprache sprache,
-                       QLocale zahlen, const Regelwerk &regeln = wertungsregeln());
+                       const QLocale &zahlen, const Regelwerk &regeln = wertungsregeln());
 
     /// The rule that decided; null when none holds, which the build rules out.
     const Wertungsregel *regel() const { return m_regel; }
