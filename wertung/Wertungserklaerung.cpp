@@ -14,6 +14,7 @@ using namespace Qt::StringLiterals;
 constexpr Merkmale ausZahlen = Merkmal::Zuckerarm;
 
 constexpr Zweisprachig hier = {"%1 %2 (hier %3)", "%1 %2 (here %3)"};
+constexpr Zweisprachig keineBallaststoffe = {"keine Ballaststoffe", "no fibre"};
 constexpr Zweisprachig und = {" und ", " and "};
 constexpr Zweisprachig oder = {" oder ", " or "};
 constexpr std::array<Zweisprachig, anzahlWertungen> wertungsnamen = {
@@ -56,22 +57,6 @@ const Zweisprachig &bezeichnung(const char *urteil)
         return bezeichnungen[2];
     default:
         return bezeichnungen[1];
-    }
-}
-
-/// How a share is told of what the food holds nothing of.
-const Zweisprachig &ohneNenner(Groesse groesse)
-{
-    static constexpr Zweisprachig fett = {"kein Fett", "no fat"};
-    static constexpr Zweisprachig energie = {"keine Energie", "no energy"};
-    static constexpr Zweisprachig ballaststoffe = {"keine Ballaststoffe", "no fibre"};
-    switch (groesse) {
-    case Groesse::GesaettigtAnteil:
-        return fett;
-    case Groesse::FreierZuckerAnteil:
-        return energie;
-    default:
-        return ballaststoffe;
     }
 }
 
@@ -273,7 +258,7 @@ QString Wertungserklaerung::figur(const Bedingung &bedingung) const
 {
     const double zahl = m_food.zahl(bedingung.groesse);
     if (std::isinf(zahl)) {
-        return ohneNenner(bedingung.groesse).in(m_sprache);
+        return keineBallaststoffe.in(m_sprache);
     }
     Wertungsgroessen gerundet = m_food;
     double &gezeigt = gerundet.zahlen[static_cast<std::size_t>(bedingung.groesse)];
