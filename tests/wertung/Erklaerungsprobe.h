@@ -15,6 +15,7 @@ using Wertungsprobe::markiert;
 using Wertungsprobe::milch;
 using Wertungsprobe::mitKlasse;
 using Wertungsprobe::nuesse;
+using Wertungsprobe::obst;
 using Wertungsprobe::reis;
 using Wertungsprobe::rind;
 using Wertungsprobe::saft;
@@ -32,36 +33,31 @@ inline void spalten()
 {
     QTest::addColumn<int>("wertung");
     QTest::addColumn<Tabellenzeile>("zeile");
-    QTest::addColumn<QStringList>("deutsch");
-    QTest::addColumn<QStringList>("englisch");
+    QTest::addColumn<QString>("deutsch");
+    QTest::addColumn<QString>("englisch");
 }
 
 /// A data row: a rating of a food, and all lines of its explanation.
 inline void erklaert(const char *name, Wertung wertung, const Tabellenzeile &zeile,
-                     std::initializer_list<const char *> deutsch,
-                     std::initializer_list<const char *> englisch)
+                     const char *deutsch, const char *englisch)
 {
-    const auto zeilen = [](std::initializer_list<const char *> texte) {
-        QStringList liste;
-        for (const char *const text : texte) {
-            liste.append(QString::fromUtf8(text));
-        }
-        return liste;
-    };
-    QTest::newRow(name) << static_cast<int>(wertung) << zeile << zeilen(deutsch)
-                        << zeilen(englisch);
+    QTest::newRow(name) << static_cast<int>(wertung) << zeile << QString::fromUtf8(deutsch)
+                        << QString::fromUtf8(englisch);
 }
 
 inline void pruefen()
 {
     QFETCH(int, wertung);
     QFETCH(Tabellenzeile, zeile);
-    QFETCH(QStringList, deutsch);
-    QFETCH(QStringList, englisch);
-    const auto die = static_cast<Wertung>(wertung);
-    QCOMPARE(Wertungserklaerung(die, zeile, Regelsprache::Deutsch, deutschland).zeilen(), deutsch);
-    QCOMPARE(Wertungserklaerung(die, zeile, Regelsprache::Englisch, QLocale::c()).zeilen(),
-             englisch);
+    QFETCH(QString, deutsch);
+    QFETCH(QString, englisch);
+    const auto text = [&](Regelsprache sprache, const QLocale &zahlen) {
+        return Wertungserklaerung(static_cast<Wertung>(wertung), zeile, sprache, zahlen)
+            .zeilen()
+            .join(u'\n');
+    };
+    QCOMPARE(text(Regelsprache::Deutsch, deutschland), deutsch);
+    QCOMPARE(text(Regelsprache::Englisch, QLocale::c()), englisch);
 }
 
 } // namespace Erklaerungsprobe
