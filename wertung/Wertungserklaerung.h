@@ -12,7 +12,7 @@ public:
     /// Explains the rating that the rules give. `zahlen` writes the figures as the reader is used
     /// to.
     Wertungserklaerung(Wertung wertung, const Tabellenzeile &zeile, Regelsprache sprache,
-                       QLocale zahlen, const Regelwerk &regeln = wertungsregeln());
+                       const QLocale &zahlen, const Regelwerk &regeln = wertungsregeln());
 
     /// The rule that decided; null when none holds, which the build rules out.
     const Wertungsregel *regel() const { return m_regel; }
@@ -21,11 +21,16 @@ public:
     /// what the others leave: the lists below then name the figures that decided.
     QStringList gruende() const { return m_gruende; }
 
-    /// For "0": what the nearest rule for "+" asks for and the food does not keep, such as "energy
-    /// at most 150 kcal (here 176 kcal)".
+    /// For "0": the further rules that give it, each with its figures, since a food is no nearer to
+    /// "+" while they hold.
+    QStringList auchNull() const { return m_auchNull; }
+
+    /// For "0": what the nearest way to "+" asks for and the food does not keep, such as "energy
+    /// at most 150 kcal (here 176 kcal)". Empty where `sonstPlus`.
     QStringList fehltZumPlus() const { return texte(m_fehltZumPlus); }
 
-    /// For "0": whether nothing but the deciding rule keeps the food from "+".
+    /// For "0": whether nothing but the deciding rule and those of `auchNull` keeps the food from
+    /// "+".
     bool sonstPlus() const { return m_sonstPlus; }
 
     /// For a "+" that is left when no other rule holds: what keeps the food from "0".
@@ -43,15 +48,26 @@ private:
     /// For each figure the limit that is missed.
     using Verfehltes = std::vector<Bedingung>;
 
-    QString figur(Groesse groesse) const;
+    QString figur(const Bedingung &bedingung) const;
+    QString mitEinheit(double zahl, Groesse groesse) const;
     QString grenze(const Bedingung &bedingung) const;
     QString gehalten(const Bedingung &bedingung) const;
     QString verfehlt(const Bedingung &bedingung) const;
+    QString klassenwort(Purinklasse purinklasse) const;
+    QString grundOderSatz(const Wertungsregel &regel) const;
+    QStringList gehaltenes(const Wertungsregel &regel) const;
+    QStringList bedingungszeilen(const Zweisprachig &vorn, const QStringList &liste,
+                                 const Zweisprachig &bindewort) const;
+    QStringList schlusszeilen() const;
+    bool bleibtPlus() const;
+    bool nenntPurine() const;
     bool betrifft(const Wertungsregel &regel) const;
+    Bedingung zuckerarm() const;
     Verfehltes verfehltes(const Wertungsregel &regel) const;
     void ergaenze(Verfehltes &liste, const Verfehltes &neue) const;
     void naehertPlus(const Verfehltes &verfehlt);
     void sammle(const Regelwerk &regeln);
+    void sammleOhneRegel(const Regelwerk &regeln);
     QStringList texte(const Verfehltes &liste) const;
 
     Wertung m_wertung;
@@ -62,8 +78,10 @@ private:
     Wertungsgroessen m_food;
     const Wertungsregel *m_regel;
     QStringList m_gruende;
+    QStringList m_auchNull;
     Verfehltes m_fehltZumPlus;
     Verfehltes m_fehltZurNull;
     Verfehltes m_fehltZumMinus;
     bool m_sonstPlus = false;
+    bool m_plusErstOhneRegel = false; ///< the ways to "+" come after the rule that decides
 };
