@@ -50,6 +50,7 @@ const std::vector<Quelle> &quellen()
          "Richter M et al. Alkohol: Zufuhr in Deutschland, gesundheitliche sowie soziale Folgen "
          "und Ableitung von Handlungsempfehlungen. Position of the Deutsche Gesellschaft für "
          "Ernährung. Ernährungs Umschau 2024; 71."},
+        {"S3-Gicht-2024", "German guideline on gout of 2024."},
         {"ACU", "Table \"Total purines in mg uric acid/100 g\", as published by acumedico.com and "
                 "by https://eatoutwithgout.com/purine-and-gout-printable-gout-food-list/"},
         {"ZH", "zeit-heute.de. Tabellen und Listen zur Orientierung. "
