@@ -127,7 +127,7 @@ QStringList zahlenfehler(const Schreibweise &schreibweise, const Tabellenzeile &
         return fehler;
     }
     const auto eintrag = quelle.constFind(zeile.quelle);
-    if (eintrag == quelle.cend()) {
+    if (eintrag == quelle.cend() || !name.contains(u'%')) {
         return fehler;
     }
     for (const auto &treffer : schreibweise.angabe.globalMatch(name)) {

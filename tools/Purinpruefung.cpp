@@ -132,7 +132,8 @@ Beanstandungen Purinpruefung::pruefen(const Tabellenzeile &zeile, const Purintab
     }
     const double soll = harnsaeure(teile);
     if (!zeile.harnsaeure || std::abs(*zeile.harnsaeure - soll) > binaererRest) {
-        beanstanden(u"its parts give %1 mg uric acid"_s.arg(soll));
+        const QString meldung = u"uric_acid must be %1, as its parts give"_s;
+        beanstanden(meldung.arg(soll));
     }
     if (zeile.purinquellen != schluessel(teile)) {
         beanstanden(u"the keys of its parts are \"%1\""_s.arg(schluessel(teile)));

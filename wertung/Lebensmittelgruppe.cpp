@@ -64,8 +64,9 @@ const std::vector<Lebensmittelgruppe> &lebensmittelgruppen()
 
 const Lebensmittelgruppe *lebensmittelgruppe(const QString &name)
 {
+    const QByteArray gesucht = name.toUtf8();
     for (const Lebensmittelgruppe &gruppe : lebensmittelgruppen()) {
-        if (name == QString::fromUtf8(gruppe.name)) {
+        if (gesucht == gruppe.name) {
             return &gruppe;
         }
     }
