@@ -7,10 +7,12 @@
 namespace Vergleichsprobe {
 
 /// The source's figures and the published purines as they ship.
-inline Tabellenpruefung::Vergleichswerte ausgeliefert()
+inline const Tabellenpruefung::Vergleichswerte &ausgeliefert()
 {
-    return {Quellenvergleich::lesen(Tabellenprobe::dateiinhalt(QUELLWERTE)).werte,
-            Purinpruefung::lesen(Tabellenprobe::dateiinhalt(PURINE)).purine};
+    static const Tabellenpruefung::Vergleichswerte vergleich = {
+        Quellenvergleich::lesen(Tabellenprobe::dateiinhalt(QUELLWERTE)).werte,
+        Purinpruefung::lesen(Tabellenprobe::dateiinhalt(PURINE)).purine};
+    return vergleich;
 }
 
 /// The same, but with a source that agrees with these lines, so that what the lines say of
