@@ -1,5 +1,9 @@
 #include "Tabellenpruefung.h"
 
+#include "Gruppengrenzen.h"
+#include "Namenspruefung.h"
+#include "Siegel.h"
+
 #include <QHash>
 #include <QSet>
 
@@ -31,15 +35,34 @@ constexpr double rundung = 0.051;
 const QString energieRegel = u"energy"_s;
 const QString summenRegel = u"sum"_s;
 
-constexpr std::array<Naehrwert, anzahlVitamine> vitamine = {
-    Naehrwert::vita, Naehrwert::b1, Naehrwert::b2, Naehrwert::b6, Naehrwert::vitc};
-
 /// A failed check that a listed exception may excuse.
 using Befund = std::pair<QString, QString>;
 
 QString zahl(double wert)
 {
     return QString::number(wert, 'g', 6);
+}
+
+/// More of something than foods of the group can hold.
+QList<Befund> gruppenbefunde(const Tabellenzeile &zeile)
+{
+    QList<Befund> befunde;
+    const auto vergleichen = [&](const QString &kennung, double wert, double grenze) {
+        if (wert > grenze) {
+            const QString meldung = u"%1 %2 is more than the %3 that \"%4\" can hold"_s;
+            befunde.append({kennung, meldung.arg(kennung, zahl(wert), zahl(grenze),
+                                                 QString::fromUtf8(zeile.gruppe->name))});
+        }
+    };
+    const Gruppengrenzen &grenzen = gruppengrenzen(*zeile.gruppe);
+    for (const auto &wert : naehrwerte) {
+        if (wert.wert >= ersterBegrenzter) {
+            vergleichen(QString::fromLatin1(wert.kennung), zeile.wert(wert.wert),
+                        grenzen.grenze(wert.wert));
+        }
+    }
+    vergleichen(u"alcohol"_s, zeile.alkohol, grenzen.alkohol);
+    return befunde;
 }
 
 QList<Befund> figurenbefunde(const Tabellenzeile &zeile)
@@ -57,56 +80,7 @@ QList<Befund> figurenbefunde(const Tabellenzeile &zeile)
     if (summe > groessteSumme) {
         befunde.append({summenRegel, u"its parts add up to %1 g in 100 g"_s.arg(zahl(summe))});
     }
-    for (std::size_t i = 0; i < vitamine.size(); ++i) {
-        const double grenze = zeile.gruppe->vitamingrenzen[i];
-        const double wert = zeile.wert(vitamine[i]);
-        if (wert > grenze) {
-            const QString meldung = u"%1 is more than the %2 that \"%3\" can hold"_s;
-            befunde.append(
-                {QString::fromLatin1(beschreibung(vitamine[i]).kennung),
-                 meldung.arg(zahl(wert), zahl(grenze), QString::fromUtf8(zeile.gruppe->name))});
-        }
-    }
-    return befunde;
-}
-
-bool istNamenszeichen(QChar zeichen)
-{
-    static const QString satzzeichen = u" ,.()%-/'&"_s;
-    return zeichen.isLetterOrNumber() || satzzeichen.contains(zeichen);
-}
-
-QStringList namensfehler(const QString &name)
-{
-    QStringList fehler;
-    if (name.isEmpty() || !name.front().isUpper()) {
-        fehler.append(u"must begin with a capital letter"_s);
-    }
-    if (name.size() > Tabellenpruefung::laengsterName) {
-        fehler.append(u"has %1 characters, more than 48"_s.arg(name.size()));
-    }
-    if (name != name.simplified()) {
-        fehler.append(u"has a blank too many"_s);
-    }
-    if (!std::all_of(name.begin(), name.end(), istNamenszeichen)) {
-        fehler.append(u"holds a character that no name needs"_s);
-    }
-    // The selection of a food of this very name shows nothing.
-    if (name.compare(u"Mettwurst"_s, Qt::CaseInsensitive) == 0) {
-        fehler.append(u"can't be shown under this name alone"_s);
-    }
-    return fehler;
-}
-
-Beanstandungen namePruefen(const Tabellenzeile &zeile)
-{
-    Beanstandungen liste;
-    for (const QString &name : {zeile.nameDe, zeile.nameEn}) {
-        for (const QString &fehler : namensfehler(name)) {
-            liste.append({zeile.zeile, u"name"_s, u"\"%1\" %2"_s.arg(name, fehler)});
-        }
-    }
-    return liste;
+    return befunde + gruppenbefunde(zeile);
 }
 
 Beanstandungen grenzenPruefen(const Tabellenzeile &zeile)
@@ -157,25 +131,6 @@ Beanstandungen figurenPruefen(const Tabellenzeile &zeile)
     for (const QString &regel : unnoetig) {
         const QString meldung = u"%1: needs no exception from \"%2\""_s.arg(zeile.nameDe, regel);
         liste.append({zeile.zeile, u"exception"_s, meldung});
-    }
-    return liste;
-}
-
-Beanstandungen gleicheNamen(const Tabelle &tabelle)
-{
-    Beanstandungen liste;
-    for (QString Tabellenzeile::*const name : {&Tabellenzeile::nameDe, &Tabellenzeile::nameEn}) {
-        QHash<QString, int> gesehen;
-        for (const Tabellenzeile &zeile : tabelle) {
-            const QString gefaltet = (zeile.*name).toCaseFolded();
-            if (const auto erste = gesehen.constFind(gefaltet); erste != gesehen.cend()) {
-                const QString meldung = u"\"%1\" is already the name in line %2"_s;
-                liste.append(
-                    {zeile.zeile, u"alike"_s, meldung.arg(zeile.*name).arg(erste.value())});
-            } else {
-                gesehen.insert(gefaltet, zeile.zeile);
-            }
-        }
     }
     return liste;
 }
@@ -231,21 +186,39 @@ double Tabellenpruefung::energieAusNaehrstoffen(const Tabellenzeile &zeile)
            kcalJeBallaststoff * zeile.wert(Naehrwert::bs) + kcalJeAlkohol * zeile.alkohol;
 }
 
-Beanstandungen Tabellenpruefung::zeilePruefen(const Tabellenzeile &zeile)
+Beanstandungen Tabellenpruefung::zeilePruefen(const Tabellenzeile &zeile,
+                                              const Vergleichswerte &vergleich)
 {
-    return namePruefen(zeile) + grenzenPruefen(zeile) + figurenPruefen(zeile);
+    return Namenspruefung::zeilePruefen(zeile, vergleich.quelle) + grenzenPruefen(zeile) +
+           figurenPruefen(zeile) + Quellenvergleich::pruefen(zeile, vergleich.quelle) +
+           Purinpruefung::pruefen(zeile, vergleich.purine);
 }
 
 Beanstandungen Tabellenpruefung::zusammenhangPruefen(const Tabelle &tabelle)
 {
-    return gleicheNamen(tabelle) + synonyme(tabelle);
+    return Namenspruefung::gleicheNamen(tabelle) + synonyme(tabelle);
 }
 
-Beanstandungen Tabellenpruefung::pruefen(const Tabelle &tabelle)
+Beanstandungen Tabellenpruefung::pruefen(const Tabelle &tabelle, const Vergleichswerte &vergleich)
 {
     Beanstandungen liste;
     for (const Tabellenzeile &zeile : tabelle) {
-        liste += zeilePruefen(zeile);
+        liste += zeilePruefen(zeile, vergleich);
     }
     return liste + zusammenhangPruefen(tabelle);
+}
+
+Tabellendatei::Ergebnis Tabellenpruefung::dateiPruefen(QByteArrayView bytes,
+                                                       const Vergleichswerte &vergleich,
+                                                       Siegelpflicht siegelpflicht)
+{
+    Tabellendatei::Ergebnis ergebnis = Tabellendatei::lesen(bytes);
+    if (!ergebnis.beanstandungen.isEmpty()) {
+        return ergebnis;
+    }
+    ergebnis.beanstandungen = pruefen(ergebnis.tabelle, vergleich);
+    if (siegelpflicht == Siegelpflicht::Ja) {
+        ergebnis.beanstandungen += Siegel::pruefen(bytes);
+    }
+    return ergebnis;
 }

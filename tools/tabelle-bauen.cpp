@@ -4,23 +4,32 @@
 #include "Auslieferung.h"
 #include "Kommandozeile.h"
 #include "Regelpruefung.h"
+#include "Siegel.h"
 #include "Tabellenausgabe.h"
 #include "Tabellenpruefung.h"
 
 #include <QCoreApplication>
+#include <QDir>
+#include <QFileInfo>
 
 using namespace Qt::StringLiterals;
 
 namespace {
 
 const QString gebrauch =
-    u"Usage: tabelle-bauen TABLE.csv FOODS.daten NAMES.ts\n"
+    u"Usage: tabelle-bauen TABLE.csv SOURCE.csv PURINES.csv FOODS.daten NAMES.ts\n"
     "       tabelle-bauen --shipped TABLE.csv AGREED.csv RATINGS.md\n"
-    "The first checks the table and writes the foods with their ratings, and their English\n"
-    "names as a translation source. The second checks what only the table that ships with the\n"
-    "program must keep: the number of foods, the rows that show another row's food, the\n"
-    "ratings that dietitians agree upon, and the page that explains the rules.\n"
+    "       tabelle-bauen --seal TABLE.csv\n"
+    "The first checks the table, compares it with the source's figures and the published\n"
+    "purines, and writes the foods with their ratings, and their English names as a\n"
+    "translation source. The second checks what only the table that ships with the program\n"
+    "must keep: the number of foods, the rows that show another row's food, the ratings that\n"
+    "dietitians agree upon, and the page that explains the rules. The third checks the table\n"
+    "against Quellwerte.csv and Purine.csv beside it and, when all else is well, seals each\n"
+    "line as it now stands.\n"
     "Exit status: 0 all well, 1 a check failed or a file can't be read, 2 wrong usage."_s;
+
+using Tabellenpruefung::Siegelpflicht;
 
 /// Objects to whatever is wrong; true when nothing is.
 bool melden(const QString &path, const Beanstandungen &beanstandungen)
@@ -29,18 +38,36 @@ bool melden(const QString &path, const Beanstandungen &beanstandungen)
     return beanstandungen.isEmpty();
 }
 
+/// What the table is compared with; nothing, and a message, when it can't be read whole.
+std::optional<Tabellenpruefung::Vergleichswerte> vergleichswerte(const QString &quelldatei,
+                                                                 const QString &purindatei)
+{
+    const auto quellbytes = Kommandozeile::lesen(quelldatei);
+    const auto purinbytes = Kommandozeile::lesen(purindatei);
+    if (!quellbytes || !purinbytes) {
+        return std::nullopt;
+    }
+    const auto [quelle, quellfehler] = Quellenvergleich::lesen(*quellbytes);
+    const auto [purine, purinfehler] = Purinpruefung::lesen(*purinbytes);
+    const bool quelleGut = melden(quelldatei, quellfehler);
+    if (!melden(purindatei, purinfehler) || !quelleGut) {
+        return std::nullopt;
+    }
+    return Tabellenpruefung::Vergleichswerte{quelle, purine};
+}
+
 bool bauen(const QStringList &dateien)
 {
     const auto bytes = Kommandozeile::lesen(dateien.at(0));
-    if (!bytes) {
+    const auto vergleich = vergleichswerte(dateien.at(1), dateien.at(2));
+    if (!bytes || !vergleich) {
         return false;
     }
-    const auto [tabelle, formfehler] = Tabellendatei::lesen(*bytes);
-    return melden(dateien.at(0), formfehler + Tabellenpruefung::pruefen(tabelle) +
-                                     Regelpruefung::aufbauPruefen()) &&
-           Kommandozeile::schreiben(dateien.at(1),
+    const auto [tabelle, einwaende] = Tabellenpruefung::dateiPruefen(*bytes, *vergleich);
+    return melden(dateien.at(0), einwaende + Regelpruefung::aufbauPruefen()) &&
+           Kommandozeile::schreiben(dateien.at(3),
                                     Archiver::write(Tabellenausgabe::verzeichnis(tabelle))) &&
-           Kommandozeile::schreiben(dateien.at(2), Tabellenausgabe::uebersetzung(tabelle));
+           Kommandozeile::schreiben(dateien.at(4), Tabellenausgabe::uebersetzung(tabelle));
 }
 
 bool auslieferungPruefen(const QStringList &dateien)
@@ -52,12 +79,52 @@ bool auslieferungPruefen(const QStringList &dateien)
         return false;
     }
     const auto [tabelle, formfehler] = Tabellendatei::lesen(*bytes);
-    const bool tabelleGut = melden(
-        dateien.at(0), formfehler + Auslieferung::pruefen(tabelle) +
-                           Regelpruefung::anteilePruefen(tabelle) +
-                           Regelpruefung::einigkeitPruefen(tabelle, QString::fromUtf8(*einigkeit)));
+    const bool tabelleGut =
+        melden(dateien.at(0), formfehler) &&
+        melden(dateien.at(0),
+               Auslieferung::pruefen(tabelle) + Regelpruefung::anteilePruefen(tabelle) +
+                   Regelpruefung::einigkeitPruefen(tabelle, QString::fromUtf8(*einigkeit)));
     return melden(dateien.at(2), Regelpruefung::seitePruefen(QString::fromUtf8(*seite))) &&
            tabelleGut;
+}
+
+/// Nobody seals a line that is broken, so all other checks come first.
+bool siegeln(const QStringList &dateien)
+{
+    const QString &path = dateien.first();
+    const QDir ordner = QFileInfo(path).dir();
+    const auto bytes = Kommandozeile::lesen(path);
+    const auto vergleich =
+        vergleichswerte(ordner.filePath(u"Quellwerte.csv"_s), ordner.filePath(u"Purine.csv"_s));
+    if (!bytes || !vergleich) {
+        return false;
+    }
+    const auto einwaende =
+        Tabellenpruefung::dateiPruefen(*bytes, *vergleich, Siegelpflicht::Nein).beanstandungen;
+    return melden(path, einwaende) && Kommandozeile::schreiben(path, Siegel::versiegelt(*bytes));
+}
+
+struct Befehl
+{
+    const char *schalter; ///< null: none
+    qsizetype dateien;    ///< how many files it takes
+    bool (*ausfuehren)(const QStringList &dateien);
+};
+
+constexpr std::array<Befehl, 3> befehle = {{
+    {nullptr, 5, bauen},
+    {"--shipped", 3, auslieferungPruefen},
+    {"--seal", 1, siegeln},
+}};
+
+const Befehl &befehl(QStringList &argumente)
+{
+    for (const Befehl &einer : befehle) {
+        if (einer.schalter != nullptr && argumente.removeOne(QLatin1String(einer.schalter))) {
+            return einer;
+        }
+    }
+    return befehle.front();
 }
 
 } // namespace
@@ -66,11 +133,10 @@ int main(int argc, char *argv[])
 {
     const QCoreApplication app(argc, argv);
     QStringList dateien = QCoreApplication::arguments().mid(1);
-    const bool auslieferung = dateien.removeOne(u"--shipped"_s);
-    if (dateien.size() != 3) {
+    const Befehl &einer = befehl(dateien);
+    if (dateien.size() != einer.dateien) {
         Kommandozeile::melden(gebrauch);
         return Kommandozeile::FalscherAufruf;
     }
-    const bool gelungen = auslieferung ? auslieferungPruefen(dateien) : bauen(dateien);
-    return gelungen ? Kommandozeile::Gelungen : Kommandozeile::Misslungen;
+    return einer.ausfuehren(dateien) ? Kommandozeile::Gelungen : Kommandozeile::Misslungen;
 }

@@ -3,7 +3,6 @@
 #include <QFlags>
 #include <QString>
 
-#include <array>
 #include <vector>
 
 /// What the rating rules ask of a food besides its figures. Most belong to its group, some are
@@ -23,8 +22,6 @@ enum class Merkmal : unsigned {
 Q_DECLARE_FLAGS(Merkmale, Merkmal)
 Q_DECLARE_OPERATORS_FOR_FLAGS(Merkmale)
 
-inline constexpr std::size_t anzahlVitamine = 5;
-
 /// What is said once about a food group of the table.
 struct Lebensmittelgruppe
 {
@@ -32,9 +29,6 @@ struct Lebensmittelgruppe
     Merkmale merkmale;
     /// Sugars in g per 100 g that belong to the food itself and are therefore not free sugars.
     double eigenerZucker;
-    /// The most that 100 g of an unfortified food of this group hold, in the order and the units of
-    /// the record: vitamin A, B1, B2, B6, C.
-    std::array<double, anzahlVitamine> vitamingrenzen;
 };
 
 /// All food groups in the order of the table.

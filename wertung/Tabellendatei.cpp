@@ -1,6 +1,6 @@
 #include "Tabellendatei.h"
 
-#include <QStringDecoder>
+#include "Feldzeilen.h"
 
 #include <cmath>
 #include <utility>
@@ -8,8 +8,6 @@
 namespace {
 
 using namespace Qt::StringLiterals;
-
-const QString formel = u"format"_s;
 
 /// The columns around the seventeen values.
 const QStringList &vorneweg()
@@ -139,48 +137,18 @@ QStringList Tabellendatei::spalten()
 
 Tabellendatei::Ergebnis Tabellendatei::lesen(QByteArrayView bytes)
 {
-    Ergebnis ergebnis;
-    QStringDecoder utf8(QStringDecoder::Utf8);
-    const QString text = utf8(bytes);
-    if (utf8.hasError()) {
-        ergebnis.beanstandungen.append({0, formel, u"The file is not in UTF-8"_s});
-    }
-
-    bool kopfGelesen = false;
-    int nummer = 0;
-    for (const QString &rohzeile : text.split(u'\n')) {
-        ++nummer;
-        const QString zeile = rohzeile.endsWith(u'\r') ? rohzeile.chopped(1) : rohzeile;
-        if (zeile.isEmpty() || zeile.startsWith(u'#')) {
-            continue;
-        }
-        const QStringList felder = zeile.split(u';');
-        if (!std::exchange(kopfGelesen, true)) {
-            if (felder != spalten()) {
-                const QString soll = spalten().join(u';');
-                ergebnis.beanstandungen.append({nummer, formel, u"The columns must be "_s + soll});
-                return ergebnis;
-            }
-            continue;
-        }
-        if (felder.size() != spalten().size()) {
-            const QString meldung = u"%1 fields instead of %2"_s;
-            ergebnis.beanstandungen.append(
-                {nummer, formel, meldung.arg(felder.size()).arg(spalten().size())});
-            continue;
-        }
+    const auto [zeilen, formfehler] = Feldzeilen::lesen(bytes, spalten());
+    Ergebnis ergebnis = {{}, formfehler};
+    for (const auto &[nummer, felder] : zeilen) {
         Tabellenzeile gelesen;
         gelesen.zeile = nummer;
         const QStringList fehler = Zeilenleser(felder, gelesen).lesen();
         for (const QString &meldung : fehler) {
-            ergebnis.beanstandungen.append({nummer, formel, meldung});
+            ergebnis.beanstandungen.append({nummer, Feldzeilen::formregel, meldung});
         }
         if (fehler.isEmpty()) {
             ergebnis.tabelle.append(gelesen);
         }
-    }
-    if (!kopfGelesen) {
-        ergebnis.beanstandungen.append({0, formel, u"The table is empty"_s});
     }
     return ergebnis;
 }

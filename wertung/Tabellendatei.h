@@ -4,8 +4,7 @@
 
 #include <QByteArrayView>
 
-/// Reads the food table: UTF-8, one food a line, fields parted by semicolons, "#" in front of a
-/// remark, the columns' names in the first line that is none.
+/// Reads the food table: one food a line.
 namespace Tabellendatei {
 
 struct Ergebnis
