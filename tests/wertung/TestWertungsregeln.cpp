@@ -219,6 +219,8 @@ void TestWertungsregeln::diabetes_data()
     fall("nuts, 3.95 g fibre", nuesse, {{u"kh"_s, 20}, {u"bs"_s, 3.95}}, u"D15"_s);
     fall("nuts, 10.1 g sugars", nuesse, {{u"kh"_s, 20}, {u"bs"_s, 4}, {u"sugars"_s, 10.1}},
          u"D15"_s);
+    fall("a fifth as much fibre, 10 g sugars, not recommended fat", obst,
+         {{u"kh"_s, 20}, {u"bs"_s, 4}, {u"sugars"_s, 10}}, u"D15"_s);
     fall("marked as recommended fat, 5 g free sugars",
          markiert(food(kuchen, {{u"kal"_s, 300}, {u"kh"_s, 20}, {u"bs"_s, 4}, {u"sugars"_s, 5}}),
                   Merkmal::Fettquelle),
