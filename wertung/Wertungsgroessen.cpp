@@ -53,7 +53,7 @@ const std::array<Groessenbeschreibung, anzahlGroessen> groessen = {{
     {Groesse::Energie, {"Energie", "energy"}, "kcal"},
     {Groesse::Fett, {"Fett", "fat"}, "g"},
     {Groesse::Gesaettigt, {"gesättigtes Fett", "saturated fat"}, "g"},
-    {Groesse::GesaettigtAnteil, {"gesättigter Teil des Fetts", "saturated part of the fat"}, "%"},
+    {Groesse::GesaettigtAnteil, {"gesättigter Anteil am Fett", "saturated part of the fat"}, "%"},
     {Groesse::Kohlenhydrate, {"verwertbare Kohlenhydrate", "available carbohydrate"}, "g"},
     {Groesse::KohlenhydrateJeBallaststoff,
      {"Kohlenhydrate je Gramm Ballaststoffe", "carbohydrate for each gram of fibre"},
