@@ -6,6 +6,8 @@
 #include <QGuiApplication>
 #include <QPalette>
 #include <QRegularExpression>
+#include <QStyleOptionFocusRect>
+#include <QStylePainter>
 #include <QValidator>
 
 #include <algorithm>
@@ -59,10 +61,16 @@ void Textfeld::setEditable(bool editable)
     m_editable = editable;
     setReadOnly(!editable);
     setFrame(editable);
-    setFocusPolicy(editable ? Qt::StrongFocus : Qt::ClickFocus);
+    setFocusPolicy(editable || m_erreichbar ? Qt::StrongFocus : Qt::ClickFocus);
     einkleiden();
     erklaeren();
     wertGesetzt();
+}
+
+void Textfeld::setErreichbar(bool erreichbar)
+{
+    m_erreichbar = erreichbar;
+    setEditable(m_editable);
 }
 
 void Textfeld::setNurZahlen(bool nurZahlen)
@@ -230,6 +238,12 @@ void Textfeld::paintEvent(QPaintEvent *event)
 {
     zeigen();
     Zahlenzeile::paintEvent(event);
+    if (m_erreichbar && !m_editable && hasFocus()) {
+        QStylePainter painter(this);
+        QStyleOptionFocusRect rahmen;
+        rahmen.initFrom(this);
+        painter.drawPrimitive(QStyle::PE_FrameFocusRect, rahmen);
+    }
 }
 
 void Textfeld::focusInEvent(QFocusEvent *event)
@@ -239,6 +253,9 @@ void Textfeld::focusInEvent(QFocusEvent *event)
         zeigen(); // without its unit, before the number is taken
     }
     Zahlenzeile::focusInEvent(event);
+    if (!m_editable) {
+        deselect(); // a value that can't be typed over keeps its colour
+    }
 }
 
 void Textfeld::focusOutEvent(QFocusEvent *event)
