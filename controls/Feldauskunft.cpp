@@ -8,7 +8,7 @@
 #include <QStyle>
 #include <QStyleOptionFrame>
 #include <QStylePainter>
-#include <QTextDocument>
+#include <QTextLayout>
 #include <QToolTip>
 
 #include <algorithm>
@@ -49,23 +49,36 @@ protected:
     }
 };
 
-/// The lines below a bold heading, as narrow as they are but never too wide.
+/// A line in as many pieces as its width takes. The system's labels know no greatest width.
+QStringList umbrochen(const QString &zeile, const QFont &schrift)
+{
+    QTextLayout satz(zeile, schrift);
+    QTextOption umbruch;
+    umbruch.setWrapMode(QTextOption::WrapAtWordBoundaryOrAnywhere);
+    satz.setTextOption(umbruch);
+    QStringList stuecke;
+    satz.beginLayout();
+    for (QTextLine stueck = satz.createLine(); stueck.isValid(); stueck = satz.createLine()) {
+        stueck.setLineWidth(textbreite);
+        stuecke << zeile.mid(stueck.textStart(), stueck.textLength()).trimmed().toHtmlEscaped();
+    }
+    satz.endLayout();
+    return stuecke;
+}
+
+/// The lines below a bold heading.
 QString gesetzt(const QStringList &zeilen)
 {
-    QString text;
-    for (const QString &zeile : zeilen) {
-        text += (text.isEmpty() ? QStringLiteral("<b>%1</b>") : QStringLiteral("<br>%1"))
-                    .arg(zeile.toHtmlEscaped());
+    QFont schrift = QToolTip::font();
+    schrift.setBold(true);
+    const QString neueZeile = QStringLiteral("<br>");
+    QStringList absaetze = {
+        QStringLiteral("<b>%1</b>").arg(umbrochen(zeilen.first(), schrift).join(neueZeile))};
+    schrift.setBold(false);
+    for (const QString &zeile : zeilen.mid(1)) {
+        absaetze << umbrochen(zeile, schrift);
     }
-    QTextDocument seite;
-    seite.setDefaultFont(QToolTip::font());
-    seite.setDocumentMargin(0);
-    seite.setHtml(text);
-    const int breite = std::min(static_cast<int>(seite.idealWidth()) + 1, textbreite);
-    return QStringLiteral("<table width=\"%1\" cellspacing=\"0\" cellpadding=\"0\"><tr><td>%2"
-                          "</td></tr></table>")
-        .arg(breite)
-        .arg(text);
+    return QStringLiteral("<p style='white-space:pre'>%1</p>").arg(absaetze.join(neueZeile));
 }
 
 } // namespace
@@ -92,7 +105,7 @@ void Feldauskunft::veralte()
     if (anMaus() || m_fahne->isVisible()) {
         verstecke();
     }
-    if (!m_veraltet && QAccessible::isActive()) {
+    if (!m_veraltet && m_vorgelesen) {
         m_veraltet = true;
         QMetaObject::invokeMethod(this, &Feldauskunft::beschreibe, Qt::QueuedConnection);
     }
@@ -101,9 +114,8 @@ void Feldauskunft::veralte()
 /// A screen reader may be started when the window has long been open.
 void Feldauskunft::accessibilityActiveChanged(bool active)
 {
-    if (active) {
-        veralte();
-    }
+    m_vorgelesen = active;
+    veralte();
 }
 
 void Feldauskunft::beschreibe()
@@ -128,7 +140,7 @@ bool Feldauskunft::feldereignis(QEvent *event)
         zeigeAnMaus(static_cast<QHelpEvent *>(event)->globalPos());
         return true;
     case QEvent::FocusIn:
-        if (QAccessible::isActive()) {
+        if (m_vorgelesen) {
             beschreibe(); // before it is read out
         }
         m_ruhe.start(m_feld->style()->styleHint(QStyle::SH_ToolTip_WakeUpDelay, nullptr, m_feld));

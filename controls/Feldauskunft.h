@@ -45,8 +45,9 @@ private:
 
     QWidget *m_feld;
     Frage m_frage;
-    QLabel *m_fahne;         ///< what the keyboard gets to see, a window of its own
-    QTimer m_ruhe;           ///< runs until the focus has rested on the field
-    QString m_anMaus;        ///< the text that the mouse was shown last
+    QLabel *m_fahne;  ///< what the keyboard gets to see, a window of its own
+    QTimer m_ruhe;    ///< runs until the focus has rested on the field
+    QString m_anMaus; ///< the text that the mouse was shown last
+    bool m_vorgelesen = QAccessible::isActive(); ///< a screen reader is at work
     bool m_veraltet = false; ///< the field's description is older than what it shows
 };

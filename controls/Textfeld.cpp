@@ -242,6 +242,7 @@ void Textfeld::paintEvent(QPaintEvent *event)
         QStylePainter painter(this);
         QStyleOptionFocusRect rahmen;
         rahmen.initFrom(this);
+        rahmen.state |= QStyle::State_KeyboardFocusChange; // else some styles leave it out
         painter.drawPrimitive(QStyle::PE_FrameFocusRect, rahmen);
     }
 }

@@ -25,7 +25,7 @@ Wertungsauskunft::Verzeichnis Wertungsauskunft::gelesen() const
 {
     Verzeichnis zeilen;
     QFile datei(m_tabelle);
-    if (!datei.open(QIODevice::ReadOnly)) {
+    if (m_tabelle.isEmpty() || !datei.open(QIODevice::ReadOnly)) {
         return zeilen;
     }
     const Tabelle tabelle = Tabellendatei::lesen(datei.readAll()).tabelle;

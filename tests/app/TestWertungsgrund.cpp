@@ -88,8 +88,7 @@ QString lesbar(const QString &html)
 
 void ruheAn(const QWidget &feld)
 {
-    QHelpEvent ruhe(QEvent::ToolTip, feld.rect().center(),
-                    feld.mapToGlobal(feld.rect().center()));
+    QHelpEvent ruhe(QEvent::ToolTip, feld.rect().center(), feld.mapToGlobal(feld.rect().center()));
     QApplication::sendEvent(const_cast<QWidget *>(&feld), &ruhe);
 }
 
@@ -108,8 +107,8 @@ void TestWertungsgrund::init()
     m_eingebaut.clear();
     for (int zeile = 0; zeile < 6; ++zeile) {
         const QString name = zaehlname(zeile);
-        m_eingebaut.insert(name, lebensmittel(name, {{kal, 300.5F + static_cast<float>(zeile)}},
-                                              urteile));
+        m_eingebaut.insert(
+            name, lebensmittel(name, {{kal, 300.5F + static_cast<float>(zeile)}}, urteile));
     }
     m_eigene = verzeichnis({lebensmittel(u"Eigenes"_s, {{kal, 10}}, eigeneUrteile),
                             lebensmittel(zaehlname(2), {{kal, 20}}, eigeneUrteile)});
@@ -129,9 +128,8 @@ void TestWertungsgrund::schreibeErklaerungen()
     QStringList zeilen;
     for (int zeile = 1; zeile < 6; ++zeile) {
         const double kilokalorien = zeile == 3 ? 50 : 300.5 + zeile;
-        zeilen << Auskunftsprobe::zeile(zaehlname(zeile),
-                                        {{u"kal"_s, QString::number(kilokalorien)},
-                                         {u"chol"_s, u"250"_s}});
+        zeilen << Auskunftsprobe::zeile(
+            zaehlname(zeile), {{u"kal"_s, QString::number(kilokalorien)}, {u"chol"_s, u"250"_s}});
     }
     QFile datei(m_heim->wertungstabelle);
     QVERIFY(datei.open(QIODevice::WriteOnly));
@@ -300,8 +298,7 @@ void TestWertungsgrund::withoutAReasonThereIsNoToolTip_data()
     QTest::addColumn<int>("spalte");
     QTest::addColumn<Wertung>("wertung");
     QTest::newRow("a food that the explaining table lacks") << 0 << inName << Wertung::hkk;
-    QTest::newRow("a rating that its figures don't give")
-        << 3 << inName << Wertung::uebergewicht;
+    QTest::newRow("a rating that its figures don't give") << 3 << inName << Wertung::uebergewicht;
     QTest::newRow("an own food without a rating") << 2 << inEigen << Wertung::uebergewicht;
 }
 
@@ -547,11 +544,12 @@ void TestWertungsgrund::everyShippedRatingHasItsReason()
     QVERIFY(!bestand.verzeichnis.isEmpty());
     const Wertungsauskunft auskunft(u":/Lebensmittel.csv"_s);
     for (auto eines = bestand.verzeichnis.begin(); eines != bestand.verzeichnis.end(); ++eines) {
+        const bool keines = eines.key() == u"-"_s; // the row of the table that stands for no food
         for (const auto &zeile : wertungen) {
             const QStringList grund =
                 auskunft.erklaerung(eines.key(), zeile.wertung, eines->wertung(zeile.wertung),
                                     Regelsprache::Deutsch, QLocale());
-            QVERIFY2(grund.size() >= 2, qPrintable(eines.key()));
+            QVERIFY2(keines ? grund.isEmpty() : grund.size() >= 2, qPrintable(eines.key()));
         }
     }
 }
