@@ -4,10 +4,9 @@
 #include <QEvent>
 #include <QFocusEvent>
 #include <QGuiApplication>
+#include <QPainter>
 #include <QPalette>
 #include <QRegularExpression>
-#include <QStyleOptionFocusRect>
-#include <QStylePainter>
 #include <QValidator>
 
 #include <algorithm>
@@ -239,11 +238,10 @@ void Textfeld::paintEvent(QPaintEvent *event)
     zeigen();
     Zahlenzeile::paintEvent(event);
     if (m_erreichbar && !m_editable && hasFocus()) {
-        QStylePainter painter(this);
-        QStyleOptionFocusRect rahmen;
-        rahmen.initFrom(this);
-        rahmen.state |= QStyle::State_KeyboardFocusChange; // else some styles leave it out
-        painter.drawPrimitive(QStyle::PE_FrameFocusRect, rahmen);
+        QPainter painter(this);
+        painter.setRenderHint(QPainter::Antialiasing);
+        painter.setPen(palette().color(QPalette::Highlight)); // as around an entry
+        painter.drawRoundedRect(QRectF(rect()).adjusted(0.5, 0.5, -0.5, -0.5), 2, 2);
     }
 }
 

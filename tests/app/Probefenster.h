@@ -38,7 +38,7 @@ public:
     QList<Meldung> meldungen;
     QList<int> antworten;
     QString wertungstabelle; ///< path of the table that explains ratings; none does while empty
-    Drucktuer drucke; ///< the door that prints; nothing does while there is none
+    Drucktuer drucke;        ///< the door that prints; nothing does while there is none
     /// The lines that went to the system log; `beimProtokoll` runs at each.
     QStringList protokoll;
     std::function<void()> beimProtokoll = [] {

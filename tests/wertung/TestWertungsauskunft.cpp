@@ -125,8 +125,7 @@ void TestWertungsauskunft::theTableIsReadOnceAndOnlyWhenItIsAskedFor()
 {
     const Wertungsauskunft auskunft(pfad());
     schreibe(buttertabelle(u"700"_s));
-    const QStringList zeilen =
-        deutsch(auskunft, u"Butterbrot"_s, Wertung::uebergewicht, u"-"_s);
+    const QStringList zeilen = deutsch(auskunft, u"Butterbrot"_s, Wertung::uebergewicht, u"-"_s);
     QCOMPARE(zeilen.filter(u"700 kcal"_s).size(), 1);
     schreibe({});
     QCOMPARE(deutsch(auskunft, u"Butterbrot"_s, Wertung::uebergewicht, u"-"_s), zeilen);
