@@ -44,6 +44,7 @@ AppController::AppController(Tueren tueren)
     : Hauptfenster(new QMainWindow)
     , einfenster(nullptr)
     , m_tueren(std::move(tueren))
+    , m_auskunft(m_tueren.wertungstabelle)
 {
     if (m_tueren.dateien == nullptr) {
         m_tueren.dateien = std::make_shared<Dateihueter>();
@@ -156,6 +157,7 @@ void AppController::verbinde()
     Hauptfenster->installEventFilter(this);
     verbindeSuche();
     verbindeEigene();
+    verbindeWertungen();
 }
 
 void AppController::verbindeSuche()

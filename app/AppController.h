@@ -4,6 +4,7 @@
 #include "Datenmodul.h"
 #include "Energieanteile.h"
 #include "Erscheinungsbild.h"
+#include "Feldauskunft.h"
 #include "Planmodul.h"
 #include "Profilsuche.h"
 #include "Skalierung.h"
@@ -11,6 +12,7 @@
 #include "Tagesbedarf.h"
 #include "Tueren.h"
 #include "Werkzeugleiste.h"
+#include "Wertungsauskunft.h"
 #include "ui_Eingabefenster.h"
 #include "ui_Hauptfenster.h"
 
@@ -174,6 +176,13 @@ private:
     void nimmGesichertesZurueck();
     void zeigeEigenes(const QString &name);
 
+    // Why the ratings are what they are
+    void verbindeWertungen();
+    void zeigeAnderes(const Datenmodul *lebensmittel);
+    void veralteWertungsgruende();
+    bool zeigtEingebautes() const;
+    QStringList wertungsgrund(Wertung wertung) const;
+
     // The steps of the selection action
     const Datenmodul *eingebautesLebensmittel(int zeile) const;
     const Datenmodul *eigenesLebensmittel(int zeile) const;
@@ -195,12 +204,17 @@ private:
 
     Tueren m_tueren;
     QStringList m_uebersetzt; ///< the shown name of each entry of `Array`
-    QTimer m_tipppause;       ///< runs while the user types in the search box
+    Wertungsauskunft m_auskunft;
+    /// The record that is on display, or that the display was saved to. It may be gone since, and
+    /// is never read: its address tells a built-in food from an own one of that name.
+    const Datenmodul *m_gezeigtes = nullptr;
+    QTimer m_tipppause; ///< runs while the user types in the search box
     std::array<Textfeld *, anzahlNaehrwerte> m_wertfelder = {};
     std::array<QWidget *, anzahlNaehrwerte> m_wertbeschriftungen = {};
     std::array<Textfeld *, anzahlNaehrwerte> m_eingabefelder = {};
     std::array<Auswahlfeld *, anzahlWertungen> m_wertungseingaben = {};
     std::array<Textfeld *, anzahlWertungen> m_wertungsfelder = {};
+    std::array<Feldauskunft *, anzahlWertungen> m_wertungsauskuenfte = {};
     std::array<Textfeld *, tagesbedarfe.size()> m_bedarfsfelder = {};
     std::array<Textfeld *, 3> m_mengenanzeigen = {};
     std::array<Schieber *, 3> m_mengenregler = {};

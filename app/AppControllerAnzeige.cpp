@@ -23,6 +23,7 @@ void AppController::rausholen(const Datenmodul *lebensmittel)
     }
     zeigeName(localizedString(lebensmittel->name()));
     unuebersetztername = lebensmittel->name();
+    zeigeAnderes(lebensmittel);
     const Naehrwertreihe werte = skalieren(*lebensmittel, lebensmittelmenge->intValue());
     for (std::size_t i = 0; i < werte.size(); ++i) {
         zeigeWert(i, werte[i]);

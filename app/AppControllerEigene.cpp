@@ -16,6 +16,7 @@ void AppController::Fenster()
 {
     EingabeFensterfeldA->setFocus();
     einfenster->open();
+    veralteWertungsgruende();
 }
 
 void AppController::Fensterschliessen()
@@ -84,7 +85,9 @@ bool AppController::sichere()
         m_tueren.protokolliere(
             QStringLiteral("array = (%1)").arg(KundenArray.join(QStringLiteral(", "))));
     }
-    eintragen(KundenDictionary[name]);
+    Datenmodul &eigenes = KundenDictionary[name];
+    eintragen(eigenes);
+    zeigeAnderes(&eigenes); // what is on display is the user's from now on
     return schreibeEigeneLebensmittel();
 }
 
@@ -113,6 +116,7 @@ void AppController::SichernFensterAuf()
     }
     setzeAnzeigeBearbeitbar(oeffnen);
     BoxAufZu = oeffnen ? 1 : 0;
+    veralteWertungsgruende();
 }
 
 /// While the save box is open, the displayed food can be changed where it is displayed.

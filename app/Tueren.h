@@ -21,7 +21,10 @@ struct Tueren
     Meldungstuer melde;        ///< shows a message and waits for its answer
     std::function<void(const QString &)> protokolliere; ///< writes a line to the system log
     Einstellungen *einstellungen; ///< the user defaults; outlives all controllers
-    Drucktuer drucke = {};        ///< prints; while it is absent, nothing does
+    /// Path of the table that tells why the built-in foods are rated as they are, a file or a
+    /// resource; while it is empty, no rating of theirs is explained.
+    QString wertungstabelle = {};
+    Drucktuer drucke = {}; ///< prints; while it is absent, nothing does
     /// Reads and writes the user's files, for all windows of the program; a controller that gets
     /// none makes one of its own.
     std::shared_ptr<Dateihueter> dateien = {};

@@ -110,6 +110,7 @@ int main(int argc, char **argv)
         .melde = eigenesHeim ? niemand : Meldungstuer(zeigeMeldung),
         .protokolliere = [](const QString &zeile) { qCDebug(protokoll).noquote() << zeile; },
         .einstellungen = einstellungen.get(),
+        .wertungstabelle = QStringLiteral(":/Lebensmittel.csv"),
         .drucke = eigenesHeim ? Drucktuer() : systemdrucktuer(*einstellungen, zeigeMeldung),
     });
     oberflaeche.awakeFromNib();

@@ -4,6 +4,7 @@
 #include <QEvent>
 #include <QFocusEvent>
 #include <QGuiApplication>
+#include <QPainter>
 #include <QPalette>
 #include <QRegularExpression>
 #include <QValidator>
@@ -59,10 +60,16 @@ void Textfeld::setEditable(bool editable)
     m_editable = editable;
     setReadOnly(!editable);
     setFrame(editable);
-    setFocusPolicy(editable ? Qt::StrongFocus : Qt::ClickFocus);
+    setFocusPolicy(editable || m_erreichbar ? Qt::StrongFocus : Qt::ClickFocus);
     einkleiden();
     erklaeren();
     wertGesetzt();
+}
+
+void Textfeld::setErreichbar(bool erreichbar)
+{
+    m_erreichbar = erreichbar;
+    setEditable(m_editable);
 }
 
 void Textfeld::setNurZahlen(bool nurZahlen)
@@ -230,6 +237,12 @@ void Textfeld::paintEvent(QPaintEvent *event)
 {
     zeigen();
     Zahlenzeile::paintEvent(event);
+    if (m_erreichbar && !m_editable && hasFocus()) {
+        QPainter painter(this);
+        painter.setRenderHint(QPainter::Antialiasing);
+        painter.setPen(palette().color(QPalette::Highlight)); // as around an entry
+        painter.drawRoundedRect(QRectF(rect()).adjusted(0.5, 0.5, -0.5, -0.5), 2, 2);
+    }
 }
 
 void Textfeld::focusInEvent(QFocusEvent *event)
@@ -239,6 +252,9 @@ void Textfeld::focusInEvent(QFocusEvent *event)
         zeigen(); // without its unit, before the number is taken
     }
     Zahlenzeile::focusInEvent(event);
+    if (!m_editable) {
+        deselect(); // a value that can't be typed over keeps its colour
+    }
 }
 
 void Textfeld::focusOutEvent(QFocusEvent *event)

@@ -11,8 +11,12 @@
 class Textfeld : public Zahlenzeile, public Wertehalter
 {
     Q_OBJECT
-    /// False: a flat display that is no stop of the Tab key. True: an entry field.
+    /// False: a flat display that is no stop of the Tab key unless it is `erreichbar`. True: an
+    /// entry field.
     Q_PROPERTY(bool editable READ isEditable WRITE setEditable)
+    /// True: the Tab key stops here while the field is a display as well, and a frame shows where
+    /// the keyboard is: there is more to learn about the value than stands in the field.
+    Q_PROPERTY(bool erreichbar READ isErreichbar WRITE setErreichbar)
     /// True: nothing but a number can be typed, with a comma or a point before the decimals; a mark
     /// that turns out to part thousands goes away. What was typed is shown to its last digit unless
     /// `decimals` says otherwise.
@@ -36,6 +40,8 @@ public:
 
     bool isEditable() const { return m_editable; }
     void setEditable(bool editable);
+    bool isErreichbar() const { return m_erreichbar; }
+    void setErreichbar(bool erreichbar);
     bool nurZahlen() const { return validator() != nullptr; }
     void setNurZahlen(bool nurZahlen);
     int decimals() const { return m_decimals; }
@@ -77,6 +83,7 @@ private:
     QString angezeigterText() const;
 
     bool m_editable = false;
+    bool m_erreichbar = false;
     int m_decimals = -1;
     int m_significantDigits = 0;
     bool m_trailingZeros = true;

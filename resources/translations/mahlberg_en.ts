@@ -800,6 +800,10 @@ Nothing is worked out for children under 10 years; it resumes at 11 years.</tr
   <translation>%1 less</translation>
  </message>
  <message>
+  <source>%1: „%2“</source>
+  <translation>%1: “%2”</translation>
+ </message>
+ <message>
   <source>&amp;Ablage</source>
   <translation>&amp;File</translation>
  </message>
@@ -1086,6 +1090,10 @@ Nothing is worked out for children under 10 years; it resumes at 11 years.</tr
  <message>
   <source>Diese Datei lässt sich nicht lesen: %1</source>
   <translation>This file can’t be read: %1</translation>
+ </message>
+ <message>
+  <source>Diese Wertung haben Sie selbst vergeben.</source>
+  <translation>You gave this rating yourself.</translation>
  </message>
  <message>
   <source>Drucken</source>

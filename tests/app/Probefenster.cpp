@@ -71,6 +71,7 @@ Tueren Probeheim::tueren()
         meldungen << meldung;
         return antworten.isEmpty() ? 0 : antworten.takeFirst();
     };
+    tueren.wertungstabelle = wertungstabelle;
     tueren.drucke = drucke;
     tueren.protokolliere = [this](const QString &zeile) {
         protokoll << zeile;

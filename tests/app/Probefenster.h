@@ -37,7 +37,8 @@ public:
     Tueren tueren();
     QList<Meldung> meldungen;
     QList<int> antworten;
-    Drucktuer drucke; ///< the door that prints; nothing does while there is none
+    QString wertungstabelle; ///< path of the table that explains ratings; none does while empty
+    Drucktuer drucke;        ///< the door that prints; nothing does while there is none
     /// The lines that went to the system log; `beimProtokoll` runs at each.
     QStringList protokoll;
     std::function<void()> beimProtokoll = [] {
