@@ -77,7 +77,7 @@ void TestWertungsauskunft::aRatingIsExplainedInBothLanguages_data()
     QTest::newRow("heart, German") << Wertung::hkk << u"-"_s << Regelsprache::Deutsch << de
                                    << u"Herz und Kreislauf: „-“"_s << u"250 mg"_s;
     QTest::newRow("diabetes, German") << Wertung::diabetes << u"+"_s << Regelsprache::Deutsch << de
-                                      << u"Diabetes: „+“"_s << u"0 g"_s;
+                                      << u"Diabetes: „+“"_s << u"verwertbare Kohlenhydrate 0 g"_s;
 }
 
 void TestWertungsauskunft::aRatingIsExplainedInBothLanguages()
