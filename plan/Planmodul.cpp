@@ -90,6 +90,8 @@ void Planmodul::awakeFromNib()
     datenberechnen();
     // The sentences set here need room; without this the first picture would be laid out too small.
     boxinhalt->layout()->activate();
+    ladeNamenswechsel();
+    pruefePlannamen();
 }
 
 void Planmodul::ladeBilder()
@@ -204,6 +206,7 @@ void Planmodul::umschreibungMitName(const Datenmodul &lebensmittel)
 {
     KundenDictionary.insert(lebensmittel.name(), lebensmittel);
     schreibeEigeneLebensmittel();
+    folgePlannamen();
 }
 
 void Planmodul::loeschenvonkundeneintraegen(const QString &name)
@@ -223,6 +226,7 @@ void Planmodul::uebernimmEigene(const Lebensmittelverzeichnis &eigene)
     if (m_fenster != nullptr) {
         PlanTabelle->viewport()->update();
     }
+    folgePlannamen();
 }
 
 void Planmodul::uebernimmPlan(const Planliste &zeilen)
@@ -230,6 +234,7 @@ void Planmodul::uebernimmPlan(const Planliste &zeilen)
     beendeEingabe();
     Planliste::operator=(zeilen);
     uebernimmAenderung();
+    pruefePlannamen();
 }
 
 /// An amount that is being typed still belongs to the row in which it is typed.
@@ -261,4 +266,5 @@ void Planmodul::uebernimmAenderung()
     schreibePlan();
     reloadData();
     datenberechnen();
+    folgePlannamen();
 }

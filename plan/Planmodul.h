@@ -4,6 +4,7 @@
 #include "Datenordner.h"
 #include "Drucktuer.h"
 #include "Meldung.h"
+#include "Namenswechsel.h"
 #include "Planauswertung.h"
 #include "Planliste.h"
 #include "Planuebergabe.h"
@@ -30,6 +31,8 @@ struct Plantueren
     /// Reads and writes the user's files, for all windows of the program; a plan that gets none
     /// makes one of its own.
     std::shared_ptr<Dateihueter> dateien = {};
+    /// Path of the names that built-in foods once had, a file or a resource.
+    QString namenswechsel = QStringLiteral(":/Umbenannt.csv");
 };
 
 /// What the calculator told about the client. There is one client at a time, so every plan window
@@ -89,7 +92,8 @@ public:
     // Bringing back what was kept
     /// Takes these own foods as the copy to work with from now on. The file is left to the caller.
     void uebernimmEigene(const Lebensmittelverzeichnis &eigene);
-    /// Takes over these rows in place of those that are there, saves and shows them.
+    /// Takes over these rows in place of those that are there, saves and shows them, and tells of
+    /// foods that have another name now or none any more.
     void uebernimmPlan(const Planliste &zeilen);
 
     // Actions of the window; without one they do nothing
@@ -147,6 +151,15 @@ private:
     void folgeAuswahl();
     void weiseMengeZurueck(int zeile, const QString &text);
 
+    // The foods' names
+    QStringList unbekannteNamen() const;
+    void ladeNamenswechsel();
+    void pruefePlannamen();
+    void folgePlannamen();
+    void zeigeUmbenannte(const QStringList &namen);
+    void zeigeFehlende(const Namensbefund &befund);
+    void uebernimmNeueNamen();
+
     // The evaluation
     std::vector<Planzeile> zeilen() const;
     void zeigeNaehrwerte(const Planauswertung &auswertung);
@@ -164,6 +177,7 @@ private:
 
     Plantueren m_tueren;
     QMainWindow *m_fenster = nullptr;
+    Namenswechsel m_namenswechsel;                         ///< empty before the window is made
     std::array<QLabel *, anzahlNaehrwerte> m_zeichen = {}; ///< the verdicts beside the bars
     std::optional<Klient>
         m_projiziert; ///< whom the chart shows; absent before the first projection

@@ -772,12 +772,36 @@ Nothing is worked out for children under 10 years; it resumes at 11 years.</tr
   <translation>% of the daily need in </translation>
  </message>
  <message>
+  <source>%1 Lebensmittel im Plan heißen jetzt anders, z. B. %2 jetzt %3. Unter den alten Namen zählen sie nicht mit.</source>
+  <translation>%1 foods in the plan have other names now, such as %2, now %3. Under their former names they do not count.</translation>
+ </message>
+ <message>
   <source>%1 Lebensmittel. Seitdem gelöscht: %2, geändert: %3, neu: %4.</source>
   <translation>%1 foods. Deleted since: %2, changed: %3, new: %4.</translation>
  </message>
  <message>
+  <source>%1 heißt jetzt %2 und steht unter diesem Namen schon im Plan; die Zeile mit dem alten zählt nicht mit.</source>
+  <translation>%1 is called %2 now and is in the plan under that name already; the row with the former one does not count.</translation>
+ </message>
+ <message>
+  <source>%1 im Plan heißt jetzt %2. Unter dem alten Namen zählt es nicht mit.</source>
+  <translation>%1 in the plan is called %2 now. Under its former name it does not count.</translation>
+ </message>
+ <message>
   <source>%1 mehr</source>
   <translation>%1 more</translation>
+ </message>
+ <message>
+  <source>%1 stehen nicht mehr in der Tabelle und zählen im Plan nicht mit.</source>
+  <translation>%1 are not in the table any more and do not count in the plan.</translation>
+ </message>
+ <message>
+  <source>%1 steht nicht mehr in der Tabelle und zählt im Plan nicht mit.</source>
+  <translation>%1 is not in the table any more and does not count in the plan.</translation>
+ </message>
+ <message>
+  <source>%1 und %2 weitere</source>
+  <translation>%1 and %2 more</translation>
  </message>
  <message>
   <source>%1 von %2</source>
@@ -930,6 +954,10 @@ Nothing is worked out for children under 10 years; it resumes at 11 years.</tr
  <message>
   <source>Achtung !  Sie koennen nur eigene Lebensmittel loeschen !</source>
   <translation>Attention! You can only delete foods of your own!</translation>
+ </message>
+ <message>
+  <source>Neue Namen übernehmen</source>
+  <translation>Take the new names</translation>
  </message>
  <message>
   <source>anders</source>

@@ -21,6 +21,8 @@ private Q_SLOTS:
     void aRemovedRowLeavesTheStore();
     void noRowIsNotRemoved();
     void aCarrierHoldsNothingButNameAndGrams();
+    void aRenamedFoodKeepsItsRowsAndGrams();
+    void aRenamedFoodThatTheStoreLacksStaysOut();
     void theFirstRowOfAFoodIsFound();
     void tenThousandOperationsGoAsToldToAColleague();
 };
@@ -238,6 +240,23 @@ void TestPlanliste::aCarrierHoldsNothingButNameAndGrams()
     for (const auto &zeile : wertungen) {
         QVERIFY(traeger.wertung(zeile.wertung).isNull());
     }
+}
+
+void TestPlanliste::aRenamedFoodKeepsItsRowsAndGrams()
+{
+    Planliste plan = liste(QStringLiteral("A10 B20 C30"));
+    plan.umbenennen(QStringLiteral("B"), QStringLiteral("X"));
+    QCOMPARE(zeilen(plan), QStringLiteral("A10 X20 C30"));
+    QCOMPARE(lager(plan), QStringLiteral("A10 C30 X20"));
+}
+
+void TestPlanliste::aRenamedFoodThatTheStoreLacksStaysOut()
+{
+    Planliste plan = liste(QStringLiteral("A10 B20"));
+    plan.plansavedictionary.remove(QStringLiteral("B"));
+    plan.umbenennen(QStringLiteral("B"), QStringLiteral("X"));
+    QCOMPARE(zeilen(plan), QStringLiteral("A10 X20"));
+    QCOMPARE(lager(plan), QStringLiteral("A10"));
 }
 
 void TestPlanliste::theFirstRowOfAFoodIsFound()
