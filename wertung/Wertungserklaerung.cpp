@@ -84,7 +84,9 @@ constexpr qsizetype langeListe = 3;
 /// One missed condition is enough to keep a worse rating away; the first one tells it.
 std::vector<Bedingung> erstes(std::vector<Bedingung> liste)
 {
-    liste.resize(std::min<std::size_t>(liste.size(), 1));
+    if (liste.size() > 1) {
+        liste.erase(std::next(liste.begin()), liste.end());
+    }
     return liste;
 }
 
