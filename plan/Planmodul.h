@@ -99,6 +99,9 @@ public:
     // Actions of the window; without one they do nothing
     /// Takes the selected row out of the plan; without one, nothing happens.
     void Lebensmittelentfernen();
+    /// Moves the selected row so many places down, or up when it is below 0, with its amount; it
+    /// stays selected. Where it would leave the plan, nothing happens.
+    void Lebensmittelverschieben(int um);
     /// Projects the weight from what stands in the window's fields.
     void verlustberechnen();
     /// Writes into `Tage` how long it takes to lose the kilograms of the sender.

@@ -1991,6 +1991,14 @@ Nothing is worked out for children under 10 years; it resumes at 11 years.</tr
   <translation>Gout, unsuitable foods</translation>
  </message>
  <message>
+  <source>Nach &amp;oben</source>
+  <translation>Move &amp;up</translation>
+ </message>
+ <message>
+  <source>Nach &amp;unten</source>
+  <translation>Move &amp;down</translation>
+ </message>
+ <message>
   <source>✓ grün: im Ziel, ≈ blau: knapp daneben, ✗ rot: verfehlt.</source>
   <translation>✓ green: on target, ≈ blue: just beside, ✗ red: missed.</translation>
  </message>
