@@ -124,6 +124,13 @@ void Planmodul::verbinde()
     connect(aktionEntfernen, &QAction::triggered, entfernenknopf, &QPushButton::click);
     connect(aktionHoch, &QAction::triggered, this, [this] { Lebensmittelverschieben(-1); });
     connect(aktionRunter, &QAction::triggered, this, [this] { Lebensmittelverschieben(1); });
+    connect(aktionSpalten, &QAction::triggered, this, &Planmodul::Spaltenanpassen);
+    for (QWidget *flaeche :
+         std::initializer_list<QWidget *>{PlanTabelle, PlanTabelle->horizontalHeader()}) {
+        flaeche->setContextMenuPolicy(Qt::CustomContextMenu);
+        connect(flaeche, &QWidget::customContextMenuRequested, this,
+                [this, flaeche](QPoint ort) { zeigeTabellenmenue(flaeche->mapToGlobal(ort)); });
+    }
     connect(druckknopf, &QPushButton::clicked, this, &Planmodul::druckenentscheidung);
     connect(aktionDrucken, &QAction::triggered, druckknopf, &QPushButton::click);
     connect(aktionSchliessen, &QAction::triggered, m_fenster, &QWidget::close);

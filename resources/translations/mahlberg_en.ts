@@ -824,6 +824,14 @@ Nothing is worked out for children under 10 years; it resumes at 11 years.</tr
   <translation>%1 less</translation>
  </message>
  <message>
+  <source>%1 zu viel (%2)</source>
+  <translation>%1 too much (%2)</translation>
+ </message>
+ <message>
+  <source>%1; der Energiebedarf ist noch nicht bekannt</source>
+  <translation>%1; the energy requirement is not known yet</translation>
+ </message>
+ <message>
   <source>&amp;Ablage</source>
   <translation>&amp;File</translation>
  </message>
@@ -944,6 +952,14 @@ Nothing is worked out for children under 10 years; it resumes at 11 years.</tr
   <translation>Cancel</translation>
  </message>
  <message>
+  <source>Abnahme</source>
+  <translation>Loss</translation>
+ </message>
+ <message>
+  <source>Abnahme des Gewichts in diesem Zeitraum</source>
+  <translation>Loss of weight in this period</translation>
+ </message>
+ <message>
   <source>Achtung !</source>
   <translation>Attention!</translation>
  </message>
@@ -952,8 +968,52 @@ Nothing is worked out for children under 10 years; it resumes at 11 years.</tr
   <translation>Attention! You can only delete foods of your own!</translation>
  </message>
  <message>
+  <source>Anteile und Gewichtsverlauf rechnen mit %1: der Energie aus Protein, Kohlenhydraten und Fett.</source>
+  <translation>Shares and course of weight go by %1: the energy from protein, carbohydrate and fat.</translation>
+ </message>
+ <message>
+  <source>Bis zum Tagesbedarf</source>
+  <translation>Left to a day’s need</translation>
+ </message>
+ <message>
+  <source>Der Energiebedarf ist noch nicht bekannt (unter „Körper und Energie“).</source>
+  <translation>The energy requirement is not known yet (under “Body and energy”).</translation>
+ </message>
+ <message>
+  <source>Ein Lebensmittel, das in keiner Tabelle steht, zählt nicht mit, auch nicht seine Menge.</source>
+  <translation>A food that is in no table does not count, nor does its amount.</translation>
+ </message>
+ <message>
+  <source>Es fehlen: %1</source>
+  <translation>Missing: %1</translation>
+ </message>
+ <message>
+  <source>Mit diesem Plan nicht zu erreichen: Er hat mehr Energie, als gebraucht wird.</source>
+  <translation>Not to be reached with this plan: it has more energy than is needed.</translation>
+ </message>
+ <message>
+  <source>Mit diesem Plan nicht zu erreichen: Er hat so viel Energie, wie gebraucht wird.</source>
+  <translation>Not to be reached with this plan: it has as much energy as is needed.</translation>
+ </message>
+ <message>
   <source>Neue Namen übernehmen</source>
   <translation>Take the new names</translation>
+ </message>
+ <message>
+  <source>Ob der Wunsch erreicht wird, ist ohne Energiebedarf nicht bekannt.</source>
+  <translation>Without an energy requirement it is not known whether the wish comes true.</translation>
+ </message>
+ <message>
+  <source>Summe</source>
+  <translation>Sum</translation>
+ </message>
+ <message>
+  <source>Summe (%1 zählen nicht mit)</source>
+  <translation>Sum (%1 do not count)</translation>
+ </message>
+ <message>
+  <source>Summe (1 zählt nicht mit)</source>
+  <translation>Sum (1 does not count)</translation>
  </message>
  <message>
   <source>anders</source>
@@ -1588,6 +1648,10 @@ Nothing is worked out for children under 10 years; it resumes at 11 years.</tr
   <translation>Overw.</translation>
  </message>
  <message>
+  <source>noch %1 (%2)</source>
+  <translation>%1 left (%2)</translation>
+ </message>
+ <message>
   <source>unbekannt</source>
   <translation>unknown</translation>
  </message>
@@ -1811,6 +1875,10 @@ Nothing is worked out for children under 10 years; it resumes at 11 years.</tr
   <translation>Change &amp;amount</translation>
  </message>
  <message>
+  <source>&amp;Spalten anpassen</source>
+  <translation>&amp;Fit columns</translation>
+ </message>
+ <message>
   <source>&amp;Tage berechnen</source>
   <translation>Work out the &amp;days</translation>
  </message>
@@ -1825,6 +1893,10 @@ Nothing is worked out for children under 10 years; it resumes at 11 years.</tr
  <message>
   <source>4 Wochen</source>
   <translation>4 weeks</translation>
+ </message>
+ <message>
+  <source>A&amp;nsicht</source>
+  <translation>&amp;View</translation>
  </message>
  <message>
   <source>Anteil am Tagesbedarf</source>
@@ -1997,6 +2069,10 @@ Nothing is worked out for children under 10 years; it resumes at 11 years.</tr
  <message>
   <source>Nach &amp;unten</source>
   <translation>Move &amp;down</translation>
+ </message>
+ <message>
+  <source>Summen des Plans und was bis zum Tagesbedarf bleibt</source>
+  <translation>Sums of the plan and what is left to a day’s need</translation>
  </message>
  <message>
   <source>✓ grün: im Ziel, ≈ blau: knapp daneben, ✗ rot: verfehlt.</source>
