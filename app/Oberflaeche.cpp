@@ -19,6 +19,7 @@ Anthrotueren anthrotueren(const Tueren &tueren)
                     .melde = tueren.melde,
                     .drucke = tueren.drucke,
                     .dateien = tueren.dateien,
+                    .einstellungen = tueren.einstellungen,
                 });
             },
     };

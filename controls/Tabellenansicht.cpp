@@ -468,6 +468,11 @@ void Tabellenansicht::paintEvent(QPaintEvent *event)
         painter.setPen(palette().color(QPalette::PlaceholderText));
         painter.drawText(viewport()->rect(), Qt::AlignCenter | Qt::TextWordWrap, m_hinweis);
     }
+    maleAbwurfstrich(painter);
+}
+
+void Tabellenansicht::maleAbwurfstrich(QPainter &painter) const
+{
     if (m_abwurfzeile) {
         constexpr int strich = 3;
         const int y = qMax(1, oberkante(*m_abwurfzeile));

@@ -108,6 +108,11 @@ protected:
     void dropEvent(QDropEvent *event) override;
     void paintEvent(QPaintEvent *event) override;
 
+    /// Draws the line where something dropped would go, while there is one.
+    void maleAbwurfstrich(QPainter &painter) const;
+    /// True while what is scrolled to is not looked for sideways.
+    bool rolltNurSenkrecht() const { return m_nurSenkrecht; }
+
 private:
     QItemSelectionModel::SelectionFlags neueAuswahl() const;
     void melde(int spalte);

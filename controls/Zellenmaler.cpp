@@ -109,9 +109,11 @@ bool Zellenmaler::eventFilter(QObject *feld, QEvent *event)
 bool Zellenmaler::helpEvent(QHelpEvent *event, QAbstractItemView *view,
                             const QStyleOptionViewItem &option, const QModelIndex &index)
 {
-    const QString text = index.isValid() ? m_tabelle->modell()->bild(index).text : QString();
+    const Zellenbild bild = m_tabelle->modell()->bild(index);
+    const QString text = bild.erklaerung.isNull() ? bild.text : bild.erklaerung;
     const int platz = option.rect.width() - 2 * zellenrand;
-    const bool ganz = view->fontMetrics().horizontalAdvance(text) <= platz;
+    const bool ganz =
+        bild.erklaerung.isNull() && view->fontMetrics().horizontalAdvance(text) <= platz;
     QToolTip::showText(event->globalPos(),
                        ganz ? QString() : QStringLiteral("<qt>%1</qt>").arg(text.toHtmlEscaped()),
                        view);

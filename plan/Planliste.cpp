@@ -3,6 +3,8 @@
 #include "Ganzzahl.h"
 #include "Lebensmittelbestand.h"
 
+#include <algorithm>
+
 void Planliste::laden(const Lebensmittelverzeichnis &gesichert)
 {
     plansavedictionary = gesichert;
@@ -78,6 +80,27 @@ bool Planliste::zeileEntfernen(qsizetype zeile)
     plansavedictionary.remove(PlanArray[zeile]);
     streiche(zeile);
     return true;
+}
+
+bool Planliste::verschieben(qsizetype von, qsizetype nach)
+{
+    if (!enthaelt(von) || !enthaelt(nach)) {
+        return false;
+    }
+    PlanArray.move(von, nach);
+    mengenarray.move(von, nach);
+    return true;
+}
+
+void Planliste::umbenennen(const QString &alt, const QString &neu)
+{
+    std::replace(PlanArray.begin(), PlanArray.end(), alt, neu);
+    const auto traeger = plansavedictionary.constFind(alt);
+    if (traeger != plansavedictionary.constEnd()) {
+        const float gramm = traeger->kal();
+        plansavedictionary.remove(alt);
+        eintragenzumplansaven(neu, gramm);
+    }
 }
 
 std::optional<qsizetype> Planliste::zeileVon(const QString &name) const

@@ -90,6 +90,8 @@ void Planmodul::awakeFromNib()
     datenberechnen();
     // The sentences set here need room; without this the first picture would be laid out too small.
     boxinhalt->layout()->activate();
+    ladeNamenswechsel();
+    pruefePlannamen();
 }
 
 void Planmodul::ladeBilder()
@@ -107,7 +109,7 @@ void Planmodul::ladeBilder()
 void Planmodul::verbinde()
 {
     // These keys mean the plan only while it has the keyboard.
-    for (QAction *aktion : {aktionMenge, aktionEntfernen}) {
+    for (QAction *aktion : {aktionMenge, aktionEntfernen, aktionHoch, aktionRunter}) {
         aktion->setShortcutContext(Qt::WidgetWithChildrenShortcut);
         PlanTabelle->addAction(aktion);
     }
@@ -120,6 +122,15 @@ void Planmodul::verbinde()
             &Planmodul::folgeAuswahl);
     connect(entfernenknopf, &QPushButton::clicked, this, &Planmodul::Lebensmittelentfernen);
     connect(aktionEntfernen, &QAction::triggered, entfernenknopf, &QPushButton::click);
+    connect(aktionHoch, &QAction::triggered, this, [this] { Lebensmittelverschieben(-1); });
+    connect(aktionRunter, &QAction::triggered, this, [this] { Lebensmittelverschieben(1); });
+    connect(aktionSpalten, &QAction::triggered, this, &Planmodul::Spaltenanpassen);
+    for (QWidget *flaeche :
+         std::initializer_list<QWidget *>{PlanTabelle, PlanTabelle->horizontalHeader()}) {
+        flaeche->setContextMenuPolicy(Qt::CustomContextMenu);
+        connect(flaeche, &QWidget::customContextMenuRequested, this,
+                [this, flaeche](QPoint ort) { zeigeTabellenmenue(flaeche->mapToGlobal(ort)); });
+    }
     connect(druckknopf, &QPushButton::clicked, this, &Planmodul::druckenentscheidung);
     connect(aktionDrucken, &QAction::triggered, druckknopf, &QPushButton::click);
     connect(aktionSchliessen, &QAction::triggered, m_fenster, &QWidget::close);
@@ -200,10 +211,22 @@ void Planmodul::Lebensmittelentfernen()
     }
 }
 
+void Planmodul::Lebensmittelverschieben(int um)
+{
+    beendeEingabe();
+    const int zeile = m_fenster != nullptr ? PlanTabelle->selectedRow() : -1;
+    if (verschieben(zeile, zeile + um)) {
+        uebernimmAenderung();
+        PlanTabelle->selectRow(zeile + um);
+        PlanTabelle->scrollRowToVisible(zeile + um);
+    }
+}
+
 void Planmodul::umschreibungMitName(const Datenmodul &lebensmittel)
 {
     KundenDictionary.insert(lebensmittel.name(), lebensmittel);
     schreibeEigeneLebensmittel();
+    folgePlannamen();
 }
 
 void Planmodul::loeschenvonkundeneintraegen(const QString &name)
@@ -223,6 +246,7 @@ void Planmodul::uebernimmEigene(const Lebensmittelverzeichnis &eigene)
     if (m_fenster != nullptr) {
         PlanTabelle->viewport()->update();
     }
+    folgePlannamen();
 }
 
 void Planmodul::uebernimmPlan(const Planliste &zeilen)
@@ -230,6 +254,7 @@ void Planmodul::uebernimmPlan(const Planliste &zeilen)
     beendeEingabe();
     Planliste::operator=(zeilen);
     uebernimmAenderung();
+    pruefePlannamen();
 }
 
 /// An amount that is being typed still belongs to the row in which it is typed.
@@ -261,4 +286,5 @@ void Planmodul::uebernimmAenderung()
     schreibePlan();
     reloadData();
     datenberechnen();
+    folgePlannamen();
 }

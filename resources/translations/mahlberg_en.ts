@@ -772,12 +772,36 @@ Nothing is worked out for children under 10 years; it resumes at 11 years.</tr
   <translation>% of the daily need in </translation>
  </message>
  <message>
+  <source>%1 heißt jetzt %2 und steht unter diesem Namen schon im Plan; die Zeile mit dem alten zählt nicht mit.</source>
+  <translation>%1 is called %2 now and is in the plan under that name already; the row with the former one does not count.</translation>
+ </message>
+ <message>
+  <source>%1 im Plan heißt jetzt %2. Unter dem alten Namen zählt es nicht mit.</source>
+  <translation>%1 in the plan is called %2 now. Under its former name it does not count.</translation>
+ </message>
+ <message>
+  <source>%1 Lebensmittel im Plan heißen jetzt anders, z. B. %2 jetzt %3. Unter den alten Namen zählen sie nicht mit.</source>
+  <translation>%1 foods in the plan have other names now, such as %2, now %3. Under their former names they do not count.</translation>
+ </message>
+ <message>
   <source>%1 Lebensmittel. Seitdem gelöscht: %2, geändert: %3, neu: %4.</source>
   <translation>%1 foods. Deleted since: %2, changed: %3, new: %4.</translation>
  </message>
  <message>
   <source>%1 mehr</source>
   <translation>%1 more</translation>
+ </message>
+ <message>
+  <source>%1 stehen nicht mehr in der Tabelle und zählen im Plan nicht mit.</source>
+  <translation>%1 are not in the table any more and do not count in the plan.</translation>
+ </message>
+ <message>
+  <source>%1 steht nicht mehr in der Tabelle und zählt im Plan nicht mit.</source>
+  <translation>%1 is not in the table any more and does not count in the plan.</translation>
+ </message>
+ <message>
+  <source>%1 und %2 weitere</source>
+  <translation>%1 and %2 more</translation>
  </message>
  <message>
   <source>%1 von %2</source>
@@ -800,8 +824,16 @@ Nothing is worked out for children under 10 years; it resumes at 11 years.</tr
   <translation>%1 less</translation>
  </message>
  <message>
+  <source>%1 zu viel (%2)</source>
+  <translation>%1 too much (%2)</translation>
+ </message>
+ <message>
   <source>%1: „%2“</source>
   <translation>%1: “%2”</translation>
+ </message>
+ <message>
+  <source>%1; der Energiebedarf ist noch nicht bekannt</source>
+  <translation>%1; the energy requirement is not known yet</translation>
  </message>
  <message>
   <source>&amp;Ablage</source>
@@ -924,6 +956,14 @@ Nothing is worked out for children under 10 years; it resumes at 11 years.</tr
   <translation>Cancel</translation>
  </message>
  <message>
+  <source>Abnahme</source>
+  <translation>Loss</translation>
+ </message>
+ <message>
+  <source>Abnahme des Gewichts in diesem Zeitraum</source>
+  <translation>Loss of weight in this period</translation>
+ </message>
+ <message>
   <source>Achtung !</source>
   <translation>Attention!</translation>
  </message>
@@ -942,6 +982,10 @@ Nothing is worked out for children under 10 years; it resumes at 11 years.</tr
  <message>
   <source>Ansicht</source>
   <translation>View</translation>
+ </message>
+ <message>
+  <source>Anteile und Gewichtsverlauf rechnen mit %1: der Energie aus Protein, Kohlenhydraten und Fett.</source>
+  <translation>Shares and course of weight go by %1: the energy from protein, carbohydrate and fat.</translation>
  </message>
  <message>
   <source>Anzeigen:</source>
@@ -970,6 +1014,10 @@ Nothing is worked out for children under 10 years; it resumes at 11 years.</tr
  <message>
   <source>beiseitegelegt am %1</source>
   <translation>put aside on %1</translation>
+ </message>
+ <message>
+  <source>Bis zum Tagesbedarf</source>
+  <translation>Left to a day’s need</translation>
  </message>
  <message>
   <source>BS</source>
@@ -1018,6 +1066,10 @@ Nothing is worked out for children under 10 years; it resumes at 11 years.</tr
  <message>
   <source>Der Drucker „%1“ nimmt den Auftrag nicht an. Vielleicht ist er ausgeschaltet oder nicht mehr angeschlossen.</source>
   <translation>The printer “%1” does not take the job. Perhaps it is switched off or no longer connected.</translation>
+ </message>
+ <message>
+  <source>Der Energiebedarf ist noch nicht bekannt (unter „Körper und Energie“).</source>
+  <translation>The energy requirement is not known yet (under “Body and energy”).</translation>
  </message>
  <message>
   <source>Der frühere Stand ist zurückgeholt.</source>
@@ -1124,6 +1176,10 @@ Nothing is worked out for children under 10 years; it resumes at 11 years.</tr
   <translation>&amp;Save own food …</translation>
  </message>
  <message>
+  <source>Ein Lebensmittel, das in keiner Tabelle steht, zählt nicht mit, auch nicht seine Menge.</source>
+  <translation>A food that is in no table does not count, nor does its amount.</translation>
+ </message>
+ <message>
   <source>Ein Plan mit Lücken</source>
   <translation>A plan with gaps</translation>
  </message>
@@ -1166,6 +1222,10 @@ Nothing is worked out for children under 10 years; it resumes at 11 years.</tr
  <message>
   <source>es fehlen: %1</source>
   <translation>missing: %1</translation>
+ </message>
+ <message>
+  <source>Es fehlen: %1</source>
+  <translation>Missing: %1</translation>
  </message>
  <message>
   <source>Es gibt noch keine früheren Stände. An jedem Tag, an dem sich etwas ändert, wird der Stand davor aufgehoben; die letzten zehn bleiben.</source>
@@ -1420,6 +1480,14 @@ Nothing is worked out for children under 10 years; it resumes at 11 years.</tr
   <translation>with other values: %1</translation>
  </message>
  <message>
+  <source>Mit diesem Plan nicht zu erreichen: Er hat mehr Energie, als gebraucht wird.</source>
+  <translation>Not to be reached with this plan: it has more energy than is needed.</translation>
+ </message>
+ <message>
+  <source>Mit diesem Plan nicht zu erreichen: Er hat so viel Energie, wie gebraucht wird.</source>
+  <translation>Not to be reached with this plan: it has as much energy as is needed.</translation>
+ </message>
+ <message>
   <source>Moechten Sie dieses eigene Lebensmittel wirklich dauerhaft loeschen ?  </source>
   <translation>Do you really want to delete this food of your own for good?  </translation>
  </message>
@@ -1436,8 +1504,16 @@ Nothing is worked out for children under 10 years; it resumes at 11 years.</tr
   <translation>No</translation>
  </message>
  <message>
+  <source>Neue Namen übernehmen</source>
+  <translation>Take the new names</translation>
+ </message>
+ <message>
   <source>Neues LM</source>
   <translation>New food</translation>
+ </message>
+ <message>
+  <source>noch %1 (%2)</source>
+  <translation>%1 left (%2)</translation>
  </message>
  <message>
   <source>Noch kein Verlauf.</source>
@@ -1458,6 +1534,10 @@ Nothing is worked out for children under 10 years; it resumes at 11 years.</tr
  <message>
   <source>Nährwerte: Schweizer Nährwertdatenbank, generische Lebensmittel, Version 7.0 vom 1. Juli 2025. Herausgeber: Bundesamt für Lebensmittelsicherheit und Veterinärwesen BLV, Schweiz. Freie Nutzung mit Angabe der Quelle. Namen, Auswahl und Bewertungen der Lebensmittel sind von Mahlberg.</source>
   <translation>Values: Swiss Food Composition Database, generic foods, version 7.0 of 1 July 2025. Publisher: Federal Food Safety and Veterinary Office FSVO, Switzerland. Free use, subject to acknowledgment of the source. Names, choice and ratings of the foods are Mahlberg’s own.</translation>
+ </message>
+ <message>
+  <source>Ob der Wunsch erreicht wird, ist ohne Energiebedarf nicht bekannt.</source>
+  <translation>Without an energy requirement it is not known whether the wish comes true.</translation>
  </message>
  <message>
   <source>Ohne Größe (unter „Körper und Energie“) sagen die Farben nichts.</source>
@@ -1534,6 +1614,18 @@ Nothing is worked out for children under 10 years; it resumes at 11 years.</tr
  <message>
   <source>Suche: nichts gefunden</source>
   <translation>Search: nothing found</translation>
+ </message>
+ <message>
+  <source>Summe</source>
+  <translation>Sum</translation>
+ </message>
+ <message>
+  <source>Summe (%1 zählen nicht mit)</source>
+  <translation>Sum (%1 do not count)</translation>
+ </message>
+ <message>
+  <source>Summe (1 zählt nicht mit)</source>
+  <translation>Sum (1 does not count)</translation>
  </message>
  <message>
   <source>Sy&amp;mbolleiste zeigen</source>
@@ -1791,6 +1883,10 @@ Nothing is worked out for children under 10 years; it resumes at 11 years.</tr
   <translation>Change &amp;amount</translation>
  </message>
  <message>
+  <source>&amp;Spalten anpassen</source>
+  <translation>&amp;Fit columns</translation>
+ </message>
+ <message>
   <source>&amp;Tage berechnen</source>
   <translation>Work out the &amp;days</translation>
  </message>
@@ -1805,6 +1901,10 @@ Nothing is worked out for children under 10 years; it resumes at 11 years.</tr
  <message>
   <source>4 Wochen</source>
   <translation>4 weeks</translation>
+ </message>
+ <message>
+  <source>A&amp;nsicht</source>
+  <translation>&amp;View</translation>
  </message>
  <message>
   <source>Anteil am Tagesbedarf</source>
@@ -1969,6 +2069,18 @@ Nothing is worked out for children under 10 years; it resumes at 11 years.</tr
  <message>
   <source>Gicht, ungeeignete Lebensmittel</source>
   <translation>Gout, unsuitable foods</translation>
+ </message>
+ <message>
+  <source>Nach &amp;oben</source>
+  <translation>Move &amp;up</translation>
+ </message>
+ <message>
+  <source>Nach &amp;unten</source>
+  <translation>Move &amp;down</translation>
+ </message>
+ <message>
+  <source>Summen des Plans und was bis zum Tagesbedarf bleibt</source>
+  <translation>Sums of the plan and what is left to a day’s need</translation>
  </message>
  <message>
   <source>✓ grün: im Ziel, ≈ blau: knapp daneben, ✗ rot: verfehlt.</source>
