@@ -45,7 +45,13 @@ Tabellenansicht::Tabellenansicht(QWidget *parent)
     setHorizontalScrollMode(QAbstractItemView::ScrollPerPixel);
     horizontalHeader()->setResizeContentsPrecision(-1); // the longest entry may be the last one
     connect(horizontalHeader(), &QHeaderView::sectionResized, this,
-            [this](int spalte) { m_breiteVonHand |= spalte == 0 && !m_verteilt; });
+            [this](int spalte, int /*vorher*/, int breite) {
+                const bool letzte = spalte == m_modell->columnCount() - 1;
+                m_breiteVonHand |= spalte == 0 && !m_verteilt;
+                if (!m_verteilt && !letzte) {
+                    Q_EMIT spalteGezogen(spalte, breite);
+                }
+            });
     verticalHeader()->hide();
     verticalHeader()->setMinimumSectionSize(8);
 }

@@ -87,6 +87,8 @@ public:
 Q_SIGNALS:
     /// The user has chosen a cell, or clicked beside all rows.
     void betaetigt();
+    /// The user has drawn a column to this width; the last one only takes what is left.
+    void spalteGezogen(int spalte, int breite);
 
 protected:
     void mousePressEvent(QMouseEvent *event) override;

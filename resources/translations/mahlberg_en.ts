@@ -439,8 +439,8 @@
   <translation>Source of the values</translation>
  </message>
  <message>
-  <source>Rot: unter 10 % des Tagesbedarfs, grün: darüber.</source>
-  <translation>Red: below 10 % of the daily need, green: above.</translation>
+  <source>✓ grün: über 10 % des Tagesbedarfs, ✗ rot: darunter. Genau 10 % werden wie die Zeile davor beurteilt, bei Calcium grün.</source>
+  <translation>✓ green: above 10 % of the daily need, ✗ red: below. Exactly 10 % is judged like the row before, for calcium green.</translation>
  </message>
  <message>
   <source>Sichern</source>
@@ -767,6 +767,34 @@ Nothing is worked out for children under 10 years; it resumes at 11 years.</tr
 </context>
 <context>
  <name>Mahlberg</name>
+ <message>
+  <source>ab %1 %</source>
+  <translation>from %1 %</translation>
+ </message>
+ <message>
+  <source>verfehlt</source>
+  <translation>missed</translation>
+ </message>
+ <message>
+  <source>knapp daneben</source>
+  <translation>just beside</translation>
+ </message>
+ <message>
+  <source>im Ziel</source>
+  <translation>on target</translation>
+ </message>
+ <message>
+  <source>ungeeignet</source>
+  <translation>unsuitable</translation>
+ </message>
+ <message>
+  <source>neutral</source>
+  <translation>neutral</translation>
+ </message>
+ <message>
+  <source>geeignet</source>
+  <translation>suitable</translation>
+ </message>
  <message>
   <source>% der Zufuhr in </source>
   <translation>% of the daily need in </translation>
