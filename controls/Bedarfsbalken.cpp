@@ -125,7 +125,8 @@ void Bedarfsbalken::paintEvent(QPaintEvent * /*event*/)
     painter.setPen(palette().color(QPalette::WindowText));
     painter.drawText(rect(), Qt::AlignRight | Qt::AlignVCenter, grenztext());
     const int rechts = width() - painter.fontMetrics().horizontalAdvance(grenztext()) - nah;
-    maleBalken(painter, QRectF(links, (height() - balkenhoehe) / 2, rechts - links, balkenhoehe));
+    const int oben = (height() - balkenhoehe) / 2; // on a whole pixel
+    maleBalken(painter, QRectF(links, oben, rechts - links, balkenhoehe));
 }
 
 void Bedarfsbalken::maleBalken(QPainter &painter, const QRectF &platz) const
