@@ -70,7 +70,7 @@ QString Summenzeilen::restwort(Naehrwert wert) const
         return localizedString(QStringLiteral(
             "Der Energiebedarf ist noch nicht bekannt (unter „Körper und Energie“)."));
     }
-    const QString von =
+    QString von =
         localizedString(QStringLiteral("%1 von %2"))
             .arg(naehrwertMitEinheit(wert, static_cast<double>(m_summen.summe[stelle(wert)])),
                  naehrwertMitEinheit(wert, *m_summen.bedarf[stelle(wert)]));
