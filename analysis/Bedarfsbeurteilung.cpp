@@ -8,7 +8,6 @@
 
 namespace {
 
-constexpr std::int32_t grenzeZeile = 10;    // percent of the day, between red and green
 constexpr std::int32_t grenzeSchlecht = 10; // percent of the day in 100 kcal
 constexpr std::int32_t grenzeGut = 45;
 constexpr int mindestensVorhanden = 7;
@@ -23,10 +22,10 @@ Zeilen zeilenBeurteilen(const Naehrwertreihe &anzeige)
     for (std::size_t i = 0; i < zeilen.size(); ++i) {
         const Tagesbedarf &bedarf = tagesbedarfe[i];
         const std::int32_t prozent = ganzzahl(bedarfsprozent(anzeige[stelle(bedarf.wert)], bedarf));
-        const bool genauGenug = bedarf.wert == Naehrwert::ca && prozent == grenzeZeile;
-        if (prozent < grenzeZeile) {
+        const bool genauGenug = bedarf.wert == Naehrwert::ca && prozent == bedarfsgrenze;
+        if (prozent < bedarfsgrenze) {
             farbe = Ampel::Rot;
-        } else if (prozent > grenzeZeile || genauGenug) {
+        } else if (prozent > bedarfsgrenze || genauGenug) {
             farbe = Ampel::Gruen;
         }
         zeilen[i] = {bedarf.wert, prozent, farbe};

@@ -10,6 +10,10 @@
 #include <cstdint>
 #include <optional>
 
+/// From which share of a day's requirement on a food counts as a source of the nutrient, in
+/// percent.
+inline constexpr std::int32_t bedarfsgrenze = 10;
+
 /// How far the displayed amount covers the daily requirement of one nutrient.
 struct Bedarfszeile
 {

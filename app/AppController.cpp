@@ -1,10 +1,12 @@
 #include "AppController.h"
 
+#include "Bedarfsbeurteilung.h"
 #include "Dateihueter.h"
 #include "Fensterplatz.h"
 #include "Lebensmittelbestand.h"
 #include "Menue.h"
 #include "Rollbereich.h"
+#include "Schriftstufe.h"
 #include "Zeichenkettentabelle.h"
 
 #include <QAbstractButton>
@@ -25,8 +27,10 @@ constexpr int zeilenhoehe = 23;
 /// A search begins when the user has not typed for this long, in milliseconds.
 constexpr int tipppause = 350;
 
-constexpr int fensterteilung[] = {640, 630};
-constexpr int spaltenbreiten[] = {245, 115, 240};
+constexpr int fensterteilung[] = {670, 590};
+/// Together they fit the smallest table, so that what a search finds is always seen. Where there is
+/// more room, it goes to the names first.
+constexpr int spaltenbreiten[] = {180, 70, 106};
 
 const char *const quellenangabe =
     QT_TRANSLATE_NOOP("Mahlberg", "Nährwerte je 100 g: Schweizer Nährwertdatenbank, generische "
@@ -108,11 +112,17 @@ void AppController::findeFelder()
             qobject_cast<Textfeld *>(finde(QLatin1String(zeile.kennung) + QStringLiteral("feld")));
         m_wertungseingaben[stelle(zeile.wertung)] =
             qobject_cast<Auswahlfeld *>(finde(blatt + QLatin1String(zeile.kennung)));
+        auto *wort = qobject_cast<Wertungswort *>(
+            finde(QLatin1String(zeile.kennung) + QStringLiteral("wort")));
+        wort->folge(*m_wertungsfelder[stelle(zeile.wertung)]);
     }
     for (std::size_t i = 0; i < tagesbedarfe.size(); ++i) {
         const QString kennung = QLatin1String(beschreibung(tagesbedarfe[i].wert).kennung);
         m_bedarfsfelder[i] =
             qobject_cast<Textfeld *>(finde(kennung + QStringLiteral("tagesbedarffeld")));
+        m_bedarfsbalken[i] =
+            qobject_cast<Bedarfsbalken *>(finde(kennung + QStringLiteral("tagesbedarfbalken")));
+        m_bedarfsbalken[i]->setGrenze(bedarfsgrenze);
     }
     m_mengenanzeigen = {anzeigelebensmittelmenge, anzeigelebensmittelmenge2,
                         anzeigelebensmittelmenge3};
@@ -121,6 +131,7 @@ void AppController::findeFelder()
 
 void AppController::beschrifte()
 {
+    Schriftstufe::kleide(*Hauptfenster);
     view->viewport()->setAutoFillBackground(false);
     view->setPlainText(localizedString(QString::fromUtf8(quellenangabe)));
     nahrviewfarben->setEintraege({

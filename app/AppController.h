@@ -1,6 +1,7 @@
 #pragma once
 
 #include "Ampel.h"
+#include "Bedarfsbalken.h"
 #include "Datenmodul.h"
 #include "Energieanteile.h"
 #include "Erscheinungsbild.h"
@@ -216,6 +217,7 @@ private:
     std::array<Textfeld *, anzahlWertungen> m_wertungsfelder = {};
     std::array<Feldauskunft *, anzahlWertungen> m_wertungsauskuenfte = {};
     std::array<Textfeld *, tagesbedarfe.size()> m_bedarfsfelder = {};
+    std::array<Bedarfsbalken *, tagesbedarfe.size()> m_bedarfsbalken = {};
     std::array<Textfeld *, 3> m_mengenanzeigen = {};
     std::array<Schieber *, 3> m_mengenregler = {};
 };

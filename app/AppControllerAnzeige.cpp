@@ -190,6 +190,7 @@ void AppController::rechnen()
     for (std::size_t i = 0; i < urteil.zeilen.size(); ++i) {
         m_bedarfsfelder[i]->setTextColor(textfarbe(urteil.zeilen[i].farbe));
         m_bedarfsfelder[i]->setIntValue(urteil.zeilen[i].prozent);
+        m_bedarfsbalken[i]->zeige(urteil.zeilen[i].prozent, textfarbe(urteil.zeilen[i].farbe));
     }
     if (urteil.boxtitel) {
         const QString titel = localizedString(*urteil.boxtitel);

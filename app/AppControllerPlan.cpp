@@ -2,6 +2,7 @@
 
 #include "AppController.h"
 
+#include "Einstellungen.h"
 #include "Fensterplatz.h"
 
 #include <QScreen>
@@ -13,7 +14,8 @@ void AppController::Planmoduloeffnen()
                                    .datenordner = m_tueren.datenordner,
                                    .melde = m_tueren.melde,
                                    .drucke = m_tueren.drucke,
-                                   .dateien = m_tueren.dateien});
+                                   .dateien = m_tueren.dateien,
+                                   .einstellungen = m_tueren.einstellungen});
         stellePlanDaneben();
     }
     planmodul->showWindow();

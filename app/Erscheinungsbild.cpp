@@ -18,10 +18,10 @@ struct Farbwahl
 };
 
 constexpr Farbwahl farben[] = {
-    {QPalette::Window, 0xfff4f4f2, 0xff26282b},
+    {QPalette::Window, 0xfff6f6f4, 0xff232527},
     {QPalette::WindowText, 0xff1e1e1e, 0xffececec},
-    {QPalette::Base, 0xffffffff, 0xff1c1e20},
-    {QPalette::AlternateBase, 0xfff1f5f1, 0xff25282a},
+    {QPalette::Base, 0xffffffff, 0xff1b1d1f},
+    {QPalette::AlternateBase, 0xfff3f6f3, 0xff212426},
     {QPalette::Text, 0xff1e1e1e, 0xffececec},
     {QPalette::Button, 0xffeeeeec, 0xff34373b},
     {QPalette::ButtonText, 0xff1e1e1e, 0xffececec},
@@ -33,7 +33,7 @@ constexpr Farbwahl farben[] = {
     {QPalette::HighlightedText, 0xffffffff, 0xff10130f},
     {QPalette::Link, 0xff1a5fb4, 0xff8ab8ff},
     {QPalette::Light, 0xffffffff, 0xff303337},
-    {QPalette::Midlight, 0xffe4e4e2, 0xff3b3f43},
+    {QPalette::Midlight, 0xffd6d6d3, 0xff45494e},
     {QPalette::Mid, 0xffb9b9b6, 0xff5a5f65},
     {QPalette::Dark, 0xff9a9a97, 0xff17181a},
     {QPalette::Shadow, 0xff6a6a68, 0xff0c0d0e},

@@ -19,6 +19,7 @@ Anthrotueren anthrotueren(const Tueren &tueren)
                     .melde = tueren.melde,
                     .drucke = tueren.drucke,
                     .dateien = tueren.dateien,
+                    .einstellungen = tueren.einstellungen,
                 });
             },
     };
@@ -37,6 +38,7 @@ Oberflaeche::Oberflaeche(const Tueren &tueren)
     , hauptfenster(mitDateien(tueren, dateien))
     , rechner(anthrotueren(mitDateien(tueren, dateien)))
     , ansage(hauptfenster, tueren.datenordner, dateien)
+    , gedaechtnis(hauptfenster, *tueren.einstellungen)
 {
     ansage.beachte(*tueren.einstellungen);
     Rollbereich::fuelle(*hauptfenster.tabVier, rechner.koerperseite);
@@ -48,4 +50,5 @@ void Oberflaeche::awakeFromNib()
     hauptfenster.awakeFromNib();
     rechner.awakeFromNib();
     ansage.beginne();
+    gedaechtnis.beginne();
 }

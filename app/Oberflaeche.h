@@ -3,6 +3,7 @@
 #include "AnthroController.h"
 #include "AppController.h"
 #include "Dateiansage.h"
+#include "Fenstergedaechtnis.h"
 
 #include <memory>
 
@@ -23,4 +24,5 @@ public:
     AppController hauptfenster;
     AnthroController rechner;
     Dateiansage ansage;
+    Fenstergedaechtnis gedaechtnis;
 };

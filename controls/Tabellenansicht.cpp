@@ -45,7 +45,13 @@ Tabellenansicht::Tabellenansicht(QWidget *parent)
     setHorizontalScrollMode(QAbstractItemView::ScrollPerPixel);
     horizontalHeader()->setResizeContentsPrecision(-1); // the longest entry may be the last one
     connect(horizontalHeader(), &QHeaderView::sectionResized, this,
-            [this](int spalte) { m_breiteVonHand |= spalte == 0 && !m_verteilt; });
+            [this](int spalte, int /*vorher*/, int breite) {
+                const bool letzte = spalte == m_modell->columnCount() - 1;
+                m_breiteVonHand |= spalte == 0 && !m_verteilt;
+                if (!m_verteilt && !letzte) {
+                    Q_EMIT spalteGezogen(spalte, breite);
+                }
+            });
     verticalHeader()->hide();
     verticalHeader()->setMinimumSectionSize(8);
 }
@@ -468,6 +474,11 @@ void Tabellenansicht::paintEvent(QPaintEvent *event)
         painter.setPen(palette().color(QPalette::PlaceholderText));
         painter.drawText(viewport()->rect(), Qt::AlignCenter | Qt::TextWordWrap, m_hinweis);
     }
+    maleAbwurfstrich(painter);
+}
+
+void Tabellenansicht::maleAbwurfstrich(QPainter &painter) const
+{
     if (m_abwurfzeile) {
         constexpr int strich = 3;
         const int y = qMax(1, oberkante(*m_abwurfzeile));

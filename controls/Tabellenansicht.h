@@ -87,6 +87,8 @@ public:
 Q_SIGNALS:
     /// The user has chosen a cell, or clicked beside all rows.
     void betaetigt();
+    /// The user has drawn a column to this width; the last one only takes what is left.
+    void spalteGezogen(int spalte, int breite);
 
 protected:
     void mousePressEvent(QMouseEvent *event) override;
@@ -107,6 +109,11 @@ protected:
     void dragLeaveEvent(QDragLeaveEvent *event) override;
     void dropEvent(QDropEvent *event) override;
     void paintEvent(QPaintEvent *event) override;
+
+    /// Draws the line where something dropped would go, while there is one.
+    void maleAbwurfstrich(QPainter &painter) const;
+    /// True while what is scrolled to is not looked for sideways.
+    bool rolltNurSenkrecht() const { return m_nurSenkrecht; }
 
 private:
     QItemSelectionModel::SelectionFlags neueAuswahl() const;

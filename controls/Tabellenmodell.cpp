@@ -117,6 +117,10 @@ QVariant Tabellenmodell::data(const QModelIndex &index, int role) const
         return role == Qt::EditRole ? wert
                                     : m_quelle->willDisplayCell(spalte, index.row(), wert).text;
     }
+    if (role == Qt::ToolTipRole || role == Qt::AccessibleDescriptionRole) {
+        const QString erklaerung = bild(index).erklaerung;
+        return erklaerung.isNull() ? QVariant() : QVariant(erklaerung);
+    }
     if (role == Qt::TextAlignmentRole) {
         return QVariant::fromValue(m_spalten[index.column()].ausrichtung);
     }

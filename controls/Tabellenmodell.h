@@ -16,6 +16,8 @@ struct Zellenbild
     bool umrandet = false;           ///< drawn with a border: the cell of the food on display
     std::optional<Textfarbe> anfang; ///< colour of the first character; absent: as the rest
     int anfangspunkte = 0;           ///< size of the first character in points; 0: as the rest
+    QString erklaerung = {}; ///< what more there is to say, by the tool tip and to screen readers;
+                             ///< null: nothing
 };
 
 /// A column of a table: what it is called in the code and on screen.

@@ -109,6 +109,12 @@ void Textfeld::setUebersetzt(bool uebersetzt)
     wertGesetzt();
 }
 
+void Textfeld::setMuster(const QString &muster)
+{
+    m_muster = muster;
+    updateGeometry();
+}
+
 void Textfeld::setTextColor(Textfarbe farbe)
 {
     if (m_farbe != farbe) {
@@ -263,15 +269,16 @@ void Textfeld::focusOutEvent(QFocusEvent *event)
     wertGesetzt();
 }
 
-/// Wide enough for what such a field usually holds, and as high with a frame as without: nothing
-/// moves when a display becomes an entry.
+/// Wide enough for what such a field usually holds or is told to hold, and as high with a frame as
+/// without: nothing moves when a display becomes an entry.
 QSize Textfeld::sizeHint() const
 {
-    return {fontMetrics().horizontalAdvance(QStringLiteral("00000,0 kcal")) + 16,
-            fontMetrics().height() + 8};
+    const QString breitestes = m_muster.isEmpty() ? QStringLiteral("00000,0 kcal") : m_muster;
+    return {fontMetrics().horizontalAdvance(breitestes) + 16, fontMetrics().height() + 8};
 }
 
 QSize Textfeld::minimumSizeHint() const
 {
-    return {sizeHint().width() / 2, sizeHint().height()};
+    const QSize groesse = sizeHint();
+    return {m_muster.isEmpty() ? groesse.width() / 2 : groesse.width(), groesse.height()};
 }

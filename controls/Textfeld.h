@@ -34,6 +34,9 @@ class Textfeld : public Zahlenzeile, public Wertehalter
     /// True: a held text is shown in the language of the windows. The field still holds the German
     /// one, for rules that read it back.
     Q_PROPERTY(bool uebersetzt READ uebersetzt WRITE setUebersetzt)
+    /// The widest text that the field is to show whole; empty for what such a field usually holds.
+    /// A field with one is never narrower.
+    Q_PROPERTY(QString muster READ muster WRITE setMuster)
 
 public:
     explicit Textfeld(QWidget *parent = nullptr);
@@ -54,6 +57,8 @@ public:
     void setUnit(const QString &unit);
     bool uebersetzt() const { return m_uebersetzt; }
     void setUebersetzt(bool uebersetzt);
+    QString muster() const { return m_muster; }
+    void setMuster(const QString &muster);
 
     Textfarbe textColor() const { return m_farbe; }
     void setTextColor(Textfarbe farbe);
@@ -89,6 +94,7 @@ private:
     bool m_trailingZeros = true;
     QString m_unit;
     bool m_uebersetzt = false;
+    QString m_muster;
     Textfarbe m_farbe = Textfarbe::Standard;
     bool m_veraltet = false;        ///< the shown text is older than the held value
     std::optional<double> m_vorher; ///< the number before the one that is being typed

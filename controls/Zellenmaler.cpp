@@ -109,9 +109,12 @@ bool Zellenmaler::eventFilter(QObject *feld, QEvent *event)
 bool Zellenmaler::helpEvent(QHelpEvent *event, QAbstractItemView *view,
                             const QStyleOptionViewItem &option, const QModelIndex &index)
 {
-    const QString text = index.isValid() ? m_tabelle->modell()->bild(index).text : QString();
-    const int platz = option.rect.width() - 2 * zellenrand;
-    const bool ganz = view->fontMetrics().horizontalAdvance(text) <= platz;
+    const Zellenbild bild = index.isValid() ? m_tabelle->modell()->bild(index) : Zellenbild();
+    const QString text = bild.erklaerung.isNull() ? bild.text : bild.erklaerung;
+    const int grosserAnfang = bild.anfang ? view->fontMetrics().averageCharWidth() : 0;
+    const int platz = option.rect.width() - 2 * zellenrand - grosserAnfang;
+    const bool ganz =
+        bild.erklaerung.isNull() && view->fontMetrics().horizontalAdvance(text) <= platz;
     QToolTip::showText(event->globalPos(),
                        ganz ? QString() : QStringLiteral("<qt>%1</qt>").arg(text.toHtmlEscaped()),
                        view);
@@ -135,9 +138,9 @@ void Zellenmaler::maleGrund(QPainter &painter, const QStyleOptionViewItem &optio
 void Zellenmaler::maleGitter(QPainter &painter, const QStyleOptionViewItem &option) const
 {
     const QRect &zelle = option.rect;
-    painter.setPen(QPen(option.palette.color(QPalette::Mid), 0));
+    painter.setPen(QPen(option.palette.color(QPalette::Midlight), 0));
     painter.drawLine(zelle.topRight(), zelle.bottomRight());
-    painter.setPen(QPen(option.palette.color(QPalette::Mid), 0, Qt::DashLine));
+    painter.setPen(QPen(option.palette.color(QPalette::Midlight), 0, Qt::DashLine));
     painter.drawLine(zelle.bottomLeft(), zelle.bottomRight());
 }
 

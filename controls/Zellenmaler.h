@@ -23,7 +23,8 @@ public:
     /// A double click takes the whole of what stands in a cell that is being edited, and not the
     /// part of a number before or behind the comma, nor less than all when the hand shakes.
     bool eventFilter(QObject *feld, QEvent *event) override;
-    /// A text that is cut off stands whole in the cell's tool tip.
+    /// The cell's tool tip explains what stands there; where there is nothing to explain, a text
+    /// that is cut off stands whole in it.
     bool helpEvent(QHelpEvent *event, QAbstractItemView *view, const QStyleOptionViewItem &option,
                    const QModelIndex &index) override;
 

@@ -55,10 +55,8 @@ Planwertung wertungZaehlen(Wertung wertung, Zeilen zeilen)
 int punkteZaehlen(const Planauswertung &auswertung)
 {
     const auto ausNaehrwerten =
-        std::count_if(planregeln.begin(), planregeln.end(), [&auswertung](const Planregel &regel) {
-            return regel.punkt.enthaelt(
-                gezeigterProzentsatz(auswertung.naehrwerte[stelle(regel.wert)].prozent));
-        });
+        std::count_if(auswertung.naehrwerte.begin(), auswertung.naehrwerte.end(),
+                      [](const Plannaehrwert &naehrwert) { return naehrwert.punkt; });
     const auto ausWertungen =
         std::count_if(auswertung.wertungen.begin(), auswertung.wertungen.end(),
                       [](const Planwertung &wertung) { return wertung.punkt; });
@@ -85,7 +83,10 @@ Planauswertung planAuswerten(std::span<const Planzeile> zeilen, std::int32_t ene
     Summen summen = {};
     for (const Planregel &regel : planregeln) {
         const std::size_t i = stelle(regel.wert);
-        auswertung.naehrwerte[i] = summieren(regel, zeilen, energiebedarf, summen[i]);
+        Plannaehrwert &naehrwert = auswertung.naehrwerte[i];
+        naehrwert = summieren(regel, zeilen, energiebedarf, summen[i]);
+        naehrwert.summe = summen[i];
+        naehrwert.punkt = regel.punkt.enthaelt(gezeigterProzentsatz(naehrwert.prozent));
     }
     for (const auto &zeile : wertungen) {
         auswertung.wertungen[stelle(zeile.wertung)] = wertungZaehlen(zeile.wertung, zeilen);

@@ -29,6 +29,8 @@ struct Plannaehrwert
     double prozent = 0; ///< of what a day needs; a whole or a single-precision number, unchanged
     /// What the last row left whose running total matched a band. Absent: the bar stays as it was.
     std::optional<Planbalken> balken;
+    float summe = 0;    ///< in the value's unit; of energy, what is worked out
+    bool punkt = false; ///< the percentage, as it is shown, earns one
 };
 
 /// The energy fields of the projection.

@@ -82,6 +82,16 @@ bool Planliste::zeileEntfernen(qsizetype zeile)
     return true;
 }
 
+bool Planliste::verschieben(qsizetype von, qsizetype nach)
+{
+    if (!enthaelt(von) || !enthaelt(nach)) {
+        return false;
+    }
+    PlanArray.move(von, nach);
+    mengenarray.move(von, nach);
+    return true;
+}
+
 void Planliste::umbenennen(const QString &alt, const QString &neu)
 {
     std::replace(PlanArray.begin(), PlanArray.end(), alt, neu);

@@ -43,6 +43,9 @@ public:
     bool mengeAendern(qsizetype zeile, float gramm);
     bool zeileEntfernen(qsizetype zeile);
 
+    /// Moves a row to another place; the rows between move up or down. All keep their grams.
+    bool verschieben(qsizetype von, qsizetype nach);
+
     /// Gives a food another name in all its rows. They keep their places and their grams; what the
     /// store holds of it stands there under the new name.
     void umbenennen(const QString &alt, const QString &neu);

@@ -109,7 +109,7 @@ void Planmodul::ladeBilder()
 void Planmodul::verbinde()
 {
     // These keys mean the plan only while it has the keyboard.
-    for (QAction *aktion : {aktionMenge, aktionEntfernen}) {
+    for (QAction *aktion : {aktionMenge, aktionEntfernen, aktionHoch, aktionRunter}) {
         aktion->setShortcutContext(Qt::WidgetWithChildrenShortcut);
         PlanTabelle->addAction(aktion);
     }
@@ -122,6 +122,15 @@ void Planmodul::verbinde()
             &Planmodul::folgeAuswahl);
     connect(entfernenknopf, &QPushButton::clicked, this, &Planmodul::Lebensmittelentfernen);
     connect(aktionEntfernen, &QAction::triggered, entfernenknopf, &QPushButton::click);
+    connect(aktionHoch, &QAction::triggered, this, [this] { Lebensmittelverschieben(-1); });
+    connect(aktionRunter, &QAction::triggered, this, [this] { Lebensmittelverschieben(1); });
+    connect(aktionSpalten, &QAction::triggered, this, &Planmodul::Spaltenanpassen);
+    for (QWidget *flaeche :
+         std::initializer_list<QWidget *>{PlanTabelle, PlanTabelle->horizontalHeader()}) {
+        flaeche->setContextMenuPolicy(Qt::CustomContextMenu);
+        connect(flaeche, &QWidget::customContextMenuRequested, this,
+                [this, flaeche](QPoint ort) { zeigeTabellenmenue(flaeche->mapToGlobal(ort)); });
+    }
     connect(druckknopf, &QPushButton::clicked, this, &Planmodul::druckenentscheidung);
     connect(aktionDrucken, &QAction::triggered, druckknopf, &QPushButton::click);
     connect(aktionSchliessen, &QAction::triggered, m_fenster, &QWidget::close);
@@ -199,6 +208,17 @@ void Planmodul::Lebensmittelentfernen()
     beendeEingabe();
     if (m_fenster != nullptr && zeileEntfernen(PlanTabelle->selectedRow())) {
         uebernimmAenderung();
+    }
+}
+
+void Planmodul::Lebensmittelverschieben(int um)
+{
+    beendeEingabe();
+    const int zeile = m_fenster != nullptr ? PlanTabelle->selectedRow() : -1;
+    if (verschieben(zeile, zeile + um)) {
+        uebernimmAenderung();
+        PlanTabelle->selectRow(zeile + um);
+        PlanTabelle->scrollRowToVisible(zeile + um);
     }
 }
 

@@ -8,6 +8,7 @@
 #include "Planauswertung.h"
 #include "Planliste.h"
 #include "Planuebergabe.h"
+#include "Summenzeilen.h"
 #include "Tabellenmodell.h"
 #include "ui_Planmodul1.h"
 
@@ -20,6 +21,7 @@
 #include <vector>
 
 class Dateihueter;
+class QSettings;
 
 /// The doors through which a plan reaches the world outside of its window.
 struct Plantueren
@@ -31,6 +33,8 @@ struct Plantueren
     /// Reads and writes the user's files, for all windows of the program; a plan that gets none
     /// makes one of its own.
     std::shared_ptr<Dateihueter> dateien = {};
+    /// The user defaults, which outlive the plan; without them no width of a column is remembered.
+    QSettings *einstellungen = nullptr;
     /// Path of the names that built-in foods once had, a file or a resource.
     QString namenswechsel = QStringLiteral(":/Umbenannt.csv");
 };
@@ -99,6 +103,11 @@ public:
     // Actions of the window; without one they do nothing
     /// Takes the selected row out of the plan; without one, nothing happens.
     void Lebensmittelentfernen();
+    /// Moves the selected row so many places down, or up when it is below 0, with its amount; it
+    /// stays selected. Where it would leave the plan, nothing happens.
+    void Lebensmittelverschieben(int um);
+    /// Makes all columns of the table as wide as what stands in them.
+    void Spaltenanpassen();
     /// Projects the weight from what stands in the window's fields.
     void verlustberechnen();
     /// Writes into `Tage` how long it takes to lose the kilograms of the sender.
@@ -132,6 +141,9 @@ private:
 
     // The table
     void beschrifteTabelle();
+    void stelleBreiten();
+    void merkeBreite(int spalte);
+    void zeigeTabellenmenue(const QPoint &ort);
     void reloadData();
     int numberOfRows() const override;
     QString objectValue(const QString &spalte, int zeile) override;
@@ -162,14 +174,18 @@ private:
 
     // The evaluation
     std::vector<Planzeile> zeilen() const;
+    void zeigeSummen(const Planauswertung &auswertung, std::span<const Planzeile> zeilen);
+    void zeigeMengen(const Planauswertung &auswertung);
     void zeigeNaehrwerte(const Planauswertung &auswertung);
     void zeigeWertungen(const Planauswertung &auswertung);
     void zeigeBeurteilung(const Planauswertung &auswertung);
+    void zeigeFehlendePunkte(const Planauswertung &auswertung);
     void zeigeBedarf();
     void zeigeKlient();
     static void zeigeUeberall();
     void zeigeAenderung(float kilogramm);
     void zeigeVerlaufworte();
+    void zeigeWunschworte();
     void stelleZeichenDazu();
     void zeigeVerlauf(bool sichtbar);
 
@@ -177,10 +193,13 @@ private:
 
     Plantueren m_tueren;
     QMainWindow *m_fenster = nullptr;
+    Summenzeilen m_summenzeilen;
     Namenswechsel m_namenswechsel;                         ///< empty before the window is made
     std::array<QLabel *, anzahlNaehrwerte> m_zeichen = {}; ///< the verdicts beside the bars
     std::optional<Klient>
         m_projiziert; ///< whom the chart shows; absent before the first projection
+
+    bool m_merktBreiten = false; ///< a width that changes now is the user's choice
 
     // What the table shows: the rows of the last reload, and the amounts typed since.
     QStringList m_gezeigteNamen;

@@ -6,12 +6,15 @@
 #include "Ampelfarbe.h"
 #include "Bmi.h"
 #include "Ganzzahl.h"
+#include "Planregeln.h"
+#include "Planzahlen.h"
 #include "Prognose.h"
 #include "Zeichenkettentabelle.h"
 
 #include <QCoreApplication>
 
 #include <cmath>
+#include <utility>
 
 namespace {
 
@@ -71,6 +74,19 @@ constexpr std::array<const char *, 3> gesichtsworte = {
     QT_TRANSLATE_NOOP("Mahlberg", "Ein unausgewogener Plan"),
 };
 
+/// What the change of the weight is called, and how it is read out.
+using Aenderungsworte = std::pair<const char *, const char *>;
+
+constexpr Aenderungsworte zunahmeworte = {
+    QT_TRANSLATE_NOOP("Mahlberg", "Zunahme"),
+    QT_TRANSLATE_NOOP("Mahlberg", "Zunahme des Gewichts in diesem Zeitraum")};
+constexpr Aenderungsworte abnahmeworte = {
+    QT_TRANSLATE_NOOP("Mahlberg", "Abnahme"),
+    QT_TRANSLATE_NOOP("Mahlberg", "Abnahme des Gewichts in diesem Zeitraum")};
+constexpr Aenderungsworte gleichworte = {
+    QT_TRANSLATE_NOOP("Mahlberg", "Änderung"),
+    QT_TRANSLATE_NOOP("Mahlberg", "Änderung des Gewichts in diesem Zeitraum")};
+
 /// A figure that ran over says nothing: a dash stands for it, as before anything was worked out.
 void zeigeZahl(Textfeld &feld, double zahl)
 {
@@ -98,6 +114,16 @@ QString fehlendes(const Klient &klient)
                      "Für den Verlauf fehlen Gewicht und Größe (unter „Körper und Energie“)."));
 }
 
+/// A share as its field shows it, as short as it is.
+QString prozenttext(double prozent)
+{
+    const double gezeigt = gezeigterProzentsatz(prozent);
+    return std::isfinite(gezeigt)
+               ? zahlenform().toString(gezeigt, 'f', QLocale::FloatingPointShortest) +
+                     QChar(QChar::Nbsp) + u'%'
+               : QStringLiteral("-"); // it ran over
+}
+
 constexpr const char *leererPlan = QT_TRANSLATE_NOOP("Mahlberg", "Der Plan ist leer");
 
 } // namespace
@@ -117,9 +143,12 @@ void Planmodul::datenberechnen()
     if (m_fenster == nullptr) {
         return;
     }
-    const Planauswertung auswertung = planAuswerten(zeilen(), klient.bedarf, klient.unbereinigt);
+    const std::vector<Planzeile> alle = zeilen();
+    const Planauswertung auswertung = planAuswerten(alle, klient.bedarf, klient.unbereinigt);
     zeigeBedarf();
     zeigeNaehrwerte(auswertung);
+    zeigeMengen(auswertung);
+    zeigeSummen(auswertung, alle);
     zeigeWertungen(auswertung);
     if (auswertung.energie) {
         Kalorienbedarf->setIntValue(auswertung.energie->bedarf);
@@ -166,6 +195,32 @@ void Planmodul::zeigeNaehrwerte(const Planauswertung &auswertung)
     }
 }
 
+/// The amounts behind the percentages.
+void Planmodul::zeigeMengen(const Planauswertung &auswertung)
+{
+    for (const Planregel &regel : planregeln) {
+        const double summe = static_cast<double>(auswertung.naehrwerte[stelle(regel.wert)].summe);
+        const std::optional<double> bedarf = planbedarf(regel.bezug, klient.bedarf);
+        const QString worte =
+            bedarf ? localizedString(QStringLiteral("%1 von %2"))
+                         .arg(naehrwertMitEinheit(regel.wert, summe),
+                              naehrwertMitEinheit(regel.wert, *bedarf))
+                   : localizedString(QStringLiteral("%1; der Energiebedarf ist noch nicht bekannt"))
+                         .arg(naehrwertMitEinheit(regel.wert, summe));
+        Textfeld &feld = *(this->*naehrwertfelder[stelle(regel.wert)].prozent);
+        feld.setToolTip(worte);
+        feld.setAccessibleDescription(worte);
+    }
+}
+
+/// Below the table, what its columns add up to.
+void Planmodul::zeigeSummen(const Planauswertung &auswertung, std::span<const Planzeile> zeilen)
+{
+    const float energie = auswertung.naehrwerte[stelle(Naehrwert::kal)].summe;
+    m_summenzeilen.setzeSummen(plansummen(zeilen, klient.bedarf), static_cast<double>(energie));
+    SummenTabelle->reloadData();
+}
+
 void Planmodul::zeigeWertungen(const Planauswertung &auswertung)
 {
     for (std::size_t i = 0; i < anzahlWertungen; ++i) {
@@ -193,6 +248,36 @@ void Planmodul::zeigeBeurteilung(const Planauswertung &auswertung)
                             : gesichtsworte.at(static_cast<std::size_t>(auswertung.gesicht - 1));
     planworte->setText(localizedString(QString::fromUtf8(worte)) + u'\n' +
                        localizedString(QStringLiteral("%1 von 21 Punkten")).arg(auswertung.punkte));
+    zeigeFehlendePunkte(auswertung);
+}
+
+/// Which points a plan lacks: nutrients with the share that earns none, and ratings.
+void Planmodul::zeigeFehlendePunkte(const Planauswertung &auswertung)
+{
+    QStringList fehlende;
+    for (const auto &zeile : naehrwerte) {
+        const Plannaehrwert &naehrwert = auswertung.naehrwerte[stelle(zeile.wert)];
+        if (!naehrwert.punkt) {
+            fehlende << QStringLiteral("%1 (%2)").arg(
+                localizedString(QString::fromUtf8(zeile.bezeichnung)),
+                prozenttext(naehrwert.prozent));
+        }
+    }
+    for (const auto &zeile : wertungen) {
+        if (!auswertung.wertungen[stelle(zeile.wertung)].punkt) {
+            fehlende << localizedString(QString::fromUtf8(zeile.bezeichnung));
+        }
+    }
+    const QString worte = PlanArray.isEmpty() || fehlende.isEmpty()
+                              ? QString()
+                              : localizedString(QStringLiteral("Es fehlen: %1"))
+                                    .arg(fehlende.join(QStringLiteral(", ")));
+    for (QWidget *teil : std::initializer_list<QWidget *>{planworte, planbeurteilungfaceview}) {
+        // As rich text a long list is broken into lines.
+        teil->setToolTip(
+            worte.isEmpty() ? worte : QStringLiteral("<qt>%1</qt>").arg(worte.toHtmlEscaped()));
+        teil->setAccessibleDescription(worte);
+    }
 }
 
 /// What 100 % of the energy are, as they were when the shares were worked out.
@@ -218,19 +303,39 @@ void Planmodul::zeigeKlient()
     }
 }
 
-/// The field shows a loss with its sign; a gain has none, and so is called one.
+/// The field shows a loss with its sign and a gain without one; the word before it says which of
+/// the two it is.
 void Planmodul::zeigeAenderung(float kilogramm)
 {
     Gewichtsverlust->setFloatValue(kilogramm);
-    const bool zunahme = kilogramm > 0;
-    const auto uebersetzt = [](const char *text) {
-        return localizedString(QString::fromUtf8(text));
-    };
-    aenderungswort->setText(uebersetzt(zunahme ? QT_TRANSLATE_NOOP("Mahlberg", "Zunahme")
-                                               : QT_TRANSLATE_NOOP("Mahlberg", "Änderung")));
-    Gewichtsverlust->setAccessibleName(uebersetzt(
-        zunahme ? QT_TRANSLATE_NOOP("Mahlberg", "Zunahme des Gewichts in diesem Zeitraum")
-                : QT_TRANSLATE_NOOP("Mahlberg", "Änderung des Gewichts in diesem Zeitraum")));
+    const auto &[wort, vorgelesen] = kilogramm > 0   ? zunahmeworte
+                                     : kilogramm < 0 ? abnahmeworte
+                                                     : gleichworte;
+    aenderungswort->setText(localizedString(QString::fromUtf8(wort)));
+    Gewichtsverlust->setAccessibleName(localizedString(QString::fromUtf8(vorgelesen)));
+}
+
+/// A loss that is wished for, and that this plan can't bring: the days beside it are none in which
+/// it would come.
+void Planmodul::zeigeWunschworte()
+{
+    const int bedarf = Kalorienbedarf->intValue();
+    const int errechnet = Kalorienerrechnet->intValue();
+    const bool erreichbar = wunschverlust->floatValue() <= 0 || bedarf > errechnet;
+    const QString worte =
+        erreichbar    ? QString()
+        : bedarf <= 0 ? localizedString(QStringLiteral(
+                            "Ob der Wunsch erreicht wird, ist ohne Energiebedarf nicht bekannt."))
+        : bedarf == errechnet
+            ? localizedString(QStringLiteral("Mit diesem Plan nicht zu erreichen: Er hat so viel "
+                                             "Energie, wie gebraucht wird."))
+            : localizedString(QStringLiteral("Mit diesem Plan nicht zu erreichen: Er hat mehr "
+                                             "Energie, als gebraucht wird."));
+    wunschworte->setText(worte);
+    wunschworte->setVisible(!worte.isEmpty());
+    for (Textfeld *feld : {Tage, wunschverlust}) {
+        feld->setAccessibleDescription(worte);
+    }
 }
 
 /// Before the first projection the window's own words stay. The course of another weight or height
@@ -277,6 +382,7 @@ void Planmodul::verlustberechnen()
     gewichtview->wert4(klient.groesse);
     m_projiziert = klient;
     zeigeVerlaufworte();
+    zeigeWunschworte();
     zeigeVerlauf(klient.gewicht > 0 || klient.groesse > 0);
 }
 

@@ -3,11 +3,15 @@
 #include "Planmodul.h"
 
 #include "Ganzzahl.h"
+#include "Planzahlen.h"
 #include "Zeichenkettentabelle.h"
 
 #include <QCoreApplication>
 #include <QHeaderView>
 #include <QLocale>
+#include <QMenu>
+#include <QScopedValueRollback>
+#include <QSettings>
 
 #include <algorithm>
 #include <cmath>
@@ -25,13 +29,12 @@ constexpr int breiteName = 230;
 constexpr int breiteMenge = 84;
 constexpr int mindestbreite = 58; ///< room for five digits, whatever the heading
 
+// A column that the user has made this narrow can still be taken hold of.
+constexpr int schmalste = 8;
+constexpr int breiteste = 2000;
+
 /// Digits that a number of single precision keeps.
 constexpr int bedeutsameStellen = 7;
-
-/// Digits behind the comma of a value, in the record's order. All numbers of a column have as many,
-/// so that they stand under each other.
-constexpr std::array<int, anzahlNaehrwerte> nachkommastellen = {0, 1, 1, 1, 1, 0, 0, 0, 0,
-                                                                0, 0, 1, 0, 2, 2, 2, 1};
 
 /// Headings of narrow columns, in the record's order.
 constexpr std::array<const char *, anzahlNaehrwerte> kurzeNaehrwerte = {
@@ -52,25 +55,12 @@ constexpr std::array<const char *, anzahlWertungen> kurzeWertungen = {
     QT_TRANSLATE_NOOP("Mahlberg", "HKK"),
 };
 
-const Naehrwertbeschreibung *naehrwertVon(const QString &spalte)
-{
-    const auto *zeile =
-        std::find_if(naehrwerte.begin(), naehrwerte.end(),
-                     [&spalte](const auto &eine) { return spalte == QLatin1String(eine.kennung); });
-    return zeile != naehrwerte.end() ? zeile : nullptr;
-}
-
 const Wertungsbeschreibung *wertungVon(const QString &spalte)
 {
     const auto *zeile =
         std::find_if(wertungen.begin(), wertungen.end(),
                      [&spalte](const auto &eine) { return spalte == QLatin1String(eine.kennung); });
     return zeile != wertungen.end() ? zeile : nullptr;
-}
-
-QString mengentext(float gramm)
-{
-    return zahlenform().toString(static_cast<double>(gramm), 'g', bedeutsameStellen);
 }
 
 Spalte wertspalte(const Naehrwertbeschreibung &zeile)
@@ -95,6 +85,12 @@ Spalte wertungsspalte(const Wertungsbeschreibung &zeile)
             .ausrichtung = Qt::AlignCenter};
 }
 
+/// Where the width is kept that the user has chosen for a column.
+QString breitenschluessel(const QString &spalte)
+{
+    return QStringLiteral("Planspalten/") + spalte;
+}
+
 bool istWertespalte(const QString &spalte)
 {
     return spalte != spalteName && spalte != spalteMenge;
@@ -116,15 +112,56 @@ void Planmodul::beschrifteTabelle()
     std::transform(naehrwerte.begin(), naehrwerte.end(), std::back_inserter(spalten), wertspalte);
     std::transform(wertungen.begin(), wertungen.end(), std::back_inserter(spalten), wertungsspalte);
     PlanTabelle->setQuelle(this, spalten);
+    for (Spalte &spalte : spalten) {
+        spalte.bearbeitbar = false;
+    }
+    SummenTabelle->setQuelle(&m_summenzeilen, spalten);
+    SummenTabelle->folge(*PlanTabelle);
+    stelleBreiten();
+}
 
+/// As wide as the headings, until the user has chosen another width.
+void Planmodul::stelleBreiten()
+{
     QHeaderView *kopf = PlanTabelle->horizontalHeader();
     kopf->setMinimumSectionSize(1); // the size control sets every width that it offers
-    for (int i = 0; i < spalten.size(); ++i) {
-        kopf->resizeSection(i, spalten[i].kennung == spalteName ? breiteName
-                               : spalten[i].kennung == spalteMenge
+    for (int i = 0; i < kopf->count(); ++i) {
+        const QString spalte = PlanTabelle->modell()->kennung(i);
+        const int gewaehlt = m_tueren.einstellungen != nullptr
+                                 ? m_tueren.einstellungen->value(breitenschluessel(spalte)).toInt()
+                                 : 0;
+        kopf->resizeSection(i, gewaehlt >= schmalste && gewaehlt <= breiteste ? gewaehlt
+                               : spalte == spalteName                         ? breiteName
+                               : spalte == spalteMenge
                                    ? breiteMenge
                                    : std::max(mindestbreite, kopf->sectionSizeHint(i)));
     }
+    m_merktBreiten = true;
+    connect(kopf, &QHeaderView::sectionResized, this, &Planmodul::merkeBreite);
+}
+
+/// The size control sets the widths for the time being; what was chosen column by column stays.
+void Planmodul::merkeBreite(int spalte)
+{
+    if (m_merktBreiten && m_tueren.einstellungen != nullptr) {
+        m_tueren.einstellungen->setValue(breitenschluessel(PlanTabelle->modell()->kennung(spalte)),
+                                         PlanTabelle->columnWidth(spalte));
+    }
+}
+
+void Planmodul::Spaltenanpassen()
+{
+    if (m_fenster != nullptr) {
+        PlanTabelle->passeSpaltenAn();
+    }
+}
+
+void Planmodul::zeigeTabellenmenue(const QPoint &ort)
+{
+    auto *menue = new QMenu(PlanTabelle);
+    menue->setAttribute(Qt::WA_DeleteOnClose);
+    menue->addAction(aktionSpalten);
+    menue->popup(ort);
 }
 
 /// Shows the rows as they are now. What changes in the lists without it is not seen before the next
@@ -186,9 +223,7 @@ Zellenbild Planmodul::willDisplayCell(const QString &spalte, int zeile, const QS
         const float zahl = eintrag != nullptr ? eintrag->wert(naehrwert->wert) *
                                                     (m_gezeigteMengen.value(zeile) / 100.0F)
                                               : 0.0F;
-        bild.text = std::isfinite(zahl) ? wertText(static_cast<double>(zahl),
-                                                   nachkommastellen[stelle(naehrwert->wert)])
-                                        : QStringLiteral("-"); // it ran over
+        bild.text = naehrwerttext(naehrwert->wert, static_cast<double>(zahl));
     }
     return bild;
 }
@@ -285,6 +320,7 @@ void Planmodul::tabgroesseaendern(const Wertehalter &sender)
     if (m_fenster == nullptr) {
         return;
     }
+    const QScopedValueRollback vonSelbst(m_merktBreiten, false);
     const int groesse = std::max(1, sender.intValue());
     PlanTabelle->setRowHeight(groesse);
     const Tabellenmodell &modell = *PlanTabelle->modell();

@@ -102,6 +102,22 @@ double prozent(const Tagesbedarf &bezug, float summe, std::int32_t /*energiebeda
     return static_cast<double>(static_cast<float>(bedarfsprozent(summe, bezug)));
 }
 
+/// 0 when there is no requirement.
+double bedarf(Energiebezug /*bezug*/, std::int32_t energiebedarf)
+{
+    return energiebedarf;
+}
+
+double bedarf(const Anteilsbezug &bezug, std::int32_t energiebedarf)
+{
+    return ganzzahl(energiebedarf * bezug.anteil) / static_cast<double>(bezug.kilokalorienJeGramm);
+}
+
+double bedarf(const Tagesbedarf &bezug, std::int32_t /*energiebedarf*/)
+{
+    return bezug.bedarf;
+}
+
 } // namespace
 
 constexpr std::array<Planregel, anzahlNaehrwerte> planregeln = {{
@@ -135,4 +151,11 @@ double planprozent(const Planbezug &bezug, float summe, std::int32_t energiebeda
     return std::visit(
         [summe, energiebedarf](const auto &art) { return prozent(art, summe, energiebedarf); },
         bezug);
+}
+
+std::optional<double> planbedarf(const Planbezug &bezug, std::int32_t energiebedarf)
+{
+    const double gewollt =
+        std::visit([energiebedarf](const auto &art) { return bedarf(art, energiebedarf); }, bezug);
+    return gewollt != 0 ? std::optional(gewollt) : std::nullopt;
 }

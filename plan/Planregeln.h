@@ -6,6 +6,7 @@
 
 #include <array>
 #include <cstdint>
+#include <optional>
 #include <span>
 #include <variant>
 
@@ -45,6 +46,10 @@ extern const std::array<Planregel, anzahlNaehrwerte> planregeln;
 /// - all others: `bedarfsprozent`, narrowed to single precision.
 /// The wider type of the result holds all of them unchanged.
 double planprozent(const Planbezug &bezug, float summe, std::int32_t energiebedarf);
+
+/// What 100 % are, in the unit of the total: kcal, or grams of what carries a part of the energy.
+/// Absent when there is no requirement.
+std::optional<double> planbedarf(const Planbezug &bezug, std::int32_t energiebedarf);
 
 /// A percentage as its field shows it, with one decimal. The points are counted by what stands
 /// there: who reads 70.0 % has reached 70, though the bar goes by the number behind it.

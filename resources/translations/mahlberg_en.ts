@@ -439,8 +439,8 @@
   <translation>Source of the values</translation>
  </message>
  <message>
-  <source>Rot: unter 10 % des Tagesbedarfs, grün: darüber.</source>
-  <translation>Red: below 10 % of the daily need, green: above.</translation>
+  <source>✓ grün: über 10 % des Tagesbedarfs, ✗ rot: darunter. Genau 10 % werden wie die Zeile davor beurteilt, bei Calcium grün.</source>
+  <translation>✓ green: above 10 % of the daily need, ✗ red: below. Exactly 10 % is judged like the row before, for calcium green.</translation>
  </message>
  <message>
   <source>Sichern</source>
@@ -768,16 +768,36 @@ Nothing is worked out for children under 10 years; it resumes at 11 years.</tr
 <context>
  <name>Mahlberg</name>
  <message>
+  <source>ab %1 %</source>
+  <translation>from %1 %</translation>
+ </message>
+ <message>
+  <source>verfehlt</source>
+  <translation>missed</translation>
+ </message>
+ <message>
+  <source>knapp daneben</source>
+  <translation>just beside</translation>
+ </message>
+ <message>
+  <source>im Ziel</source>
+  <translation>on target</translation>
+ </message>
+ <message>
+  <source>ungeeignet</source>
+  <translation>unsuitable</translation>
+ </message>
+ <message>
+  <source>neutral</source>
+  <translation>neutral</translation>
+ </message>
+ <message>
+  <source>geeignet</source>
+  <translation>suitable</translation>
+ </message>
+ <message>
   <source>% der Zufuhr in </source>
   <translation>% of the daily need in </translation>
- </message>
- <message>
-  <source>%1 Lebensmittel im Plan heißen jetzt anders, z. B. %2 jetzt %3. Unter den alten Namen zählen sie nicht mit.</source>
-  <translation>%1 foods in the plan have other names now, such as %2, now %3. Under their former names they do not count.</translation>
- </message>
- <message>
-  <source>%1 Lebensmittel. Seitdem gelöscht: %2, geändert: %3, neu: %4.</source>
-  <translation>%1 foods. Deleted since: %2, changed: %3, new: %4.</translation>
  </message>
  <message>
   <source>%1 heißt jetzt %2 und steht unter diesem Namen schon im Plan; die Zeile mit dem alten zählt nicht mit.</source>
@@ -786,6 +806,14 @@ Nothing is worked out for children under 10 years; it resumes at 11 years.</tr
  <message>
   <source>%1 im Plan heißt jetzt %2. Unter dem alten Namen zählt es nicht mit.</source>
   <translation>%1 in the plan is called %2 now. Under its former name it does not count.</translation>
+ </message>
+ <message>
+  <source>%1 Lebensmittel im Plan heißen jetzt anders, z. B. %2 jetzt %3. Unter den alten Namen zählen sie nicht mit.</source>
+  <translation>%1 foods in the plan have other names now, such as %2, now %3. Under their former names they do not count.</translation>
+ </message>
+ <message>
+  <source>%1 Lebensmittel. Seitdem gelöscht: %2, geändert: %3, neu: %4.</source>
+  <translation>%1 foods. Deleted since: %2, changed: %3, new: %4.</translation>
  </message>
  <message>
   <source>%1 mehr</source>
@@ -824,8 +852,16 @@ Nothing is worked out for children under 10 years; it resumes at 11 years.</tr
   <translation>%1 less</translation>
  </message>
  <message>
+  <source>%1 zu viel (%2)</source>
+  <translation>%1 too much (%2)</translation>
+ </message>
+ <message>
   <source>%1: „%2“</source>
   <translation>%1: “%2”</translation>
+ </message>
+ <message>
+  <source>%1; der Energiebedarf ist noch nicht bekannt</source>
+  <translation>%1; the energy requirement is not known yet</translation>
  </message>
  <message>
   <source>&amp;Ablage</source>
@@ -948,16 +984,20 @@ Nothing is worked out for children under 10 years; it resumes at 11 years.</tr
   <translation>Cancel</translation>
  </message>
  <message>
+  <source>Abnahme</source>
+  <translation>Loss</translation>
+ </message>
+ <message>
+  <source>Abnahme des Gewichts in diesem Zeitraum</source>
+  <translation>Loss of weight in this period</translation>
+ </message>
+ <message>
   <source>Achtung !</source>
   <translation>Attention!</translation>
  </message>
  <message>
   <source>Achtung !  Sie koennen nur eigene Lebensmittel loeschen !</source>
   <translation>Attention! You can only delete foods of your own!</translation>
- </message>
- <message>
-  <source>Neue Namen übernehmen</source>
-  <translation>Take the new names</translation>
  </message>
  <message>
   <source>anders</source>
@@ -970,6 +1010,10 @@ Nothing is worked out for children under 10 years; it resumes at 11 years.</tr
  <message>
   <source>Ansicht</source>
   <translation>View</translation>
+ </message>
+ <message>
+  <source>Anteile und Gewichtsverlauf rechnen mit %1: der Energie aus Protein, Kohlenhydraten und Fett.</source>
+  <translation>Shares and course of weight go by %1: the energy from protein, carbohydrate and fat.</translation>
  </message>
  <message>
   <source>Anzeigen:</source>
@@ -998,6 +1042,10 @@ Nothing is worked out for children under 10 years; it resumes at 11 years.</tr
  <message>
   <source>beiseitegelegt am %1</source>
   <translation>put aside on %1</translation>
+ </message>
+ <message>
+  <source>Bis zum Tagesbedarf</source>
+  <translation>Left to a day’s need</translation>
  </message>
  <message>
   <source>BS</source>
@@ -1046,6 +1094,10 @@ Nothing is worked out for children under 10 years; it resumes at 11 years.</tr
  <message>
   <source>Der Drucker „%1“ nimmt den Auftrag nicht an. Vielleicht ist er ausgeschaltet oder nicht mehr angeschlossen.</source>
   <translation>The printer “%1” does not take the job. Perhaps it is switched off or no longer connected.</translation>
+ </message>
+ <message>
+  <source>Der Energiebedarf ist noch nicht bekannt (unter „Körper und Energie“).</source>
+  <translation>The energy requirement is not known yet (under “Body and energy”).</translation>
  </message>
  <message>
   <source>Der frühere Stand ist zurückgeholt.</source>
@@ -1152,6 +1204,10 @@ Nothing is worked out for children under 10 years; it resumes at 11 years.</tr
   <translation>&amp;Save own food …</translation>
  </message>
  <message>
+  <source>Ein Lebensmittel, das in keiner Tabelle steht, zählt nicht mit, auch nicht seine Menge.</source>
+  <translation>A food that is in no table does not count, nor does its amount.</translation>
+ </message>
+ <message>
   <source>Ein Plan mit Lücken</source>
   <translation>A plan with gaps</translation>
  </message>
@@ -1194,6 +1250,10 @@ Nothing is worked out for children under 10 years; it resumes at 11 years.</tr
  <message>
   <source>es fehlen: %1</source>
   <translation>missing: %1</translation>
+ </message>
+ <message>
+  <source>Es fehlen: %1</source>
+  <translation>Missing: %1</translation>
  </message>
  <message>
   <source>Es gibt noch keine früheren Stände. An jedem Tag, an dem sich etwas ändert, wird der Stand davor aufgehoben; die letzten zehn bleiben.</source>
@@ -1448,6 +1508,14 @@ Nothing is worked out for children under 10 years; it resumes at 11 years.</tr
   <translation>with other values: %1</translation>
  </message>
  <message>
+  <source>Mit diesem Plan nicht zu erreichen: Er hat mehr Energie, als gebraucht wird.</source>
+  <translation>Not to be reached with this plan: it has more energy than is needed.</translation>
+ </message>
+ <message>
+  <source>Mit diesem Plan nicht zu erreichen: Er hat so viel Energie, wie gebraucht wird.</source>
+  <translation>Not to be reached with this plan: it has as much energy as is needed.</translation>
+ </message>
+ <message>
   <source>Moechten Sie dieses eigene Lebensmittel wirklich dauerhaft loeschen ?  </source>
   <translation>Do you really want to delete this food of your own for good?  </translation>
  </message>
@@ -1464,8 +1532,16 @@ Nothing is worked out for children under 10 years; it resumes at 11 years.</tr
   <translation>No</translation>
  </message>
  <message>
+  <source>Neue Namen übernehmen</source>
+  <translation>Take the new names</translation>
+ </message>
+ <message>
   <source>Neues LM</source>
   <translation>New food</translation>
+ </message>
+ <message>
+  <source>noch %1 (%2)</source>
+  <translation>%1 left (%2)</translation>
  </message>
  <message>
   <source>Noch kein Verlauf.</source>
@@ -1486,6 +1562,10 @@ Nothing is worked out for children under 10 years; it resumes at 11 years.</tr
  <message>
   <source>Nährwerte: Schweizer Nährwertdatenbank, generische Lebensmittel, Version 7.0 vom 1. Juli 2025. Herausgeber: Bundesamt für Lebensmittelsicherheit und Veterinärwesen BLV, Schweiz. Freie Nutzung mit Angabe der Quelle. Namen, Auswahl und Bewertungen der Lebensmittel sind von Mahlberg.</source>
   <translation>Values: Swiss Food Composition Database, generic foods, version 7.0 of 1 July 2025. Publisher: Federal Food Safety and Veterinary Office FSVO, Switzerland. Free use, subject to acknowledgment of the source. Names, choice and ratings of the foods are Mahlberg’s own.</translation>
+ </message>
+ <message>
+  <source>Ob der Wunsch erreicht wird, ist ohne Energiebedarf nicht bekannt.</source>
+  <translation>Without an energy requirement it is not known whether the wish comes true.</translation>
  </message>
  <message>
   <source>Ohne Größe (unter „Körper und Energie“) sagen die Farben nichts.</source>
@@ -1562,6 +1642,18 @@ Nothing is worked out for children under 10 years; it resumes at 11 years.</tr
  <message>
   <source>Suche: nichts gefunden</source>
   <translation>Search: nothing found</translation>
+ </message>
+ <message>
+  <source>Summe</source>
+  <translation>Sum</translation>
+ </message>
+ <message>
+  <source>Summe (%1 zählen nicht mit)</source>
+  <translation>Sum (%1 do not count)</translation>
+ </message>
+ <message>
+  <source>Summe (1 zählt nicht mit)</source>
+  <translation>Sum (1 does not count)</translation>
  </message>
  <message>
   <source>Sy&amp;mbolleiste zeigen</source>
@@ -1819,6 +1911,10 @@ Nothing is worked out for children under 10 years; it resumes at 11 years.</tr
   <translation>Change &amp;amount</translation>
  </message>
  <message>
+  <source>&amp;Spalten anpassen</source>
+  <translation>&amp;Fit columns</translation>
+ </message>
+ <message>
   <source>&amp;Tage berechnen</source>
   <translation>Work out the &amp;days</translation>
  </message>
@@ -1833,6 +1929,10 @@ Nothing is worked out for children under 10 years; it resumes at 11 years.</tr
  <message>
   <source>4 Wochen</source>
   <translation>4 weeks</translation>
+ </message>
+ <message>
+  <source>A&amp;nsicht</source>
+  <translation>&amp;View</translation>
  </message>
  <message>
   <source>Anteil am Tagesbedarf</source>
@@ -1997,6 +2097,18 @@ Nothing is worked out for children under 10 years; it resumes at 11 years.</tr
  <message>
   <source>Gicht, ungeeignete Lebensmittel</source>
   <translation>Gout, unsuitable foods</translation>
+ </message>
+ <message>
+  <source>Nach &amp;oben</source>
+  <translation>Move &amp;up</translation>
+ </message>
+ <message>
+  <source>Nach &amp;unten</source>
+  <translation>Move &amp;down</translation>
+ </message>
+ <message>
+  <source>Summen des Plans und was bis zum Tagesbedarf bleibt</source>
+  <translation>Sums of the plan and what is left to a day’s need</translation>
  </message>
  <message>
   <source>✓ grün: im Ziel, ≈ blau: knapp daneben, ✗ rot: verfehlt.</source>

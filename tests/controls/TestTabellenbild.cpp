@@ -85,7 +85,8 @@ void TestTabellenbild::kleide(bool dunkel)
     farben.setColor(QPalette::AlternateBase,
                     dunkel ? QColor(0x25, 0x28, 0x2a) : QColor(0xf1, 0xf5, 0xf1));
     farben.setColor(QPalette::Text, dunkel ? QColor(0xec, 0xec, 0xec) : QColor(0x1e, 0x1e, 0x1e));
-    farben.setColor(QPalette::Mid, dunkel ? QColor(0x5a, 0x5f, 0x65) : QColor(0xb9, 0xb9, 0xb6));
+    farben.setColor(QPalette::Midlight,
+                    dunkel ? QColor(0x45, 0x49, 0x4e) : QColor(0xd6, 0xd6, 0xd3));
     m_tabelle->setPalette(farben);
 }
 
@@ -108,7 +109,7 @@ void TestTabellenbild::uprightLinesAreSolidAndTheOthersDashed()
     QFETCH(int, spalte);
     kleide(dunkel);
     const QImage bild = m_tabelle->viewport()->grab().toImage();
-    const QColor linie = m_tabelle->palette().color(QPalette::Mid);
+    const QColor linie = m_tabelle->palette().color(QPalette::Midlight);
     const QRect feld = zelle(zeile, spalte);
     const QRect senkrecht(feld.right(), feld.top(), 1, feld.height());
     QCOMPARE(gezaehlt(bild, senkrecht, linie), feld.height());
@@ -125,7 +126,7 @@ void TestTabellenbild::withoutAGridThereAreNoLines()
     m_tabelle->setGitter(false);
     kleide(false);
     const QImage bild = m_tabelle->viewport()->grab().toImage();
-    const QColor linie = m_tabelle->palette().color(QPalette::Mid);
+    const QColor linie = m_tabelle->palette().color(QPalette::Midlight);
     QCOMPARE(gezaehlt(bild, zelle(0, 0).united(zelle(5, 1)), linie), 0);
 }
 

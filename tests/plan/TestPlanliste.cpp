@@ -21,6 +21,8 @@ private Q_SLOTS:
     void aRemovedRowLeavesTheStore();
     void noRowIsNotRemoved();
     void aCarrierHoldsNothingButNameAndGrams();
+    void moves_data();
+    void moves();
     void aRenamedFoodKeepsItsRowsAndGrams();
     void aRenamedFoodThatTheStoreLacksStaysOut();
     void theFirstRowOfAFoodIsFound();
@@ -240,6 +242,32 @@ void TestPlanliste::aCarrierHoldsNothingButNameAndGrams()
     for (const auto &zeile : wertungen) {
         QVERIFY(traeger.wertung(zeile.wertung).isNull());
     }
+}
+
+void TestPlanliste::moves_data()
+{
+    QTest::addColumn<int>("von");
+    QTest::addColumn<int>("nach");
+    QTest::addColumn<QString>("danach"); // null: it did not run through
+    QTest::newRow("up") << 1 << 0 << QStringLiteral("B20 A10 C30");
+    QTest::newRow("down") << 1 << 2 << QStringLiteral("A10 C30 B20");
+    QTest::newRow("from one end to the other") << 0 << 2 << QStringLiteral("B20 C30 A10");
+    QTest::newRow("to where it is") << 1 << 1 << QStringLiteral("A10 B20 C30");
+    QTest::newRow("above the first") << 0 << -1 << QString();
+    QTest::newRow("below the last") << 2 << 3 << QString();
+    QTest::newRow("no row") << -1 << 0 << QString();
+}
+
+void TestPlanliste::moves()
+{
+    QFETCH(int, von);
+    QFETCH(int, nach);
+    QFETCH(QString, danach);
+    Planliste plan = liste(QStringLiteral("A10 B20 C30"));
+    const QString vorher = zeilen(plan);
+    QCOMPARE(plan.verschieben(von, nach), !danach.isNull());
+    QCOMPARE(zeilen(plan), danach.isNull() ? vorher : danach);
+    QCOMPARE(lager(plan), QStringLiteral("A10 B20 C30"));
 }
 
 void TestPlanliste::aRenamedFoodKeepsItsRowsAndGrams()

@@ -31,6 +31,10 @@ private Q_SLOTS:
     void aTieLeavesTheLooksOfTheRowBefore();
     void aTieFromTheFirstRowOnLeavesTheLooksOfTheEvaluationBefore();
     void aRatingOfAnyOtherTextIsNotCounted();
+    void theSharesTellTheAmountsBehindThem_data();
+    void theSharesTellTheAmountsBehindThem();
+    void thePointsThatAreMissingAreNamed();
+    void ofAnEmptyPlanNoPointIsMissed();
     void everyNumberHasItsBarBesideIt();
     void everyBarHasItsSignBesideIt();
 
@@ -344,6 +348,76 @@ void TestPlanmodulAuswertung::aRatingOfAnyOtherTextIsNotCounted()
     for (const Zaehlung &zaehlung : zaehlungen(plan())) {
         QCOMPARE(ziffern(zaehlung), u"000"_s);
     }
+}
+
+void TestPlanmodulAuswertung::theSharesTellTheAmountsBehindThem_data()
+{
+    QTest::addColumn<int>("bedarf");
+    QTest::addColumn<QStringList>("worte"); // of energy, protein, fat and vitamin B1
+    QTest::newRow("the requirement is known")
+        << 2000
+        << QStringList({u"1110 kcal von 2000 kcal"_s, u"60,0 g von 100,0 g"_s,
+                        u"30,0 g von 66,7 g"_s, u"0,30 mg von 1,20 mg"_s});
+    QTest::newRow("it is not known")
+        << 0
+        << QStringList({u"1110 kcal; der Energiebedarf ist noch nicht bekannt"_s,
+                        u"60,0 g; der Energiebedarf ist noch nicht bekannt"_s,
+                        u"30,0 g; der Energiebedarf ist noch nicht bekannt"_s,
+                        u"0,30 mg von 1,20 mg"_s});
+}
+
+void TestPlanmodulAuswertung::theSharesTellTheAmountsBehindThem()
+{
+    QFETCH(int, bedarf);
+    QFETCH(QStringList, worte);
+    m_heim->schreibeTabelle({speise(u"Auflauf"_s, {{Naehrwert::protein, 20},
+                                                   {Naehrwert::fett, 10},
+                                                   {Naehrwert::kh, 50},
+                                                   {Naehrwert::b1, 0.1F}})});
+    m_heim->schreibePlan({{u"Auflauf"_s, 300}});
+    Planmodul::klient.bedarf = bedarf;
+    oeffne();
+    QStringList gesagt;
+    for (const Textfeld *feld :
+         {plan().gesamtkal, plan().gesamtprotein, plan().gesamtfett, plan().gesamtvitaminb1}) {
+        gesagt << feld->toolTip().replace(QChar(QChar::Nbsp), u' ');
+        QCOMPARE(feld->accessibleDescription(), feld->toolTip());
+    }
+    QCOMPARE(gesagt, worte);
+}
+
+/// Energy 55.5 %, protein 60 %, fat 45 %, carbohydrate 60 %; of the others only calcium and the
+/// rating for gout earn a point.
+void TestPlanmodulAuswertung::thePointsThatAreMissingAreNamed()
+{
+    m_heim->schreibeTabelle({speise(u"Auflauf"_s,
+                                    {{Naehrwert::protein, 20},
+                                     {Naehrwert::fett, 10},
+                                     {Naehrwert::kh, 50},
+                                     {Naehrwert::ca, 300},
+                                     {Naehrwert::ka, 820}},
+                                    {u"0"_s, u"-"_s, u"+"_s, u"-"_s})});
+    m_heim->schreibePlan({{u"Auflauf"_s, 300}});
+    Planmodul::klient.bedarf = 2000;
+    oeffne();
+    const QString worte =
+        plan().planworte->accessibleDescription().replace(QChar(QChar::Nbsp), u' ');
+    QCOMPARE(
+        worte,
+        u"Es fehlen: Energie (55,5 %), Protein (60 %), Fett (45 %), Kohlenhydrate (60 %), "
+        "Ballaststoffe (0 %), Cholesterin (0 %), Natrium (0 %), Kalium (123 %), Phosphat (0 %), "
+        "Magnesium (0 %), Eisen (0 %), Vitamin A (0 %), Vitamin B1 (0 %), Vitamin B2 (0 %), "
+        "Vitamin B6 (0 %), Vitamin C (0 %), Übergewicht, Diabetes, Herz und Kreislauf"_s);
+    QVERIFY(plan().planworte->text().endsWith(u"2 von 21 Punkten"_s)); // and 19 are named
+    QVERIFY(plan().planworte->toolTip().replace(QChar(QChar::Nbsp), u' ').contains(worte));
+    QCOMPARE(plan().planbeurteilungfaceview->toolTip(), plan().planworte->toolTip());
+}
+
+void TestPlanmodulAuswertung::ofAnEmptyPlanNoPointIsMissed()
+{
+    oeffne();
+    QVERIFY(plan().planworte->toolTip().isEmpty());
+    QVERIFY(plan().planworte->accessibleDescription().isEmpty());
 }
 
 void TestPlanmodulAuswertung::everyNumberHasItsBarBesideIt()

@@ -22,6 +22,8 @@ private Q_SLOTS:
     void everyOpenPlanHearsOfTheClient();
     void todaysWeightIsNotRounded();
     void aGainIsCalledAGain();
+    void aWishThatThePlanCanNotMeetIsSaid_data();
+    void aWishThatThePlanCanNotMeetIsSaid();
     void figuresThatRunOverAreADash();
     void weightAndHeightShowTheBmiAtOnce();
     void aWantedLossGivesTheDays();
@@ -218,9 +220,48 @@ void TestPlanmodulPrognose::aGainIsCalledAGain()
     QCOMPARE(Planfenster::text(*plan().Gewichtsverlust), u"0,7 kg"_s);
     QVERIFY(plan().verlaufworte->text().contains(u"nach einer Woche 0,7\u00a0kg mehr"_s));
     m_fenster->tippeMenge(0, u"10"_s);
+    QCOMPARE(plan().aenderungswort->text(), u"Abnahme"_s);
+    QVERIFY(plan().Gewichtsverlust->accessibleName().startsWith(u"Abnahme"_s));
+    QVERIFY(plan().Gewichtsverlust->floatValue() < 0);
+    m_fenster->tippeMenge(0, u"78,125"_s); // 2500 kcal, as many as are needed
+    QCOMPARE(plan().Gewichtsverlust->floatValue(), 0.0F);
     QCOMPARE(plan().aenderungswort->text(), u"Änderung"_s);
     QVERIFY(plan().Gewichtsverlust->accessibleName().startsWith(u"Änderung"_s));
-    QVERIFY(plan().Gewichtsverlust->floatValue() < 0);
+}
+
+void TestPlanmodulPrognose::aWishThatThePlanCanNotMeetIsSaid_data()
+{
+    QTest::addColumn<float>("kilokalorien");
+    QTest::addColumn<int>("bedarf");
+    QTest::addColumn<QString>("wunsch");
+    QTest::addColumn<QString>("worte");
+    QTest::newRow("less energy than needed") << 1800.0F << 2500 << u"2"_s << QString();
+    QTest::newRow("nothing is wished for") << 3200.0F << 2500 << u"0"_s << QString();
+    QTest::newRow("as much as needed")
+        << 2500.0F << 2500 << u"2"_s
+        << u"Mit diesem Plan nicht zu erreichen: Er hat so viel Energie, wie gebraucht wird."_s;
+    QTest::newRow("more than needed")
+        << 3200.0F << 2500 << u"2"_s
+        << u"Mit diesem Plan nicht zu erreichen: Er hat mehr Energie, als gebraucht wird."_s;
+    QTest::newRow("nobody knows how much is needed")
+        << 1800.0F << 0 << u"2"_s
+        << u"Ob der Wunsch erreicht wird, ist ohne Energiebedarf nicht bekannt."_s;
+}
+
+void TestPlanmodulPrognose::aWishThatThePlanCanNotMeetIsSaid()
+{
+    QFETCH(float, kilokalorien);
+    QFETCH(int, bedarf);
+    QFETCH(QString, wunsch);
+    QFETCH(QString, worte);
+    oeffne(kilokalorien, {.unbereinigt = bedarf, .gewicht = 80, .groesse = 1.8F});
+    QVERIFY(!plan().wunschworte->isVisible());
+    tippe(plan().wunschverlust, wunsch);
+    QCOMPARE(plan().wunschworte->text(), worte);
+    QCOMPARE(plan().wunschworte->isVisible(), !worte.isEmpty());
+    QCOMPARE(plan().Tage->accessibleDescription(), worte);
+    m_fenster->tippeMenge(0, u"1"_s); // now the plan has less, where it is known how much is needed
+    QCOMPARE(plan().wunschworte->isVisible(), bedarf == 0);
 }
 
 void TestPlanmodulPrognose::figuresThatRunOverAreADash()

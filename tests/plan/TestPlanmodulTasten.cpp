@@ -19,6 +19,10 @@ private Q_SLOTS:
     void init();
     void theTabKeyGoesThroughTheWindow();
     void aDayIsPlannedWithoutTheMouse();
+    void altAndAnArrowMoveTheRow();
+    void atTheEndsARowStays();
+    void movingTakesTheAmountThatIsTypedWithIt();
+    void theMenuShowsTheKeysThatMove();
     void deleteInAnAmountDeletesACharacter();
     void removingTakesTheAmountThatIsTypedWithIt();
     void removingFromTheMenuWithNothingSelectedLeavesTheTypedAmount();
@@ -105,6 +109,54 @@ void TestPlanmodulTasten::aDayIsPlannedWithoutTheMouse()
     QTest::keyClick(&tabelle(), Qt::Key_Delete);
     QCOMPARE(mengen(), (QMap<QString, float>{{u"Auflauf"_s, 15}, {u"Brot"_s, 25.5F}}));
     QCOMPARE(m_heim->plan(), mengen());
+}
+
+void TestPlanmodulTasten::altAndAnArrowMoveTheRow()
+{
+    m_fenster->tippeMenge(2, u"33"_s); // Ei
+    tabelle().selectRow(2);
+    (*m_fenster)->planworte->clear();
+    QTest::keyClick(&tabelle(), Qt::Key_Up, Qt::AltModifier);
+    QCOMPARE(m_fenster->spalte(u"name"_s), QStringList({u"Auflauf"_s, u"Ei"_s, u"Brot"_s}));
+    QVERIFY(!(*m_fenster)->planworte->text().isEmpty()); // it was evaluated
+    QTest::keyClick(&tabelle(), Qt::Key_Up, Qt::AltModifier);
+    QCOMPARE(m_fenster->spalte(u"name"_s), QStringList({u"Ei"_s, u"Auflauf"_s, u"Brot"_s}));
+    QCOMPARE(m_fenster->spalte(u"menge"_s), QStringList({u"33"_s, u"10"_s, u"20"_s}));
+    QCOMPARE(tabelle().selectedRow(), 0);
+    QTest::keyClick(&tabelle(), Qt::Key_Down, Qt::AltModifier);
+    QCOMPARE(m_fenster->spalte(u"name"_s), QStringList({u"Auflauf"_s, u"Ei"_s, u"Brot"_s}));
+    QCOMPARE(tabelle().selectedRow(), 1);
+    QCOMPARE(m_heim->plan(),
+             (QMap<QString, float>{{u"Auflauf"_s, 10}, {u"Brot"_s, 20}, {u"Ei"_s, 33}}));
+}
+
+void TestPlanmodulTasten::atTheEndsARowStays()
+{
+    tabelle().selectRow(0);
+    QTest::keyClick(&tabelle(), Qt::Key_Up, Qt::AltModifier);
+    tabelle().selectRow(2);
+    QTest::keyClick(&tabelle(), Qt::Key_Down, Qt::AltModifier);
+    tabelle().clearSelection();
+    (*m_fenster)->aktionHoch->trigger();
+    QCOMPARE(m_fenster->spalte(u"name"_s), QStringList({u"Auflauf"_s, u"Brot"_s, u"Ei"_s}));
+}
+
+void TestPlanmodulTasten::movingTakesTheAmountThatIsTypedWithIt()
+{
+    beginne(1, u"77"_s);
+    QTest::keyClick(QApplication::focusWidget(), Qt::Key_Down, Qt::AltModifier);
+    QCOMPARE(m_fenster->spalte(u"name"_s), QStringList({u"Auflauf"_s, u"Ei"_s, u"Brot"_s}));
+    QCOMPARE(m_fenster->spalte(u"menge"_s), QStringList({u"10"_s, u"30"_s, u"77"_s}));
+    QCOMPARE(m_heim->plan().value(u"Brot"_s), 77.0F);
+}
+
+void TestPlanmodulTasten::theMenuShowsTheKeysThatMove()
+{
+    const Planmodul &plan = m_fenster->plan();
+    QVERIFY(plan.menueBearbeiten->actions().contains(plan.aktionHoch));
+    QVERIFY(plan.menueBearbeiten->actions().contains(plan.aktionRunter));
+    QCOMPARE(plan.aktionHoch->shortcut(), QKeySequence(Qt::ALT | Qt::Key_Up));
+    QCOMPARE(plan.aktionRunter->shortcut(), QKeySequence(Qt::ALT | Qt::Key_Down));
 }
 
 void TestPlanmodulTasten::deleteInAnAmountDeletesACharacter()

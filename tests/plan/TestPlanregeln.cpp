@@ -21,6 +21,8 @@ private Q_SLOTS:
     void energyPercentage();
     void macronutrientPercentage_data();
     void macronutrientPercentage();
+    void whatAHundredPercentAre_data();
+    void whatAHundredPercentAre();
     void otherPercentages_data();
     void otherPercentages();
     void badTotalsDoNoHarm();
@@ -281,6 +283,32 @@ void TestPlanregeln::badTotalsDoNoHarm()
         const double hoch = planprozent(zeile.bezug, unendlich, 2000);
         QVERIFY(ganz ? hoch > 1e8 : qIsInf(hoch));
     }
+}
+
+void TestPlanregeln::whatAHundredPercentAre_data()
+{
+    QTest::addColumn<Naehrwert>("wert");
+    QTest::addColumn<int>("energiebedarf");
+    QTest::addColumn<double>("bedarf"); // -1: there is none
+    QTest::newRow("energy") << Naehrwert::kal << 2000 << 2000.0;
+    QTest::newRow("protein") << Naehrwert::protein << 2000 << 100.0;
+    QTest::newRow("carbohydrate") << Naehrwert::kh << 2000 << 250.0;
+    QTest::newRow("fat") << Naehrwert::fett << 2100 << 70.0;
+    QTest::newRow("a part is cut off to whole kcal") << Naehrwert::protein << 2004 << 100.0;
+    QTest::newRow("cholesterol") << Naehrwert::chol << 2000 << 200.0;
+    QTest::newRow("vitamin B1") << Naehrwert::b1 << 2000 << 1.2;
+    QTest::newRow("energy, unknown") << Naehrwert::kal << 0 << -1.0;
+    QTest::newRow("fat, unknown") << Naehrwert::fett << 0 << -1.0;
+    QTest::newRow("a part of next to nothing") << Naehrwert::protein << 4 << -1.0;
+    QTest::newRow("an amount a day is always known") << Naehrwert::ca << 0 << 1000.0;
+}
+
+void TestPlanregeln::whatAHundredPercentAre()
+{
+    QFETCH(Naehrwert, wert);
+    QFETCH(int, energiebedarf);
+    QFETCH(double, bedarf);
+    QCOMPARE(planbedarf(regel(wert).bezug, energiebedarf).value_or(-1.0), bedarf);
 }
 
 QTEST_GUILESS_MAIN(TestPlanregeln)
