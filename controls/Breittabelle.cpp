@@ -56,6 +56,9 @@ void Breittabelle::folge(Breittabelle &obere)
     m_folgt = true;
     obere.m_untere = this;
     horizontalHeader()->hide();
+    // Bars that came and went would move the rows under the mouse, and part the columns of the two.
+    setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOn);
+    obere.setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOn);
     horizontalHeader()->setMinimumSectionSize(1);
     connect(obere.horizontalHeader(), &QHeaderView::sectionResized, this,
             [this](int spalte, int, int breite) { setColumnWidth(spalte, breite); });
@@ -63,17 +66,6 @@ void Breittabelle::folge(Breittabelle &obere)
             &QScrollBar::setValue);
     connect(horizontalScrollBar(), &QScrollBar::valueChanged, obere.horizontalScrollBar(),
             &QScrollBar::setValue);
-    connect(horizontalScrollBar(), &QScrollBar::rangeChanged, this, [this] { updateGeometry(); });
-}
-
-/// Beside a bar that rolls this table up and down the lower one ends where the rows end, or the
-/// columns of the two would part at the right edge.
-void Breittabelle::resizeEvent(QResizeEvent *event)
-{
-    Tabellenansicht::resizeEvent(event);
-    if (m_untere != nullptr) {
-        m_untere->setMaximumWidth(viewport()->width() + 2 * m_untere->frameWidth());
-    }
 }
 
 QSize Breittabelle::sizeHint() const
@@ -81,8 +73,7 @@ QSize Breittabelle::sizeHint() const
     if (!m_folgt) {
         return Tabellenansicht::sizeHint();
     }
-    const bool rollt = horizontalScrollBar()->maximum() > 0;
-    const int balken = rollt ? horizontalScrollBar()->sizeHint().height() : 0;
+    const int balken = horizontalScrollBar()->sizeHint().height();
     return {Tabellenansicht::sizeHint().width(),
             modell()->rowCount() * rowHeight() + balken + 2 * frameWidth()};
 }

@@ -17,7 +17,8 @@ public:
     explicit Breittabelle(QWidget *parent = nullptr);
 
     /// Stands below another table from now on, as rows of it that don't roll up and down: with the
-    /// same columns, and rolled sideways together with it. This one has the bar to do so.
+    /// same columns, and rolled sideways together with it. This one has the bar to do so; it must
+    /// be narrower than the other one by the bar that rolls that one up and down.
     void folge(Breittabelle &obere);
 
     /// Makes all columns as wide as what stands in them, in this table and in the one that follows
@@ -35,7 +36,6 @@ public:
     int festeBreite() const;
 
 protected:
-    void resizeEvent(QResizeEvent *event) override;
     void scrollContentsBy(int dx, int dy) override;
     void updateGeometries() override;
 

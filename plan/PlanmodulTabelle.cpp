@@ -12,6 +12,7 @@
 #include <QMenu>
 #include <QScopedValueRollback>
 #include <QSettings>
+#include <QStyle>
 
 #include <algorithm>
 #include <cmath>
@@ -117,6 +118,8 @@ void Planmodul::beschrifteTabelle()
     }
     SummenTabelle->setQuelle(&m_summenzeilen, spalten);
     SummenTabelle->folge(*PlanTabelle);
+    summenreihe->setContentsMargins(
+        0, 0, PlanTabelle->style()->pixelMetric(QStyle::PM_ScrollBarExtent), 0);
     stelleBreiten();
 }
 
