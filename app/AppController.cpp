@@ -1,6 +1,7 @@
 #include "AppController.h"
 
 #include "Dateihueter.h"
+#include "Eingabeblatt.h"
 #include "Fensterplatz.h"
 #include "Lebensmittelbestand.h"
 #include "Menue.h"
@@ -158,6 +159,7 @@ void AppController::verbinde()
     verbindeSuche();
     verbindeEigene();
     verbindeWertungen();
+    verbindeLeeres();
 }
 
 void AppController::verbindeSuche()
@@ -203,6 +205,8 @@ void AppController::verbindeEigene()
     connect(loeschenknopf, &QAbstractButton::clicked, this, &AppController::LoescheneigeneLM);
     connect(EingabeFensteruebernehmen, &QAbstractButton::clicked, this,
             &AppController::umschreibenDerEingabeFelder);
+    new Eingabeblatt(*this, *einfenster, [this] { return eingegebenesLebensmittel(); });
+    connect(EingabeFensterabschreiben, &QAbstractButton::clicked, this, &AppController::schreibeAb);
     einfenster->installEventFilter(this);
     connect(EingabeFensterschliessen, &QAbstractButton::clicked, this,
             &AppController::Fensterschliessen);
@@ -239,6 +243,7 @@ void AppController::awakeFromNib()
     BoxAufZu = 0;
     setUpToolbar();
     baueMenueleiste(*this);
+    zeigeLeeres();
 }
 
 void AppController::Ansichtdurchwechseln()

@@ -87,6 +87,8 @@ public:
 Q_SIGNALS:
     /// The user has chosen a cell, or clicked beside all rows.
     void betaetigt();
+    /// The lists may have changed: the table has read its number of rows anew.
+    void neuGelesen();
 
 protected:
     void mousePressEvent(QMouseEvent *event) override;
