@@ -12,6 +12,9 @@ namespace {
 
 constexpr int innenrand = 8;
 
+/// Narrower than this, in pixels, words are no lines any more.
+constexpr int lesbareBreite = 160;
+
 } // namespace
 
 Spaltenhinweis::Spaltenhinweis(Tabellenansicht &tabelle, const QString &kennung)
@@ -62,10 +65,15 @@ void Spaltenhinweis::changeEvent(QEvent *event)
 
 void Spaltenhinweis::ordne()
 {
-    const int breite = m_tabelle.columnWidth(m_spalte) - 1; // the column's line stays
+    const QSize flaeche = m_tabelle.viewport()->size();
+    const int links = m_tabelle.columnViewportPosition(m_spalte);
+    const int breit = m_tabelle.columnWidth(m_spalte) - 1; // the column's line stays
+    const int sichtbar = flaeche.width() - links;
+    const bool ganz = sichtbar >= breit;
+    const int breite = ganz ? breit : std::min(breit, std::max(sichtbar, lesbareBreite));
     const int oben = std::max(0, m_tabelle.rowViewportPosition(m_abZeile));
-    const int frei = m_tabelle.viewport()->height() - oben;
+    const int frei = flaeche.height() - oben;
     const int hoehe = std::min(heightForWidth(breite), frei);
-    setGeometry(m_tabelle.columnViewportPosition(m_spalte), oben + (frei - hoehe) / 2, breite,
-                hoehe);
+    setGeometry(ganz ? links : flaeche.width() - breite,
+                oben + (ganz ? (frei - hoehe) / 2 : frei - hoehe), breite, hoehe);
 }

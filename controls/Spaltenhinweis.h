@@ -15,7 +15,8 @@ public:
     Spaltenhinweis(Tabellenansicht &tabelle, const QString &kennung);
 
     /// Shows the words in the middle of what is seen of the column from this row on; without words
-    /// nothing is shown.
+    /// nothing is shown. While the column lies partly beyond the table's right edge, they stand in
+    /// the lower right corner, where they can be read.
     void zeige(const QString &text, int abZeile);
 
 protected:

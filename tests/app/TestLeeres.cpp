@@ -28,6 +28,7 @@ private Q_SLOTS:
     void aProfileThatNothingMeetsIsAnsweredWithAHint();
     void whatIsFoundStandsAtTheTop();
     void theWordsStayInTheirColumn();
+    void aNarrowTableShowsTheWordsAllTheSame();
     void withoutFoodsNoStepsAreShown();
     void theAmountSaysWhyItIsShut();
     void aButtonSaysWhyItIsShut();
@@ -222,6 +223,18 @@ void TestLeeres::theWordsStayInTheirColumn()
     QCoreApplication::processEvents();
     for (const Spaltenhinweis *eines : alle) {
         QVERIFY(passt(eines));
+    }
+}
+
+void TestLeeres::aNarrowTableShowsTheWordsAllTheSame()
+{
+    controller().teiler->setSizes({300, 900});
+    QCoreApplication::processEvents();
+    const Tabellenansicht &tabelle = *controller().Tabelle;
+    QVERIFY(tabelle.columnViewportPosition(inSuch) + 160 > tabelle.viewport()->width());
+    for (const auto *eines : tabelle.findChildren<Spaltenhinweis *>()) {
+        QVERIFY(tabelle.viewport()->rect().contains(eines->geometry()));
+        QCOMPARE(eines->height(), eines->heightForWidth(eines->width()));
     }
 }
 
