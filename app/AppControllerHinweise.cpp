@@ -38,19 +38,24 @@ void AppController::meldeUebernommenes(const QString &name, bool gesichert, bool
     hinweise->zeige(hinweis);
 }
 
-/// What was saved from the display stands there already.
+/// What was saved from the display stands there already. A file that could not be written is told
+/// of by itself, with what can be done about it.
 void AppController::meldeGesichertes(const QString &name, bool gesichert, bool neu)
 {
-    hinweise->zeige({.kennung = hinweisGesichert, .text = wasGeschah(name, gesichert, neu)});
+    nimmGesichertesZurueck();
+    if (gesichert) {
+        hinweise->zeige({.kennung = hinweisGesichert, .text = wasGeschah(name, gesichert, neu)});
+    }
 }
 
 void AppController::meldeGeloeschtes(const QString &name, bool gesichert)
 {
-    const QString was = gesichert
-                            ? localizedString(QStringLiteral("„%1“ ist gelöscht."))
-                            : localizedString(QStringLiteral("„%1“ ist aus der Liste gelöscht, "
-                                                             "steht aber noch in der Datei."));
-    hinweise->zeige({.kennung = hinweisGesichert, .text = was.arg(kurzerName(name))});
+    nimmGesichertesZurueck();
+    if (gesichert) {
+        hinweise->zeige(
+            {.kennung = hinweisGesichert,
+             .text = localizedString(QStringLiteral("„%1“ ist gelöscht.")).arg(kurzerName(name))});
+    }
 }
 
 void AppController::nimmGesichertesZurueck()

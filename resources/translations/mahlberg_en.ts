@@ -1848,10 +1848,6 @@ Nothing is worked out for children under 10 years; it resumes at 11 years.</tr
   <translation>“%1”</translation>
  </message>
  <message>
-  <source>„%1“ ist aus der Liste gelöscht, steht aber noch in der Datei.</source>
-  <translation>“%1” has been deleted from the list, but is still in the file.</translation>
- </message>
- <message>
   <source>„%1“ ist gelöscht.</source>
   <translation>“%1” has been deleted.</translation>
  </message>
