@@ -1,5 +1,13 @@
 #include "Skalierung.h"
 
+namespace {
+
+constexpr double kilojouleJeKilokalorie = 4.17910447761194;
+constexpr double salzJeNatrium = 2.54;
+constexpr double milligrammJeGramm = 1000;
+
+} // namespace
+
 Naehrwertreihe skalieren(const Datenmodul &lebensmittel, std::int32_t menge)
 {
     const auto gramm = static_cast<float>(menge);
@@ -23,8 +31,22 @@ std::optional<bool> sichtbarkeit(float wert)
 
 float kilojoule(float kilokalorien)
 {
-    constexpr double kilojouleJeKilokalorie = 4.17910447761194;
     return static_cast<float>(static_cast<double>(kilokalorien) * kilojouleJeKilokalorie);
+}
+
+double kilokalorien(double kilojoule)
+{
+    return kilojoule / kilojouleJeKilokalorie;
+}
+
+double salzAusNatrium(double milligramm)
+{
+    return milligramm * salzJeNatrium / milligrammJeGramm;
+}
+
+double natriumAusSalz(double gramm)
+{
+    return gramm * milligrammJeGramm / salzJeNatrium;
 }
 
 float jeGramm(float wert, std::int32_t menge)

@@ -23,5 +23,14 @@ std::optional<bool> sichtbarkeit(float wert);
 /// in single. The factor is 280/67; it lies a little below the usual 4.184.
 float kilojoule(float kilokalorien);
 
+/// Energy in kcal from energy in kJ, with the factor of `kilojoule`: what was typed in kJ is shown
+/// as that many kJ again.
+double kilokalorien(double kilojoule);
+
+/// Table salt in g from sodium in mg, and back: 1 g of sodium is held by 2.54 g of salt, as on the
+/// labels of packed foods.
+double salzAusNatrium(double milligramm);
+double natriumAusSalz(double gramm);
+
 /// The displayed value for one gram of the displayed amount; 0 when the amount is 0.
 float jeGramm(float wert, std::int32_t menge);

@@ -2,6 +2,7 @@
 
 #include "Bedarfsbeurteilung.h"
 #include "Dateihueter.h"
+#include "Eingabeblatt.h"
 #include "Fensterplatz.h"
 #include "Lebensmittelbestand.h"
 #include "Menue.h"
@@ -169,6 +170,7 @@ void AppController::verbinde()
     verbindeSuche();
     verbindeEigene();
     verbindeWertungen();
+    verbindeLeeres();
 }
 
 void AppController::verbindeSuche()
@@ -214,6 +216,8 @@ void AppController::verbindeEigene()
     connect(loeschenknopf, &QAbstractButton::clicked, this, &AppController::LoescheneigeneLM);
     connect(EingabeFensteruebernehmen, &QAbstractButton::clicked, this,
             &AppController::umschreibenDerEingabeFelder);
+    new Eingabeblatt(*this, *einfenster, [this] { return eingegebenesLebensmittel(); });
+    connect(EingabeFensterabschreiben, &QAbstractButton::clicked, this, &AppController::schreibeAb);
     einfenster->installEventFilter(this);
     connect(EingabeFensterschliessen, &QAbstractButton::clicked, this,
             &AppController::Fensterschliessen);
@@ -250,6 +254,7 @@ void AppController::awakeFromNib()
     BoxAufZu = 0;
     setUpToolbar();
     baueMenueleiste(*this);
+    zeigeLeeres();
 }
 
 void AppController::Ansichtdurchwechseln()

@@ -24,6 +24,8 @@
 #include <array>
 #include <optional>
 
+class Spaltenhinweis;
+
 /// Runs the main window: holds the foods, shows the chosen one for an amount of grams, and judges
 /// it. Its outlets are the objects of the two interface descriptions, under their names.
 class AppController : public QObject,
@@ -71,7 +73,7 @@ public:
     /// 2 "such". One for the whole process: every table and every action reads the same.
     static int angeklickteSpalte;
 
-    /// The notice that tells what the entry sheet saved.
+    /// The notice that tells which own food was saved or deleted.
     static const QString hinweisGesichert;
 
     /// The tabs of `DatenAnsicht` in the order in which they are cycled.
@@ -95,6 +97,8 @@ public:
     void zeigeAnsicht(const QString &kennung);
     void Fenster();
     void Fensterschliessen();
+    void schreibeAb();
+    void zeigeZuletzt();
     void SichernFensterAuf();
     void Leisteanpassen();
     void windowWillClose();
@@ -163,17 +167,32 @@ private:
     void sucheGetipptes();
     bool taste(int taste);
 
+    // The foods that were chosen last
+    void merkeGewaehltes();
+    void zeigeWieder(const QString &name, bool eigen);
+    bool hatGewaehlt() const;
+
+    // What stands where nothing is yet, and why a control can't be used
+    void verbindeLeeres();
+    void zeigeLeeres();
+    QString leereSuche() const;
+    void begruendeSperren();
+
     // The meal plan
     void stellePlanDaneben();
 
     // Own foods
     Datenmodul eingegebenesLebensmittel() const;
+    const Datenmodul *gezeigtesLebensmittel() const;
+    QString nameFuerAbschrift(const QString &name) const;
     bool sichere();
     bool schreibeEigeneLebensmittel() const;
     void setzeAnzeigeBearbeitbar(bool bearbeitbar);
 
     // Notices
-    void meldeUebernommenes(const QString &name, bool gesichert);
+    void meldeUebernommenes(const QString &name, bool gesichert, bool neu);
+    void meldeGesichertes(const QString &name, bool gesichert, bool neu);
+    void meldeGeloeschtes(const QString &name, bool gesichert);
     void nimmGesichertesZurueck();
     void zeigeEigenes(const QString &name);
 
@@ -209,7 +228,18 @@ private:
     /// The record that is on display, or that the display was saved to. It may be gone since, and
     /// is never read: its address tells a built-in food from an own one of that name.
     const Datenmodul *m_gezeigtes = nullptr;
-    QTimer m_tipppause; ///< runs while the user types in the search box
+    /// A food that the user chose: its key, and whether it is an own one.
+    struct Gewaehltes
+    {
+        QString name;
+        bool eigen;
+        bool operator==(const Gewaehltes &) const = default;
+    };
+    QList<Gewaehltes> m_zuletzt; ///< the newest first
+    Spaltenhinweis *m_eigenhinweis = nullptr;
+    Spaltenhinweis *m_suchhinweis = nullptr;
+    QString m_vergeblich; ///< what to try after a search that found nothing; empty after others
+    QTimer m_tipppause;   ///< runs while the user types in the search box
     std::array<Textfeld *, anzahlNaehrwerte> m_wertfelder = {};
     std::array<QWidget *, anzahlNaehrwerte> m_wertbeschriftungen = {};
     std::array<Textfeld *, anzahlNaehrwerte> m_eingabefelder = {};

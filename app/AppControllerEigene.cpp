@@ -5,6 +5,8 @@
 #include "Dateihueter.h"
 #include "Zeichenkettentabelle.h"
 
+#include <algorithm>
+
 namespace {
 
 /// What is typed into the sheet is meant for this amount, in grams.
@@ -14,6 +16,15 @@ constexpr int eingegebeneMenge = 100;
 
 void AppController::Fenster()
 {
+    const Datenmodul *gezeigt = gezeigtesLebensmittel();
+    EingabeFensterabschreiben->setEnabled(gezeigt != nullptr);
+    if (gezeigt != nullptr) {
+        EingabeFensterabschreiben->setToolTip(localizedString(QStringLiteral("„%1“, je 100 g"))
+                                                  .arg(localizedString(gezeigt->name())));
+    }
+    if (!einfenster->testAttribute(Qt::WA_Resized)) { // by itself it is two thirds of the screen
+        einfenster->resize(einfenster->sizeHint());
+    }
     EingabeFensterfeldA->setFocus();
     einfenster->open();
     veralteWertungsgruende();
@@ -45,8 +56,9 @@ void AppController::umschreibenDerEingabeFelder()
         m_wertungsfelder[i]->setStringValue(m_wertungseingaben[i]->stringValue());
     }
     zeigeJoule();
+    const bool neu = !KundenDictionary.contains(feldA->stringValue());
     const bool gesichert = sichere();
-    meldeUebernommenes(feldA->stringValue(), gesichert);
+    meldeUebernommenes(feldA->stringValue(), gesichert, neu);
 }
 
 /// What stands in the entry sheet, as a record.
@@ -64,9 +76,61 @@ Datenmodul AppController::eingegebenesLebensmittel() const
     return lebensmittel;
 }
 
+/// The record of what is on display; null when that was deleted, is of no list, or is the line
+/// without values that the built-in table begins with.
+const Datenmodul *AppController::gezeigtesLebensmittel() const
+{
+    if (zeigtEingebautes()) {
+        const Datenmodul &eingebautes = *Dictionary.constFind(unuebersetztername);
+        const bool leer = std::all_of(naehrwerte.begin(), naehrwerte.end(), [&](const auto &zeile) {
+            return eingebautes.wert(zeile.wert) == 0;
+        });
+        return leer ? nullptr : &eingebautes;
+    }
+    for (const QString &name : {feldA->stringValue(), unuebersetztername}) {
+        const auto eigenes = KundenDictionary.constFind(name);
+        if (eigenes != KundenDictionary.constEnd()) {
+            return &*eigenes;
+        }
+    }
+    return nullptr;
+}
+
+/// Writes the food on display into the sheet, per 100 g, to be changed there. An own one keeps its
+/// name: saving it is what changes it.
+void AppController::schreibeAb()
+{
+    const Datenmodul *vorlage = gezeigtesLebensmittel();
+    if (vorlage == nullptr) {
+        return;
+    }
+    EingabeFensterfeldA->setStringValue(zeigtEingebautes() ? nameFuerAbschrift(vorlage->name())
+                                                           : vorlage->name());
+    for (const auto &zeile : naehrwerte) {
+        m_eingabefelder[stelle(zeile.wert)]->setFloatValue(vorlage->wert(zeile.wert));
+    }
+    for (const auto &zeile : wertungen) {
+        m_wertungseingaben[stelle(zeile.wertung)]->setStringValue(vorlage->wertung(zeile.wertung));
+    }
+    EingabeFensterfeldA->setFocus();
+}
+
+/// A name for an own food that is made from a built-in one; no other own food has it.
+QString AppController::nameFuerAbschrift(const QString &name) const
+{
+    const QString gezeigt = localizedString(name);
+    QString neuer = localizedString(QStringLiteral("%1 (eigen)")).arg(gezeigt);
+    for (int zahl = 2; KundenDictionary.contains(neuer); ++zahl) {
+        neuer = localizedString(QStringLiteral("%1 (eigen %2)")).arg(gezeigt).arg(zahl);
+    }
+    return neuer;
+}
+
 void AppController::SicherneigeneLM()
 {
-    sichere();
+    const bool neu = !KundenDictionary.contains(feldA->stringValue());
+    const bool gesichert = sichere();
+    meldeGesichertes(feldA->stringValue(), gesichert, neu);
 }
 
 /// Saves the values on display. False when the file could not be written; the program then goes on
@@ -156,7 +220,7 @@ void AppController::LoescheneigeneLM()
         return;
     }
     KundenDictionary.remove(name);
-    schreibeEigeneLebensmittel();
+    const bool gesichert = schreibeEigeneLebensmittel();
     // The list's entry is found by the selected row: the delete button is only enabled when the
     // food was chosen there.
     const int zeile = Tabelle->selectedRow();
@@ -164,7 +228,7 @@ void AppController::LoescheneigeneLM()
         KundenArray.removeAt(zeile);
     }
     Tabelle->reloadData();
-    nimmGesichertesZurueck();
+    meldeGeloeschtes(name, gesichert);
     if (planmodul != nullptr) {
         planmodul->loeschenvonkundeneintraegen(name);
     }

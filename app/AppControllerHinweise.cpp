@@ -6,17 +6,27 @@
 
 const QString AppController::hinweisGesichert = QStringLiteral("gesichert");
 
+namespace {
+
+QString wasGeschah(const QString &name, bool gesichert, bool neu)
+{
+    const QString was =
+        !gesichert
+            ? localizedString(QStringLiteral("„%1“ steht in der Liste, ist aber nicht gesichert."))
+        : neu ? localizedString(QStringLiteral("„%1“ ist gesichert."))
+              : localizedString(QStringLiteral("„%1“ ist geändert."));
+    return was.arg(kurzerName(name));
+}
+
+} // namespace
+
 /// What was typed into the sheet stands in the fields at once. Circle, bars and colours are those
 /// of the food before, and a value that was hidden with it stays hidden, until a food is chosen.
-void AppController::meldeUebernommenes(const QString &name, bool gesichert)
+void AppController::meldeUebernommenes(const QString &name, bool gesichert, bool neu)
 {
-    const QString was = gesichert
-                            ? localizedString(QStringLiteral("„%1“ ist gesichert."))
-                            : localizedString(QStringLiteral("„%1“ steht in der Liste, ist aber "
-                                                             "nicht gesichert."));
     Hinweis hinweis = {.kennung = hinweisGesichert,
                        .text =
-                           was.arg(kurzerName(name)) + u' ' +
+                           wasGeschah(name, gesichert, neu) + u' ' +
                            localizedString(QStringLiteral(
                                "Kreis, Balken und Farben zeigen noch das Lebensmittel davor."))};
     if (KundenArray.indexOf(name) < Tabelle->modell()->rowCount()) {
@@ -26,6 +36,26 @@ void AppController::meldeUebernommenes(const QString &name, bool gesichert)
         };
     }
     hinweise->zeige(hinweis);
+}
+
+/// What was saved from the display stands there already. A file that could not be written is told
+/// of by itself, with what can be done about it.
+void AppController::meldeGesichertes(const QString &name, bool gesichert, bool neu)
+{
+    nimmGesichertesZurueck();
+    if (gesichert) {
+        hinweise->zeige({.kennung = hinweisGesichert, .text = wasGeschah(name, gesichert, neu)});
+    }
+}
+
+void AppController::meldeGeloeschtes(const QString &name, bool gesichert)
+{
+    nimmGesichertesZurueck();
+    if (gesichert) {
+        hinweise->zeige(
+            {.kennung = hinweisGesichert,
+             .text = localizedString(QStringLiteral("„%1“ ist gelöscht.")).arg(kurzerName(name))});
+    }
 }
 
 void AppController::nimmGesichertesZurueck()

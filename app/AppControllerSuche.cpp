@@ -26,6 +26,7 @@ public:
     {
         m_controller.m_tipppause.stop();
         m_controller.suchfortschritt->show();
+        m_controller.m_vergeblich.clear();
         m_controller.suchArray.clear();
         m_controller.suchArray2.clear();
         m_uhr.start();
@@ -73,7 +74,13 @@ void AppController::suchen(const Wertehalter &sender)
             Laden();
         }
     }
-    const bool gesucht = !sender.stringValue().isEmpty();
+    const QString text = sender.stringValue();
+    const bool gesucht = !text.isEmpty();
+    m_vergeblich =
+        localizedString(
+            QStringLiteral("Zu „%1“ wurde nichts gefunden. Versuchen Sie ein kürzeres Wort, die "
+                           "Einzahl oder eine andere Schreibweise."))
+            .arg(kurzerName(text));
     zeigeTrefferzahl(gesucht ? std::optional(ergebnis.treffer.size()) : std::nullopt);
 }
 
@@ -88,10 +95,14 @@ void AppController::proteinsuche()
     for (const QString &name : treffer) {
         anzeige.zeile(name, name);
     }
+    m_vergeblich = localizedString(
+        QStringLiteral("Kein Lebensmittel erfüllt alle Kriterien. Schalten Sie eines aus, oder "
+                       "ändern Sie eine Grenze."));
     zeigeTrefferzahl(treffer.size());
 }
 
-/// Says above the results how many foods were found; absent when nothing was looked for.
+/// Says above the results how many foods were found, and below what to try when none was; absent
+/// when nothing was looked for.
 void AppController::zeigeTrefferzahl(std::optional<qsizetype> treffer)
 {
     const QString zahl = treffer ? zahlenform().toString(*treffer) : QString();
@@ -100,6 +111,10 @@ void AppController::zeigeTrefferzahl(std::optional<qsizetype> treffer)
                               ? localizedString(QStringLiteral("Suche: nichts gefunden"))
                               : localizedString(QStringLiteral("Suche: %1 gefunden")).arg(zahl);
     Tabelle->modell()->setTitel(QStringLiteral("such"), titel, zahl);
+    if (treffer != 0) {
+        m_vergeblich.clear();
+    }
+    zeigeLeeres();
 }
 
 /// A switch that is off takes its criterion out of the search.

@@ -111,6 +111,9 @@ void AppController::Laden()
             return;
         }
         rausholen(lebensmittel);
+        if (lebensmittel != nullptr && Tabelle->clickedColumn() >= 0) {
+            merkeGewaehltes();
+        }
     }
     zeigeEnergieanteile();
     schliesseAuswahlAb();
@@ -180,7 +183,11 @@ void AppController::LadeneigeneLM()
         DatenAnsicht->show();
         zeigeAnsicht(QStringLiteral("zwei"));
     }
-    rausholen(gewaehlt ? eigenesLebensmittel(zeile) : nullptr);
+    const Datenmodul *lebensmittel = gewaehlt ? eigenesLebensmittel(zeile) : nullptr;
+    rausholen(lebensmittel);
+    if (lebensmittel != nullptr) {
+        merkeGewaehltes();
+    }
     zeigeEnergieanteileGanzzahlig();
     schliesseAuswahlAb();
 }

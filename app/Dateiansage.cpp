@@ -248,6 +248,8 @@ void Dateiansage::vergleiche()
         m_controller.hinweise->nimmZurueck(andereEigene);
         return;
     }
+    // That something is saved would not be the whole truth any more.
+    m_controller.hinweise->nimmZurueck(AppController::hinweisGesichert);
     m_controller.hinweise->zeige(
         {.kennung = andereEigene,
          .text = localizedString(

@@ -104,6 +104,8 @@ void baueBearbeiten(AppController &controller)
     eintrag(bearbeiten, QT_TRANSLATE_NOOP("Mahlberg", "&Profilsuche"),
             QKeySequence(QStringLiteral("Ctrl+Shift+F")),
             [&controller] { controller.profilaufzu->toggle(); });
+    eintrag(bearbeiten, QT_TRANSLATE_NOOP("Mahlberg", "&Zuletzt gewählte Lebensmittel …"),
+            QKeySequence(QStringLiteral("Ctrl+L")), [&controller] { controller.zeigeZuletzt(); });
 }
 
 void baueErscheinungsbild(QMenu &darstellung, AppController &controller)

@@ -113,6 +113,7 @@ void Tabellenansicht::reloadData()
         verteileBreiten();
     }
     viewport()->update();
+    Q_EMIT neuGelesen();
 }
 
 void Tabellenansicht::selectionChanged(const QItemSelection &selected,

@@ -89,6 +89,8 @@ Q_SIGNALS:
     void betaetigt();
     /// The user has drawn a column to this width; the last one only takes what is left.
     void spalteGezogen(int spalte, int breite);
+    /// The lists may have changed: the table has read its number of rows anew.
+    void neuGelesen();
 
 protected:
     void mousePressEvent(QMouseEvent *event) override;

@@ -12,6 +12,10 @@
   <translation>All values per 100 g of the food</translation>
  </message>
  <message>
+  <source>Aus Lebensmittel übernehmen</source>
+  <translation>Copy from food</translation>
+ </message>
+ <message>
   <source>Ballaststoffe</source>
   <translation>Fibre</translation>
  </message>
@@ -54,6 +58,10 @@
  <message>
   <source>Energie, kcal</source>
   <translation>Energy, kcal</translation>
+ </message>
+ <message>
+  <source>Energie, kJ</source>
+  <translation>Energy, kJ</translation>
  </message>
  <message>
   <source>Felder leeren</source>
@@ -116,6 +124,14 @@
   <translation>New food</translation>
  </message>
  <message>
+  <source>oder als Salz</source>
+  <translation>or as salt</translation>
+ </message>
+ <message>
+  <source>oder in kJ</source>
+  <translation>or in kJ</translation>
+ </message>
+ <message>
   <source>Phosphat</source>
   <translation>Phosphate</translation>
  </message>
@@ -130,6 +146,10 @@
  <message>
   <source>Protein, g</source>
   <translation>Protein, g</translation>
+ </message>
+ <message>
+  <source>Salz, g</source>
+  <translation>Salt, g</translation>
  </message>
  <message>
   <source>Schließen</source>
@@ -768,8 +788,80 @@ Nothing is worked out for children under 10 years; it resumes at 11 years.</tr
 <context>
  <name>Mahlberg</name>
  <message>
+  <source>%1 (eigen %2)</source>
+  <translation>%1 (own %2)</translation>
+ </message>
+ <message>
+  <source>%1 (eigen)</source>
+  <translation>%1 (own)</translation>
+ </message>
+ <message>
+  <source>&amp;Zuletzt gewählte Lebensmittel …</source>
+  <translation>&amp;Recently chosen foods …</translation>
+ </message>
+ <message>
   <source>ab %1 %</source>
   <translation>from %1 %</translation>
+ </message>
+ <message>
+  <source>Die Menge lässt sich einstellen, sobald das Lebensmittel in der Spalte „Lebensmittel“ oder „Eigene“ angeklickt ist.</source>
+  <translation>The amount can be set once the food has been clicked in the column “Food” or “Own”.</translation>
+ </message>
+ <message>
+  <source>Energie prüfen: angegeben %1 kcal, aus den Nährstoffen %2 kcal.</source>
+  <translation>Check the energy: given %1 kcal, from the nutrients %2 kcal.</translation>
+ </message>
+ <message>
+  <source>Energie prüfen: angegeben %1 kcal, aus den Nährstoffen %2 kcal. Fehlt ein Nährstoff, oder ist Alkohol darin?</source>
+  <translation>Check the energy: given %1 kcal, from the nutrients %2 kcal. Is a nutrient missing, or is there alcohol in it?</translation>
+ </message>
+ <message>
+  <source>Es ist kein Lebensmittel zu sehen.</source>
+  <translation>No food is on display.</translation>
+ </message>
+ <message>
+  <source>Gesichert werden Werte für 100 g: Stellen Sie zuerst die Menge auf 100 g.</source>
+  <translation>Values are saved for 100 g: first set the amount to 100 g.</translation>
+ </message>
+ <message>
+  <source>Ist bei Natrium Salz gemeint? %1 g Salz sind %2 mg Natrium.</source>
+  <translation>Is salt meant by the sodium? %1 g of salt are %2 mg of sodium.</translation>
+ </message>
+ <message>
+  <source>Kein Lebensmittel erfüllt alle Kriterien. Schalten Sie eines aus, oder ändern Sie eine Grenze.</source>
+  <translation>No food meets all criteria. Switch one off, or change a limit.</translation>
+ </message>
+ <message>
+  <source>Mengen prüfen: Protein, Fett, Kohlenhydrate und Ballaststoffe ergeben %1 g in %2 g.</source>
+  <translation>Check the amounts: protein, fat, carbohydrate and fibre add up to %1 g in %2 g.</translation>
+ </message>
+ <message>
+  <source>Natrium prüfen: %1 mg sind %2 g Salz, mehr als neben den anderen Nährstoffen Platz hat.</source>
+  <translation>Check the sodium: %1 mg are %2 g of salt, more than there is room for beside the other nutrients.</translation>
+ </message>
+ <message>
+  <source>Noch kein Lebensmittel gewählt</source>
+  <translation>No food chosen yet</translation>
+ </message>
+ <message>
+  <source>Noch keine eigenen Lebensmittel. Eines eintippen: Ablage, Neues Lebensmittel.</source>
+  <translation>No foods of your own yet. To type one in: File, New food.</translation>
+ </message>
+ <message>
+  <source>Schalten Sie das Kriterium davor ein, um es einzustellen.</source>
+  <translation>Switch on the criterion before it to set this.</translation>
+ </message>
+ <message>
+  <source>So geht es los:
+1. Oben einen Namen suchen.
+2. Ein Lebensmittel anklicken.
+3. Rechts die Menge einstellen.
+4. Mit %1 in den Mahlzeitenplan geben.</source>
+  <translation>How to begin:
+1. Search for a name above.
+2. Click on a food.
+3. Set the amount on the right.
+4. Send it to the meal plan with %1.</translation>
  </message>
  <message>
   <source>verfehlt</source>
@@ -1752,6 +1844,10 @@ Nothing is worked out for children under 10 years; it resumes at 11 years.</tr
   <translation>Like the &amp;system</translation>
  </message>
  <message>
+  <source>Wählen Sie zuerst ein Lebensmittel in der Spalte „Eigene“.</source>
+  <translation>First choose a food in the column “Own”.</translation>
+ </message>
+ <message>
   <source>Zeigen</source>
   <translation>Show</translation>
  </message>
@@ -1762,6 +1858,10 @@ Nothing is worked out for children under 10 years; it resumes at 11 years.</tr
  <message>
   <source>Ziehen Sie Ihre Lieblingsobjekte in die Symbolleiste …</source>
   <translation>Drag your favourite items into the toolbar …</translation>
+ </message>
+ <message>
+  <source>Zu „%1“ wurde nichts gefunden. Versuchen Sie ein kürzeres Wort, die Einzahl oder eine andere Schreibweise.</source>
+  <translation>Nothing was found for “%1”. Try a shorter word, the singular or another spelling.</translation>
  </message>
  <message>
   <source>Zunahme</source>
@@ -1868,8 +1968,16 @@ Nothing is worked out for children under 10 years; it resumes at 11 years.</tr
   <translation>“%1”</translation>
  </message>
  <message>
+  <source>„%1“ ist gelöscht.</source>
+  <translation>“%1” has been deleted.</translation>
+ </message>
+ <message>
   <source>„%1“ ist gesichert.</source>
   <translation>“%1” is saved.</translation>
+ </message>
+ <message>
+  <source>„%1“ ist geändert.</source>
+  <translation>“%1” has been changed.</translation>
  </message>
  <message>
   <source>„%1“ ist keine Menge. Es bleibt bei %2 g.</source>
@@ -1878,6 +1986,10 @@ Nothing is worked out for children under 10 years; it resumes at 11 years.</tr
  <message>
   <source>„%1“ steht in der Liste, ist aber nicht gesichert.</source>
   <translation>“%1” is in the list, but is not saved.</translation>
+ </message>
+ <message>
+  <source>„%1“, je 100 g</source>
+  <translation>“%1”, per 100 g</translation>
  </message>
  <message>
   <source>… oder ziehen Sie den Standardsatz in die Symbolleiste. Was Sie aus der Leiste herausziehen, verschwindet.</source>

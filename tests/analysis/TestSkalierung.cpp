@@ -21,6 +21,9 @@ private Q_SLOTS:
     void visibility();
     void kilojoules_data();
     void kilojoules();
+    void kilojoulesBecomeKilocalories();
+    void saltAndSodium_data();
+    void saltAndSodium();
     void valuePerGram_data();
     void valuePerGram();
 };
@@ -144,6 +147,30 @@ void TestSkalierung::kilojoules()
     QFETCH(float, kcal);
     QFETCH(float, kj);
     QCOMPARE_EQ(kilojoule(kcal), kj);
+}
+
+void TestSkalierung::kilojoulesBecomeKilocalories()
+{
+    QCOMPARE(kilokalorien(280), 67.0);
+    QCOMPARE(kilokalorien(0), 0.0);
+    QCOMPARE(kilojoule(static_cast<float>(kilokalorien(1000))), 1000.0F);
+}
+
+void TestSkalierung::saltAndSodium_data()
+{
+    QTest::addColumn<double>("salz");    // g
+    QTest::addColumn<double>("natrium"); // mg
+    QTest::newRow("none") << 0.0 << 0.0;
+    QTest::newRow("a gram of sodium") << 2.54 << 1000.0;
+    QTest::newRow("a cheese") << 1.27 << 500.0;
+}
+
+void TestSkalierung::saltAndSodium()
+{
+    QFETCH(double, salz);
+    QFETCH(double, natrium);
+    QCOMPARE(salzAusNatrium(natrium), salz);
+    QCOMPARE(natriumAusSalz(salz), natrium);
 }
 
 void TestSkalierung::valuePerGram_data()

@@ -138,6 +138,11 @@ void TestEigeneFelder::tabGoesThroughTheFieldsInTheRecordsOrder()
                                  ? QStringLiteral("feldB")
                                  : QLatin1String(zeile.kennung) + QStringLiteral("feld");
         soll << blatt()->findChild<Textfeld *>(QStringLiteral("EingabeFenster") + feld);
+        if (zeile.wert == Naehrwert::kal) { // the same in another unit
+            soll << controller().EingabeFensterjoulefeld;
+        } else if (zeile.wert == Naehrwert::na) {
+            soll << controller().EingabeFenstersalzfeld;
+        }
     }
     for (const auto &zeile : wertungen) {
         soll << blatt()->findChild<Auswahlfeld *>(QStringLiteral("EingabeFenster") +

@@ -18,7 +18,9 @@ private Q_SLOTS:
     void theDisplayStaysAsTheStepsLeaveIt();
     void showingItSelectsItsRow();
     void choosingAnyFoodSettlesIt();
-    void deletingItSettlesIt();
+    void deletingItIsConfirmedInItsPlace();
+    void changingItIsNamed();
+    void theSaveButtonConfirms();
     void aRowThatStandsForAnotherFoodShowsWhatWasSaved_data();
     void aRowThatStandsForAnotherFoodShowsWhatWasSaved();
     void whatTheTableDoesNotReachIsNotOffered();
@@ -131,7 +133,7 @@ void TestHinweise::choosingAnyFoodSettlesIt()
     QVERIFY(controller().hinweise->isHidden());
 }
 
-void TestHinweise::deletingItSettlesIt()
+void TestHinweise::deletingItIsConfirmedInItsPlace()
 {
     oeffne(30, 0);
     sichere(QStringLiteral("Linsensuppe"), QStringLiteral("80"));
@@ -139,7 +141,30 @@ void TestHinweise::deletingItSettlesIt()
     m_heim->antworten = {1};
     controller().LoescheneigeneLM();
     QVERIFY(controller().KundenDictionary.isEmpty());
+    QCOMPARE(texte(), QStringList{QStringLiteral("„Linsensuppe“ ist gelöscht.")});
+    QTRY_VERIFY(knopf() == nullptr);
+    m_fenster->klicke(7, inName);
     QVERIFY(texte().isEmpty());
+}
+
+void TestHinweise::changingItIsNamed()
+{
+    oeffne(30, 0);
+    sichere(QStringLiteral("Linsensuppe"), QStringLiteral("80"));
+    sichere(QStringLiteral("Linsensuppe"), QStringLiteral("85"));
+    QCOMPARE(texte().size(), 1);
+    QVERIFY(texte().constFirst().startsWith(QStringLiteral("„Linsensuppe“ ist geändert. Kreis")));
+}
+
+void TestHinweise::theSaveButtonConfirms()
+{
+    oeffne(30, 0);
+    m_fenster->klicke(7, inName);
+    QTest::mouseClick(controller().sichernaufzu, Qt::LeftButton);
+    QTest::mouseClick(controller().sichernknopf, Qt::LeftButton);
+    QCOMPARE(texte(), QStringList{QStringLiteral("„Speise 0007“ ist gesichert.")});
+    QTest::mouseClick(controller().sichernknopf, Qt::LeftButton);
+    QCOMPARE(texte(), QStringList{QStringLiteral("„Speise 0007“ ist geändert.")});
 }
 
 void TestHinweise::aRowThatStandsForAnotherFoodShowsWhatWasSaved_data()

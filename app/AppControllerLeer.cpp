@@ -1,0 +1,83 @@
+// What stands where nothing is yet: first steps, empty lists, searches without a result, and the
+// reasons of controls that can't be used.
+
+#include "AppController.h"
+
+#include "Spaltenhinweis.h"
+#include "Sperrgrund.h"
+#include "Zeichenkettentabelle.h"
+
+#include <QAccessible>
+#include <QDoubleSpinBox>
+#include <QSlider>
+
+void AppController::verbindeLeeres()
+{
+    m_eigenhinweis = new Spaltenhinweis(*Tabelle, QStringLiteral("eigen"));
+    m_suchhinweis = new Spaltenhinweis(*Tabelle, QStringLiteral("such"));
+    connect(Tabelle, &Tabellenansicht::neuGelesen, this, &AppController::zeigeLeeres);
+    begruendeSperren();
+}
+
+/// Brings the words over the empty columns up to date.
+void AppController::zeigeLeeres()
+{
+    const bool leer = KundenArray.isEmpty() && !Array.isEmpty();
+    m_eigenhinweis->zeige(
+        leer ? localizedString(QStringLiteral("Noch keine eigenen Lebensmittel. Eines eintippen: "
+                                              "Ablage, Neues Lebensmittel."))
+             : QString(),
+        0);
+    const QString vorher = m_suchhinweis->text();
+    m_suchhinweis->zeige(leereSuche(), static_cast<int>(suchArray.size()));
+    if (!m_vergeblich.isEmpty() && m_suchhinweis->text() != vorher) {
+        QAccessibleEvent vorlesen(m_suchhinweis, QAccessible::Alert);
+        QAccessible::updateAccessibility(&vorlesen);
+    }
+}
+
+/// The words for the search column: what to try when a search found nothing, or the first steps
+/// until the user has chosen a food; none while there are results.
+QString AppController::leereSuche() const
+{
+    if (suchArray.size() > 1 || Array.isEmpty()) {
+        return {};
+    }
+    if (!m_vergeblich.isEmpty() || hatGewaehlt()) {
+        return m_vergeblich;
+    }
+    const QString taste =
+        QKeySequence(QStringLiteral("Ctrl+Return")).toString(QKeySequence::NativeText);
+    return localizedString(QStringLiteral("So geht es los:\n"
+                                          "1. Oben einen Namen suchen.\n"
+                                          "2. Ein Lebensmittel anklicken.\n"
+                                          "3. Rechts die Menge einstellen.\n"
+                                          "4. Mit %1 in den Mahlzeitenplan geben."))
+        .arg(taste);
+}
+
+void AppController::begruendeSperren()
+{
+    const QString menge = localizedString(
+        QStringLiteral("Die Menge lässt sich einstellen, sobald das Lebensmittel in der Spalte "
+                       "„Lebensmittel“ oder „Eigene“ angeklickt ist."));
+    for (const Schieber *regler : m_mengenregler) {
+        new Sperrgrund(regler->regler(), menge);
+        new Sperrgrund(regler->eingabe(), menge);
+    }
+    new Sperrgrund(sichernknopf,
+                   localizedString(QStringLiteral("Gesichert werden Werte für 100 g: Stellen Sie "
+                                                  "zuerst die Menge auf 100 g.")));
+    new Sperrgrund(loeschenknopf, localizedString(QStringLiteral(
+                                      "Wählen Sie zuerst ein Lebensmittel in der Spalte "
+                                      "„Eigene“.")));
+    new Sperrgrund(EingabeFensterabschreiben,
+                   localizedString(QStringLiteral("Es ist kein Lebensmittel zu sehen.")));
+    const QString kriterium = localizedString(
+        QStringLiteral("Schalten Sie das Kriterium davor ein, um es einzustellen."));
+    for (QWidget *feld : std::initializer_list<QWidget *>{
+             proteingroesserkleiner, proteineingabe, uebergewichtprofil, diabetesprofil,
+             gichtprofil, hkkprofil, kaloriengroesserkleiner, kalorieneingabe}) {
+        new Sperrgrund(feld, kriterium);
+    }
+}
