@@ -62,7 +62,10 @@ void Zeichenansicht::paintEvent(QPaintEvent * /*event*/)
     QPainter maler(this);
     constexpr int halbhell = 128;
     if (brauchtHellenGrund() && palette().color(QPalette::Window).lightness() < halbhell) {
-        zeichneKarte(maler, QRectF(rect()));
+        // Captions that stand on the view's foot have the window's colours, and so its ground.
+        const bool beschriftet = !childrenRect().isEmpty();
+        zeichneKarte(maler, QRectF(rect().adjusted(
+                                0, 0, 0, beschriftet ? childrenRect().top() - height() : 0)));
     }
     zeichnen(maler, QRectF(rect()));
 }

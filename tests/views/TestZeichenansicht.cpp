@@ -23,6 +23,7 @@ private Q_SLOTS:
     void theParentShowsWhereNothingIsDrawn();
     void aDarkWindowHasALightCardUnderPureColours_data();
     void aDarkWindowHasALightCardUnderPureColours();
+    void captionsOnAViewStandBelowItsCard();
     void anEmptyViewHasNoCard_data();
     void anEmptyViewHasNoCard();
     void theWindowShowsWhatIsDrawn();
@@ -170,6 +171,19 @@ void TestZeichenansicht::aDarkWindowHasALightCardUnderPureColours()
     ansicht->zeichnen(maler, QRectF(10, 10, 340, 260));
     maler.end();
     QCOMPARE(leer.pixelColor(10 + 337, 20).alpha(), 0);
+}
+
+/// They are light in a dark window, and could not be read on the card.
+void TestZeichenansicht::captionsOnAViewStandBelowItsCard()
+{
+    NahrstoffraumView ansicht;
+    QWidget beschriftung(&ansicht);
+    beschriftung.setGeometry(20, 180, 100, 20);
+    const QImage bild = imFenster(ansicht, dunkel);
+    QCOMPARE(bild.pixelColor(10 + 170, 10 + 178), QColor(Qt::white));
+    QCOMPARE(bild.pixelColor(10 + 70, 10 + 181), dunkel);
+    QCOMPARE(bild.pixelColor(10 + 330, 10 + 181), dunkel);
+    QCOMPARE(bild.pixelColor(10 + 170, 10 + 258), dunkel);
 }
 
 void TestZeichenansicht::anEmptyViewHasNoCard_data()
