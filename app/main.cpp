@@ -3,6 +3,7 @@
 #include "Fensterplatz.h"
 #include "Oberflaeche.h"
 #include "Rundgang.h"
+#include "Schreibtisch.h"
 #include "Sprache.h"
 #include "Startsperre.h"
 #include "Zeichenkettentabelle.h"
@@ -88,6 +89,8 @@ int main(int argc, char **argv)
                               ? einstellungen->value(QStringLiteral("Sprache")).toString()
                               : auftrag.sprache);
     zeigeErscheinungsbild(gemerktesErscheinungsbild(*einstellungen));
+    Schreibtisch schreibtisch;
+    folgeSchreibtisch(schreibtisch);
 
     const Datenordner datenordner = eigenesHeim ? Datenordner(eigenesHeim->path()) : Datenordner();
     Startsperre sperre(
@@ -117,6 +120,7 @@ int main(int argc, char **argv)
     if (!auftrag.rundgang.isNull()) {
         return Rundgang(oberflaeche, QDir(auftrag.rundgang), &ungelesen).gehen() ? 0 : 1;
     }
+    schreibtisch.frage(Schreibtisch::sitzungsbus());
     QObject::connect(&oberflaeche.hauptfenster, &AppController::beendet, &app, &QApplication::quit);
     oberflaeche.hauptfenster.Hauptfenster->show();
     return QApplication::exec();
