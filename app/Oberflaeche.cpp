@@ -3,6 +3,10 @@
 #include "Dateihueter.h"
 #include "Einstellungen.h"
 #include "Rollbereich.h"
+#include "Textwechsel.h"
+
+#include <QApplication>
+#include <QLocale>
 
 namespace {
 
@@ -37,7 +41,10 @@ Oberflaeche::Oberflaeche(const Tueren &tueren)
     , hauptfenster(mitDateien(tueren, dateien))
     , rechner(anthrotueren(mitDateien(tueren, dateien)))
     , ansage(hauptfenster, tueren.datenordner, dateien)
+    , m_sprich(tueren.sprich)
 {
+    QObject::connect(&hauptfenster, &AppController::spracheGewaehlt, &hauptfenster,
+                     [this](const QString &kuerzel) { sprich(kuerzel); });
     ansage.beachte(*tueren.einstellungen);
     Rollbereich::fuelle(*hauptfenster.tabVier, rechner.koerperseite);
     Rollbereich::fuelle(*hauptfenster.tabFuenf, rechner.lebensweiseseite);
@@ -48,4 +55,35 @@ void Oberflaeche::awakeFromNib()
     hauptfenster.awakeFromNib();
     rechner.awakeFromNib();
     ansage.beginne();
+}
+
+void Oberflaeche::sprich(const QString &kuerzel)
+{
+    const bool englisch = kuerzel == QLatin1String("en");
+    if (!m_sprich || englisch == (QLocale().language() == QLocale::English)) {
+        return;
+    }
+    const QString name = hauptfenster.feldA->stringValue();
+    const Textwechsel wechsel(englisch);
+    m_sprich(kuerzel);
+    for (QWidget *fenster : QApplication::topLevelWidgets()) {
+        fenster->setLocale(QLocale());
+        wechsel.beschrifte(*fenster);
+    }
+    hauptfenster.feldA->setStringValue(name); // a food's name is nobody's caption
+    hauptfenster.folgeSprache();
+    rechner.folgeSprache();
+    folgeSprache(hauptfenster.planmodul);
+    folgeSprache(rechner.plan);
+}
+
+/// The sentences below the plan's pictures are made of several, with figures in them.
+void Oberflaeche::folgeSprache(Planmodul *plan)
+{
+    if (plan == nullptr || plan->PlanTabelle == nullptr) {
+        return; // it has no window yet
+    }
+    plan->kreisworte->setText(plan->kreisansicht->beschreibung());
+    plan->anthrouebergabegewicht(Planmodul::klient.gewicht);
+    plan->PlanTabelle->viewport()->update();
 }

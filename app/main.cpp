@@ -85,9 +85,9 @@ int main(int argc, char **argv)
         einstellungen = std::make_unique<Einstellungen>(
             eigenesHeim->filePath(QStringLiteral("Mahlberg.conf")), QSettings::IniFormat);
     }
-    const Sprache sprache(auftrag.sprache.isEmpty()
-                              ? einstellungen->value(QStringLiteral("Sprache")).toString()
-                              : auftrag.sprache);
+    Sprache sprache(auftrag.sprache.isEmpty()
+                        ? einstellungen->value(QStringLiteral("Sprache")).toString()
+                        : auftrag.sprache);
     zeigeErscheinungsbild(gemerktesErscheinungsbild(*einstellungen));
     Schreibtisch schreibtisch;
     folgeSchreibtisch(schreibtisch);
@@ -115,6 +115,8 @@ int main(int argc, char **argv)
         .einstellungen = einstellungen.get(),
         .wertungstabelle = QStringLiteral(":/Lebensmittel.csv"),
         .drucke = eigenesHeim ? Drucktuer() : systemdrucktuer(*einstellungen, zeigeMeldung),
+        .dateien = {},
+        .sprich = [&sprache](const QString &kuerzel) { sprache.sprich(kuerzel); },
     });
     oberflaeche.awakeFromNib();
     if (!auftrag.rundgang.isNull()) {
