@@ -67,6 +67,10 @@ public:
     QString sportname;               ///< the sport as last chosen, known or not
     std::int32_t sportkal = 0;       ///< energy of the sport, kcal per hour
 
+    /// The language was changed while the pages are open, and their captions with it: drinks and
+    /// sports are offered in it, and the chosen ones called by their names in it.
+    void folgeSprache();
+
     // Body measures. The sender holds kg, m or cm.
     void slidergewicht(const Wertehalter &sender);
     void slidergroesse(const Wertehalter &sender);
@@ -101,6 +105,7 @@ public:
 private:
     // Start-up
     void fuelleAuswahlen();
+    void bieteAn();
     void verbinde();
     void verbindeGruppe(const Matrix &gruppe, void (AnthroController::*aktion)(int));
     void ladeBilder();

@@ -15,6 +15,7 @@
 #include <QLineEdit>
 #include <QLocale>
 #include <QSettings>
+#include <QSignalBlocker>
 
 #include <algorithm>
 #include <array>
@@ -52,6 +53,20 @@ QStringList namen(const Tabelle &tabelle)
     }
     std::sort(ergebnis.begin(), ergebnis.end(), QCollator(QLocale()));
     return ergebnis;
+}
+
+/// What a table calls the bearer of this name, in either language, in the language on screen; the
+/// name itself where it is in no table.
+template <typename Tabelle>
+QString nameInSprache(const Tabelle &tabelle, const QString &name)
+{
+    const bool englisch = QLocale().language() == QLocale::English;
+    for (const auto &zeile : tabelle) {
+        if (!zeile.englisch.isNull() && (name == zeile.deutsch || name == zeile.englisch)) {
+            return (englisch ? zeile.englisch : zeile.deutsch).toString();
+        }
+    }
+    return name;
 }
 
 /// The names of a table in both languages.
@@ -100,18 +115,36 @@ AnthroController::~AnthroController()
     delete lebensweiseseite;
 }
 
-void AnthroController::fuelleAuswahlen()
+void AnthroController::bieteAn()
 {
+    alkohol->clear();
     alkohol->addItems(namen(getraenke));
-    alkohol->setWeitereNamen(alleNamen(getraenke));
-    alkohol->setStringValue(startgetraenk);
+    sport->clear();
     sport->addItems(namen(sportarten));
-    sport->setWeitereNamen(alleNamen(sportarten));
-    sport->setStringValue(QString());
     const QString keiner =
         localizedString(QString::fromUtf8(QT_TRANSLATE_NOOP("Mahlberg", "kein Sport")));
     sport->lineEdit()->setPlaceholderText(keiner);
     sport->setItemData(sport->findText(QString()), keiner, Qt::AccessibleTextRole);
+}
+
+void AnthroController::folgeSprache()
+{
+    const QString getrunken = alkohol->stringValue();
+    const QString betrieben = sport->stringValue();
+    const QSignalBlocker getraenkStill(alkohol);
+    const QSignalBlocker sportStill(sport);
+    bieteAn();
+    alkohol->setStringValue(nameInSprache(getraenke, getrunken));
+    sport->setStringValue(nameInSprache(sportarten, betrieben));
+}
+
+void AnthroController::fuelleAuswahlen()
+{
+    bieteAn();
+    alkohol->setWeitereNamen(alleNamen(getraenke));
+    alkohol->setStringValue(startgetraenk);
+    sport->setWeitereNamen(alleNamen(sportarten));
+    sport->setStringValue(QString());
     for (Textfeld *feld : {ml, alkgramm, abbaudauer, resultatsportkal}) {
         feld->setIntValue(0);
     }

@@ -75,6 +75,8 @@ public:
 
     /// The notice that tells which own food was saved or deleted.
     static const QString hinweisGesichert;
+    /// The notice that tells what of a change of language waits for the next start.
+    static const QString hinweisSprache;
 
     /// The tabs of `DatenAnsicht` in the order in which they are cycled.
     static const QStringList ansichten;
@@ -105,6 +107,11 @@ public:
     void waehleErscheinungsbild(Erscheinungsbild bild);
     void waehleSprache(const QString &sprache);
 
+    /// The language was changed while the window is open, and its captions with it. What is held in
+    /// the former language (the shown name, the results of a search) follows; the order of the
+    /// foods stays.
+    void folgeSprache();
+
     // What the actions are made of
     void rausholen(const Datenmodul *lebensmittel);
     void eintragen(Datenmodul &lebensmittel) const;
@@ -131,6 +138,8 @@ Q_SIGNALS:
     /// The main window was closed, and with it the program ends. Nothing is left to save: every
     /// change was written when it was made.
     void beendet();
+    /// The user wants another language: "de" or "en".
+    void spracheGewaehlt(const QString &sprache);
     /// The copies of own foods and plan are to be shown.
     void fruehereStaendeGewuenscht();
 

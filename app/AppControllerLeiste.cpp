@@ -125,8 +125,5 @@ void AppController::waehleSprache(const QString &sprache)
 {
     m_tueren.einstellungen->setValue(QStringLiteral("Sprache"), sprache);
     m_tueren.einstellungen->sync();
-    m_tueren.melde(Hauptfenster,
-                   {localizedString(QStringLiteral("Die Sprache wechselt beim nächsten Start.")),
-                    {},
-                    {localizedString(QStringLiteral("ok"))}});
+    Q_EMIT spracheGewaehlt(sprache);
 }

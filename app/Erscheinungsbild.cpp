@@ -1,10 +1,12 @@
 #include "Erscheinungsbild.h"
 
 #include "Einstellungen.h"
+#include "Schreibtisch.h"
 
 #include <QApplication>
 #include <QPalette>
-#include <QStyle>
+
+#include <optional>
 
 namespace {
 
@@ -52,11 +54,25 @@ QPalette palette(bool dunkel)
     return ergebnis;
 }
 
-/// A desktop that paints dark windows is recognised by the palette that it gave at the start.
+/// A desktop that paints dark windows is recognised by its own palette, which comes to light when
+/// the program has none.
 bool systemIstDunkel()
 {
-    static const bool dunkel = QApplication::palette().color(QPalette::Window).lightness() < 128;
-    return dunkel;
+    QApplication::setPalette(QPalette());
+    return QApplication::palette().color(QPalette::Window).lightness() < 128;
+}
+
+/// How the windows are dressed, like the palette one for the whole program.
+struct Stand
+{
+    Erscheinungsbild bild = Erscheinungsbild::System; ///< what the user wants
+    std::optional<bool> wunsch; ///< whether the desktop wants dark windows; absent: not said
+};
+
+Stand &stand()
+{
+    static Stand stand;
+    return stand;
 }
 
 } // namespace
@@ -77,8 +93,23 @@ void merkeErscheinungsbild(Einstellungen &einstellungen, Erscheinungsbild bild)
 
 void zeigeErscheinungsbild(Erscheinungsbild bild)
 {
-    const bool systemDunkel = systemIstDunkel(); // asked before the first change of the palette
-    const bool dunkel =
-        bild == Erscheinungsbild::Dunkel || (bild == Erscheinungsbild::System && systemDunkel);
+    stand().bild = bild;
+    const std::optional<bool> wunsch = stand().wunsch;
+    const bool dunkel = bild != Erscheinungsbild::System ? bild == Erscheinungsbild::Dunkel
+                        : wunsch.has_value()             ? *wunsch
+                                                         : systemIstDunkel();
     QApplication::setPalette(palette(dunkel));
+}
+
+void folgeSchreibtisch(const Schreibtisch &schreibtisch)
+{
+    const auto zeige = [] {
+        zeigeErscheinungsbild(stand().bild);
+    };
+    QObject::connect(&schreibtisch, &Schreibtisch::umgefaerbt, &schreibtisch, zeige);
+    QObject::connect(&schreibtisch, &Schreibtisch::gesagt, &schreibtisch,
+                     [zeige](std::optional<bool> dunkel) {
+                         stand().wunsch = dunkel;
+                         zeige();
+                     });
 }

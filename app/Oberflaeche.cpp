@@ -3,6 +3,10 @@
 #include "Dateihueter.h"
 #include "Einstellungen.h"
 #include "Rollbereich.h"
+#include "Textwechsel.h"
+
+#include <QApplication>
+#include <QLocale>
 
 namespace {
 
@@ -39,7 +43,10 @@ Oberflaeche::Oberflaeche(const Tueren &tueren)
     , rechner(anthrotueren(mitDateien(tueren, dateien)))
     , ansage(hauptfenster, tueren.datenordner, dateien)
     , gedaechtnis(hauptfenster, *tueren.einstellungen)
+    , m_sprich(tueren.sprich)
 {
+    QObject::connect(&hauptfenster, &AppController::spracheGewaehlt, &hauptfenster,
+                     [this](const QString &kuerzel) { sprich(kuerzel); });
     ansage.beachte(*tueren.einstellungen);
     Rollbereich::fuelle(*hauptfenster.tabVier, rechner.koerperseite);
     Rollbereich::fuelle(*hauptfenster.tabFuenf, rechner.lebensweiseseite);
@@ -51,4 +58,35 @@ void Oberflaeche::awakeFromNib()
     rechner.awakeFromNib();
     ansage.beginne();
     gedaechtnis.beginne();
+}
+
+void Oberflaeche::sprich(const QString &kuerzel)
+{
+    const bool englisch = kuerzel == QLatin1String("en");
+    if (!m_sprich || englisch == (QLocale().language() == QLocale::English)) {
+        return;
+    }
+    const QString name = hauptfenster.feldA->stringValue();
+    const Textwechsel wechsel(englisch);
+    m_sprich(kuerzel);
+    for (QWidget *fenster : QApplication::topLevelWidgets()) {
+        fenster->setLocale(QLocale());
+        wechsel.beschrifte(*fenster);
+    }
+    hauptfenster.feldA->setStringValue(name); // a food's name is nobody's caption
+    hauptfenster.folgeSprache();
+    rechner.folgeSprache();
+    folgeSprache(hauptfenster.planmodul);
+    folgeSprache(rechner.plan);
+}
+
+/// The sentences below the plan's pictures are made of several, with figures in them.
+void Oberflaeche::folgeSprache(Planmodul *plan)
+{
+    if (plan == nullptr || plan->PlanTabelle == nullptr) {
+        return; // it has no window yet
+    }
+    plan->kreisworte->setText(plan->kreisansicht->beschreibung());
+    plan->anthrouebergabegewicht(Planmodul::klient.gewicht);
+    plan->PlanTabelle->viewport()->update();
 }

@@ -5,6 +5,7 @@
 #include "Dateiansage.h"
 #include "Fenstergedaechtnis.h"
 
+#include <functional>
 #include <memory>
 
 class Dateihueter;
@@ -19,10 +20,18 @@ public:
     /// Start-up of the main window, then of the calculator. Called once, after construction.
     void awakeFromNib();
 
+    /// Speaks another language, "de" or "en", in all windows that are open.
+    void sprich(const QString &kuerzel);
+
     /// The keeper of the user's files, which all windows share.
     std::shared_ptr<Dateihueter> dateien;
     AppController hauptfenster;
     AnthroController rechner;
     Dateiansage ansage;
     Fenstergedaechtnis gedaechtnis;
+
+private:
+    static void folgeSprache(Planmodul *plan);
+
+    std::function<void(const QString &)> m_sprich;
 };

@@ -57,6 +57,12 @@ public:
 
 Sprache::Sprache(const QString &wunsch)
 {
+    sprich(wunsch);
+}
+
+void Sprache::sprich(const QString &wunsch)
+{
+    m_uebersetzer.clear(); // a translation that goes is no longer asked
     const QLocale locale = localeFuer(wunsch);
     QLocale::setDefault(locale);
     QLocale::setDefault(zahlenform()); // for what writes numbers without asking for their form

@@ -15,6 +15,10 @@ public:
     /// Sets the language of all texts and the form of all numbers. `wunsch` is "de" or "en"; with
     /// anything else the desktop decides, and a desktop that speaks neither gets German.
     explicit Sprache(const QString &wunsch);
+
+    /// Changes the language while the program runs, for all that asks for its text from then on.
+    void sprich(const QString &wunsch);
+
     ~Sprache();
     Sprache(const Sprache &) = delete;
     Sprache &operator=(const Sprache &) = delete;

@@ -28,4 +28,7 @@ struct Tueren
     /// Reads and writes the user's files, for all windows of the program; a controller that gets
     /// none makes one of its own.
     std::shared_ptr<Dateihueter> dateien = {};
+    /// Speaks another language ("de" or "en") from now on; while it is absent, the one of the start
+    /// stays.
+    std::function<void(const QString &)> sprich = {};
 };

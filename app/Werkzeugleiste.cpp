@@ -129,6 +129,11 @@ void Werkzeugleiste::setDarstellung(Qt::ToolButtonStyle stil)
     merken();
 }
 
+void Werkzeugleiste::beschrifteNeu()
+{
+    aufbauen();
+}
+
 void Werkzeugleiste::setAnpassbar(bool anpassbar)
 {
     m_anpassbar = anpassbar;

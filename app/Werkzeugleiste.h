@@ -63,6 +63,9 @@ public:
     void entfernen(int stelle);
     void standardHerstellen();
 
+    /// Makes its items anew, since their labels have changed.
+    void beschrifteNeu();
+
     /// Picture and text, picture only, or text only; kept like the arrangement.
     void setDarstellung(Qt::ToolButtonStyle stil);
 

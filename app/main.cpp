@@ -3,6 +3,7 @@
 #include "Fensterplatz.h"
 #include "Oberflaeche.h"
 #include "Rundgang.h"
+#include "Schreibtisch.h"
 #include "Sprache.h"
 #include "Startsperre.h"
 #include "Zeichenkettentabelle.h"
@@ -84,10 +85,12 @@ int main(int argc, char **argv)
         einstellungen = std::make_unique<Einstellungen>(
             eigenesHeim->filePath(QStringLiteral("Mahlberg.conf")), QSettings::IniFormat);
     }
-    const Sprache sprache(auftrag.sprache.isEmpty()
-                              ? einstellungen->value(QStringLiteral("Sprache")).toString()
-                              : auftrag.sprache);
+    Sprache sprache(auftrag.sprache.isEmpty()
+                        ? einstellungen->value(QStringLiteral("Sprache")).toString()
+                        : auftrag.sprache);
     zeigeErscheinungsbild(gemerktesErscheinungsbild(*einstellungen));
+    Schreibtisch schreibtisch;
+    folgeSchreibtisch(schreibtisch);
 
     const Datenordner datenordner = eigenesHeim ? Datenordner(eigenesHeim->path()) : Datenordner();
     Startsperre sperre(
@@ -112,11 +115,14 @@ int main(int argc, char **argv)
         .einstellungen = einstellungen.get(),
         .wertungstabelle = QStringLiteral(":/Lebensmittel.csv"),
         .drucke = eigenesHeim ? Drucktuer() : systemdrucktuer(*einstellungen, zeigeMeldung),
+        .dateien = {},
+        .sprich = [&sprache](const QString &kuerzel) { sprache.sprich(kuerzel); },
     });
     oberflaeche.awakeFromNib();
     if (!auftrag.rundgang.isNull()) {
         return Rundgang(oberflaeche, QDir(auftrag.rundgang), &ungelesen).gehen() ? 0 : 1;
     }
+    schreibtisch.frage(Schreibtisch::sitzungsbus());
     QObject::connect(&oberflaeche.hauptfenster, &AppController::beendet, &app, &QApplication::quit);
     oberflaeche.hauptfenster.Hauptfenster->show();
     return QApplication::exec();

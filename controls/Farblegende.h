@@ -19,6 +19,7 @@ public:
     explicit Farblegende(QWidget *parent = nullptr);
 
     void setEintraege(const QList<Eintrag> &eintraege);
+    const QList<Eintrag> &eintraege() const { return m_eintraege; }
 
     QSize sizeHint() const override;
     QSize minimumSizeHint() const override;

@@ -59,6 +59,16 @@ void Tabellenmodell::setTitel(const QString &kennung, const QString &titel,
     }
 }
 
+void Tabellenmodell::beschrifteNeu(const std::function<QString(const QString &)> &worte)
+{
+    for (Spalte &spalte : m_spalten) {
+        for (QString *text : {&spalte.titel, &spalte.kurztitel, &spalte.erklaerung}) {
+            *text = worte(*text);
+        }
+    }
+    Q_EMIT headerDataChanged(Qt::Horizontal, 0, columnCount() - 1);
+}
+
 QString Tabellenmodell::kennung(int spalte) const
 {
     return spalte >= 0 && spalte < m_spalten.size() ? m_spalten[spalte].kennung : QString();

@@ -7,6 +7,7 @@
 #include <QString>
 #include <QStringList>
 
+#include <functional>
 #include <optional>
 
 /// How one cell of a table is painted.
@@ -82,6 +83,9 @@ public:
 
     /// Puts another title above a column; the short one stands there while the column is narrow.
     void setTitel(const QString &kennung, const QString &titel, const QString &kurztitel);
+
+    /// Puts each title, short title and explanation through `worte`.
+    void beschrifteNeu(const std::function<QString(const QString &)> &worte);
 
     QString kennung(int spalte) const;
     int spaltenstelle(const QString &kennung) const;

@@ -143,6 +143,9 @@ void Textfeld::changeEvent(QEvent *event)
         palette().color(QPalette::Text) != farbeFuer(m_farbe, QGuiApplication::palette())) {
         einkleiden();
     }
+    if (event->type() == QEvent::LanguageChange || event->type() == QEvent::LocaleChange) {
+        veralte(); // another word, another decimal mark
+    }
 }
 
 /// A number field keeps the number from before where the typed one is more than can be computed
@@ -162,6 +165,11 @@ void Textfeld::tippe(const QString &text)
 void Textfeld::wertGesetzt()
 {
     m_vorher.reset();
+    veralte();
+}
+
+void Textfeld::veralte()
+{
     if (!m_veraltet) {
         m_veraltet = true;
         QCoreApplication::postEvent(this, new QEvent(auffrischen));

@@ -81,6 +81,7 @@ protected:
     void focusOutEvent(QFocusEvent *event) override;
 
 private:
+    void veralte();
     void tippe(const QString &text);
     void zeigen();
     void einkleiden();

@@ -55,6 +55,9 @@ public:
     QSize sizeHint() const override;
     QSize minimumSizeHint() const override;
 
+protected:
+    bool brauchtHellenGrund() const override { return true; }
+
 private:
     void zeichneBaender(QPainter &maler) const;
     void zeichneKurve(QPainter &maler) const;

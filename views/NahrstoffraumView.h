@@ -50,6 +50,9 @@ public:
     QSize sizeHint() const override;
     QSize minimumSizeHint() const override;
 
+protected:
+    bool brauchtHellenGrund() const override { return true; }
+
 private:
     float m_a = 15;
     float m_b = 55;

@@ -35,6 +35,9 @@ public:
     QSize sizeHint() const override;
     QSize minimumSizeHint() const override;
 
+protected:
+    bool brauchtHellenGrund() const override { return m_value > 0; }
+
 private:
     double m_minValue = 0;
     double m_maxValue = 100;

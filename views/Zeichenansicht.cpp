@@ -36,6 +36,19 @@ QAccessibleInterface *zugangZu(const QString &klasse, QObject *objekt)
     return new Ansichtszugang(ansicht);
 }
 
+constexpr double kartenecke = 6;
+
+/// The card on which the colours of a light window are right.
+void zeichneKarte(QPainter &maler, const QRectF &bounds)
+{
+    maler.save();
+    maler.setRenderHint(QPainter::Antialiasing);
+    maler.setPen(Qt::NoPen);
+    maler.setBrush(Qt::white);
+    maler.drawRoundedRect(bounds, kartenecke, kartenecke);
+    maler.restore();
+}
+
 } // namespace
 
 Zeichenansicht::Zeichenansicht(QWidget *parent) : QWidget(parent)
@@ -47,5 +60,12 @@ Zeichenansicht::Zeichenansicht(QWidget *parent) : QWidget(parent)
 void Zeichenansicht::paintEvent(QPaintEvent * /*event*/)
 {
     QPainter maler(this);
+    constexpr int halbhell = 128;
+    if (brauchtHellenGrund() && palette().color(QPalette::Window).lightness() < halbhell) {
+        // Captions that stand on the view's foot have the window's colours, and so its ground.
+        const bool beschriftet = !childrenRect().isEmpty();
+        zeichneKarte(maler, QRectF(rect().adjusted(
+                                0, 0, 0, beschriftet ? childrenRect().top() - height() : 0)));
+    }
     zeichnen(maler, QRectF(rect()));
 }

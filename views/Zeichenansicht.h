@@ -7,7 +7,8 @@ class QPainter;
 
 /// A view that holds a few values and draws them. Giving it a value only stores it and asks for a
 /// repaint, so that an action may set it a thousand times before the next frame. Where nothing is
-/// drawn the parent's background shows.
+/// drawn the parent's background shows; in a dark window that is a light card for those views that
+/// draw in black and pure blue.
 class Zeichenansicht : public QWidget
 {
     Q_OBJECT
@@ -24,6 +25,10 @@ public:
 
 protected:
     explicit Zeichenansicht(QWidget *parent);
+
+    /// True while the view shows something that can't be told from a dark ground. It then lies on
+    /// a light card in a dark window; pictures and paper have none.
+    virtual bool brauchtHellenGrund() const { return false; }
 
     void paintEvent(QPaintEvent *event) override;
 };

@@ -1244,8 +1244,8 @@ Nothing is worked out for children under 10 years; it resumes at 11 years.</tr
   <translation>The settings can’t be saved: the file “%1” can’t be read or can’t be written.</translation>
  </message>
  <message>
-  <source>Die Sprache wechselt beim nächsten Start.</source>
-  <translation>The language changes at the next start.</translation>
+  <source>Die Lebensmittel stehen bis zum nächsten Start in der bisherigen Reihenfolge.</source>
+  <translation>The foods stay in their present order until the next start.</translation>
  </message>
  <message>
   <source>Die gewählten Seiten gibt es nicht.</source>

@@ -73,6 +73,7 @@ Tueren Probeheim::tueren()
     };
     tueren.wertungstabelle = wertungstabelle;
     tueren.drucke = drucke;
+    tueren.sprich = sprich;
     tueren.protokolliere = [this](const QString &zeile) {
         protokoll << zeile;
         beimProtokoll();

@@ -39,6 +39,8 @@ public:
     QList<int> antworten;
     QString wertungstabelle; ///< path of the table that explains ratings; none does while empty
     Drucktuer drucke;        ///< the door that prints; nothing does while there is none
+    /// The door that changes the language; it stays while there is none.
+    std::function<void(const QString &)> sprich;
     /// The lines that went to the system log; `beimProtokoll` runs at each.
     QStringList protokoll;
     std::function<void()> beimProtokoll = [] {

@@ -280,8 +280,7 @@ void TestMenue::theLanguageIsKept()
     QVERIFY(eintrag(QStringLiteral("Deutsch"))->isChecked()); // as long as nothing was chosen
     eintrag(text)->trigger();
     QTEST(m_heim->aufDerPlatte(QStringLiteral("Sprache")).toString(), "sprache");
-    QCOMPARE(m_heim->meldungen.size(), 1); // it changes at the next start, and says so
-    QCOMPARE(m_heim->meldungen[0].knoepfe, QStringList{QStringLiteral("ok")});
+    QVERIFY(m_heim->meldungen.isEmpty()); // nobody has to answer
     QVERIFY(eintrag(text)->isChecked());
 }
 

@@ -21,6 +21,11 @@ private Q_SLOTS:
     void aViewCanBeMadeByAForm();
     void theParentShowsWhereNothingIsDrawn_data();
     void theParentShowsWhereNothingIsDrawn();
+    void aDarkWindowHasALightCardUnderPureColours_data();
+    void aDarkWindowHasALightCardUnderPureColours();
+    void captionsOnAViewStandBelowItsCard();
+    void anEmptyViewHasNoCard_data();
+    void anEmptyViewHasNoCard();
     void theWindowShowsWhatIsDrawn();
     void thePainterComesBackAsItWas_data();
     void thePainterComesBackAsItWas();
@@ -93,6 +98,25 @@ void alleAnsichten()
     QTest::newRow("GewichtsverlaufView") << Ansicht(std::make_shared<GewichtsverlaufView>());
 }
 
+const QColor hell(212, 234, 200);
+const QColor dunkel(12, 34, 56);
+
+/// A window of this colour in which the view lies at (10, 10), 340 points wide and 260 high.
+QImage imFenster(Zeichenansicht &ansicht, const QColor &farbe)
+{
+    QWidget fenster;
+    QPalette palette = fenster.palette();
+    palette.setColor(QPalette::Window, farbe);
+    fenster.setPalette(palette);
+    fenster.setAutoFillBackground(true);
+    fenster.resize(400, 300);
+    ansicht.setParent(&fenster);
+    ansicht.setGeometry(10, 10, 340, 260);
+    const QImage bild = fenster.grab().toImage();
+    ansicht.setParent(nullptr);
+    return bild;
+}
+
 } // namespace
 
 Q_DECLARE_METATYPE(Ansicht)
@@ -119,18 +143,62 @@ void TestZeichenansicht::theParentShowsWhereNothingIsDrawn_data()
 void TestZeichenansicht::theParentShowsWhereNothingIsDrawn()
 {
     QFETCH(Ansicht, ansicht);
-    QWidget fenster;
-    QPalette palette = fenster.palette();
-    palette.setColor(QPalette::Window, QColor(12, 34, 56));
-    fenster.setPalette(palette);
-    fenster.setAutoFillBackground(true);
-    fenster.resize(400, 300);
-    ansicht->setParent(&fenster);
-    ansicht->setGeometry(10, 10, 340, 260);
-    const QImage bild = fenster.grab().toImage();
-    ansicht->setParent(nullptr);
     // The top right corner of the view is empty in all of them.
-    QCOMPARE(bild.pixelColor(10 + 338, 11), QColor(12, 34, 56));
+    const QImage bild = imFenster(*ansicht, hell);
+    QCOMPARE(bild.pixelColor(10 + 338, 11), hell);
+    QCOMPARE(bild.pixelColor(10 + 337, 20), hell);
+}
+
+void TestZeichenansicht::aDarkWindowHasALightCardUnderPureColours_data()
+{
+    alleAnsichten();
+}
+
+/// Black and pure blue can't be seen on a dark ground. The faces have their own.
+void TestZeichenansicht::aDarkWindowHasALightCardUnderPureColours()
+{
+    QFETCH(Ansicht, ansicht);
+    const bool gesicht = qobject_cast<FaceView *>(ansicht.get()) != nullptr;
+    const QImage bild = imFenster(*ansicht, dunkel);
+    QCOMPARE(bild.pixelColor(10 + 337, 20), gesicht ? dunkel : QColor(Qt::white));
+    QCOMPARE(bild.pixelColor(10 + 339, 10), dunkel); // its corners are round
+    QCOMPARE(bild.pixelColor(10 + 345, 20), dunkel); // and it ends with the view
+
+    // What the view draws itself stays as it is, for pictures and paper.
+    QImage leer(400, 300, QImage::Format_ARGB32_Premultiplied);
+    leer.fill(Qt::transparent);
+    QPainter maler(&leer);
+    ansicht->zeichnen(maler, QRectF(10, 10, 340, 260));
+    maler.end();
+    QCOMPARE(leer.pixelColor(10 + 337, 20).alpha(), 0);
+}
+
+/// They are light in a dark window, and could not be read on the card.
+void TestZeichenansicht::captionsOnAViewStandBelowItsCard()
+{
+    NahrstoffraumView ansicht;
+    QWidget beschriftung(&ansicht);
+    beschriftung.setGeometry(20, 180, 100, 20);
+    const QImage bild = imFenster(ansicht, dunkel);
+    QCOMPARE(bild.pixelColor(10 + 170, 10 + 178), QColor(Qt::white));
+    QCOMPARE(bild.pixelColor(10 + 70, 10 + 181), dunkel);
+    QCOMPARE(bild.pixelColor(10 + 330, 10 + 181), dunkel);
+    QCOMPARE(bild.pixelColor(10 + 170, 10 + 258), dunkel);
+}
+
+void TestZeichenansicht::anEmptyViewHasNoCard_data()
+{
+    QTest::addColumn<Ansicht>("ansicht");
+    QTest::newRow("WertungView") << Ansicht(std::make_shared<WertungView>());
+    QTest::newRow("CustomProgressIndicator")
+        << Ansicht(std::make_shared<CustomProgressIndicator>());
+    QTest::newRow("FaceView") << Ansicht(std::make_shared<FaceView>());
+}
+
+void TestZeichenansicht::anEmptyViewHasNoCard()
+{
+    QFETCH(Ansicht, ansicht);
+    QCOMPARE(imFenster(*ansicht, dunkel).pixelColor(10 + 170, 10 + 130), dunkel);
 }
 
 void TestZeichenansicht::theWindowShowsWhatIsDrawn()
