@@ -796,8 +796,44 @@ Nothing is worked out for children under 10 years; it resumes at 11 years.</tr
   <translation>%1 (own)</translation>
  </message>
  <message>
+  <source>%1: %2</source>
+  <translation>%1: %2</translation>
+ </message>
+ <message>
   <source>&amp;Zuletzt gewählte Lebensmittel …</source>
   <translation>&amp;Recently chosen foods …</translation>
+ </message>
+ <message>
+  <source>Es gibt nichts zu wiederholen.</source>
+  <translation>There is nothing to redo.</translation>
+ </message>
+ <message>
+  <source>Es gibt nichts zurückzunehmen.</source>
+  <translation>There is nothing to undo.</translation>
+ </message>
+ <message>
+  <source>Menge von „%1“</source>
+  <translation>amount of “%1”</translation>
+ </message>
+ <message>
+  <source>Platz von „%1“</source>
+  <translation>place of “%1”</translation>
+ </message>
+ <message>
+  <source>Wiederholen</source>
+  <translation>Redo</translation>
+ </message>
+ <message>
+  <source>Wiederholt: %1.</source>
+  <translation>Redone: %1.</translation>
+ </message>
+ <message>
+  <source>Zurückgenommen: %1.</source>
+  <translation>Undone: %1.</translation>
+ </message>
+ <message>
+  <source>Zurücknehmen</source>
+  <translation>Undo</translation>
  </message>
  <message>
   <source>ab %1 %</source>
@@ -864,6 +900,18 @@ New: %1</translation>
 2. Click on a food.
 3. Set the amount, above here.
 4. Send it to the meal plan with %1.</translation>
+ </message>
+ <message>
+  <source>früherer Stand der eigenen Lebensmittel</source>
+  <translation>earlier state of your own foods</translation>
+ </message>
+ <message>
+  <source>früherer Stand des Plans</source>
+  <translation>earlier state of the plan</translation>
+ </message>
+ <message>
+  <source>neue Namen im Plan</source>
+  <translation>new names in the plan</translation>
  </message>
  <message>
   <source>verfehlt</source>
@@ -1970,6 +2018,26 @@ New: %1</translation>
   <translation>“%1”</translation>
  </message>
  <message>
+  <source>„%1“ aus dem Plan</source>
+  <translation>“%1” out of the plan</translation>
+ </message>
+ <message>
+  <source>„%1“ gelöscht</source>
+  <translation>“%1” deleted</translation>
+ </message>
+ <message>
+  <source>„%1“ gesichert</source>
+  <translation>“%1” saved</translation>
+ </message>
+ <message>
+  <source>„%1“ geändert</source>
+  <translation>“%1” changed</translation>
+ </message>
+ <message>
+  <source>„%1“ in den Plan</source>
+  <translation>“%1” into the plan</translation>
+ </message>
+ <message>
   <source>„%1“ ist gelöscht.</source>
   <translation>“%1” has been deleted.</translation>
  </message>
@@ -2009,6 +2077,10 @@ New: %1</translation>
   <translation>&amp;Edit</translation>
  </message>
  <message>
+  <source>&amp;Darstellung</source>
+  <translation>&amp;View</translation>
+ </message>
+ <message>
   <source>&amp;Drucken …</source>
   <translation>&amp;Print …</translation>
  </message>
@@ -2031,6 +2103,10 @@ New: %1</translation>
  <message>
   <source>&amp;Tage berechnen</source>
   <translation>Work out the &amp;days</translation>
+ </message>
+ <message>
+  <source>&amp;Wiederholen</source>
+  <translation>&amp;Redo</translation>
  </message>
  <message>
   <source>&amp;Wunschverlust</source>
@@ -2215,6 +2291,10 @@ New: %1</translation>
  <message>
   <source>Nach &amp;unten</source>
   <translation>Move &amp;down</translation>
+ </message>
+ <message>
+  <source>Rück&amp;gängig</source>
+  <translation>&amp;Undo</translation>
  </message>
  <message>
   <source>Summen des Plans und was bis zum Tagesbedarf bleibt</source>
