@@ -530,6 +530,18 @@
 <context>
  <name>KoerperGestalt</name>
  <message>
+  <source>0,80 bis 0,88</source>
+  <translation>0.80 to 0.88</translation>
+ </message>
+ <message>
+  <source>1400 bis 2700</source>
+  <translation>1400 to 2700</translation>
+ </message>
+ <message>
+  <source>18 bis 25</source>
+  <translation>18 to 25</translation>
+ </message>
+ <message>
   <source>Abnehmen</source>
   <translation>Weight loss</translation>
  </message>
@@ -598,6 +610,18 @@
   <translation>Height, remaining inches</translation>
  </message>
  <message>
+  <source>Günstiger Bereich des Body-Mass-Index</source>
+  <translation>Favourable range of the body mass index</translation>
+ </message>
+ <message>
+  <source>Günstiger Bereich des Energiebedarfs</source>
+  <translation>Favourable range of the energy need</translation>
+ </message>
+ <message>
+  <source>Günstiger Bereich des Verhältnisses</source>
+  <translation>Favourable range of the ratio</translation>
+ </message>
+ <message>
   <source>Hüfte</source>
   <translation>Hip</translation>
  </message>
@@ -664,6 +688,10 @@
  <message>
   <source>aus</source>
   <translation>off</translation>
+ </message>
+ <message>
+  <source>günstiger Bereich</source>
+  <translation>favourable range</translation>
  </message>
  <message>
   <source>imperial</source>
@@ -912,6 +940,10 @@ New: %1</translation>
  <message>
   <source>neue Namen im Plan</source>
   <translation>new names in the plan</translation>
+ </message>
+ <message>
+  <source>noch nicht eingestellt: %1</source>
+  <translation>not set yet: %1</translation>
  </message>
  <message>
   <source>verfehlt</source>
