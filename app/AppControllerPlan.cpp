@@ -7,7 +7,8 @@
 
 #include <QScreen>
 
-void AppController::Planmoduloeffnen()
+/// The plan, whether it has a window yet or not.
+Planmodul &AppController::holePlan()
 {
     if (planmodul == nullptr) {
         planmodul = new Planmodul({.eingebauteTabelle = m_tueren.eingebauteTabelle,
@@ -16,6 +17,13 @@ void AppController::Planmoduloeffnen()
                                    .drucke = m_tueren.drucke,
                                    .dateien = m_tueren.dateien,
                                    .einstellungen = m_tueren.einstellungen});
+    }
+    return *planmodul;
+}
+
+void AppController::Planmoduloeffnen()
+{
+    if (holePlan().PlanTabelle == nullptr) { // it has no window yet
         stellePlanDaneben();
     }
     planmodul->showWindow();

@@ -197,10 +197,17 @@ void Planmodul::nameimportvontoolbar(const QString &name)
 {
     beendeEingabe();
     anhaengen(name);
-    uebernimmAenderung();
-    if (m_fenster != nullptr) {
-        PlanTabelle->scrollRowToVisible(numberOfRows() - 1);
-    }
+    uebernimmLetzte();
+}
+
+Planliste Planmodul::gibHinein(const QString &name, float gramm)
+{
+    beendeEingabe();
+    Planliste vorher = *this;
+    anhaengen(name);
+    mengeAendern(PlanArray.size() - 1, gramm);
+    uebernimmLetzte();
+    return vorher;
 }
 
 void Planmodul::Lebensmittelentfernen()
@@ -287,4 +294,13 @@ void Planmodul::uebernimmAenderung()
     reloadData();
     datenberechnen();
     folgePlannamen();
+}
+
+/// The same when the last row is new, which is then in sight.
+void Planmodul::uebernimmLetzte()
+{
+    uebernimmAenderung();
+    if (m_fenster != nullptr) {
+        PlanTabelle->scrollRowToVisible(numberOfRows() - 1);
+    }
 }
