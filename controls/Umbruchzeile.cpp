@@ -1,7 +1,18 @@
 #include "Umbruchzeile.h"
 
-#include <QBoxLayout>
 #include <QEvent>
+
+namespace {
+
+constexpr int abstandDaneben = 8;
+constexpr int abstandDarunter = 4;
+
+QSize bedarf(const QWidget &gruppe)
+{
+    return gruppe.minimumSizeHint().expandedTo(gruppe.minimumSize());
+}
+
+} // namespace
 
 Umbruchzeile::Umbruchzeile(QWidget *parent) : QWidget(parent)
 {
@@ -10,20 +21,19 @@ Umbruchzeile::Umbruchzeile(QWidget *parent) : QWidget(parent)
     setSizePolicy(platz);
 }
 
-QBoxLayout *Umbruchzeile::zeile() const
+QList<QWidget *> Umbruchzeile::gruppen() const
 {
-    return qobject_cast<QBoxLayout *>(layout());
+    return findChildren<QWidget *>(Qt::FindDirectChildrenOnly);
 }
 
 /// What the groups need in one line.
 QSize Umbruchzeile::nebeneinander() const
 {
-    int breite = 0;
+    int breite = -abstandDaneben;
     int hoehe = 0;
-    for (int i = 0; i < zeile()->count(); ++i) {
-        const QSize gruppe = zeile()->itemAt(i)->minimumSize();
-        breite += gruppe.width() + (i > 0 ? zeile()->spacing() : 0);
-        hoehe = qMax(hoehe, gruppe.height());
+    for (const QWidget *gruppe : gruppen()) {
+        breite += abstandDaneben + bedarf(*gruppe).width();
+        hoehe = qMax(hoehe, bedarf(*gruppe).height());
     }
     return {breite, hoehe};
 }
@@ -32,11 +42,10 @@ QSize Umbruchzeile::nebeneinander() const
 QSize Umbruchzeile::untereinander() const
 {
     int breite = 0;
-    int hoehe = 0;
-    for (int i = 0; i < zeile()->count(); ++i) {
-        const QSize gruppe = zeile()->itemAt(i)->minimumSize();
-        breite = qMax(breite, gruppe.width());
-        hoehe += gruppe.height() + (i > 0 ? zeile()->spacing() : 0);
+    int hoehe = -abstandDarunter;
+    for (const QWidget *gruppe : gruppen()) {
+        breite = qMax(breite, bedarf(*gruppe).width());
+        hoehe += abstandDarunter + bedarf(*gruppe).height();
     }
     return {breite, hoehe};
 }
@@ -60,6 +69,7 @@ QSize Umbruchzeile::minimumSizeHint() const
 bool Umbruchzeile::event(QEvent *event)
 {
     if (event->type() == QEvent::LayoutRequest) {
+        updateGeometry();
         ordne();
     }
     return QWidget::event(event);
@@ -73,10 +83,12 @@ void Umbruchzeile::resizeEvent(QResizeEvent *event)
 
 void Umbruchzeile::ordne()
 {
-    const auto richtung =
-        width() >= nebeneinander().width() ? QBoxLayout::LeftToRight : QBoxLayout::TopToBottom;
-    if (zeile()->direction() != richtung) {
-        zeile()->setDirection(richtung);
-        zeile()->activate();
+    const bool darunter = width() < nebeneinander().width();
+    QPoint ort(0, 0);
+    for (QWidget *gruppe : gruppen()) {
+        const QSize groesse = bedarf(*gruppe);
+        gruppe->setGeometry(QRect(ort, groesse));
+        ort += darunter ? QPoint(0, groesse.height() + abstandDarunter)
+                        : QPoint(groesse.width() + abstandDaneben, 0);
     }
 }

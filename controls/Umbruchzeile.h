@@ -1,12 +1,11 @@
 #pragma once
 
+#include <QList>
 #include <QWidget>
 
-class QBoxLayout;
-
 /// A line of groups that stand beside one another while there is room, and below one another where
-/// there is not. Its layout is a box whose entries are the groups. It asks for its height even
-/// while it is hidden, so that nothing moves when it appears, where its place is kept.
+/// there is not. The groups are its children, and it has no layout. It knows its height even while
+/// it is hidden, so that nothing moves when it appears, where its place is kept.
 class Umbruchzeile : public QWidget
 {
     Q_OBJECT
@@ -24,7 +23,7 @@ protected:
     void resizeEvent(QResizeEvent *event) override;
 
 private:
-    QBoxLayout *zeile() const;
+    QList<QWidget *> gruppen() const;
     QSize nebeneinander() const;
     QSize untereinander() const;
     void ordne();
