@@ -7,7 +7,7 @@
 
 #include <QScreen>
 
-/// The plan, whether it has a window yet or not.
+/// The plan, with a window that need not be shown.
 Planmodul &AppController::holePlan()
 {
     if (planmodul == nullptr) {
@@ -17,13 +17,15 @@ Planmodul &AppController::holePlan()
                                    .drucke = m_tueren.drucke,
                                    .dateien = m_tueren.dateien,
                                    .einstellungen = m_tueren.einstellungen});
+        planmodul->window();
+        Q_EMIT planBereit();
     }
     return *planmodul;
 }
 
 void AppController::Planmoduloeffnen()
 {
-    if (holePlan().PlanTabelle == nullptr) { // it has no window yet
+    if (!holePlan().window()->testAttribute(Qt::WA_Moved)) { // it was never shown
         stellePlanDaneben();
     }
     planmodul->showWindow();

@@ -80,45 +80,36 @@ QString AppController::hindernis(const QString &schluessel) const
 void AppController::gibHinein(const QString &schluessel)
 {
     const QString grund = hindernis(schluessel);
-    if (grund.isEmpty()) {
-        const auto gramm = static_cast<float>(lebensmittelmenge->intValue());
-        meldeZugabe(schluessel, holePlan().gibHinein(schluessel, gramm));
-    } else {
+    if (!grund.isEmpty()) {
         hinweise->zeige({.kennung = hinweisZugabe, .text = grund, .dauer = lesezeit});
+        return;
     }
+    const Planliste vorher = holePlan();
+    planmodul->gibHinein(schluessel, static_cast<float>(lebensmittelmenge->intValue()));
+    meldeZugabe(schluessel, vorher);
 }
 
+/// Where nothing was changed there is nothing to take back.
 void AppController::meldeZugabe(const QString &schluessel, const Planliste &vorher)
 {
-    const Planliste danach = *planmodul;
-    const QString name = kurzerName(localizedString(schluessel));
-    const QString menge = mengentext(danach.mengenarray.constLast());
     const std::optional<qsizetype> stand = vorher.zeileVon(schluessel);
-    const QString text =
-        stand ? localizedString(QStringLiteral("„%1“ stand schon im Plan: Es steht jetzt am Ende "
-                                               "und hat %2 g (vorher: %3 g)."))
-                    .arg(name, menge, mengentext(vorher.mengenarray[*stand]))
-              : localizedString(QStringLiteral("„%1“ ist mit %2 g im Plan.")).arg(name, menge);
-    hinweise->zeige({.kennung = hinweisZugabe,
-                     .text = text,
-                     .knopf = localizedString(QStringLiteral("Zurücknehmen")),
-                     .aktion = [this, vorher, danach] { nimmZugabeZurueck(vorher, danach); },
-                     .dauer = lesezeit});
-}
-
-/// What was changed in the plan since would be lost with it.
-void AppController::nimmZugabeZurueck(const Planliste &vorher, const Planliste &danach)
-{
-    const bool unveraendert =
-        planmodul->PlanArray == danach.PlanArray && planmodul->mengenarray == danach.mengenarray;
-    if (unveraendert) {
-        planmodul->uebernimmPlan(vorher);
+    const bool gleich =
+        vorher.PlanArray == planmodul->PlanArray && vorher.mengenarray == planmodul->mengenarray;
+    const QString satz =
+        gleich ? localizedString(QStringLiteral("„%1“ steht schon mit %2 g am Ende des Plans."))
+        : stand ? localizedString(QStringLiteral("„%1“ stand schon im Plan: Es steht jetzt am Ende "
+                                                 "und hat %2 g (vorher: %3 g)."))
+                : localizedString(QStringLiteral("„%1“ ist mit %2 g im Plan."));
+    QString text = satz.arg(kurzerName(localizedString(schluessel)),
+                            mengentext(planmodul->mengenarray.constLast()));
+    if (stand && !gleich) {
+        text = text.arg(mengentext(vorher.mengenarray[*stand]));
     }
-    hinweise->zeige(
-        {.kennung = hinweisZugabe,
-         .text = unveraendert
-                     ? localizedString(QStringLiteral("Der Plan ist wieder wie vorher."))
-                     : localizedString(QStringLiteral(
-                           "Der Plan wurde seitdem geändert und bleibt deshalb, wie er ist.")),
-         .dauer = lesezeit});
+    Hinweis hinweis = mitRueckweg(text);
+    hinweis.kennung = hinweisZugabe;
+    hinweis.dauer = lesezeit;
+    if (gleich) {
+        hinweis.knopf.clear();
+    }
+    hinweise->zeige(hinweis);
 }

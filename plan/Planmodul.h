@@ -1,5 +1,6 @@
 #pragma once
 
+#include "Aenderung.h"
 #include "Datenmodul.h"
 #include "Datenordner.h"
 #include "Drucktuer.h"
@@ -93,9 +94,8 @@ public:
     /// A food is wanted in the plan, named by its key. It comes last, with 100 g.
     virtual void nameimportvontoolbar(const QString &name);
     /// A food is wanted in the plan with so many grams, named by its key. It comes last, and where
-    /// it stood before it is gone. The window stays as it is, shown or not. Answers the rows as
-    /// they were before.
-    virtual Planliste gibHinein(const QString &name, float gramm);
+    /// it stood before it is gone. The window stays as it is, shown or not.
+    virtual void gibHinein(const QString &name, float gramm);
 
     // Bringing back what was kept
     /// Takes these own foods as the copy to work with from now on. The file is left to the caller.
@@ -103,6 +103,9 @@ public:
     /// Takes over these rows in place of those that are there, saves and shows them, and tells of
     /// foods that have another name now or none any more.
     void uebernimmPlan(const Planliste &zeilen);
+    /// Takes back or repeats a change: these rows come in place of those that are there, and are
+    /// saved and shown. The first one that has changed is selected.
+    void setzePlan(const Planliste &zeilen);
 
     // Actions of the window; without one they do nothing
     /// Takes the selected row out of the plan; without one, nothing happens.
@@ -135,6 +138,15 @@ public:
     /// The record of a food: from the built-in table or else from the own foods; null when neither
     /// has it.
     const Datenmodul *lebensmittel(const QString &name) const;
+
+Q_SIGNALS:
+    /// The rows were changed, saved and shown; one that ended on its way was neither saved nor
+    /// shown. It is not sent for what `setzePlan` does.
+    void geaendert(const Aenderung &was);
+    /// The last change is to be taken back.
+    void zuruecknehmenGewuenscht();
+    /// What was taken back last is to be repeated.
+    void wiederholenGewuenscht();
 
 private:
     void awakeFromNib();

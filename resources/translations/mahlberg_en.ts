@@ -812,6 +812,10 @@ Nothing is worked out for children under 10 years; it resumes at 11 years.</tr
   <translation>%1 (own)</translation>
  </message>
  <message>
+  <source>%1: %2</source>
+  <translation>%1: %2</translation>
+ </message>
+ <message>
   <source>&amp;Löschen …</source>
   <translation>&amp;Delete …</translation>
  </message>
@@ -836,20 +840,24 @@ Nothing is worked out for children under 10 years; it resumes at 11 years.</tr
   <translation>&amp;Recently chosen foods …</translation>
  </message>
  <message>
-  <source>Der Plan ist wieder wie vorher.</source>
-  <translation>The plan is as it was before.</translation>
- </message>
- <message>
-  <source>Der Plan wurde seitdem geändert und bleibt deshalb, wie er ist.</source>
-  <translation>The plan was changed since, so it stays as it is.</translation>
- </message>
- <message>
   <source>Die Zeile „%1“ steht für kein Lebensmittel und kommt nicht in den Plan.</source>
   <translation>The line “%1” stands for no food and does not go into the plan.</translation>
  </message>
  <message>
+  <source>Es gibt nichts zu wiederholen.</source>
+  <translation>There is nothing to redo.</translation>
+ </message>
+ <message>
+  <source>Es gibt nichts zurückzunehmen.</source>
+  <translation>There is nothing to undo.</translation>
+ </message>
+ <message>
   <source>In den Plan &amp;geben</source>
   <translation>&amp;Add to the plan</translation>
+ </message>
+ <message>
+  <source>Menge von „%1“</source>
+  <translation>amount of “%1”</translation>
  </message>
  <message>
   <source>Menge ändern: zuerst</source>
@@ -864,16 +872,32 @@ Nothing is worked out for children under 10 years; it resumes at 11 years.</tr
   <translation>Next one: %1, one before: %2</translation>
  </message>
  <message>
+  <source>Platz von „%1“</source>
+  <translation>place of “%1”</translation>
+ </message>
+ <message>
   <source>Treffer %1 von %2</source>
   <translation>Result %1 of %2</translation>
+ </message>
+ <message>
+  <source>Wiederholen</source>
+  <translation>Redo</translation>
+ </message>
+ <message>
+  <source>Wiederholt: %1.</source>
+  <translation>Redone: %1.</translation>
  </message>
  <message>
   <source>Wählen Sie zuerst ein Lebensmittel in der Tabelle aus.</source>
   <translation>Choose a food in the table first.</translation>
  </message>
  <message>
+  <source>Zurückgenommen: %1.</source>
+  <translation>Undone: %1.</translation>
+ </message>
+ <message>
   <source>Zurücknehmen</source>
-  <translation>Take back</translation>
+  <translation>Undo</translation>
  </message>
  <message>
   <source>ab %1 %</source>
@@ -940,6 +964,18 @@ New: %1</translation>
 2. Click on a food.
 3. Set the amount, above here.
 4. Send it to the meal plan with %1.</translation>
+ </message>
+ <message>
+  <source>früherer Stand der eigenen Lebensmittel</source>
+  <translation>earlier state of your own foods</translation>
+ </message>
+ <message>
+  <source>früherer Stand des Plans</source>
+  <translation>earlier state of the plan</translation>
+ </message>
+ <message>
+  <source>neue Namen im Plan</source>
+  <translation>new names in the plan</translation>
  </message>
  <message>
   <source>verfehlt</source>
@@ -2046,6 +2082,26 @@ New: %1</translation>
   <translation>“%1”</translation>
  </message>
  <message>
+  <source>„%1“ aus dem Plan</source>
+  <translation>“%1” out of the plan</translation>
+ </message>
+ <message>
+  <source>„%1“ gelöscht</source>
+  <translation>“%1” deleted</translation>
+ </message>
+ <message>
+  <source>„%1“ gesichert</source>
+  <translation>“%1” saved</translation>
+ </message>
+ <message>
+  <source>„%1“ geändert</source>
+  <translation>“%1” changed</translation>
+ </message>
+ <message>
+  <source>„%1“ in den Plan</source>
+  <translation>“%1” into the plan</translation>
+ </message>
+ <message>
   <source>„%1“ ist gelöscht.</source>
   <translation>“%1” has been deleted.</translation>
  </message>
@@ -2078,6 +2134,10 @@ New: %1</translation>
   <translation>“%1” is in no list any more and does not go into the plan.</translation>
  </message>
  <message>
+  <source>„%1“ steht schon mit %2 g am Ende des Plans.</source>
+  <translation>“%1” is at the end of the plan already, with %2 g.</translation>
+ </message>
+ <message>
   <source>„%1“, je 100 g</source>
   <translation>“%1”, per 100 g</translation>
  </message>
@@ -2095,6 +2155,10 @@ New: %1</translation>
  <message>
   <source>&amp;Bearbeiten</source>
   <translation>&amp;Edit</translation>
+ </message>
+ <message>
+  <source>&amp;Darstellung</source>
+  <translation>&amp;View</translation>
  </message>
  <message>
   <source>&amp;Drucken …</source>
@@ -2119,6 +2183,10 @@ New: %1</translation>
  <message>
   <source>&amp;Tage berechnen</source>
   <translation>Work out the &amp;days</translation>
+ </message>
+ <message>
+  <source>&amp;Wiederholen</source>
+  <translation>&amp;Redo</translation>
  </message>
  <message>
   <source>&amp;Wunschverlust</source>
@@ -2303,6 +2371,10 @@ New: %1</translation>
  <message>
   <source>Nach &amp;unten</source>
   <translation>Move &amp;down</translation>
+ </message>
+ <message>
+  <source>Rück&amp;gängig</source>
+  <translation>&amp;Undo</translation>
  </message>
  <message>
   <source>Summen des Plans und was bis zum Tagesbedarf bleibt</source>

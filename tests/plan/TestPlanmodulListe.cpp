@@ -241,9 +241,8 @@ void TestPlanmodulListe::aFoodComesWithItsAmount()
     }
     {
         Planmodul ohneFenster(m_heim->tueren());
-        const Planliste vorher = ohneFenster.gibHinein(name, 150);
-        QCOMPARE(vorher.PlanArray, QStringList({u"apfel"_s, u"Brot"_s}));
-        QCOMPARE(vorher.mengenarray, QList<float>({50, 60}));
+        const Planliste vorher = ohneFenster;
+        ohneFenster.gibHinein(name, 150);
         QCOMPARE(ohneFenster.PlanArray, namen);
         QCOMPARE(ohneFenster.mengenarray, gramm);
         QCOMPARE(m_heim->plan(), datei);
