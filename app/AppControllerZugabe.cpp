@@ -95,16 +95,15 @@ void AppController::meldeZugabe(const QString &schluessel, const Planliste &vorh
     const std::optional<qsizetype> stand = vorher.zeileVon(schluessel);
     const bool gleich =
         vorher.PlanArray == planmodul->PlanArray && vorher.mengenarray == planmodul->mengenarray;
-    const QString satz =
+    const QString name = kurzerName(localizedString(schluessel));
+    const QString menge = mengentext(planmodul->mengenarray.constLast());
+    const QString text =
         gleich ? localizedString(QStringLiteral("„%1“ steht schon mit %2 g am Ende des Plans."))
+                     .arg(name, menge)
         : stand ? localizedString(QStringLiteral("„%1“ stand schon im Plan: Es steht jetzt am Ende "
                                                  "und hat %2 g (vorher: %3 g)."))
-                : localizedString(QStringLiteral("„%1“ ist mit %2 g im Plan."));
-    QString text = satz.arg(kurzerName(localizedString(schluessel)),
-                            mengentext(planmodul->mengenarray.constLast()));
-    if (stand && !gleich) {
-        text = text.arg(mengentext(vorher.mengenarray[*stand]));
-    }
+                      .arg(name, menge, mengentext(vorher.mengenarray[*stand]))
+                : localizedString(QStringLiteral("„%1“ ist mit %2 g im Plan.")).arg(name, menge);
     Hinweis hinweis = mitRueckweg(text);
     hinweis.kennung = hinweisZugabe;
     hinweis.dauer = lesezeit;
