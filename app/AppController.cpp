@@ -171,6 +171,8 @@ void AppController::verbinde()
     verbindeEigene();
     verbindeWertungen();
     verbindeLeeres();
+    verbindeTreffer();
+    verbindeZugabe();
 }
 
 void AppController::verbindeSuche()

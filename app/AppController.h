@@ -75,6 +75,8 @@ public:
 
     /// The notice that tells which own food was saved or deleted.
     static const QString hinweisGesichert;
+    /// The notice that tells which food was put into the plan, or why it was not.
+    static const QString hinweisZugabe;
     /// The notice that tells what of a change of language waits for the next start.
     static const QString hinweisSprache;
 
@@ -95,6 +97,10 @@ public:
     void Ansichtdurchwechseln();
     void Planmoduloeffnen();
     void toolbarlebensmittelweitergabe();
+    void gibInPlan();
+    void waehleTreffer(int um);
+    void zeigeTreffer();
+    void zeigeTrefferInListe();
     void drucken();
     void zeigeAnsicht(const QString &kennung);
     void Fenster();
@@ -190,6 +196,13 @@ private:
     void sucheGetipptes();
     bool taste(int taste);
 
+    // The way through what a search found
+    void verbindeTreffer();
+    int ersterTreffer() const;
+    void folgeWahl();
+    void folgeTreffer(const QString &schluessel);
+    void zeigeTrefferleiste();
+
     // The foods that were chosen last
     void merkeGewaehltes();
     void zeigeWieder(const QString &name, bool eigen);
@@ -203,11 +216,25 @@ private:
     void begruendeSperren();
 
     // The meal plan
+    Planmodul &holePlan();
     void stellePlanDaneben();
+    void verbindeZugabe();
+    QString schluesselVon(const QModelIndex &zelle) const;
+    QString gemeinterSchluessel() const;
+    QString hindernis(const QString &schluessel) const;
+    void gibHinein(const QString &schluessel);
+    void meldeZugabe(const QString &schluessel, const Planliste &vorher);
+
+    // The table's menu
+    void zeigeTabellenmenue(const QModelIndex &zelle, const QPoint &ort);
+    bool istEigenes(const QModelIndex &zelle) const;
+    bool istLoeschbar(const QModelIndex &zelle) const;
 
     // Own foods
     Datenmodul eingegebenesLebensmittel() const;
     const Datenmodul *gezeigtesLebensmittel() const;
+    static bool istLeer(const Datenmodul &lebensmittel);
+    void schreibeInsBlatt(const Datenmodul &vorlage, const QString &name);
     QString nameFuerAbschrift(const QString &name) const;
     bool sichere();
     bool schreibeEigeneLebensmittel() const;
@@ -264,7 +291,9 @@ private:
     Spaltenhinweis *m_eigenhinweis = nullptr;
     Spaltenhinweis *m_suchhinweis = nullptr;
     QString m_vergeblich; ///< what to try after a search that found nothing; empty after others
-    QTimer m_tipppause;   ///< runs while the user types in the search box
+    qsizetype m_trefferzahl = 0; ///< results of the latest search
+    int m_treffer = -1;          ///< row of the chosen one in `suchArray`; −1 while none is
+    QTimer m_tipppause;          ///< runs while the user types in the search box
     std::array<Textfeld *, anzahlNaehrwerte> m_wertfelder = {};
     std::array<QWidget *, anzahlNaehrwerte> m_wertbeschriftungen = {};
     std::array<Textfeld *, anzahlNaehrwerte> m_eingabefelder = {};

@@ -61,6 +61,13 @@ void AppController::umschreibenDerEingabeFelder()
     meldeUebernommenes(feldA->stringValue(), gesichert, neu);
 }
 
+/// Whether this is a line without values, such as the one that the built-in table begins with.
+bool AppController::istLeer(const Datenmodul &lebensmittel)
+{
+    return std::all_of(naehrwerte.begin(), naehrwerte.end(),
+                       [&](const auto &zeile) { return lebensmittel.wert(zeile.wert) == 0; });
+}
+
 /// What stands in the entry sheet, as a record.
 Datenmodul AppController::eingegebenesLebensmittel() const
 {
@@ -82,10 +89,7 @@ const Datenmodul *AppController::gezeigtesLebensmittel() const
 {
     if (zeigtEingebautes()) {
         const Datenmodul &eingebautes = *Dictionary.constFind(unuebersetztername);
-        const bool leer = std::all_of(naehrwerte.begin(), naehrwerte.end(), [&](const auto &zeile) {
-            return eingebautes.wert(zeile.wert) == 0;
-        });
-        return leer ? nullptr : &eingebautes;
+        return istLeer(eingebautes) ? nullptr : &eingebautes;
     }
     for (const QString &name : {feldA->stringValue(), unuebersetztername}) {
         const auto eigenes = KundenDictionary.constFind(name);
@@ -104,13 +108,19 @@ void AppController::schreibeAb()
     if (vorlage == nullptr) {
         return;
     }
-    EingabeFensterfeldA->setStringValue(zeigtEingebautes() ? nameFuerAbschrift(vorlage->name())
-                                                           : vorlage->name());
+    schreibeInsBlatt(*vorlage,
+                     zeigtEingebautes() ? nameFuerAbschrift(vorlage->name()) : vorlage->name());
+}
+
+/// Writes the values of a food into the sheet under this name.
+void AppController::schreibeInsBlatt(const Datenmodul &vorlage, const QString &name)
+{
+    EingabeFensterfeldA->setStringValue(name);
     for (const auto &zeile : naehrwerte) {
-        m_eingabefelder[stelle(zeile.wert)]->setFloatValue(vorlage->wert(zeile.wert));
+        m_eingabefelder[stelle(zeile.wert)]->setFloatValue(vorlage.wert(zeile.wert));
     }
     for (const auto &zeile : wertungen) {
-        m_wertungseingaben[stelle(zeile.wertung)]->setStringValue(vorlage->wertung(zeile.wertung));
+        m_wertungseingaben[stelle(zeile.wertung)]->setStringValue(vorlage.wertung(zeile.wertung));
     }
     EingabeFensterfeldA->setFocus();
 }

@@ -7,7 +7,8 @@
 
 #include <QScreen>
 
-void AppController::Planmoduloeffnen()
+/// The plan, with a window that need not be shown.
+Planmodul &AppController::holePlan()
 {
     if (planmodul == nullptr) {
         planmodul = new Planmodul({.eingebauteTabelle = m_tueren.eingebauteTabelle,
@@ -16,8 +17,16 @@ void AppController::Planmoduloeffnen()
                                    .drucke = m_tueren.drucke,
                                    .dateien = m_tueren.dateien,
                                    .einstellungen = m_tueren.einstellungen});
-        stellePlanDaneben();
+        planmodul->window();
         Q_EMIT planBereit();
+    }
+    return *planmodul;
+}
+
+void AppController::Planmoduloeffnen()
+{
+    if (!holePlan().window()->testAttribute(Qt::WA_Moved)) { // it was never shown
+        stellePlanDaneben();
     }
     planmodul->showWindow();
 }

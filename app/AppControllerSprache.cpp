@@ -28,6 +28,7 @@ void AppController::folgeSprache()
     // A toolbar gives its own name to the entry that shows it.
     toolbar->toggleViewAction()->setText(localizedString(QStringLiteral("Sy&mbolleiste zeigen")));
     veralteWertungsgruende();
+    zeigeTrefferleiste();
     Tabelle->viewport()->update();
     hinweise->zeige(
         {.kennung = hinweisSprache,

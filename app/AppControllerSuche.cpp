@@ -111,6 +111,9 @@ void AppController::zeigeTrefferzahl(std::optional<qsizetype> treffer)
                               ? localizedString(QStringLiteral("Suche: nichts gefunden"))
                               : localizedString(QStringLiteral("Suche: %1 gefunden")).arg(zahl);
     Tabelle->modell()->setTitel(QStringLiteral("such"), titel, zahl);
+    m_trefferzahl = treffer.value_or(0);
+    m_treffer = -1;
+    zeigeTrefferleiste();
     if (treffer != 0) {
         m_vergeblich.clear();
     }

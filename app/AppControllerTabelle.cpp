@@ -190,6 +190,9 @@ void AppController::LadeneigeneLM()
     }
     zeigeEnergieanteileGanzzahlig();
     schliesseAuswahlAb();
+    if (lebensmittel != nullptr) {
+        folgeTreffer(lebensmittel->name());
+    }
 }
 
 void AppController::setzeMengenregler(bool bedienbar)

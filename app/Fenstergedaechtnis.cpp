@@ -64,6 +64,11 @@ void Fenstergedaechtnis::beachteAenderungen()
     connect(c.Tabelle, &Tabellenansicht::spalteGezogen, this, [this, &c](int spalte, int breite) {
         m_einstellungen.setValue(spaltenschluessel(c, spalte), breite);
     });
+    connect(c.Tabelle, &Tabellenansicht::breitenVergessen, this, [this, &c] {
+        for (int spalte = 0; spalte < c.Tabelle->modell()->columnCount(); ++spalte) {
+            m_einstellungen.remove(spaltenschluessel(c, spalte));
+        }
+    });
     connect(c.profilaufzu, &QAbstractButton::toggled, this,
             [this](bool offen) { m_einstellungen.setValue(profilsuche, offen); });
     connect(c.DatenAnsicht, &QTabWidget::currentChanged, this, [this, &c] {

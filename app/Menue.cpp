@@ -64,8 +64,9 @@ void baueAblage(AppController &controller)
     eintrag(ablage, QT_TRANSLATE_NOOP("Mahlberg", "Eigenes Lebensmittel &löschen …"), {},
             [&controller] { controller.LoescheneigeneLM(); });
     ablage.addSeparator();
-    eintrag(ablage, QT_TRANSLATE_NOOP("Mahlberg", "In den Mahlzeiten&plan"),
-            QKeySequence(QStringLiteral("Ctrl+Return")),
+    eintrag(ablage, QT_TRANSLATE_NOOP("Mahlberg", "In den Plan &geben"),
+            QKeySequence(QStringLiteral("Ctrl+Return")), [&controller] { controller.gibInPlan(); });
+    eintrag(ablage, QT_TRANSLATE_NOOP("Mahlberg", "In den Mahlzeiten&plan"), {},
             [&controller] { controller.toolbarlebensmittelweitergabe(); });
     ablage.addSeparator();
     eintrag(ablage, QT_TRANSLATE_NOOP("Mahlberg", "&Drucken …"),
@@ -123,6 +124,11 @@ void baueBearbeiten(AppController &controller)
                 controller.suchfeld->setFocus(Qt::ShortcutFocusReason);
                 controller.suchfeld->selectAll();
             });
+    eintrag(bearbeiten, QT_TRANSLATE_NOOP("Mahlberg", "&Nächster Treffer"),
+            QKeySequence(QStringLiteral("F3")), [&controller] { controller.waehleTreffer(1); });
+    eintrag(bearbeiten, QT_TRANSLATE_NOOP("Mahlberg", "&Vorheriger Treffer"),
+            QKeySequence(QStringLiteral("Shift+F3")),
+            [&controller] { controller.waehleTreffer(-1); });
     eintrag(bearbeiten, QT_TRANSLATE_NOOP("Mahlberg", "&Profilsuche"),
             QKeySequence(QStringLiteral("Ctrl+Shift+F")),
             [&controller] { controller.profilaufzu->toggle(); });

@@ -178,7 +178,8 @@ void Verlauf::sage(const QString &text, const QString &knopf, const std::functio
 /// The way back that a notice offers is that of the last change, so it goes with the next one.
 void Verlauf::nimmHinweiseZurueck()
 {
-    for (const QString &eine : {kennung, AppController::hinweisGesichert}) {
+    for (const QString &eine :
+         {kennung, AppController::hinweisGesichert, AppController::hinweisZugabe}) {
         m_controller.hinweise->nimmZurueck(eine);
     }
     const Planmodul *plan = m_controller.planmodul;

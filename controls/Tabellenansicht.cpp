@@ -3,6 +3,7 @@
 #include "Tabellenkopf.h"
 #include "Zellenmaler.h"
 
+#include <QContextMenuEvent>
 #include <QCoreApplication>
 #include <QDrag>
 #include <QDragMoveEvent>
@@ -87,6 +88,14 @@ void Tabellenansicht::verteileBreiten()
     }
     const QScopedValueRollback programm(m_verteilt, true);
     setColumnWidth(0, qMax(m_grundbreiten.first(), qMin(frei, m_bedarf)));
+}
+
+void Tabellenansicht::vergissBreiten()
+{
+    m_breiteVonHand = false;
+    setSpaltenbreiten(m_grundbreiten);
+    verteileBreiten();
+    Q_EMIT breitenVergessen();
 }
 
 void Tabellenansicht::resizeEvent(QResizeEvent *event)
@@ -281,6 +290,7 @@ void Tabellenansicht::mousePressEvent(QMouseEvent *event)
     const QPersistentModelIndex schreibmarke = currentIndex();
     QTableView::mousePressEvent(event);
     m_angefasst = indexAt(m_mausort);
+    m_gedrueckteZelle = m_angefasst;
     if (m_angefasst.isValid()) {
         setzeUngerollt(schreibmarke, QItemSelectionModel::NoUpdate);
     } else {
@@ -316,13 +326,42 @@ void Tabellenansicht::mouseReleaseEvent(QMouseEvent *event)
 /// Where the first click has rolled another row under the mouse, the second is no choice of it.
 void Tabellenansicht::mouseDoubleClickEvent(QMouseEvent *event)
 {
-    if (rowAt(event->position().toPoint().y()) == m_gedrueckteZeile) {
+    const QPoint ort = event->position().toPoint();
+    const QPersistentModelIndex erste = m_gedrueckteZelle;
+    const bool gerollt = rowAt(ort.y()) != m_gedrueckteZeile;
+    const bool zweimal = gerollt || indexAt(ort) == erste;
+    if (!gerollt) {
         QTableView::mouseDoubleClickEvent(event);
     }
+    if (event->button() == Qt::LeftButton && zweimal && erste.isValid()) {
+        Q_EMIT doppeltGeklickt(erste);
+    }
+}
+
+void Tabellenansicht::contextMenuEvent(QContextMenuEvent *event)
+{
+    if (event->reason() == QContextMenuEvent::Mouse) {
+        Q_EMIT menueGewuenscht(indexAt(event->pos()), event->globalPos());
+    } else {
+        wuenscheMenue();
+    }
+}
+
+/// The menu of the cell where the keyboard is, beside it.
+void Tabellenansicht::wuenscheMenue()
+{
+    const QRect zelle = visualRect(currentIndex()) & viewport()->rect();
+    Q_EMIT menueGewuenscht(currentIndex(), viewport()->mapToGlobal(zelle.center()));
 }
 
 void Tabellenansicht::keyPressEvent(QKeyEvent *event)
 {
+    // Not every desktop turns this key into the wish for a menu, as all do the key made for it.
+    if (event->key() == Qt::Key_F10 && event->modifiers() == Qt::ShiftModifier &&
+        contextMenuPolicy() == Qt::DefaultContextMenu) {
+        wuenscheMenue();
+        return;
+    }
     const QModelIndex vorher = currentIndex();
     QTableView::keyPressEvent(event);
     const QModelIndex jetzt = currentIndex();

@@ -52,6 +52,9 @@ public:
     /// The column in which the user chose the row whose action is running; −1 at any other time.
     int clickedColumn() const { return m_clickedColumn; }
 
+    /// Gives the columns their widths of the beginning again: what the user has set is forgotten.
+    void vergissBreiten();
+
     /// Selects a row in place of what was selected, without running the action. A row that does
     /// not exist leaves the selection as it is.
     void selectRow(int zeile);
@@ -89,6 +92,14 @@ Q_SIGNALS:
     void betaetigt();
     /// The user has drawn a column to this width; the last one only takes what is left.
     void spalteGezogen(int spalte, int breite);
+    /// The widths that the user had set are forgotten.
+    void breitenVergessen();
+    /// The user has clicked a cell twice; the first click has chosen it. Where that has rolled
+    /// another row under the mouse, it is still the first one that is meant.
+    void doppeltGeklickt(const QModelIndex &zelle);
+    /// A menu is wanted at this place of the screen, for the cell under the mouse or, with the keys
+    /// for menus, for the one where the keyboard is; invalid beside all cells. Nothing is chosen.
+    void menueGewuenscht(const QModelIndex &zelle, const QPoint &ort);
     /// The lists may have changed: the table has read its number of rows anew.
     void neuGelesen();
 
@@ -98,6 +109,7 @@ protected:
     void mouseReleaseEvent(QMouseEvent *event) override;
     void mouseDoubleClickEvent(QMouseEvent *event) override;
     void keyPressEvent(QKeyEvent *event) override;
+    void contextMenuEvent(QContextMenuEvent *event) override;
     void timerEvent(QTimerEvent *event) override;
     void resizeEvent(QResizeEvent *event) override;
     void changeEvent(QEvent *event) override;
@@ -122,6 +134,7 @@ private:
     void melde(int spalte);
     void setzeUngerollt(const QModelIndex &index, QItemSelectionModel::SelectionFlags auswahl);
     void verteileBreiten();
+    void wuenscheMenue();
     bool pruefeAbwurf(QDropEvent &event);
     int oberkante(int zeile) const;
     bool nurMitReturn(int spalte) const;
@@ -135,7 +148,8 @@ private:
     std::optional<int> m_abwurfzeile; ///< while something is held over the table
     QPoint m_mausort;
     int m_gedrueckteZeile = -1;
-    bool m_gedrueckt = false;          ///< the left button is down, and no drag has begun
+    QPersistentModelIndex m_gedrueckteZelle; ///< where the left button went down last
+    bool m_gedrueckt = false;                ///< the left button is down, and no drag has begun
     QPersistentModelIndex m_angefasst; ///< what is chosen when no drag has begun until the release
     bool m_nurSenkrecht = false;       ///< what is scrolled to now is not looked for sideways
     QList<int> m_grundbreiten;

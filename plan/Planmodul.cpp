@@ -201,10 +201,16 @@ void Planmodul::nameimportvontoolbar(const QString &name)
 {
     beendeEingabe();
     anhaengen(name);
-    uebernimmAenderung();
-    if (m_fenster != nullptr) {
-        PlanTabelle->scrollRowToVisible(numberOfRows() - 1);
-    }
+    uebernimmLetzte();
+    Q_EMIT geaendert({Aenderungsart::Hinein, name});
+}
+
+void Planmodul::gibHinein(const QString &name, float gramm)
+{
+    beendeEingabe();
+    anhaengen(name);
+    mengeAendern(PlanArray.size() - 1, gramm);
+    uebernimmLetzte();
     Q_EMIT geaendert({Aenderungsart::Hinein, name});
 }
 
@@ -313,4 +319,13 @@ void Planmodul::uebernimmAenderung()
     reloadData();
     datenberechnen();
     folgePlannamen();
+}
+
+/// The same when the last row is new, which is then in sight.
+void Planmodul::uebernimmLetzte()
+{
+    uebernimmAenderung();
+    if (m_fenster != nullptr) {
+        PlanTabelle->scrollRowToVisible(numberOfRows() - 1);
+    }
 }

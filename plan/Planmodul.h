@@ -93,6 +93,9 @@ public:
     virtual void loeschenvonkundeneintraegen(const QString &name);
     /// A food is wanted in the plan, named by its key. It comes last, with 100 g.
     virtual void nameimportvontoolbar(const QString &name);
+    /// A food is wanted in the plan with so many grams, named by its key. It comes last, and where
+    /// it stood before it is gone. The window stays as it is, shown or not.
+    virtual void gibHinein(const QString &name, float gramm);
 
     // Bringing back what was kept
     /// Takes these own foods as the copy to work with from now on. The file is left to the caller.
@@ -170,6 +173,7 @@ private:
     void schreibePlan() const;
     void schreibeEigeneLebensmittel() const;
     void uebernimmAenderung();
+    void uebernimmLetzte();
 
     // The notices
     void zeigeAnsichtshinweis();

@@ -335,6 +335,10 @@
   <translation>Saved under the name above, with the values for 100 g.</translation>
  </message>
  <message>
+  <source>Gewählter Treffer</source>
+  <translation>Chosen result</translation>
+ </message>
+ <message>
   <source>Gezeigte Menge</source>
   <translation>Shown amount</translation>
  </message>
@@ -349,6 +353,10 @@
  <message>
   <source>Herz/Kreislauf</source>
   <translation>Heart</translation>
+ </message>
+ <message>
+  <source>In der Liste zeigen</source>
+  <translation>Show in the list</translation>
  </message>
  <message>
   <source>Kalium</source>
@@ -423,6 +431,10 @@
   <translation>Sodium, share of the daily need</translation>
  </message>
  <message>
+  <source>Nächster</source>
+  <translation>Next one</translation>
+ </message>
+ <message>
   <source>Nährstoffe</source>
   <translation>Nutrients</translation>
  </message>
@@ -457,6 +469,10 @@
  <message>
   <source>Quelle der Nährwerte</source>
   <translation>Source of the values</translation>
+ </message>
+ <message>
+  <source>Zurück zu den Treffern</source>
+  <translation>Back to the results</translation>
  </message>
  <message>
   <source>✓ grün: über 10 % des Tagesbedarfs, ✗ rot: darunter. Genau 10 % werden wie die Zeile davor beurteilt, bei Calcium grün.</source>
@@ -828,8 +844,32 @@ Nothing is worked out for children under 10 years; it resumes at 11 years.</tr
   <translation>%1: %2</translation>
  </message>
  <message>
+  <source>&amp;Löschen …</source>
+  <translation>&amp;Delete …</translation>
+ </message>
+ <message>
+  <source>&amp;Nächster Treffer</source>
+  <translation>&amp;Next result</translation>
+ </message>
+ <message>
+  <source>&amp;Spalten anpassen</source>
+  <translation>&amp;Fit columns</translation>
+ </message>
+ <message>
+  <source>&amp;Vorheriger Treffer</source>
+  <translation>Pre&amp;vious result</translation>
+ </message>
+ <message>
+  <source>&amp;Werte als neues Lebensmittel abschreiben …</source>
+  <translation>&amp;Copy the values into a new food …</translation>
+ </message>
+ <message>
   <source>&amp;Zuletzt gewählte Lebensmittel …</source>
   <translation>&amp;Recently chosen foods …</translation>
+ </message>
+ <message>
+  <source>Die Zeile „%1“ steht für kein Lebensmittel und kommt nicht in den Plan.</source>
+  <translation>The line “%1” stands for no food and does not go into the plan.</translation>
  </message>
  <message>
   <source>Es gibt nichts zu wiederholen.</source>
@@ -840,12 +880,32 @@ Nothing is worked out for children under 10 years; it resumes at 11 years.</tr
   <translation>There is nothing to undo.</translation>
  </message>
  <message>
+  <source>In den Plan &amp;geben</source>
+  <translation>&amp;Add to the plan</translation>
+ </message>
+ <message>
   <source>Menge von „%1“</source>
   <translation>amount of “%1”</translation>
  </message>
  <message>
+  <source>Menge ändern: zuerst</source>
+  <translation>To set the amount: first</translation>
+ </message>
+ <message>
+  <source>Menge: rechts einstellen.</source>
+  <translation>Amount: set it on the right.</translation>
+ </message>
+ <message>
+  <source>Nächster: %1, vorheriger: %2</source>
+  <translation>Next one: %1, one before: %2</translation>
+ </message>
+ <message>
   <source>Platz von „%1“</source>
   <translation>place of “%1”</translation>
+ </message>
+ <message>
+  <source>Treffer %1 von %2</source>
+  <translation>Result %1 of %2</translation>
  </message>
  <message>
   <source>Wiederholen</source>
@@ -854,6 +914,10 @@ Nothing is worked out for children under 10 years; it resumes at 11 years.</tr
  <message>
   <source>Wiederholt: %1.</source>
   <translation>Redone: %1.</translation>
+ </message>
+ <message>
+  <source>Wählen Sie zuerst ein Lebensmittel in der Tabelle aus.</source>
+  <translation>Choose a food in the table first.</translation>
  </message>
  <message>
   <source>Zurückgenommen: %1.</source>
@@ -1531,7 +1595,7 @@ New: %1</translation>
  </message>
  <message>
   <source>In den Mahlzeiten&amp;plan</source>
-  <translation>To the meal &amp;plan</translation>
+  <translation>To the &amp;meal plan</translation>
  </message>
  <message>
   <source>In der Datei stehen jetzt andere eigene Lebensmittel als in diesem Fenster, so wie der Plan sie kennt (%1).</source>
@@ -2086,8 +2150,24 @@ New: %1</translation>
   <translation>“%1” is no amount. It stays %2 g.</translation>
  </message>
  <message>
+  <source>„%1“ ist mit %2 g im Plan.</source>
+  <translation>“%1” is in the plan with %2 g.</translation>
+ </message>
+ <message>
+  <source>„%1“ stand schon im Plan: Es steht jetzt am Ende und hat %2 g (vorher: %3 g).</source>
+  <translation>“%1” was in the plan already: it is at the end now and has %2 g (before: %3 g).</translation>
+ </message>
+ <message>
   <source>„%1“ steht in der Liste, ist aber nicht gesichert.</source>
   <translation>“%1” is in the list, but is not saved.</translation>
+ </message>
+ <message>
+  <source>„%1“ steht in keiner Liste mehr und kommt nicht in den Plan.</source>
+  <translation>“%1” is in no list any more and does not go into the plan.</translation>
+ </message>
+ <message>
+  <source>„%1“ steht schon mit %2 g am Ende des Plans.</source>
+  <translation>“%1” is at the end of the plan already, with %2 g.</translation>
  </message>
  <message>
   <source>„%1“, je 100 g</source>

@@ -212,7 +212,8 @@ void TestFensterblick::nothingIsCutOnASmallScreen_data()
     QTest::addColumn<QString>("sprache");
     QTest::addColumn<QString>("offen");
     for (const char *sprache : {"de", "en"}) {
-        for (const char *offen : {"nothing", "profile", "save", "notice"}) {
+        for (const char *offen :
+             {"nothing", "profile", "save", "notice", "result", "result and profile"}) {
             QTest::addRow("%s, %s open", sprache, offen)
                 << QString::fromLatin1(sprache) << QString::fromLatin1(offen);
         }
@@ -228,13 +229,21 @@ void TestFensterblick::nothingIsCutOnASmallScreen()
     const Sprache worte_(sprache);
     m_fenster = std::make_unique<Probefenster>(*m_heim);
     AppController &c = controller();
-    c.profilaufzu->setChecked(offen == QLatin1String("profile"));
+    c.profilaufzu->setChecked(offen.endsWith(QLatin1String("profile")));
     if (offen == QLatin1String("save")) {
         QTest::mouseClick(c.sichernaufzu, Qt::LeftButton);
     } else if (offen == QLatin1String("notice")) {
         c.hinweise->zeige({.kennung = offen, .text = QString(90, u'n')});
     }
     groesse(klein.width(), klein.height());
+    if (offen.startsWith(QLatin1String("result"))) {
+        c.proteinsuche();
+        c.waehleTreffer(-1);
+        QVERIFY(c.trefferleiste->isVisible());
+        QCoreApplication::processEvents();
+        QVERIFY(c.Tabelle->height() >= c.Tabelle->minimumHeight());
+        QVERIFY(c.Tabelle->geometry().bottom() < c.trefferleiste->geometry().top());
+    }
     const auto *aussen = qobject_cast<QScrollArea *>(c.teiler->parentWidget()->parentWidget());
     QVERIFY(!aussen->horizontalScrollBar()->isVisible());
     QVERIFY(!aussen->verticalScrollBar()->isVisible());

@@ -322,7 +322,7 @@ void TestMenue::keysHaveTheNamesOfTheKeyboard_data()
 void TestMenue::keysHaveTheNamesOfTheKeyboard()
 {
     QFETCH(QStringList, tasten);
-    const QList<QAction *> alle = {eintrag(QStringLiteral("In den Mahlzeitenplan")),
+    const QList<QAction *> alle = {eintrag(QStringLiteral("In den Plan geben")),
                                    eintrag(QStringLiteral("Profilsuche")),
                                    eintrag(QStringLiteral("Drucken …"))};
     QFETCH(QString, sprache);

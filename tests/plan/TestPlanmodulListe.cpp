@@ -32,6 +32,8 @@ private Q_SLOTS:
     void openingAPlanWritesNoPlanFile();
     void aFoodFromTheMainWindowComesLast();
     void aFoodAlreadyInThePlanMovesToTheEnd();
+    void aFoodComesWithItsAmount_data();
+    void aFoodComesWithItsAmount();
     void withoutAWindowTheListsAreKeptAllTheSame();
     void theButtonRemovesTheSelectedRow();
     void theDeleteKeyRemovesTheSelectedRow();
@@ -212,6 +214,45 @@ void TestPlanmodulListe::aFoodAlreadyInThePlanMovesToTheEnd()
     QCOMPARE(gezeigt(), QStringList({u"Brot"_s, u"apfel"_s}));
     QCOMPARE(m_fenster->spalte(u"menge"_s), QStringList({u"60"_s, u"100"_s}));
     QCOMPARE(m_heim->plan(), (QMap<QString, float>{{u"Brot"_s, 60.0F}, {u"apfel"_s, 100.0F}}));
+}
+
+void TestPlanmodulListe::aFoodComesWithItsAmount_data()
+{
+    QTest::addColumn<QString>("name");
+    QTest::addColumn<QStringList>("namen");
+    QTest::addColumn<QList<float>>("gramm");
+    QTest::newRow("a new one") << u"Ei"_s << QStringList{u"apfel"_s, u"Brot"_s, u"Ei"_s}
+                               << QList<float>{50, 60, 150};
+    QTest::newRow("one of the plan")
+        << u"apfel"_s << QStringList{u"Brot"_s, u"apfel"_s} << QList<float>{60, 150};
+    QTest::newRow("the last one") << u"Brot"_s << QStringList{u"apfel"_s, u"Brot"_s}
+                                  << QList<float>{50, 150};
+}
+
+void TestPlanmodulListe::aFoodComesWithItsAmount()
+{
+    QFETCH(QString, name);
+    QFETCH(QStringList, namen);
+    QFETCH(QList<float>, gramm);
+    m_heim->schreibePlan({{u"apfel"_s, 50}, {u"Brot"_s, 60}});
+    QMap<QString, float> datei;
+    for (qsizetype i = 0; i < namen.size(); ++i) {
+        datei.insert(namen[i], gramm[i]);
+    }
+    {
+        Planmodul ohneFenster(m_heim->tueren());
+        const Planliste vorher = ohneFenster;
+        ohneFenster.gibHinein(name, 150);
+        QCOMPARE(ohneFenster.PlanArray, namen);
+        QCOMPARE(ohneFenster.mengenarray, gramm);
+        QCOMPARE(m_heim->plan(), datei);
+        ohneFenster.uebernimmPlan(vorher);
+    }
+    oeffne();
+    (*m_fenster)->gibHinein(name, 150);
+    QCOMPARE(gezeigt(), namen);
+    QCOMPARE(m_fenster->spalte(u"menge"_s).constLast(), u"150"_s);
+    QCOMPARE(m_heim->plan(), datei);
 }
 
 void TestPlanmodulListe::withoutAWindowTheListsAreKeptAllTheSame()

@@ -1,0 +1,519 @@
+#include "Archivdatei.h"
+#include "Probefenster.h"
+
+#include <QApplication>
+#include <QContextMenuEvent>
+#include <QDoubleSpinBox>
+#include <QMenu>
+#include <QMouseEvent>
+#include <QPushButton>
+#include <QScrollBar>
+#include <QTest>
+#include <QWindow>
+
+using enum Naehrwert;
+
+/// Foods go into the plan from the main window, which stays in front: by a double click, a key and
+/// the table's menu.
+class TestZugabe : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void init();
+    void cleanup();
+    void aDoubleClickPutsTheFoodIn_data();
+    void aDoubleClickPutsTheFoodIn();
+    void theFirstOfTwoClicksIsMeant();
+    void twoClicksOnNeighboursAreNoDoubleClick();
+    void theKeyPutsInTheFoodWhereTheKeyboardIs();
+    void theKeyTakesAResultThatIsNotChosenYet();
+    void theKeyPutsInAnOwnFoodOfTheRow();
+    void aTypedAmountCounts();
+    void aFoodThatWasInThePlanMovesToTheEnd();
+    void theWayBack();
+    void theWayBackGoesWithTheNextChange();
+    void whatIsThereAlreadyCanNotBeTakenBack();
+    void whatIsNoFoodSaysWhy_data();
+    void whatIsNoFoodSaysWhy();
+    void theWindowOfThePlanStaysAsItIs();
+    void theToolbarDoesWhatItDid();
+    void theMenuPutsInTheCellUnderTheMouse();
+    void theMenuIsThereForTheKeyboard_data();
+    void theMenuIsThereForTheKeyboard();
+    void theMenuOffersWhatTheCellAllows_data();
+    void theMenuOffersWhatTheCellAllows();
+    void theMenuCopiesAnOwnFood();
+    void theMenuDeletesTheChosenOwnFood();
+    void theMenuGivesTheColumnsTheirWidths();
+
+private:
+    AppController &controller() const { return m_fenster->controller(); }
+    Planmodul &plan() const { return *controller().planmodul; }
+    void doppelklicke(int zeile, int spalte) const;
+    void suche(const QString &text) const;
+    void drueckeTaste(QWidget *feld) const;
+    QMenu *oeffneMenue(int zeile, int spalte) const;
+    static void waehle(QMenu &menue, const QString &text);
+    QString hinweis() const;
+    void nimmZurueck() const;
+    QMap<QString, float> plandatei() const;
+
+    std::unique_ptr<Probeheim> m_heim;
+    std::unique_ptr<Probefenster> m_fenster;
+};
+
+namespace {
+
+const QString leereZeile = QStringLiteral("-");
+const QString kuchen = QStringLiteral("Omas Kuchen");
+const QString torte = QStringLiteral("Omas Torte");
+
+/// What a menu offers, without its keys and underlined letters; what can't be chosen in brackets.
+QStringList eintraege(const QMenu &menue)
+{
+    QStringList alle;
+    for (const QAction *aktion : menue.actions()) {
+        const QString text = aktion->text().remove(u'&').section(u'\t', 0, 0);
+        if (!aktion->isSeparator()) {
+            alle << (aktion->isEnabled() ? text : u'(' + text + u')');
+        }
+    }
+    return alle;
+}
+
+} // namespace
+
+/// The table begins with a line without values, as the built-in one does: row 8 is food 7.
+void TestZugabe::init()
+{
+    m_heim = std::make_unique<Probeheim>();
+    Lebensmittelverzeichnis tabelle = zaehltabelle(900);
+    tabelle.insert(leereZeile, lebensmittel(leereZeile));
+    m_heim->schreibeTabelle(tabelle);
+    m_heim->schreibeEigene(
+        verzeichnis({lebensmittel(kuchen, {{kal, 400}}), lebensmittel(torte, {{kal, 500}})}));
+    m_fenster = std::make_unique<Probefenster>(*m_heim);
+    m_fenster->klicke(3, inName);
+    m_fenster->tippeMenge(QStringLiteral("150"));
+}
+
+void TestZugabe::cleanup()
+{
+    m_fenster.reset();
+    m_heim.reset();
+}
+
+void TestZugabe::doppelklicke(int zeile, int spalte) const
+{
+    controller().Tabelle->scrollRowToVisible(zeile);
+    QTest::mouseDClick(controller().Hauptfenster->windowHandle(), Qt::LeftButton, {},
+                       controller().Tabelle->viewport()->mapTo(controller().Hauptfenster,
+                                                               m_fenster->mitte(zeile, spalte)));
+}
+
+void TestZugabe::suche(const QString &text) const
+{
+    controller().suchfeld->setFocus();
+    controller().suchfeld->selectAll();
+    QTest::keyClicks(controller().suchfeld, text);
+    QTest::keyClick(controller().suchfeld, Qt::Key_Return);
+}
+
+void TestZugabe::drueckeTaste(QWidget *feld) const
+{
+    feld->setFocus();
+    QVERIFY(feld->hasFocus());
+    QTest::keyClick(feld, Qt::Key_Return, Qt::ControlModifier);
+}
+
+QMenu *TestZugabe::oeffneMenue(int zeile, int spalte) const
+{
+    QWidget *flaeche = controller().Tabelle->viewport();
+    const QPoint ort = m_fenster->mitte(zeile, spalte);
+    QTest::mouseClick(flaeche, Qt::RightButton, {}, ort);
+    QContextMenuEvent ereignis(QContextMenuEvent::Mouse, ort, flaeche->mapToGlobal(ort));
+    QApplication::sendEvent(flaeche, &ereignis);
+    return qobject_cast<QMenu *>(QApplication::activePopupWidget());
+}
+
+void TestZugabe::waehle(QMenu &menue, const QString &text)
+{
+    for (QAction *aktion : menue.actions()) {
+        if (aktion->text().remove(u'&').section(u'\t', 0, 0) == text) {
+            QTest::mouseClick(&menue, Qt::LeftButton, {}, menue.actionGeometry(aktion).center());
+            return;
+        }
+    }
+    QFAIL(qPrintable(text));
+}
+
+/// What the notice about the plan says; empty when there is none.
+QString TestZugabe::hinweis() const
+{
+    for (const Hinweis &einer : controller().hinweise->hinweise()) {
+        if (einer.kennung == AppController::hinweisZugabe) {
+            return einer.text;
+        }
+    }
+    return {};
+}
+
+/// Presses the notice's button; notices of before are gone for good by then.
+void TestZugabe::nimmZurueck() const
+{
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+    auto *knopf = controller().hinweise->findChild<QPushButton *>(QStringLiteral("hinweisknopf"));
+    QCOMPARE(knopf->text(), QStringLiteral("Zurücknehmen"));
+    QTest::mouseClick(knopf, Qt::LeftButton);
+}
+
+QMap<QString, float> TestZugabe::plandatei() const
+{
+    const QString path =
+        Datenordner(m_heim->pfad(QString())).pathForDataFile(QStringLiteral("plandaten"));
+    QMap<QString, float> gramm;
+    for (const Datenmodul &eines : Archivdatei::lesen(path).archiv.verzeichnis) {
+        gramm.insert(eines.name(), eines.kal());
+    }
+    return gramm;
+}
+
+void TestZugabe::aDoubleClickPutsTheFoodIn_data()
+{
+    QTest::addColumn<int>("zeile");
+    QTest::addColumn<int>("spalte");
+    QTest::addColumn<QString>("name");
+    QTest::newRow("a built-in food") << 8 << inName << zaehlname(7);
+    QTest::newRow("an own food") << 1 << inEigen << torte;
+    QTest::newRow("a result") << 1 << inSuch << zaehlname(12);
+}
+
+void TestZugabe::aDoubleClickPutsTheFoodIn()
+{
+    QFETCH(int, zeile);
+    QFETCH(int, spalte);
+    QFETCH(QString, name);
+    suche(QStringLiteral("0012"));
+    doppelklicke(zeile, spalte);
+    QCOMPARE(Probefenster::text(*controller().feldA), name); // the first click chose it
+    QCOMPARE(AppController::angeklickteSpalte, spalte);
+    QVERIFY(controller().planmodul != nullptr);
+    QCOMPARE(plan().PlanArray, QStringList{name});
+    QCOMPARE(plan().mengenarray, QList<float>{150.0F});
+    QCOMPARE(plandatei(), (QMap<QString, float>{{name, 150.0F}}));
+    QCOMPARE(hinweis(), QStringLiteral("„%1“ ist mit 150 g im Plan.").arg(name));
+    QCOMPARE(controller().hinweise->hinweise().constFirst().dauer, 8000);
+    QVERIFY(!plan().window()->isVisible());
+    QVERIFY(controller().Hauptfenster->isActiveWindow());
+}
+
+/// It has rolled the table to the food of a result, and another result lies under the mouse.
+void TestZugabe::theFirstOfTwoClicksIsMeant()
+{
+    suche(QStringLiteral("speise"));
+    doppelklicke(20, inSuch);
+    QCOMPARE(plan().PlanArray, QStringList{zaehlname(19)});
+    suche(QStringLiteral("85")); // 85, 185 … 785, 850 … 859, 885
+    const int zeile = static_cast<int>(controller().suchArray2.indexOf(zaehlname(857)));
+    QVERIFY(zeile > 0 && zeile < 30);
+    doppelklicke(zeile, inSuch);
+    QVERIFY(controller().Tabelle->verticalScrollBar()->value() > 800);
+    QCOMPARE(plan().PlanArray, QStringList({zaehlname(19), zaehlname(857)}));
+}
+
+/// The hand has moved between the clicks, and the second one chooses the neighbour.
+void TestZugabe::twoClicksOnNeighboursAreNoDoubleClick()
+{
+    QWidget *flaeche = controller().Tabelle->viewport();
+    const int grenze = controller().Tabelle->columnViewportPosition(inEigen);
+    const QPoint ort(grenze - 3, m_fenster->mitte(1, inEigen).y());
+    const QPoint daneben = ort + QPoint(4, 0);
+    QTest::mouseClick(flaeche, Qt::LeftButton, {}, ort);
+    QMouseEvent zweiter(QEvent::MouseButtonDblClick, daneben, flaeche->mapToGlobal(daneben),
+                        Qt::LeftButton, Qt::LeftButton, {});
+    QApplication::sendEvent(flaeche, &zweiter);
+    QTest::mouseRelease(flaeche, Qt::LeftButton, {}, daneben);
+    QCOMPARE(Probefenster::text(*controller().feldA), torte);
+    QVERIFY(controller().planmodul == nullptr);
+}
+
+void TestZugabe::theKeyPutsInTheFoodWhereTheKeyboardIs()
+{
+    m_fenster->klicke(8, inName);
+    drueckeTaste(controller().Tabelle);
+    QCOMPARE(plan().PlanArray, QStringList{zaehlname(7)});
+    QCOMPARE(plan().mengenarray, QList<float>{150.0F});
+    m_fenster->klicke(0, inEigen);
+    drueckeTaste(controller().suchfeld); // the food on display
+    QCOMPARE(plan().PlanArray, QStringList({zaehlname(7), kuchen}));
+    QCOMPARE(hinweis(), QStringLiteral("„%1“ ist mit 150 g im Plan.").arg(kuchen));
+    QVERIFY(!plan().window()->isVisible());
+}
+
+void TestZugabe::theKeyTakesAResultThatIsNotChosenYet()
+{
+    suche(QStringLiteral("004"));
+    QTest::keyClick(controller().suchfeld, Qt::Key_Down);
+    QTest::keyClick(controller().Tabelle, Qt::Key_Down);
+    QTest::keyClick(controller().Tabelle, Qt::Key_Return, Qt::ControlModifier);
+    QCOMPARE(plan().PlanArray, QStringList{controller().suchArray2[2]});
+}
+
+/// The cell where the keyboard is belongs to a built-in food.
+void TestZugabe::theKeyPutsInAnOwnFoodOfTheRow()
+{
+    m_fenster->klicke(1, inName);
+    QTest::keyClick(controller().Tabelle, Qt::Key_E, Qt::ControlModifier);
+    QCOMPARE(Probefenster::text(*controller().feldA), torte);
+    drueckeTaste(controller().Tabelle);
+    QCOMPARE(plan().PlanArray, QStringList{torte});
+}
+
+void TestZugabe::aTypedAmountCounts()
+{
+    QDoubleSpinBox *eingabe = controller().lebensmittelmenge->eingabe();
+    eingabe->setFocus();
+    eingabe->selectAll();
+    QTest::keyClicks(eingabe, QStringLiteral("80"));
+    QTest::keyClick(eingabe, Qt::Key_Return, Qt::ControlModifier);
+    QCOMPARE(plan().PlanArray, QStringList{zaehlname(2)});
+    QCOMPARE(plan().mengenarray, QList<float>{80.0F});
+}
+
+void TestZugabe::aFoodThatWasInThePlanMovesToTheEnd()
+{
+    doppelklicke(8, inName);
+    doppelklicke(9, inName);
+    m_fenster->tippeMenge(QStringLiteral("80"));
+    doppelklicke(8, inName);
+    QCOMPARE(plan().PlanArray, QStringList({zaehlname(8), zaehlname(7)}));
+    QCOMPARE(plan().mengenarray, QList<float>({150.0F, 80.0F}));
+    QCOMPARE(plandatei(), (QMap<QString, float>{{zaehlname(7), 80.0F}, {zaehlname(8), 150.0F}}));
+    QCOMPARE(hinweis(), QStringLiteral("„Speise 0007“ stand schon im Plan: Es steht jetzt am Ende "
+                                       "und hat 80 g (vorher: 150 g)."));
+}
+
+void TestZugabe::theWayBack()
+{
+    doppelklicke(8, inName);
+    doppelklicke(9, inName);
+    m_fenster->tippeMenge(QStringLiteral("80"));
+    doppelklicke(8, inName);
+    nimmZurueck();
+    QCOMPARE(plan().PlanArray, QStringList({zaehlname(7), zaehlname(8)}));
+    QCOMPARE(plan().mengenarray, QList<float>({150.0F, 150.0F}));
+    QCOMPARE(plandatei(), (QMap<QString, float>{{zaehlname(7), 150.0F}, {zaehlname(8), 150.0F}}));
+    QCOMPARE(hinweis(), QString());
+}
+
+/// It is the way back of the last change alone.
+void TestZugabe::theWayBackGoesWithTheNextChange()
+{
+    doppelklicke(8, inName);
+    plan().nameimportvontoolbar(zaehlname(30));
+    QCOMPARE(hinweis(), QString());
+}
+
+void TestZugabe::whatIsThereAlreadyCanNotBeTakenBack()
+{
+    doppelklicke(8, inName);
+    doppelklicke(8, inName);
+    QCOMPARE(hinweis(), QStringLiteral("„Speise 0007“ steht schon mit 150 g am Ende des Plans."));
+    QCOMPARE(controller().hinweise->hinweise().constFirst().knopf, QString());
+    QCOMPARE(plan().PlanArray, QStringList{zaehlname(7)});
+}
+
+void TestZugabe::whatIsNoFoodSaysWhy_data()
+{
+    QTest::addColumn<int>("zeile");
+    QTest::addColumn<int>("spalte");
+    QTest::addColumn<QString>("grund");
+    const QString keines =
+        QStringLiteral("Die Zeile „-“ steht für kein Lebensmittel und kommt nicht in den Plan.");
+    const QString leer = QStringLiteral("Wählen Sie zuerst ein Lebensmittel in der Tabelle aus.");
+    QTest::newRow("the line without values") << 0 << inName << keines;
+    QTest::newRow("the line above the results") << 0 << inSuch << keines;
+    QTest::newRow("an empty cell") << 7 << inEigen << leer;
+    QTest::newRow("a result that was deleted since")
+        << 2 << inSuch
+        << QStringLiteral("„Omas Torte“ steht in keiner Liste mehr und kommt nicht in den Plan.");
+}
+
+void TestZugabe::whatIsNoFoodSaysWhy()
+{
+    QFETCH(int, zeile);
+    QFETCH(int, spalte);
+    suche(QStringLiteral("omas"));
+    m_fenster->klicke(1, inEigen);
+    m_heim->antworten = {1};
+    controller().LoescheneigeneLM();
+    QCOMPARE(controller().KundenArray, QStringList{kuchen});
+    doppelklicke(zeile, spalte);
+    QTEST(hinweis(), "grund");
+    QVERIFY(controller().planmodul == nullptr);
+    QVERIFY(plandatei().isEmpty());
+}
+
+void TestZugabe::theWindowOfThePlanStaysAsItIs()
+{
+    controller().Planmoduloeffnen();
+    QVERIFY(QTest::qWaitForWindowActive(plan().window()));
+    controller().Hauptfenster->activateWindow();
+    QVERIFY(QTest::qWaitForWindowActive(controller().Hauptfenster));
+    m_fenster->klicke(8, inName);
+    drueckeTaste(controller().Tabelle);
+    QCOMPARE(plan().PlanTabelle->model()->index(0, 0).data().toString(), zaehlname(7));
+    QVERIFY(controller().Hauptfenster->isActiveWindow());
+    plan().window()->close();
+    m_fenster->klicke(9, inName);
+    drueckeTaste(controller().Tabelle);
+    QVERIFY(!plan().window()->isVisible());
+    QCOMPARE(plan().PlanTabelle->model()->rowCount(), 2);
+}
+
+void TestZugabe::theToolbarDoesWhatItDid()
+{
+    m_fenster->klicke(8, inName);
+    m_fenster->drueckeWerkzeug(QStringLiteral("export"));
+    QCOMPARE(plan().PlanArray, QStringList{zaehlname(7)});
+    QCOMPARE(plan().mengenarray, QList<float>{100.0F});
+    QVERIFY(plan().window()->isVisible());
+    QCOMPARE(hinweis(), QString());
+}
+
+void TestZugabe::theMenuPutsInTheCellUnderTheMouse()
+{
+    QMenu *menue = oeffneMenue(8, inName);
+    QVERIFY(menue != nullptr);
+    QCOMPARE(controller().Tabelle->selectedRow(), 3);
+    QCOMPARE(menue->actions().constFirst()->text().section(u'\t', 1),
+             QKeySequence(QStringLiteral("Ctrl+Return")).toString(QKeySequence::NativeText));
+    waehle(*menue, QStringLiteral("In den Plan geben"));
+    QCOMPARE(plan().PlanArray, QStringList{zaehlname(7)});
+    QCOMPARE(plan().mengenarray, QList<float>{150.0F});
+    QCOMPARE(controller().Tabelle->selectedRow(), 3); // nothing was chosen
+    QCOMPARE(Probefenster::text(*controller().feldA), zaehlname(2));
+}
+
+void TestZugabe::theMenuIsThereForTheKeyboard_data()
+{
+    QTest::addColumn<bool>("menuetaste");
+    QTest::newRow("with the key for menus") << true;
+    QTest::newRow("with Shift+F10") << false;
+}
+
+void TestZugabe::theMenuIsThereForTheKeyboard()
+{
+    QFETCH(bool, menuetaste);
+    m_fenster->klicke(8, inName);
+    Tabellenansicht *tabelle = controller().Tabelle;
+    tabelle->setFocus();
+    if (menuetaste) {
+        QContextMenuEvent ereignis(QContextMenuEvent::Keyboard, QPoint(5, 5),
+                                   tabelle->mapToGlobal(QPoint(5, 5)));
+        QApplication::sendEvent(tabelle, &ereignis);
+    } else {
+        QTest::keyClick(tabelle, Qt::Key_F10, Qt::ShiftModifier);
+    }
+    auto *menue = qobject_cast<QMenu *>(QApplication::activePopupWidget());
+    QVERIFY(menue != nullptr);
+    const QPoint zelle = tabelle->viewport()->mapToGlobal(m_fenster->mitte(8, inName));
+    QCOMPARE(menue->pos(), zelle);
+    waehle(*menue, QStringLiteral("In den Plan geben"));
+    QCOMPARE(plan().PlanArray, QStringList{zaehlname(7)});
+}
+
+void TestZugabe::theMenuOffersWhatTheCellAllows_data()
+{
+    QTest::addColumn<QString>("gesucht");
+    QTest::addColumn<int>("gewaehlt"); // row of the own foods, −1 for a built-in one
+    QTest::addColumn<int>("zeile");
+    QTest::addColumn<int>("spalte");
+    QTest::addColumn<QStringList>("eintraege");
+    const QString geben = QStringLiteral("In den Plan geben");
+    const QString keines = QStringLiteral("(In den Plan geben)");
+    const QString weiter = QStringLiteral("Nächster Treffer");
+    const QString ab = QStringLiteral("Werte als neues Lebensmittel abschreiben …");
+    const QString weg = QStringLiteral("Löschen …");
+    const QString breiten = QStringLiteral("Spalten anpassen");
+    QTest::newRow("a built-in food")
+        << QString() << -1 << 8 << inName << QStringList{geben, breiten};
+    QTest::newRow("after a search")
+        << QStringLiteral("omas") << -1 << 8 << inName << QStringList{geben, weiter, breiten};
+    QTest::newRow("after a search that found nothing")
+        << QStringLiteral("kaviar") << -1 << 8 << inName << QStringList{geben, breiten};
+    QTest::newRow("an own food") << QString() << -1 << 1 << inEigen
+                                 << QStringList{geben, ab, breiten};
+    QTest::newRow("the chosen own food")
+        << QString() << 1 << 1 << inEigen << QStringList{geben, ab, weg, breiten};
+    QTest::newRow("another own food than the chosen one")
+        << QString() << 0 << 1 << inEigen << QStringList{geben, ab, breiten};
+    QTest::newRow("an own food among the results")
+        << QStringLiteral("omas") << 1 << 2 << inSuch << QStringList{geben, weiter, ab, breiten};
+    QTest::newRow("the line without values")
+        << QString() << -1 << 0 << inName << QStringList{keines, breiten};
+    QTest::newRow("an empty cell")
+        << QString() << 1 << 7 << inEigen << QStringList{keines, breiten};
+}
+
+void TestZugabe::theMenuOffersWhatTheCellAllows()
+{
+    QFETCH(QString, gesucht);
+    QFETCH(int, gewaehlt);
+    QFETCH(int, zeile);
+    QFETCH(int, spalte);
+    if (!gesucht.isEmpty()) {
+        suche(gesucht);
+    }
+    if (gewaehlt >= 0) {
+        m_fenster->klicke(gewaehlt, inEigen);
+    }
+    const QMenu *menue = oeffneMenue(zeile, spalte);
+    QVERIFY(menue != nullptr);
+    QTEST(::eintraege(*menue), "eintraege");
+    QStringList buchstaben;
+    for (const QAction *aktion : menue->actions()) {
+        const qsizetype stelle = aktion->text().indexOf(u'&');
+        buchstaben << (aktion->isSeparator() ? QString()
+                                             : aktion->text().mid(stelle + 1, 1).toLower());
+    }
+    QCOMPARE(buchstaben.removeDuplicates(), 0);
+}
+
+/// It gets a name of its own, so that saving it does not change the one that it comes from.
+void TestZugabe::theMenuCopiesAnOwnFood()
+{
+    QMenu *menue = oeffneMenue(1, inEigen);
+    waehle(*menue, QStringLiteral("Werte als neues Lebensmittel abschreiben …"));
+    QVERIFY(controller().einfenster->isVisible());
+    QCOMPARE(controller().EingabeFensterfeldA->stringValue(), QStringLiteral("Omas Torte (eigen)"));
+    QCOMPARE(controller().EingabeFensterfeldB->floatValue(), 500.0F);
+    QCOMPARE(Probefenster::text(*controller().feldA), zaehlname(2)); // what was on display
+    QCOMPARE(controller().Tabelle->selectedRow(), 3);
+}
+
+void TestZugabe::theMenuDeletesTheChosenOwnFood()
+{
+    m_fenster->klicke(1, inEigen);
+    QMenu *menue = oeffneMenue(1, inEigen);
+    m_heim->antworten = {1};
+    waehle(*menue, QStringLiteral("Löschen …"));
+    QCOMPARE(m_heim->meldungen.size(), 1);
+    QCOMPARE(m_heim->meldungen.constFirst().gegenstand, QStringLiteral("„Omas Torte“"));
+    QCOMPARE(controller().KundenArray, QStringList{kuchen});
+}
+
+void TestZugabe::theMenuGivesTheColumnsTheirWidths()
+{
+    const QString schluessel = QStringLiteral("Hauptfenster/Spalte_name");
+    const int vorher = controller().Tabelle->columnWidth(inName);
+    controller().Tabelle->setColumnWidth(inName, vorher + 70);
+    QCOMPARE(m_heim->einstellungen().value(schluessel).toInt(), vorher + 70);
+    waehle(*oeffneMenue(8, inName), QStringLiteral("Spalten anpassen"));
+    QCOMPARE(controller().Tabelle->columnWidth(inName), vorher);
+    QVERIFY(!m_heim->einstellungen().contains(schluessel));
+}
+
+QTEST_MAIN(TestZugabe)
+#include "TestZugabe.moc"

@@ -1,0 +1,95 @@
+#include "Umbruchzeile.h"
+
+#include <QTest>
+#include <QVBoxLayout>
+
+/// Groups beside one another or below one another, as there is room.
+class TestUmbruchzeile : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void theGroupsGoBelowOneAnother_data();
+    void theGroupsGoBelowOneAnother();
+    void aHiddenLineKeepsTheHeightThatItWillHave();
+    void aLongerTextBreaksTheLine();
+
+private:
+    static QWidget *gruppe(Umbruchzeile &zeile, int breite);
+};
+
+/// A group that needs this width and 20 points of height.
+QWidget *TestUmbruchzeile::gruppe(Umbruchzeile &zeile, int breite)
+{
+    auto *neue = new QWidget(&zeile);
+    neue->setFixedSize(breite, 20);
+    return neue;
+}
+
+void TestUmbruchzeile::theGroupsGoBelowOneAnother_data()
+{
+    QTest::addColumn<int>("breite");
+    QTest::addColumn<int>("hoehe");
+    QTest::addColumn<bool>("darunter");
+    QTest::newRow("room for both and the gap") << 168 << 20 << false;
+    QTest::newRow("a point less") << 167 << 44 << true;
+    QTest::newRow("much room") << 900 << 20 << false;
+}
+
+/// Groups of 100 and 60 points with a gap of 8, or 4 below one another.
+void TestUmbruchzeile::theGroupsGoBelowOneAnother()
+{
+    QFETCH(int, breite);
+    QFETCH(bool, darunter);
+    Umbruchzeile zeile;
+    const QWidget *eins = gruppe(zeile, 100);
+    const QWidget *zwei = gruppe(zeile, 60);
+    zeile.show();
+    zeile.resize(breite, 50);
+    QTEST(zeile.heightForWidth(breite), "hoehe");
+    QCOMPARE(zwei->geometry().top() > eins->geometry().bottom(), darunter);
+    QCOMPARE(zeile.minimumSizeHint().width(), 100);
+}
+
+void TestUmbruchzeile::aHiddenLineKeepsTheHeightThatItWillHave()
+{
+    QWidget fenster;
+    auto *alles = new QVBoxLayout(&fenster);
+    alles->setContentsMargins(0, 0, 0, 0);
+    auto *zeile = new Umbruchzeile(&fenster);
+    gruppe(*zeile, 100);
+    gruppe(*zeile, 60);
+    auto *rest = new QWidget(&fenster);
+    rest->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Expanding);
+    alles->addWidget(rest);
+    alles->addWidget(zeile);
+    QSizePolicy platz = zeile->sizePolicy();
+    platz.setRetainSizeWhenHidden(true);
+    zeile->setSizePolicy(platz);
+    zeile->hide();
+    fenster.resize(150, 200);
+    fenster.show();
+    QVERIFY(QTest::qWaitForWindowExposed(&fenster));
+    const int vorher = rest->height();
+    zeile->show();
+    QCoreApplication::processEvents();
+    QCOMPARE(rest->height(), vorher);
+    QCOMPARE(zeile->height(), 44);
+}
+
+void TestUmbruchzeile::aLongerTextBreaksTheLine()
+{
+    Umbruchzeile zeile;
+    QWidget *eins = gruppe(zeile, 100);
+    const QWidget *zwei = gruppe(zeile, 60);
+    zeile.show();
+    zeile.resize(200, 50);
+    QVERIFY(zwei->geometry().left() > eins->geometry().right());
+    eins->setFixedSize(150, 20);
+    QTRY_VERIFY(zwei->geometry().top() > eins->geometry().bottom());
+    eins->setFixedSize(100, 20);
+    QTRY_VERIFY(zwei->geometry().left() > eins->geometry().right());
+}
+
+QTEST_MAIN(TestUmbruchzeile)
+#include "TestUmbruchzeile.moc"
