@@ -51,14 +51,9 @@ namespace {
 
 bool istWeiss(const QImage &bild)
 {
-    for (int y = 0; y < bild.height(); ++y) {
-        for (int x = 0; x < bild.width(); ++x) {
-            if (bild.pixelColor(x, y) != QColor(Qt::white)) {
-                return false;
-            }
-        }
-    }
-    return !bild.isNull();
+    QImage weiss(bild.size(), QImage::Format_RGB32);
+    weiss.fill(Qt::white);
+    return !bild.isNull() && bild.convertToFormat(QImage::Format_RGB32) == weiss;
 }
 
 Textfeld *eintrag(double zahl)
