@@ -17,6 +17,7 @@ void AppController::Planmoduloeffnen()
                                    .dateien = m_tueren.dateien,
                                    .einstellungen = m_tueren.einstellungen});
         stellePlanDaneben();
+        Q_EMIT planBereit();
     }
     planmodul->showWindow();
 }

@@ -4,6 +4,7 @@
 #include "AppController.h"
 #include "Dateiansage.h"
 #include "Fenstergedaechtnis.h"
+#include "Verlauf.h"
 
 #include <functional>
 #include <memory>
@@ -29,6 +30,7 @@ public:
     AnthroController rechner;
     Dateiansage ansage;
     Fenstergedaechtnis gedaechtnis;
+    Verlauf verlauf;
 
 private:
     static void folgeSprache(Planmodul *plan);
