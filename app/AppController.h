@@ -6,6 +6,7 @@
 #include "Energieanteile.h"
 #include "Erscheinungsbild.h"
 #include "Feldauskunft.h"
+#include "Papierbild.h"
 #include "Planmodul.h"
 #include "Profilsuche.h"
 #include "Skalierung.h"
@@ -213,6 +214,7 @@ private:
     void zeigeLeeres();
     QString leereSuche() const;
     void zeigeErsteSchritte();
+    QList<Papierwertung> papierwertungen() const;
     void begruendeSperren();
 
     // The meal plan

@@ -2,12 +2,13 @@
 
 #include "AppController.h"
 
+#include "Druckfuss.h"
 #include "Papierbild.h"
 #include "Rollbereich.h"
 #include "Zeichenkettentabelle.h"
 
-/// Prints the view in front as it looks, with the name of the food above it. The calculator's views
-/// are about no food.
+/// Prints the view in front as it looks, with the food, its amount and its ratings above it. The
+/// calculator's views are about no food.
 void AppController::drucken()
 {
     if (DatenAnsicht->isHidden()) {
@@ -22,11 +23,34 @@ void AppController::drucken()
     // Of a view that rolls only a part may be seen; it is printed whole.
     const auto *rollbereich = ansicht->findChild<Rollbereich *>();
     QWidget &seite = rollbereich != nullptr ? *rollbereich->widget() : *ansicht;
-    QStringList ueberschriften = {DatenAnsicht->tabText(DatenAnsicht->currentIndex())};
-    if (ansicht != tabVier && ansicht != tabFuenf) {
-        ueberschriften.prepend(feldA->stringValue());
-    }
+    const QString reiter = DatenAnsicht->tabText(DatenAnsicht->currentIndex());
+    const QString name = feldA->textAufPapier();
+    const bool vomLebensmittel = ansicht != tabVier && ansicht != tabFuenf && !name.isEmpty();
+    Druckauftrag auftrag = vomLebensmittel
+                               ? bildauftrag({name, reiter + QStringLiteral(", ") +
+                                                        lebensmittelmenge->textAufPapier()},
+                                             seite, papierwertungen())
+                               : bildauftrag({reiter}, seite);
+    auftrag.form = vomLebensmittel ? reiter : QString();
     if (m_tueren.drucke) {
-        m_tueren.drucke(Hauptfenster, bildauftrag(ueberschriften, seite));
+        m_tueren.drucke(Hauptfenster, mitFuss(auftrag));
     }
+}
+
+/// The ratings of the food on display, as they stand above its print.
+QList<Papierwertung> AppController::papierwertungen() const
+{
+    QList<Papierwertung> ergebnis;
+    for (const auto &zeile : wertungen) {
+        const Textfeld &feld = *m_wertungsfelder[stelle(zeile.wertung)];
+        const QString zeichen = feld.textAufPapier();
+        if (!zeichen.isEmpty()) {
+            const QString wort = Wertungswort::wortFuer(zeichen);
+            ergebnis << Papierwertung{.bezeichnung =
+                                          localizedString(QString::fromUtf8(zeile.bezeichnung)),
+                                      .urteil = wort.isEmpty() ? zeichen : zeichen + u' ' + wort,
+                                      .farbe = feld.textColor()};
+        }
+    }
+    return ergebnis;
 }

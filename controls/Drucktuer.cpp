@@ -1,17 +1,19 @@
 #include "Drucktuer.h"
 
+#include "Druckname.h"
 #include "Seiteneinrichtung.h"
 
 #include <QCoreApplication>
 #include <QFile>
 #include <QFileInfo>
+#include <QLineEdit>
 #include <QMessageBox>
 #include <QPaintEngine>
 #include <QPainter>
+#include <QPrintDialog>
 #include <QPrintPreviewDialog>
 #include <QPrinter>
 #include <QProgressDialog>
-#include <QRegularExpression>
 #include <QSettings>
 
 #include <algorithm>
@@ -137,17 +139,6 @@ private:
     QProgressDialog m_fenster;
 };
 
-/// A print's title as the print dialog can make the name of a PDF from it: there a slash would
-/// stand for a folder, and a point in the last word ("3.5%") for the beginning of the ending.
-QString alsDateiname(const QString &titel)
-{
-    constexpr qsizetype laengster = 80; // letters; disks take 255 bytes, an umlaut has two
-    static const QRegularExpression scheinendung(QStringLiteral("\\.(?=\\S+$)"));
-    QString name = titel.simplified();
-    name.replace(u'/', u'-').replace(scheinendung, QStringLiteral(","));
-    return name.left(laengster);
-}
-
 /// The preview needs its printer from its first to its last moment.
 struct Druckerhalter
 {
@@ -160,8 +151,9 @@ public:
     Druckvorschau(const QPageLayout &seite, const Druckauftrag &auftrag, const Meldungstuer &melde,
                   QWidget *fenster)
         : QPrintPreviewDialog(eingerichtet(drucker, seite, auftrag.titel), fenster)
+        , m_name(druckname(auftrag))
     {
-        drucker.setDocName(alsDateiname(auftrag.titel)); // the window has its title by now
+        drucker.setDocName(m_name); // the window has its title by now
         QCoreApplication::instance()->installEventFilter(this);
         connect(this, &QPrintPreviewDialog::paintRequested, this,
                 [this, auftrag, melde](QPrinter *geraet) { male(*geraet, auftrag, melde); });
@@ -170,18 +162,28 @@ public:
     QPageLayout seite() const { return drucker.pageLayout(); }
 
 protected:
-    /// The print dialog has messages of its own, with the name of the file in them.
+    /// The print dialog has messages of its own, with the name of the file in them, and proposes
+    /// the same file for every print.
     bool eventFilter(QObject *ziel, QEvent *event) override
     {
         if (event->type() == QEvent::Polish) {
             if (const auto *kasten = qobject_cast<QMessageBox *>(ziel)) {
                 zeigeAlsKlartext(*kasten);
+            } else if (const auto *frage = qobject_cast<QPrintDialog *>(ziel)) {
+                schlageDateiVor(*frage);
             }
         }
         return QPrintPreviewDialog::eventFilter(ziel, event);
     }
 
 private:
+    void schlageDateiVor(const QPrintDialog &frage) const
+    {
+        if (auto *zeile = frage.findChild<QLineEdit *>(QStringLiteral("filename"))) {
+            zeile->setText(freiesPdf(dokumentenordner(), m_name));
+        }
+    }
+
     void male(QPrinter &geraet, const Druckauftrag &auftrag, const Meldungstuer &melde)
     {
         std::optional<Seitenanzeige> anzeige;
@@ -210,6 +212,8 @@ private:
         geraet.setDocName(titel);
         return &geraet;
     }
+
+    QString m_name;
 };
 
 } // namespace

@@ -2,6 +2,7 @@
 
 #include "Meldung.h"
 
+#include <QDate>
 #include <QPageLayout>
 #include <QPageRanges>
 #include <QString>
@@ -25,6 +26,11 @@ struct Druckauftrag
     /// Paints a page, counted from 1. The painter's unit is the point, its origin the paper's top
     /// left corner, and nothing is to stand outside of the margins.
     std::function<void(QPainter &maler, const QPageLayout &seite, int nummer)> male;
+    /// What sets the print apart from others of the same title, such as "Liste"; it becomes part of
+    /// a PDF's name. Empty where there is nothing to tell apart.
+    QString form = {};
+    /// The day that stands on the print.
+    QDate tag = QDate::currentDate();
 };
 
 /// Prints over a window, after asking the user how. Made in `main`, so that a test can print to a
@@ -32,7 +38,8 @@ struct Druckauftrag
 using Drucktuer = std::function<void(QWidget *fenster, const Druckauftrag &auftrag)>;
 
 /// The door that shows a preview with the page setup, and from there the system's print dialog or,
-/// without a printer, the question for a PDF. Many pages show how far they have come and can be
+/// without a printer, the question for a PDF. For a PDF a new name in the documents folder is
+/// proposed. Many pages show how far they have come and can be
 /// cancelled, for the preview as well as for the print; either way the preview closes. Paper,
 /// orientation and margins come from the settings and go back there. Printing that fails is told
 /// through `melde`; cancelling does nothing. The settings outlive the door.

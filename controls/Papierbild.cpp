@@ -1,5 +1,7 @@
 #include "Papierbild.h"
 
+#include "Papierteile.h"
+
 #include <QApplication>
 #include <QEvent>
 #include <QPainter>
@@ -20,6 +22,8 @@ constexpr double kleinsterRand = 36;
 constexpr std::array<double, 2> schriftgroessen = {16, 11};
 constexpr double zeilenabstand = 1.3;
 constexpr double luecke = 10;
+constexpr double bezeichnungsgroesse = 8; // of a rating
+constexpr double urteilsgroesse = 11;
 
 QPalette papierpalette()
 {
@@ -51,6 +55,7 @@ public:
     explicit Papierkleid(QWidget &flaeche)
         : m_flaeche(flaeche)
         , m_schrift(flaeche.testAttribute(Qt::WA_SetFont) ? flaeche.font() : QFont())
+        , m_teile(flaeche)
     {
         trage(papierpalette());
         // Letters that are set apart, however little, are not joined: under a joined ff a search of
@@ -78,8 +83,16 @@ private:
 
     QWidget &m_flaeche;
     QFont m_schrift;
+    Papierteile m_teile;
     QPalette m_vorher = QApplication::palette();
 };
+
+QFont helvetica(double groesse)
+{
+    QFont schrift(QStringLiteral("Helvetica"));
+    schrift.setPixelSize(static_cast<int>(groesse));
+    return schrift;
+}
 
 /// Writes the lines from the top of `platz` down and returns the height that they take.
 double maleUeberschriften(QPainter &maler, const QRectF &platz, const QStringList &zeilen)
@@ -87,14 +100,37 @@ double maleUeberschriften(QPainter &maler, const QRectF &platz, const QStringLis
     double unten = platz.top();
     for (qsizetype i = 0; i < zeilen.size(); ++i) {
         const double groesse = schriftgroessen[i == 0 ? 0 : 1];
-        QFont schrift(QStringLiteral("Helvetica"));
-        schrift.setPixelSize(static_cast<int>(groesse));
-        maler.setFont(schrift);
+        maler.setFont(helvetica(groesse));
         maler.setPen(Qt::black);
         unten += groesse * zeilenabstand;
         maler.drawText(QPointF(platz.left(), unten - groesse * (zeilenabstand - 1)), zeilen[i]);
     }
     return zeilen.isEmpty() ? 0 : unten - platz.top() + luecke;
+}
+
+/// Writes the ratings side by side from the top of `platz` down and returns the height that they
+/// take. A verdict that is wider than its share ends in dots.
+double maleWertungen(QPainter &maler, const QRectF &platz, const QList<Papierwertung> &wertungen)
+{
+    if (wertungen.isEmpty()) {
+        return 0;
+    }
+    const double breite = platz.width() / static_cast<double>(wertungen.size());
+    const double oben = platz.top() + bezeichnungsgroesse;
+    const double unten = oben + urteilsgroesse * zeilenabstand;
+    double links = platz.left();
+    for (const Papierwertung &wertung : wertungen) {
+        maler.setFont(helvetica(bezeichnungsgroesse));
+        maler.setPen(Qt::black);
+        maler.drawText(QPointF(links, oben), wertung.bezeichnung);
+        maler.setFont(helvetica(urteilsgroesse));
+        maler.setPen(farbeFuer(wertung.farbe, papierpalette()));
+        const QFontMetricsF masse(maler.font(), maler.device());
+        maler.drawText(QPointF(links, unten),
+                       masse.elidedText(wertung.urteil, Qt::ElideRight, breite - luecke));
+        links += breite;
+    }
+    return unten - platz.top() + luecke;
 }
 
 /// Where a page has room for a picture of a window.
@@ -126,13 +162,15 @@ void Papierbild::male(QPainter &maler, const QRectF &ziel) const
     maler.restore();
 }
 
-Druckauftrag bildauftrag(const QStringList &ueberschriften, QWidget &flaeche)
+Druckauftrag bildauftrag(const QStringList &ueberschriften, QWidget &flaeche,
+                         const QList<Papierwertung> &wertungen)
 {
     const Papierbild bild(flaeche);
     return {ueberschriften.value(0), [](const QPageLayout &) { return 1; },
-            [ueberschriften, bild](QPainter &maler, const QPageLayout &seite, int) {
+            [ueberschriften, wertungen, bild](QPainter &maler, const QPageLayout &seite, int) {
                 QRectF platz = platzAuf(seite);
                 platz.setTop(platz.top() + maleUeberschriften(maler, platz, ueberschriften));
+                platz.setTop(platz.top() + maleWertungen(maler, platz, wertungen));
                 bild.male(maler, platz);
             }};
 }

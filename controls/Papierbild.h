@@ -1,6 +1,7 @@
 #pragma once
 
 #include "Drucktuer.h"
+#include "Textfarbe.h"
 
 #include <QPicture>
 #include <QSizeF>
@@ -8,8 +9,18 @@
 
 class QWidget;
 
+/// A rating as it stands above a picture: what it is about, the sign with its word, and the colour
+/// of both.
+struct Papierwertung
+{
+    QString bezeichnung;
+    QString urteil;
+    Textfarbe farbe = Textfarbe::Standard;
+};
+
 /// How a part of a window looks on paper: as on the screen at the moment of asking, but black on
-/// white under every theme, and drawn in lines and letters rather than in pixels.
+/// white under every theme, without what only a screen needs, and drawn in lines and letters rather
+/// than in pixels.
 class Papierbild
 {
 public:
@@ -26,6 +37,7 @@ private:
     QSizeF m_groesse;
 };
 
-/// A print of a part of a window as it looks now, on one page, below lines that say what it is. The
-/// first of them is the name of the print.
-Druckauftrag bildauftrag(const QStringList &ueberschriften, QWidget &flaeche);
+/// A print of a part of a window as it looks now, on one page, below lines that say what it is, and
+/// ratings side by side. The first line is the name of the print.
+Druckauftrag bildauftrag(const QStringList &ueberschriften, QWidget &flaeche,
+                         const QList<Papierwertung> &wertungen = {});

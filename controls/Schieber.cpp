@@ -171,14 +171,24 @@ void Schieber::zeigen()
         return;
     }
     m_veraltet = false;
-    const double gehalten = doubleValue();
-    const double zahl = std::isfinite(gehalten) ? gehalten : m_minimum;
+    const double zahl = gezeigteZahl();
     const QSignalBlocker reglerStill(m_regler);
     const QSignalBlocker eingabeStill(m_eingabe);
     const double schritte = (std::clamp(zahl, m_minimum, m_maximum) - m_minimum) / m_step;
     m_regler->setValue(static_cast<int>(std::lround(schritte)));
     m_eingabe->setRange(std::min(m_minimum, zahl), std::max(m_maximum, zahl));
     m_eingabe->setValue(zahl);
+}
+
+double Schieber::gezeigteZahl() const
+{
+    const double gehalten = doubleValue();
+    return std::isfinite(gehalten) ? gehalten : m_minimum;
+}
+
+QString Schieber::textAufPapier() const
+{
+    return m_eingabe->textFromValue(gezeigteZahl()) + m_eingabe->suffix();
 }
 
 void Schieber::reglerBewegt(int stellung)

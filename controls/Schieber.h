@@ -36,6 +36,9 @@ public:
     QString unit() const { return m_unit; }
     void setUnit(const QString &unit);
 
+    /// The held number as it is shown beside the slider, with its unit.
+    QString textAufPapier() const;
+
     /// The two controls inside, for the Tab order and for whoever drives them.
     QSlider *regler() const { return m_regler; }
     QDoubleSpinBox *eingabe() const { return m_eingabe; }
@@ -53,6 +56,7 @@ protected:
 private:
     void einteilen();
     void zeigen();
+    double gezeigteZahl() const;
     void reglerBewegt(int stellung);
     void zahlEingegeben(double zahl);
 

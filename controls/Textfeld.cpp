@@ -211,9 +211,8 @@ QString Textfeld::zahlText(double zahl) const
     return wertText(zahl, stellen);
 }
 
-QString Textfeld::angezeigterText() const
+QString Textfeld::angezeigterText(bool tippend) const
 {
-    const bool tippend = m_editable && hasFocus();
     if (m_uebersetzt && !haeltZahl()) {
         return QCoreApplication::translate("Mahlberg", stringValue().toUtf8().constData());
     }
@@ -227,7 +226,7 @@ void Textfeld::zeigen()
 {
     if (m_veraltet) {
         m_veraltet = false;
-        const QString neu = angezeigterText();
+        const QString neu = angezeigterText(m_editable && hasFocus());
         if (neu != text()) {
             setText(neu);
             if (hasFocus() && nimmtZahl()) {

@@ -60,6 +60,9 @@ public:
     QString muster() const { return m_muster; }
     void setMuster(const QString &muster);
 
+    /// What the field shows while nobody types in it: a number stands with its unit.
+    QString textAufPapier() const { return angezeigterText(false); }
+
     Textfarbe textColor() const { return m_farbe; }
     void setTextColor(Textfarbe farbe);
 
@@ -87,7 +90,7 @@ private:
     void zeigen();
     void einkleiden();
     void erklaeren();
-    QString angezeigterText() const;
+    QString angezeigterText(bool tippend) const;
 
     bool m_editable = false;
     bool m_erreichbar = false;

@@ -27,8 +27,11 @@ QString uebersetzt(const Bedeutung &bedeutung)
     return QCoreApplication::translate("Mahlberg", bedeutung.wort);
 }
 
-/// Empty for what is no rating's sign.
-QString wortFuer(const QString &zeichen)
+} // namespace
+
+Wertungswort::Wertungswort(QWidget *parent) : QLabel(parent) {}
+
+QString Wertungswort::wortFuer(const QString &zeichen)
 {
     for (const Bedeutung &bedeutung : bedeutungen) {
         if (zeichen == QChar(bedeutung.zeichen)) {
@@ -37,10 +40,6 @@ QString wortFuer(const QString &zeichen)
     }
     return {};
 }
-
-} // namespace
-
-Wertungswort::Wertungswort(QWidget *parent) : QLabel(parent) {}
 
 void Wertungswort::folge(Textfeld &feld)
 {

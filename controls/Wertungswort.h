@@ -14,6 +14,9 @@ class Wertungswort : public QLabel
 public:
     explicit Wertungswort(QWidget *parent = nullptr);
 
+    /// The word of a sign in the user's language; empty for what is no rating's sign.
+    static QString wortFuer(const QString &zeichen);
+
     /// Stands beside this field from now on, and says what its sign means. The field outlives it
     /// or goes with the same window.
     void folge(Textfeld &feld);

@@ -2,6 +2,7 @@
 
 #include "Planmodul.h"
 
+#include "Druckfuss.h"
 #include "Papierbild.h"
 #include "Plandruckwerte.h"
 #include "Planmodulprint.h"
@@ -41,13 +42,15 @@ private:
     std::optional<Planmodulprint> m_liste;
 };
 
-Druckauftrag listenauftrag(const std::function<Planmodulprint(const QPageLayout &)> &machen)
+Druckauftrag listenauftrag(const QString &form,
+                           const std::function<Planmodulprint(const QPageLayout &)> &machen)
 {
     const auto liste = std::make_shared<Papierliste>(machen);
-    return {planname(), [liste](const QPageLayout &seite) { return liste->auf(seite).pages; },
-            [liste](QPainter &maler, const QPageLayout &seite, int nummer) {
-                liste->auf(seite).maleSeite(maler, nummer);
-            }};
+    return {.titel = planname(),
+            .seitenzahl = [liste](const QPageLayout &seite) { return liste->auf(seite).pages; },
+            .male = [liste](QPainter &maler, const QPageLayout &seite,
+                            int nummer) { liste->auf(seite).maleSeite(maler, nummer); },
+            .form = form};
 }
 
 /// The first time there is nothing to refresh, and the copy is made; later ones only empty it.
@@ -81,16 +84,20 @@ void Planmodul::drucken()
     frischeAuf(plancopy, PlanArray);
     frischeAuf(mengencopy, mengenarray);
     frischeAuf(kaloriencopy, kalorienuebergabe);
-    drucke(listenauftrag([namen = PlanArray, mengen = mengenarray, kals = kalorienuebergabe,
+    drucke(listenauftrag(localizedString(QStringLiteral("Liste")),
+                         [namen = PlanArray, mengen = mengenarray, kals = kalorienuebergabe,
                           soll = klient.bedarf](const QPageLayout &seite) {
-        return Planmodulprint::initWithPeople(namen, mengen, kals, soll, seite);
-    }));
+                             return Planmodulprint::initWithPeople(namen, mengen, kals, soll,
+                                                                   seite);
+                         }));
 }
 
 void Planmodul::drucken2()
 {
     window(); // makes what is to be printed
-    drucke(bildauftrag({planname()}, *boxinhalt));
+    Druckauftrag auftrag = bildauftrag({planname()}, *boxinhalt);
+    auftrag.form = localizedString(QStringLiteral("Auswertung"));
+    drucke(auftrag);
 }
 
 void Planmodul::drucken3()
@@ -108,16 +115,17 @@ void Planmodul::drucken3()
     std::array<QStringList, anzahlWertungen> urteile;
     std::transform(wertungsuebergaben.begin(), wertungsuebergaben.end(), urteile.begin(),
                    [this](auto liste) { return this->*liste; });
-    drucke(listenauftrag([namen = PlanArray, mengen = mengenarray, kals = kalorienuebergabe,
+    drucke(listenauftrag(localizedString(QStringLiteral("Liste mit Nährstoffen")),
+                         [namen = PlanArray, mengen = mengenarray, kals = kalorienuebergabe,
                           soll = klient.bedarf, naehrstoffe, urteile](const QPageLayout &seite) {
-        return Planmodulprint::initWithPeople2(namen, mengen, kals, soll, naehrstoffe, urteile,
-                                               seite);
-    }));
+                             return Planmodulprint::initWithPeople2(namen, mengen, kals, soll,
+                                                                    naehrstoffe, urteile, seite);
+                         }));
 }
 
 void Planmodul::drucke(const Druckauftrag &auftrag)
 {
     if (m_tueren.drucke) {
-        m_tueren.drucke(m_fenster, auftrag);
+        m_tueren.drucke(m_fenster, mitFuss(auftrag));
     }
 }

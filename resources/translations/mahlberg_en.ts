@@ -932,6 +932,10 @@ Nothing is worked out for children under 10 years; it resumes at 11 years.</tr
   <translation>from %1 %</translation>
  </message>
  <message>
+  <source>Auswertung</source>
+  <translation>evaluation</translation>
+ </message>
+ <message>
   <source>Die Menge lässt sich einstellen, sobald das Lebensmittel in der Spalte „Lebensmittel“ oder „Eigene“ angeklickt ist.</source>
   <translation>The amount can be set once the food has been clicked in the column “Food” or “Own”.</translation>
  </message>
@@ -958,6 +962,14 @@ Nothing is worked out for children under 10 years; it resumes at 11 years.</tr
  <message>
   <source>Kein Lebensmittel erfüllt alle Kriterien. Schalten Sie eines aus, oder ändern Sie eine Grenze.</source>
   <translation>No food meets all criteria. Switch one off, or change a limit.</translation>
+ </message>
+ <message>
+  <source>Liste</source>
+  <translation>list</translation>
+ </message>
+ <message>
+  <source>Liste mit Nährstoffen</source>
+  <translation>list with nutrients</translation>
  </message>
  <message>
   <source>Mengen prüfen: Protein, Fett, Kohlenhydrate und Ballaststoffe ergeben %1 g in %2 g.</source>

@@ -25,6 +25,9 @@ private Q_SLOTS:
     void thePanelInFrontIsPrinted();
     void aPanelThatRollsIsPrintedWhole();
     void theAmountOnDisplayIsPrinted();
+    void theRatingsStandAboveThePanel();
+    void onlyTheScreenHasThese_data();
+    void onlyTheScreenHasThese();
     void nothingOnDisplayIsTold();
     void paperIsWhiteInTheDark_data();
     void paperIsWhiteInTheDark();
@@ -103,7 +106,8 @@ void TestDrucken::thePanelInFrontIsPrinted_data()
     QTest::newRow("bread units") << 2 << true
                                  << QStringList{u"BE und Relationen"_s, u"1,0 BE"_s, u"1,2 KE"_s};
     QTest::newRow("body: about no food")
-        << 3 << false << QStringList{u"Körper und Energie"_s, u"Gewicht"_s, u"kcal"_s};
+        << 3 << false
+        << QStringList{u"Körper und Energie"_s, u"Gewicht"_s, u"kcal"_s, u"Mann"_s, u"aus"_s};
     QTest::newRow("alcohol and sport: about no food")
         << 4 << false << QStringList{u"Alkohol und Sport"_s, u"Getränk"_s, u"Dauer"_s};
 }
@@ -123,6 +127,10 @@ void TestDrucken::thePanelInFrontIsPrinted()
     QCOMPARE(alles.contains(u"Äpfel, roh"_s), vomLebensmittel);
     QCOMPARE(m_druck->titel, vomLebensmittel ? u"Äpfel, roh"_s : texte.first());
     QVERIFY(!alles.contains(u"Lebensmittel suchen"_s)); // the panel only, not the window
+    const QString heute = QDate::currentDate().toString(Qt::ISODate);
+    QCOMPARE(m_druck->name, vomLebensmittel ? u"Äpfel, roh "_s + heute + u' ' + texte.first()
+                                            : texte.first() + u' ' + heute);
+    QVERIFY2(alles.endsWith(u"Seite 1 von 1 Mahlberg"_s), qPrintable(alles));
 }
 
 void TestDrucken::aPanelThatRollsIsPrintedWhole()
@@ -148,6 +156,51 @@ void TestDrucken::theAmountOnDisplayIsPrinted()
     QVERIFY2(alles.contains(u"Inhaltstoffe in 250 gramm"_s), qPrintable(alles));
     QVERIFY(alles.contains(u"130 kcal"_s)); // 52 x 2.5
     QVERIFY(alles.contains(u"30,0 g"_s));   // 12 x 2.5
+}
+
+/// Sign and word, in the colours that verdicts have on a light page.
+void TestDrucken::theRatingsStandAboveThePanel()
+{
+    oeffne();
+    m_fenster->tippeMenge(u"250"_s);
+    (*m_fenster)->drucken();
+    const QStringList zeilen = m_druck->zeilen(1);
+    QCOMPARE(zeilen.value(0), u"Äpfel, roh"_s);
+    QCOMPARE(QString(zeilen.value(1)).replace(QChar(QChar::Nbsp), u' '), u"Nährstoffe, 250 g"_s);
+    QCOMPARE(zeilen.value(2), u"Übergewicht Diabetes Gicht Herz und Kreislauf"_s);
+    QCOMPARE(zeilen.value(3), u"+ geeignet 0 neutral - ungeeignet + geeignet"_s);
+    const Druckwort wort = finde(m_druck->worte(), u"ungeeignet"_s);
+    const QImage bild = m_druck->bild(1, 4);
+    int rot = 0;
+    for (int x = qRound(wort.x * 4); x < qRound(wort.rechts * 4); ++x) {
+        for (int y = qRound(wort.grundlinie * 4) - 36; y < qRound(wort.grundlinie * 4); ++y) {
+            rot += bild.pixelColor(x, y) == QColor(0xc0, 0x1c, 0x28) ? 1 : 0;
+        }
+    }
+    QVERIFY(rot > 50);
+}
+
+void TestDrucken::onlyTheScreenHasThese_data()
+{
+    QTest::addColumn<int>("reiter");
+    QTest::addColumn<QString>("text");
+    QTest::newRow("the slider of the amount, which stands above") << 0 << u"250 g "_s;
+    QTest::newRow("the switch of the measures") << 3 << u"Metrisch"_s;
+    QTest::newRow("the choice that was not made") << 3 << u"Frau"_s;
+    QTest::newRow("the duration of sport once more") << 4 << u"Zeit(h)"_s;
+}
+
+void TestDrucken::onlyTheScreenHasThese()
+{
+    QFETCH(int, reiter);
+    QFETCH(QString, text);
+    oeffne();
+    m_fenster->tippeMenge(u"250"_s);
+    (*m_fenster)->DatenAnsicht->setCurrentIndex(reiter);
+    (*m_fenster)->drucken();
+    QString alles = gedruckt();
+    alles.remove(u"Nährstoffe, 250 g"_s);
+    QVERIFY2(!alles.contains(text), qPrintable(alles));
 }
 
 void TestDrucken::nothingOnDisplayIsTold()
@@ -219,7 +272,11 @@ void TestDrucken::itPrintsInEnglish()
     oeffne();
     (*m_fenster)->drucken();
     QVERIFY(gedruckt().contains(u"Äpfel, roh"_s));
-    QVERIFY2(gedruckt().contains(u"Nutrients"_s), qPrintable(gedruckt()));
+    for (const QString &text :
+         {u"Nutrients, 100 g"_s, u"Overweight"_s, u"- unsuitable"_s, u"Page 1 of 1 Mahlberg"_s}) {
+        QVERIFY2(gedruckt().contains(text), qPrintable(gedruckt()));
+    }
+    QVERIFY(m_druck->name.endsWith(u" Nutrients"_s));
 }
 
 void TestDrucken::withoutADoorNothingHappens()

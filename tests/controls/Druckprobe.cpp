@@ -1,5 +1,7 @@
 #include "Druckprobe.h"
 
+#include "Druckname.h"
+
 #include <QFont>
 #include <QPainter>
 #include <QPrinter>
@@ -56,6 +58,7 @@ void Druckprobe::drucke(const Druckauftrag &auftrag)
 {
     ++auftraege;
     titel = auftrag.titel;
+    name = druckname(auftrag);
     QPrinter drucker(QPrinter::HighResolution);
     drucker.setOutputFormat(QPrinter::PdfFormat);
     drucker.setPageLayout(m_seite);

@@ -31,11 +31,12 @@ public:
     static QPageLayout papier(QPageSize::PageSizeId groesse, QPageLayout::Orientation lage,
                               const QMarginsF &raender = {});
 
-    /// The door that prints here. It keeps the job's name and window.
+    /// The door that prints here. It keeps the job's names and window.
     Drucktuer tuer();
     void drucke(const Druckauftrag &auftrag);
 
     QString titel;
+    QString name; ///< of the file that is proposed, without an ending
     QWidget *fenster = nullptr;
     int auftraege = 0;
 

@@ -32,6 +32,7 @@ private Q_SLOTS:
     void theCopiesAreMadeOnceAndEmptiedLater();
     void theEvaluationIsPrintedAsItLooks_data();
     void theEvaluationIsPrintedAsItLooks();
+    void everyPageOfALongListHasItsFoot();
     void printingChangesNeitherPlanNorFiles();
     void withoutADoorNothingHappens();
 
@@ -147,20 +148,26 @@ void TestPlanmodulDruck::eachButtonPrintsItsForm_data()
 {
     QTest::addColumn<int>("antwort");
     QTest::addColumn<QString>("nurHier");
-    QTest::newRow("the first: the simple list") << 0 << u"Soll"_s;
-    QTest::newRow("the second: the detailed list") << 1 << u"VitB1"_s;
-    QTest::newRow("the third: the evaluation") << 2 << u"Gesamtbeurteilung"_s;
+    QTest::addColumn<QString>("form");
+    QTest::newRow("the first: the simple list") << 0 << u"Soll"_s << u"Liste"_s;
+    QTest::newRow("the second: the detailed list") << 1 << u"VitB1"_s << u"Liste mit Nährstoffen"_s;
+    QTest::newRow("the third: the evaluation") << 2 << u"Gesamtbeurteilung"_s << u"Auswertung"_s;
 }
 
 void TestPlanmodulDruck::eachButtonPrintsItsForm()
 {
     QFETCH(int, antwort);
     QFETCH(QString, nurHier);
+    QFETCH(QString, form);
+    const QString heute = QDate::currentDate().toString(Qt::ISODate);
     m_heim->schreibePlan({{u"Hefe"_s, 100.0F}});
     m_antwort = antwort;
     oeffne();
     (*m_fenster)->druckenentscheidung();
     QCOMPARE(m_druck->auftraege, 1);
+    QCOMPARE(m_druck->name, u"Mahlzeitenplan "_s + heute + u' ' + form);
+    QVERIFY2(m_druck->zeilen(1).last().endsWith(u"Seite 1 von 1 Mahlberg"_s),
+             qPrintable(m_druck->zeilen(1).last()));
     const QList<Druckwort> worte = m_druck->worte();
     for (const QString &wort : {u"Soll"_s, u"VitB1"_s, u"Gesamtbeurteilung"_s}) {
         QVERIFY2((finde(worte, wort).seite == 1) == (wort == nurHier), qPrintable(wort));
@@ -192,7 +199,7 @@ void TestPlanmodulDruck::theSimpleListOfAPlanWorkedOutByHand()
     m_heim->schreibePlan({{u"Äpfel, roh"_s, 150.0F}, {u"Hefe"_s, 60.0F}});
     oeffne();
     (*m_fenster)->drucken();
-    QCOMPARE(m_druck->zeilen(1),
+    QCOMPARE(m_druck->zeilen(1).first(5), // and below them the foot
              QStringList({u"Hefe 60 gr 54 kcal"_s, u"Äpfel, roh 150 gr 78 kcal"_s,
                           u"Lebensmittel Gramm Kalorien"_s, u"Gesamt 210 gr 132 kcal"_s,
                           u"Soll 1690 kcal"_s}));
@@ -306,6 +313,10 @@ void TestPlanmodulDruck::theEvaluationIsPrintedAsItLooks()
         QVERIFY2(alles.contains(text), qPrintable(text));
     }
     QCOMPARE(alles.count(u"1690"_s), 1);
+    for (const QString &text : {u"7 Tage"_s, u"0,0 kg"_s}) { // entries are plain text
+        QVERIFY2(alles.contains(text), qPrintable(text));
+    }
+    QVERIFY(!alles.contains(u"berechnen"_s)); // the button
     const QImage bild = m_druck->bild(1);
     QCOMPARE(bild.pixelColor(4, 4), QColor(Qt::white));
     QCOMPARE(bild.pixelColor(bild.width() / 2, bild.height() - 40), QColor(Qt::white));
@@ -317,6 +328,23 @@ void TestPlanmodulDruck::theEvaluationIsPrintedAsItLooks()
         }
     }
     QVERIFY(schwarz);
+}
+
+/// 22 foods and the nine rows below them take two pages of thirty.
+void TestPlanmodulDruck::everyPageOfALongListHasItsFoot()
+{
+    QList<std::pair<QString, float>> zeilen;
+    for (int i = 0; i < 22; ++i) {
+        zeilen << std::pair(u"Speise %1"_s.arg(i), 100.0F);
+    }
+    m_heim->schreibePlan(zeilen);
+    oeffne();
+    (*m_fenster)->drucken();
+    QCOMPARE(m_druck->seiten(), 2);
+    for (int seite = 1; seite <= 2; ++seite) {
+        const QString fuss = m_druck->zeilen(seite).last();
+        QVERIFY2(fuss.endsWith(u"Seite %1 von 2 Mahlberg"_s.arg(seite)), qPrintable(fuss));
+    }
 }
 
 void TestPlanmodulDruck::printingChangesNeitherPlanNorFiles()
