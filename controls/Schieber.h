@@ -53,6 +53,7 @@ protected:
 private:
     void einteilen();
     void zeigen();
+    void beschreibe();
     void reglerBewegt(int stellung);
     void zahlEingegeben(double zahl);
 

@@ -801,7 +801,11 @@ Nothing is worked out for children under 10 years; it resumes at 11 years.</tr
  </message>
  <message>
   <source>&amp;Zuletzt gewählte Lebensmittel …</source>
-  <translation>&amp;Recently chosen foods …</translation>
+  <translation>Recentl&amp;y chosen foods …</translation>
+ </message>
+ <message>
+  <source>Bedeutung der Farben, von links: %1</source>
+  <translation>Meaning of the colours, from the left: %1</translation>
  </message>
  <message>
   <source>Es gibt nichts zu wiederholen.</source>
@@ -814,6 +818,10 @@ Nothing is worked out for children under 10 years; it resumes at 11 years.</tr
  <message>
   <source>Menge von „%1“</source>
   <translation>amount of “%1”</translation>
+ </message>
+ <message>
+  <source>Mit der Tastatur: Die Eingabetaste hängt ein Objekt an. F6 wechselt zwischen hier und der Leiste; dort verschieben Alt und die Pfeiltasten, und Entf nimmt heraus.</source>
+  <translation>By keyboard: Return appends an item. F6 goes to the toolbar and back; there Alt and the arrow keys move an item, and Del takes it out.</translation>
  </message>
  <message>
   <source>Platz von „%1“</source>
@@ -1499,7 +1507,7 @@ New: %1</translation>
  </message>
  <message>
   <source>In den Mahlzeiten&amp;plan</source>
-  <translation>To the meal &amp;plan</translation>
+  <translation>To the &amp;meal plan</translation>
  </message>
  <message>
   <source>In der Datei stehen jetzt andere eigene Lebensmittel als in diesem Fenster, so wie der Plan sie kennt (%1).</source>
@@ -2169,6 +2177,10 @@ New: %1</translation>
   <translation>Cholesterol, bar</translation>
  </message>
  <message>
+  <source>D&amp;rucken …</source>
+  <translation>Pr&amp;int …</translation>
+ </message>
+ <message>
   <source>Der Verlauf erscheint, sobald Lebensmittel im Plan stehen.</source>
   <translation>The course appears as soon as there are foods in the plan.</translation>
  </message>
@@ -2213,7 +2225,7 @@ New: %1</translation>
   <translation>Energy of the plan</translation>
  </message>
  <message>
-  <source>Energie&amp;bedarf</source>
+  <source>E&amp;nergiebedarf</source>
   <translation>Energy &amp;need</translation>
  </message>
  <message>
@@ -2286,7 +2298,7 @@ New: %1</translation>
  </message>
  <message>
   <source>Nach &amp;oben</source>
-  <translation>Move &amp;up</translation>
+  <translation>Move u&amp;p</translation>
  </message>
  <message>
   <source>Nach &amp;unten</source>
@@ -2350,7 +2362,7 @@ New: %1</translation>
  </message>
  <message>
   <source>Lebensmittel &amp;entfernen</source>
-  <translation>&amp;Remove food</translation>
+  <translation>Remo&amp;ve food</translation>
  </message>
  <message>
   <source>Lebensmittel im Plan</source>
