@@ -42,6 +42,14 @@ void maleFokus(QPainter &painter, const QRect &platz, const QPalette &palette, b
 
 Fokusstil::Fokusstil() : QProxyStyle(QStringLiteral("Fusion")) {}
 
+void Fokusstil::polish(QWidget *widget)
+{
+    QProxyStyle::polish(widget);
+    if (widget->isWindow()) {
+        widget->setAttribute(Qt::WA_KeyboardFocusChange);
+    }
+}
+
 void Fokusstil::drawPrimitive(PrimitiveElement element, const QStyleOption *option,
                               QPainter *painter, const QWidget *widget) const
 {

@@ -85,6 +85,8 @@ void Fensterrunde::gehe(const Besuch &besuch)
     QTimer::singleShot(0, qApp, [&] {
         QWidget *frage = QApplication::activeModalWidget();
         QVERIFY(frage != nullptr);
+        frage->activateWindow();
+        QVERIFY(QTest::qWaitForWindowActive(frage));
         besuch(QStringLiteral("print question"), *frage);
         frage->close();
     });

@@ -8,6 +8,8 @@
 #include <QTest>
 #include <QToolButton>
 
+#include <algorithm>
+
 /// The way of the Tab key through the windows, and the toolbar's palette without the mouse.
 class TestTabfolge : public QObject
 {
@@ -44,15 +46,15 @@ QSet<QWidget *> nutzbare(const QWidget &fenster)
     return alle;
 }
 
-/// The stops of the Tab key, from the window's first one on until it comes round.
-QWidgetList gegangene(QWidget &fenster, QWidget *anfang)
+/// The stops of the Tab key, from this one on until it comes round.
+QWidgetList gegangene(QWidget *anfang)
 {
     anfang->setFocus(Qt::TabFocusReason);
     QWidgetList weg;
     while (QApplication::focusWidget() != nullptr && !weg.contains(QApplication::focusWidget()) &&
            weg.size() < 300) {
         weg << QApplication::focusWidget();
-        QTest::keyClick(&fenster, Qt::Key_Tab);
+        QTest::keyClick(QApplication::focusWidget(), Qt::Key_Tab);
     }
     return weg;
 }
@@ -105,7 +107,7 @@ void TestTabfolge::theTabKeyGoesFromTheTopLeftToTheBottomRight()
     QFETCH(QString, sprache);
     Fensterrunde runde(sprache);
     QStringList falsch;
-    runde.gehe([&](const QString &name, QWidget &fenster) {
+    runde.gehe([&](const QString &name, const QWidget &fenster) {
         QSet<QWidget *> offen = nutzbare(fenster);
         QVERIFY(!offen.isEmpty());
         QWidget *anfang = *std::min_element(offen.begin(), offen.end(), [](auto *a, auto *b) {
@@ -113,7 +115,7 @@ void TestTabfolge::theTabKeyGoesFromTheTopLeftToTheBottomRight()
             const QPoint ortB = platz(*b).topLeft();
             return std::pair(ortA.y(), ortA.x()) < std::pair(ortB.y(), ortB.x());
         });
-        const QWidgetList weg = gegangene(fenster, anfang);
+        const QWidgetList weg = gegangene(anfang);
         for (qsizetype i = 0; i < weg.size(); ++i) {
             offen.remove(weg[i]);
             if (!weg[i]->isVisible() || weg[i]->visibleRegion().isEmpty()) {
@@ -153,9 +155,14 @@ void geheZurKachel(const AppController &controller, const QString &kennung)
             QApplication::focusWidget()->objectName() == QLatin1String("kachel ") + kennung) {
             return;
         }
-        QTest::keyClick(QApplication::activeWindow(), Qt::Key_Tab);
+        QTest::keyClick(QApplication::focusWidget() != nullptr ? QApplication::focusWidget()
+                                                               : QApplication::activeWindow(),
+                        Qt::Key_Tab);
     }
-    QFAIL("no such tile");
+    QFAIL(
+        qPrintable(QStringLiteral("no such tile, but ") +
+                   (QApplication::focusWidget() != nullptr ? bezeichne(*QApplication::focusWidget())
+                                                           : QStringLiteral("nothing"))));
 }
 
 } // namespace

@@ -7,6 +7,7 @@
 #include <QAccessible>
 #include <QAccessibleWidget>
 #include <QComboBox>
+#include <QDoubleSpinBox>
 #include <QSlider>
 #include <QTabBar>
 #include <QTest>

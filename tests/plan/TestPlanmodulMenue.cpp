@@ -3,6 +3,7 @@
 #include <QApplication>
 #include <QContextMenuEvent>
 #include <QHeaderView>
+#include <QLineEdit>
 #include <QMenu>
 #include <QTest>
 
@@ -180,6 +181,10 @@ void TestPlanmodulMenue::theAmountIsChangedFromTheMenu()
 {
     klickeRechts(1);
     waehle(plan().aktionMenge);
+    plan()
+        .window()
+        ->activateWindow(); // without a desktop, the keyboard doesn't come back by itself
+    QTRY_VERIFY(qobject_cast<QLineEdit *>(QApplication::focusWidget()) != nullptr);
     QTest::keyClicks(QApplication::focusWidget(), u"75"_s);
     QTest::keyClick(QApplication::focusWidget(), Qt::Key_Return);
     QCOMPARE(plan().mengenarray, (QList<float>{10, 75, 30}));
