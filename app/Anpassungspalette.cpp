@@ -3,6 +3,7 @@
 #include "Werkzeugleiste.h"
 #include "Zeichenkettentabelle.h"
 
+#include <QAction>
 #include <QApplication>
 #include <QComboBox>
 #include <QDialogButtonBox>
@@ -86,10 +87,10 @@ Werkzeug palettenwerkzeug(Werkzeugquelle &quelle, const QString &kennung)
 {
     Werkzeug werkzeug = quelle.toolbarItem(kennung);
     if (kennung == Werkzeugleiste::space) {
-        werkzeug.palettenbeschriftung = localizedString(QStringLiteral("Leerraum"));
+        werkzeug.palettenbeschriftung = Werkzeugleiste::raumname(kennung);
         werkzeug.bild = QIcon(QStringLiteral(":/bilder/Leerraum.svg"));
     } else if (kennung == Werkzeugleiste::flexibleSpace) {
-        werkzeug.palettenbeschriftung = localizedString(QStringLiteral("Flexibler Leerraum"));
+        werkzeug.palettenbeschriftung = Werkzeugleiste::raumname(kennung);
         werkzeug.bild = QIcon(QStringLiteral(":/bilder/Flexibler Leerraum.svg"));
     }
     return werkzeug;
@@ -113,9 +114,32 @@ Anpassungspalette::Anpassungspalette(Werkzeugleiste &leiste, QWidget *parent)
         localizedString(QStringLiteral("… oder ziehen Sie den Standardsatz in die Symbolleiste. "
                                        "Was Sie aus der Leiste herausziehen, verschwindet."))));
     aufbau->addWidget(standardsatz());
+    auto *tasten = new QLabel(localizedString(QStringLiteral(
+        "Mit der Tastatur: Die Eingabetaste hängt ein Objekt an. F6 wechselt zwischen hier und der "
+        "Leiste; dort verschieben Alt und die Pfeiltasten, und Entf nimmt heraus.")));
+    tasten->setWordWrap(true);
+    aufbau->addWidget(tasten);
     aufbau->addWidget(fusszeile());
+    erlaubeWechsel();
     m_leiste.setAnpassbar(true);
     connect(this, &QDialog::finished, this, [this] { m_leiste.setAnpassbar(false); });
+}
+
+/// One key goes to and fro, from wherever the keyboard is in the two windows.
+void Anpassungspalette::erlaubeWechsel()
+{
+    auto *wechsel = new QAction(this);
+    wechsel->setShortcut(QKeySequence(Qt::Key_F6));
+    addAction(wechsel);
+    m_leiste.window()->addAction(wechsel);
+    connect(wechsel, &QAction::triggered, this, [this] {
+        if (isActiveWindow()) {
+            m_leiste.window()->activateWindow();
+            m_leiste.nimmTastatur(0);
+        } else {
+            activateWindow();
+        }
+    });
 }
 
 QWidget *Anpassungspalette::kacheln()

@@ -15,6 +15,7 @@ public:
     Anpassungspalette(Werkzeugleiste &leiste, QWidget *parent);
 
 private:
+    void erlaubeWechsel();
     QWidget *kacheln();
     QWidget *standardsatz();
     QWidget *fusszeile();

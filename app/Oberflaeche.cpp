@@ -7,8 +7,27 @@
 
 #include <QApplication>
 #include <QLocale>
+#include <QTabBar>
 
 namespace {
+
+/// Lets the Tab key go through a page behind this widget. Pages that were made for themselves would
+/// else come last, behind what stands below them.
+void reiheEin(QWidget *davor, const QWidget &seite)
+{
+    QWidgetList halte;
+    for (QWidget *feld = davor->nextInFocusChain(); feld != davor;
+         feld = feld->nextInFocusChain()) {
+        if (seite.isAncestorOf(feld) && (feld->focusPolicy() & Qt::TabFocus) != 0 &&
+            feld->focusProxy() == nullptr) {
+            halte << feld;
+        }
+    }
+    for (QWidget *halt : std::as_const(halte)) {
+        QWidget::setTabOrder(davor, halt);
+        davor = halt;
+    }
+}
 
 Anthrotueren anthrotueren(const Tueren &tueren)
 {
@@ -51,6 +70,9 @@ Oberflaeche::Oberflaeche(const Tueren &tueren)
     ansage.beachte(*tueren.einstellungen);
     Rollbereich::fuelle(*hauptfenster.tabVier, rechner.koerperseite);
     Rollbereich::fuelle(*hauptfenster.tabFuenf, rechner.lebensweiseseite);
+    QWidget *reiter = hauptfenster.DatenAnsicht->tabBar();
+    reiheEin(reiter, *hauptfenster.tabVier);
+    reiheEin(reiter, *hauptfenster.tabFuenf);
 }
 
 void Oberflaeche::awakeFromNib()

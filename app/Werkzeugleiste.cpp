@@ -1,6 +1,7 @@
 #include "Werkzeugleiste.h"
 
 #include "Einstellungen.h"
+#include "Fokusstil.h"
 #include "Zeichenkettentabelle.h"
 
 #include <QApplication>
@@ -26,6 +27,22 @@ bool istRaum(const QString &kennung)
 {
     return kennung == Werkzeugleiste::space || kennung == Werkzeugleiste::flexibleSpace;
 }
+
+/// Room between the items. It is nothing to look at before the keyboard works on it.
+class Raum : public QWidget
+{
+public:
+    using QWidget::QWidget;
+
+protected:
+    void paintEvent(QPaintEvent * /*event*/) override
+    {
+        if (hasFocus()) {
+            QPainter painter(this);
+            maleFokus(painter, rect(), palette());
+        }
+    }
+};
 
 } // namespace
 
@@ -138,7 +155,18 @@ void Werkzeugleiste::setAnpassbar(bool anpassbar)
 {
     m_anpassbar = anpassbar;
     setAcceptDrops(anpassbar);
+    for (int i = 0; i < m_felder.size(); ++i) {
+        if (istRaum(m_kennungen[i])) {
+            m_felder[i]->setFocusPolicy(anpassbar ? Qt::TabFocus : Qt::NoFocus);
+        }
+    }
     update();
+}
+
+QString Werkzeugleiste::raumname(const QString &kennung)
+{
+    return localizedString(kennung == flexibleSpace ? QStringLiteral("Flexibler Leerraum")
+                                                    : QStringLiteral("Leerraum"));
 }
 
 QWidget *Werkzeugleiste::werkzeugfeld(int stelle) const
@@ -181,7 +209,9 @@ void Werkzeugleiste::aufbauen()
 QWidget *Werkzeugleiste::feldFuer(const QString &kennung)
 {
     if (istRaum(kennung)) {
-        auto *raum = new QWidget(this);
+        auto *raum = new Raum(this);
+        raum->setAccessibleName(raumname(kennung));
+        raum->setFocusPolicy(m_anpassbar ? Qt::TabFocus : Qt::NoFocus);
         raum->setMinimumWidth(raumbreite);
         raum->setSizePolicy(kennung == flexibleSpace ? QSizePolicy::Expanding : QSizePolicy::Fixed,
                             QSizePolicy::Preferred);
@@ -338,9 +368,7 @@ bool Werkzeugleiste::eventFilter(QObject *watched, QEvent *event)
     case QEvent::MouseButtonDblClick:
         return true;
     case QEvent::KeyPress: {
-        const int taste = static_cast<QKeyEvent *>(event)->key();
-        if (taste == Qt::Key_Delete || taste == Qt::Key_Backspace) {
-            entfernen(static_cast<int>(stelle));
+        if (nimmTaste(*static_cast<QKeyEvent *>(event), static_cast<int>(stelle))) {
             return true;
         }
         break;
@@ -349,6 +377,50 @@ bool Werkzeugleiste::eventFilter(QObject *watched, QEvent *event)
         break;
     }
     return QToolBar::eventFilter(watched, event);
+}
+
+/// While customising, an item's own action rests for the keyboard too.
+bool Werkzeugleiste::nimmTaste(const QKeyEvent &taste, int stelle)
+{
+    const bool versetzt = taste.modifiers().testFlag(Qt::AltModifier);
+    switch (taste.key()) {
+    case Qt::Key_Left:
+    case Qt::Key_Right: {
+        const int um = taste.key() == Qt::Key_Left ? -1 : 1;
+        if (versetzt) {
+            verschieben(stelle, um);
+        } else {
+            nimmTastatur(std::max(0, stelle + um));
+        }
+        return true;
+    }
+    case Qt::Key_Delete:
+    case Qt::Key_Backspace:
+        entfernen(stelle);
+        nimmTastatur(stelle);
+        return true;
+    default:
+        return taste.key() == Qt::Key_Space || taste.key() == Qt::Key_Return ||
+               taste.key() == Qt::Key_Enter;
+    }
+}
+
+void Werkzeugleiste::verschieben(int stelle, int um)
+{
+    const int ziel = stelle + um;
+    if (ziel >= 0 && ziel < m_kennungen.size()) {
+        QStringList neu = m_kennungen;
+        neu.move(stelle, ziel);
+        setKennungen(neu);
+        nimmTastatur(ziel);
+    }
+}
+
+void Werkzeugleiste::nimmTastatur(int stelle)
+{
+    if (!m_felder.isEmpty()) {
+        m_felder[std::min<qsizetype>(stelle, m_felder.size() - 1)]->setFocus(Qt::TabFocusReason);
+    }
 }
 
 /// An item that is dropped beside the bar leaves it.

@@ -69,11 +69,19 @@ public:
     /// Picture and text, picture only, or text only; kept like the arrangement.
     void setDarstellung(Qt::ToolButtonStyle stil);
 
-    /// While the bar is being customised its items are dragged instead of pressed.
+    /// While the bar is being customised its items are dragged instead of pressed. By the keyboard
+    /// they are walked through with the arrow keys, moved with Alt and an arrow, and taken out with
+    /// Delete; room is reached too then.
     void setAnpassbar(bool anpassbar);
     bool istAnpassbar() const { return m_anpassbar; }
 
     Werkzeugquelle &quelle() const { return m_quelle; }
+
+    /// What a kind of room is called; it has no label in the bar.
+    static QString raumname(const QString &kennung);
+
+    /// Gives the keyboard to the item at this place, or to the last one; to none in an empty bar.
+    void nimmTastatur(int stelle);
 
     /// The widget of the item at this place.
     QWidget *werkzeugfeld(int stelle) const;
@@ -104,6 +112,8 @@ private:
     void merkeSichtbarkeit(bool sichtbar);
     void zeigeEinfuegestelle(int stelle);
     void zieheHeraus(int stelle);
+    bool nimmTaste(const QKeyEvent &taste, int stelle);
+    void verschieben(int stelle, int um);
 
     QString m_kennung;
     Werkzeugquelle &m_quelle;

@@ -1,6 +1,7 @@
 #include "Einstellungen.h"
 #include "Erscheinungsbild.h"
 #include "Fensterplatz.h"
+#include "Fokusstil.h"
 #include "Oberflaeche.h"
 #include "Rundgang.h"
 #include "Schreibtisch.h"
@@ -13,7 +14,6 @@
 #include <QFile>
 #include <QFileInfo>
 #include <QLoggingCategory>
-#include <QStyleFactory>
 #include <QTemporaryDir>
 
 #include <memory>
@@ -66,7 +66,7 @@ int main(int argc, char **argv)
 {
     // Settings and file dialogs look for the home folder by themselves: it shall be the same one.
     qputenv("HOME", QFile::encodeName(heimatordner()));
-    QApplication::setStyle(QStyleFactory::create(QStringLiteral("Fusion")));
+    QApplication::setStyle(new Fokusstil);
     QApplication app(argc, argv);
     QApplication::setApplicationName(QStringLiteral("Mahlberg"));
     QApplication::setOrganizationName(QStringLiteral("Mahlberg"));

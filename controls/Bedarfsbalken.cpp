@@ -1,5 +1,7 @@
 #include "Bedarfsbalken.h"
 
+#include "Bildzugang.h"
+
 #include <QCoreApplication>
 #include <QGuiApplication>
 #include <QPainter>
@@ -52,6 +54,7 @@ int breitestesZeichen(const QFontMetrics &schrift)
 Bedarfsbalken::Bedarfsbalken(QWidget *parent) : QWidget(parent)
 {
     setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Preferred);
+    QAccessible::installFactory(Bildzugang<Bedarfsbalken>::zugangZu); // Qt keeps one entry for it
 }
 
 void Bedarfsbalken::setGrenze(int prozent)
@@ -63,13 +66,7 @@ void Bedarfsbalken::setGrenze(int prozent)
 
 void Bedarfsbalken::zeige(int prozent, Textfarbe farbe)
 {
-    if (farbe != m_farbe) { // what is read out changes with the verdict only
-        m_farbe = farbe;
-        const Verdikt *verdikt = verdiktIn(farbe);
-        setAccessibleDescription(verdikt != nullptr
-                                     ? QCoreApplication::translate("Mahlberg", verdikt->wort)
-                                     : QString());
-    }
+    m_farbe = farbe;
     m_prozent = prozent;
     update();
 }
@@ -88,6 +85,17 @@ QString Bedarfsbalken::zeichen() const
 QString Bedarfsbalken::grenztext() const
 {
     return QCoreApplication::translate("Mahlberg", "ab %1 %").arg(m_grenze);
+}
+
+QString Bedarfsbalken::beschreibung() const
+{
+    const Verdikt *verdikt = verdiktIn(m_farbe);
+    const QString anteil = QStringLiteral("%1 %").arg(m_prozent);
+    return verdikt == nullptr
+               ? anteil
+               : QStringLiteral("%1, %2 (%3)")
+                     .arg(anteil, QCoreApplication::translate("Mahlberg", verdikt->wort),
+                          grenztext());
 }
 
 QFont Bedarfsbalken::kleineSchrift() const

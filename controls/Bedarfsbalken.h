@@ -28,6 +28,8 @@ public:
     QString zeichen() const;
     /// "ab 10 %", in the user's language.
     QString grenztext() const;
+    /// For those who can't see it: "12 %, verfehlt (ab 10 %)", in the user's language.
+    QString beschreibung() const;
 
     QSize sizeHint() const override;
     QSize minimumSizeHint() const override;

@@ -1,5 +1,8 @@
 #include "Farblegende.h"
 
+#include "Bildzugang.h"
+
+#include <QCoreApplication>
 #include <QPainter>
 
 namespace {
@@ -13,18 +16,30 @@ constexpr int luecke = 16;
 Farblegende::Farblegende(QWidget *parent) : QWidget(parent)
 {
     setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Fixed);
+    QAccessible::installFactory(Bildzugang<Farblegende>::zugangZu); // Qt keeps one entry for it
 }
 
 void Farblegende::setEintraege(const QList<Eintrag> &eintraege)
 {
     m_eintraege = eintraege;
-    QStringList worte;
-    for (const Eintrag &eintrag : eintraege) {
-        worte << eintrag.text;
-    }
-    setAccessibleName(worte.join(QStringLiteral(", ")));
+    setAccessibleName(worte());
     updateGeometry();
     update();
+}
+
+QString Farblegende::worte() const
+{
+    QStringList worte;
+    for (const Eintrag &eintrag : m_eintraege) {
+        worte << eintrag.text;
+    }
+    return worte.join(QStringLiteral(", "));
+}
+
+QString Farblegende::beschreibung() const
+{
+    return QCoreApplication::translate("Mahlberg", "Bedeutung der Farben, von links: %1")
+        .arg(worte());
 }
 
 int Farblegende::breite(const Eintrag &eintrag) const

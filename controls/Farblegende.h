@@ -20,6 +20,8 @@ public:
 
     void setEintraege(const QList<Eintrag> &eintraege);
     const QList<Eintrag> &eintraege() const { return m_eintraege; }
+    /// For those who can't see the colours: which of them stands for what.
+    QString beschreibung() const;
 
     QSize sizeHint() const override;
     QSize minimumSizeHint() const override;
@@ -28,6 +30,7 @@ protected:
     void paintEvent(QPaintEvent *event) override;
 
 private:
+    QString worte() const;
     int breite(const Eintrag &eintrag) const;
 
     QList<Eintrag> m_eintraege;

@@ -178,6 +178,16 @@ void Schieber::zeigen()
     m_regler->setValue(static_cast<int>(std::lround(schritte)));
     m_eingabe->setRange(std::min(m_minimum, zahl), std::max(m_maximum, zahl));
     m_eingabe->setValue(zahl);
+    beschreibe();
+}
+
+/// By itself the slider would be read out as the number of its step. One that can't be used says
+/// why instead.
+void Schieber::beschreibe()
+{
+    if (m_regler->isEnabled()) {
+        m_regler->setAccessibleDescription(m_eingabe->text());
+    }
 }
 
 double Schieber::gezeigteZahl() const
@@ -221,6 +231,9 @@ bool Schieber::event(QEvent *event)
         // Those who can't see the two controls hear their names, not the name of their frame.
         m_regler->setAccessibleName(accessibleName());
         m_eingabe->setAccessibleName(accessibleName());
+    }
+    if (event->type() == QEvent::EnabledChange) {
+        beschreibe();
     }
     return QWidget::event(event);
 }

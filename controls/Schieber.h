@@ -57,6 +57,7 @@ private:
     void einteilen();
     void zeigen();
     double gezeigteZahl() const;
+    void beschreibe();
     void reglerBewegt(int stellung);
     void zahlEingegeben(double zahl);
 

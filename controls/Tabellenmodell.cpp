@@ -23,6 +23,11 @@ std::optional<int> Tabellenquelle::validateDrop(int, bool)
 
 void Tabellenquelle::acceptDrop(int, const QString &) {}
 
+QString Tabellenquelle::zeilenname(int zeile)
+{
+    return QString::number(zeile + 1);
+}
+
 void Tabellenmodell::setQuelle(Tabellenquelle *quelle, const QList<Spalte> &spalten)
 {
     beginResetModel();
@@ -148,8 +153,13 @@ bool Tabellenmodell::setData(const QModelIndex &index, const QVariant &wert, int
     return true;
 }
 
+/// No row shows its name; a screen reader asks for it here.
 QVariant Tabellenmodell::headerData(int section, Qt::Orientation orientation, int role) const
 {
+    if (orientation == Qt::Vertical && role == Qt::DisplayRole && m_quelle != nullptr &&
+        section >= 0 && section < m_zeilen) {
+        return m_quelle->zeilenname(section);
+    }
     if (orientation != Qt::Horizontal || section < 0 || section >= m_spalten.size()) {
         return {};
     }

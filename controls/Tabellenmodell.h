@@ -43,6 +43,9 @@ public:
     /// The value of a cell; null where there is none.
     virtual QString objectValue(const QString &spalte, int zeile) = 0;
 
+    /// What the row is called for those who can't see it. By default its number from the top.
+    virtual QString zeilenname(int zeile);
+
     /// How the cell is painted, given its value. By default the value as plain text.
     virtual Zellenbild willDisplayCell(const QString &spalte, int zeile, const QString &wert);
 

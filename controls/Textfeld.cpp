@@ -1,5 +1,7 @@
 #include "Textfeld.h"
 
+#include "Fokusstil.h"
+
 #include <QCoreApplication>
 #include <QEvent>
 #include <QFocusEvent>
@@ -265,9 +267,7 @@ void Textfeld::paintEvent(QPaintEvent *event)
     Zahlenzeile::paintEvent(event);
     if (m_erreichbar && !m_editable && hasFocus()) {
         QPainter painter(this);
-        painter.setRenderHint(QPainter::Antialiasing);
-        painter.setPen(palette().color(QPalette::Highlight)); // as around an entry
-        painter.drawRoundedRect(QRectF(rect()).adjusted(0.5, 0.5, -0.5, -0.5), 2, 2);
+        maleFokus(painter, rect(), palette()); // as around an entry
     }
 }
 

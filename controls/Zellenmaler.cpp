@@ -1,5 +1,6 @@
 #include "Zellenmaler.h"
 
+#include "Fokusstil.h"
 #include "Tabellenansicht.h"
 
 #include <QHelpEvent>
@@ -35,12 +36,6 @@ void maleEingabefeld(QPainter &painter, const QStyleOptionViewItem &option)
     painter.setBrush(Qt::NoBrush);
 }
 
-void maleTastaturmarke(QPainter &painter, const QStyleOptionViewItem &option)
-{
-    painter.setPen(QPen(option.palette.color(QPalette::Highlight), 1, Qt::DotLine));
-    painter.drawRect(option.rect.adjusted(1, 1, -3, -3));
-}
-
 } // namespace
 
 Zellenmaler::Zellenmaler(Tabellenansicht *tabelle)
@@ -65,8 +60,11 @@ void Zellenmaler::paint(QPainter *painter, const QStyleOptionViewItem &option,
         maleRand(*painter, option);
     }
     maleText(*painter, option, bild, index);
-    if ((option.state & QStyle::State_HasFocus) != 0 && !bild.umrandet) {
-        maleTastaturmarke(*painter, option);
+    if ((option.state & QStyle::State_HasFocus) != 0) {
+        // Within the border of the chosen cell, which stays when the keyboard goes.
+        const int rand = bild.umrandet ? 4 : 1;
+        maleFokus(*painter, option.rect.adjusted(rand, rand, -rand - 1, -rand - 1), option.palette,
+                  istGewaehlt(option) && !istBearbeitbar(index));
     }
     painter->restore();
 }

@@ -127,12 +127,7 @@ void Planmodul::verbinde()
     connect(aktionHoch, &QAction::triggered, this, [this] { Lebensmittelverschieben(-1); });
     connect(aktionRunter, &QAction::triggered, this, [this] { Lebensmittelverschieben(1); });
     connect(aktionSpalten, &QAction::triggered, this, &Planmodul::Spaltenanpassen);
-    for (QWidget *flaeche :
-         std::initializer_list<QWidget *>{PlanTabelle, PlanTabelle->horizontalHeader()}) {
-        flaeche->setContextMenuPolicy(Qt::CustomContextMenu);
-        connect(flaeche, &QWidget::customContextMenuRequested, this,
-                [this, flaeche](QPoint ort) { zeigeTabellenmenue(flaeche->mapToGlobal(ort)); });
-    }
+    verbindeTabellenmenue();
     connect(aktionRueckgaengig, &QAction::triggered, this, &Planmodul::zuruecknehmenGewuenscht);
     connect(aktionWiederholen, &QAction::triggered, this, &Planmodul::wiederholenGewuenscht);
     connect(druckknopf, &QPushButton::clicked, this, &Planmodul::druckenentscheidung);

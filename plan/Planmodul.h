@@ -159,10 +159,12 @@ private:
     void beschrifteTabelle();
     void stelleBreiten();
     void merkeBreite(int spalte);
-    void zeigeTabellenmenue(const QPoint &ort);
+    void verbindeTabellenmenue();
+    void zeigeTabellenmenue(int zeile, const QPoint &ort);
     void reloadData();
     int numberOfRows() const override;
     QString objectValue(const QString &spalte, int zeile) override;
+    QString zeilenname(int zeile) override;
     Zellenbild willDisplayCell(const QString &spalte, int zeile, const QString &wert) override;
     QString writeRows(const QString &spalte, int zeile) override;
     void setObjectValue(const QString &spalte, int zeile, const QString &text) override;

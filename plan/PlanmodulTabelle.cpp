@@ -12,6 +12,7 @@
 #include <QMenu>
 #include <QScopedValueRollback>
 #include <QSettings>
+#include <QShortcut>
 #include <QStyle>
 
 #include <algorithm>
@@ -159,10 +160,51 @@ void Planmodul::Spaltenanpassen()
     }
 }
 
-void Planmodul::zeigeTabellenmenue(const QPoint &ort)
+/// The menu key belongs to the row on which the keyboard works, wherever the mouse lies. Not every
+/// desktop has such a key, and not every one takes Shift+F10 for it.
+void Planmodul::verbindeTabellenmenue()
+{
+    QHeaderView *kopf = PlanTabelle->horizontalHeader();
+    for (QWidget *flaeche : std::initializer_list<QWidget *>{PlanTabelle, kopf}) {
+        flaeche->setContextMenuPolicy(Qt::CustomContextMenu);
+    }
+    connect(kopf, &QWidget::customContextMenuRequested, this, [this, kopf](QPoint ort) {
+        zeigeTabellenmenue(-1, kopf->viewport()->mapToGlobal(ort));
+    });
+    connect(PlanTabelle, &QWidget::customContextMenuRequested, this, [this](QPoint ort) {
+        zeigeTabellenmenue(PlanTabelle->rowAt(ort.y()), PlanTabelle->viewport()->mapToGlobal(ort));
+    });
+    for (const char *tasten : {"Menu", "Shift+F10"}) {
+        auto *taste = new QShortcut(QKeySequence(QLatin1String(tasten)), PlanTabelle, nullptr,
+                                    nullptr, Qt::WidgetShortcut);
+        connect(taste, &QShortcut::activated, this, [this] {
+            PlanTabelle->scrollTo(PlanTabelle->currentIndex());
+            const QRect zelle = PlanTabelle->visualRect(PlanTabelle->currentIndex());
+            zeigeTabellenmenue(PlanTabelle->currentIndex().row(),
+                               PlanTabelle->viewport()->mapToGlobal(zelle.center()));
+        });
+    }
+}
+
+/// What can be done with the row, which is selected so that one sees which it is. Below all rows,
+/// and on the headings, only what concerns the whole table.
+void Planmodul::zeigeTabellenmenue(int zeile, const QPoint &ort)
 {
     auto *menue = new QMenu(PlanTabelle);
     menue->setAttribute(Qt::WA_DeleteOnClose);
+    if (zeile >= 0 && zeile < PlanTabelle->model()->rowCount()) {
+        beendeEingabe();
+        PlanTabelle->selectRow(zeile);
+        menue->addActions({aktionMenge, aktionEntfernen});
+        menue->addSeparator();
+        if (zeile > 0) {
+            menue->addAction(aktionHoch);
+        }
+        if (zeile + 1 < PlanTabelle->model()->rowCount()) {
+            menue->addAction(aktionRunter);
+        }
+        menue->addSeparator();
+    }
     menue->addAction(aktionSpalten);
     menue->popup(ort);
 }
@@ -210,6 +252,12 @@ QString Planmodul::objectValue(const QString &spalte, int zeile)
     }
     const auto *wertung = wertungVon(spalte);
     return wertung != nullptr ? eintrag->wertung(wertung->wertung) : QString();
+}
+
+/// The food's name, also of one that is in no table any more.
+QString Planmodul::zeilenname(int zeile)
+{
+    return localizedString(m_gezeigteNamen.value(zeile));
 }
 
 Zellenbild Planmodul::willDisplayCell(const QString &spalte, int zeile, const QString &wert)

@@ -52,6 +52,11 @@ Zellenbild Summenzeilen::willDisplayCell(const QString &spalte, int zeile, const
     return bild;
 }
 
+QString Summenzeilen::zeilenname(int zeile)
+{
+    return objectValue(QStringLiteral("name"), zeile);
+}
+
 QString Summenzeilen::summenwort() const
 {
     const QString summe = localizedString(QStringLiteral("Summe"));

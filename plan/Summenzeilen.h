@@ -14,6 +14,7 @@ public:
 
     int numberOfRows() const override;
     QString objectValue(const QString &spalte, int zeile) override;
+    QString zeilenname(int zeile) override;
     Zellenbild willDisplayCell(const QString &spalte, int zeile, const QString &wert) override;
 
 private:

@@ -865,7 +865,11 @@ Nothing is worked out for children under 10 years; it resumes at 11 years.</tr
  </message>
  <message>
   <source>&amp;Zuletzt gewählte Lebensmittel …</source>
-  <translation>&amp;Recently chosen foods …</translation>
+  <translation>Recentl&amp;y chosen foods …</translation>
+ </message>
+ <message>
+  <source>Bedeutung der Farben, von links: %1</source>
+  <translation>Meaning of the colours, from the left: %1</translation>
  </message>
  <message>
   <source>Die Zeile „%1“ steht für kein Lebensmittel und kommt nicht in den Plan.</source>
@@ -894,6 +898,10 @@ Nothing is worked out for children under 10 years; it resumes at 11 years.</tr
  <message>
   <source>Menge: rechts einstellen.</source>
   <translation>Amount: set it on the right.</translation>
+ </message>
+ <message>
+  <source>Mit der Tastatur: Die Eingabetaste hängt ein Objekt an. F6 wechselt zwischen hier und der Leiste; dort verschieben Alt und die Pfeiltasten, und Entf nimmt heraus.</source>
+  <translation>By keyboard: Return appends an item. F6 goes to the toolbar and back; there Alt and the arrow keys move an item, and Del takes it out.</translation>
  </message>
  <message>
   <source>Nächster: %1, vorheriger: %2</source>
@@ -2293,6 +2301,10 @@ New: %1</translation>
   <translation>Cholesterol, bar</translation>
  </message>
  <message>
+  <source>D&amp;rucken …</source>
+  <translation>Pr&amp;int …</translation>
+ </message>
+ <message>
   <source>Der Verlauf erscheint, sobald Lebensmittel im Plan stehen.</source>
   <translation>The course appears as soon as there are foods in the plan.</translation>
  </message>
@@ -2311,6 +2323,10 @@ New: %1</translation>
  <message>
   <source>Diabetes, ungeeignete Lebensmittel</source>
   <translation>Diabetes, unsuitable foods</translation>
+ </message>
+ <message>
+  <source>E&amp;nergiebedarf</source>
+  <translation>Energy &amp;need</translation>
  </message>
  <message>
   <source>Eisen</source>
@@ -2335,10 +2351,6 @@ New: %1</translation>
  <message>
   <source>Energie im Plan</source>
   <translation>Energy of the plan</translation>
- </message>
- <message>
-  <source>Energie&amp;bedarf</source>
-  <translation>Energy &amp;need</translation>
  </message>
  <message>
   <source>Energie, Anteil am Tagesbedarf</source>
@@ -2410,7 +2422,7 @@ New: %1</translation>
  </message>
  <message>
   <source>Nach &amp;oben</source>
-  <translation>Move &amp;up</translation>
+  <translation>Move u&amp;p</translation>
  </message>
  <message>
   <source>Nach &amp;unten</source>
@@ -2474,7 +2486,7 @@ New: %1</translation>
  </message>
  <message>
   <source>Lebensmittel &amp;entfernen</source>
-  <translation>&amp;Remove food</translation>
+  <translation>Remo&amp;ve food</translation>
  </message>
  <message>
   <source>Lebensmittel im Plan</source>

@@ -330,7 +330,10 @@ void TestTabelleneingabe::theHeadingExplainsItself()
     QVERIFY(!modell.headerData(0, Qt::Horizontal, Qt::ToolTipRole).isValid());
     QVERIFY(!modell.headerData(0, Qt::Horizontal, Tabellenmodell::kurztitelrolle).isValid());
     QVERIFY(!modell.headerData(7, Qt::Horizontal, Qt::DisplayRole).isValid());
-    QVERIFY(!modell.headerData(0, Qt::Vertical, Qt::DisplayRole).isValid());
+    // Rows show no heading, but are read out by their number where they have no better name.
+    QCOMPARE(modell.headerData(0, Qt::Vertical, Qt::DisplayRole).toString(), u"1"_s);
+    QVERIFY(!modell.headerData(modell.rowCount(), Qt::Vertical, Qt::DisplayRole).isValid());
+    QVERIFY(m_tabelle->verticalHeader()->isHidden());
 }
 
 QTEST_MAIN(TestTabelleneingabe)

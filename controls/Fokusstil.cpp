@@ -1,0 +1,93 @@
+#include "Fokusstil.h"
+
+#include <QAbstractItemView>
+#include <QAbstractSpinBox>
+#include <QComboBox>
+#include <QPainter>
+#include <QStyleOption>
+
+namespace {
+
+constexpr int rahmenbreite = 2;
+
+bool hatTastatur(const QStyleOption &option)
+{
+    constexpr QStyle::State beides = QStyle::State_HasFocus | QStyle::State_Enabled;
+    return (option.state & beides) == beides;
+}
+
+/// The line to type into within another control, which has the frame around both.
+bool istInnenzeile(const QWidget *widget)
+{
+    const QWidget *mutter = widget != nullptr ? widget->parentWidget() : nullptr;
+    return qobject_cast<const QComboBox *>(mutter) != nullptr ||
+           qobject_cast<const QAbstractSpinBox *>(mutter) != nullptr;
+}
+
+bool istTabelle(const QWidget *widget)
+{
+    return qobject_cast<const QAbstractItemView *>(widget) != nullptr;
+}
+
+} // namespace
+
+void maleFokus(QPainter &painter, const QRect &platz, const QPalette &palette, bool aufAkzent)
+{
+    const QRect innen = platz.adjusted(rahmenbreite, rahmenbreite, -rahmenbreite, -rahmenbreite);
+    const QColor farbe = palette.color(aufAkzent ? QPalette::HighlightedText : QPalette::Highlight);
+    for (const QRect &strich : QRegion(platz).subtracted(innen)) {
+        painter.fillRect(strich, farbe);
+    }
+}
+
+Fokusstil::Fokusstil() : QProxyStyle(QStringLiteral("Fusion")) {}
+
+void Fokusstil::polish(QWidget *widget)
+{
+    QProxyStyle::polish(widget);
+    if (widget->isWindow()) {
+        widget->setAttribute(Qt::WA_KeyboardFocusChange);
+    }
+}
+
+void Fokusstil::drawPrimitive(PrimitiveElement element, const QStyleOption *option,
+                              QPainter *painter, const QWidget *widget) const
+{
+    if (element == PE_FrameFocusRect) {
+        const auto *grund = qstyleoption_cast<const QStyleOptionFocusRect *>(option);
+        maleFokus(*painter, option->rect, option->palette,
+                  grund != nullptr && istTabelle(widget) &&
+                      grund->backgroundColor == option->palette.color(QPalette::Highlight));
+        return;
+    }
+    QProxyStyle::drawPrimitive(element, option, painter, widget);
+    if (element == PE_PanelLineEdit && hatTastatur(*option) && !istInnenzeile(widget)) {
+        maleFokus(*painter, option->rect, option->palette);
+    }
+}
+
+void Fokusstil::drawControl(ControlElement element, const QStyleOption *option, QPainter *painter,
+                            const QWidget *widget) const
+{
+    QProxyStyle::drawControl(element, option, painter, widget);
+    if (element == CE_ShapedFrame && hatTastatur(*option)) { // lists, tables and texts
+        maleFokus(*painter, option->rect, option->palette);
+    }
+}
+
+void Fokusstil::drawComplexControl(ComplexControl control, const QStyleOptionComplex *option,
+                                   QPainter *painter, const QWidget *widget) const
+{
+    QProxyStyle::drawComplexControl(control, option, painter, widget);
+    if ((control == CC_SpinBox || control == CC_ComboBox) && hatTastatur(*option)) {
+        maleFokus(*painter, option->rect, option->palette);
+    }
+}
+
+int Fokusstil::pixelMetric(PixelMetric metric, const QStyleOption *option,
+                           const QWidget *widget) const
+{
+    return metric == PM_DefaultFrameWidth && istTabelle(widget)
+               ? rahmenbreite
+               : QProxyStyle::pixelMetric(metric, option, widget);
+}

@@ -1,0 +1,110 @@
+#include "Fensterrunde.h"
+
+#include "Ueber.h"
+
+#include <QApplication>
+#include <QLineEdit>
+#include <QTabBar>
+#include <QTest>
+#include <QTimer>
+
+Fensterrunde::Fensterrunde(const QString &sprache) : m_sprache(sprache)
+{
+    Planmodul::klient = {};
+    m_heim.schreibeTabelle(zaehltabelle(5));
+    m_heim.schreibeEigene(verzeichnis({lebensmittel(QStringLiteral("Eigenes"))}));
+    m_sprache.sprich(sprache); // the home has a desk of its own
+    m_fenster = std::make_unique<Probefenster>(m_heim);
+    m_fenster->klicke(2, inName);
+    (*m_fenster)->Planmoduloeffnen();
+    for (int zeile = 0; zeile < 3; ++zeile) {
+        (*m_fenster)->planmodul->nameimportvontoolbar(zaehlname(zeile));
+    }
+}
+
+void Fensterrunde::geheDurchsHauptfenster(const Besuch &besuch)
+{
+    AppController &controller = m_fenster->controller();
+    QMainWindow &haupt = *controller.Hauptfenster;
+    haupt.activateWindow();
+    QVERIFY(QTest::qWaitForWindowActive(&haupt));
+    for (int i = 0; i < controller.DatenAnsicht->count(); ++i) {
+        controller.DatenAnsicht->setCurrentIndex(i);
+        QCoreApplication::processEvents();
+        besuch(QStringLiteral("main ") + AppController::ansichten[i], haupt);
+    }
+    controller.SichernFensterAuf();
+    QCoreApplication::processEvents();
+    besuch(QStringLiteral("main, saving"), haupt);
+    controller.SichernFensterAuf();
+    controller.profilaufzu->click();
+    QCoreApplication::processEvents();
+    besuch(QStringLiteral("main, profile"), haupt);
+    controller.profilaufzu->click();
+}
+
+/// Opens a window of this class and closes it again.
+void Fensterrunde::oeffne(const char *klasse, const QString &name,
+                          const std::function<void()> &oeffner, const Besuch &besuch)
+{
+    oeffner();
+    QCoreApplication::processEvents();
+    for (QWidget *fenster : QApplication::topLevelWidgets()) {
+        if (fenster->isVisible() && fenster->inherits(klasse)) {
+            fenster->activateWindow();
+            QVERIFY(QTest::qWaitForWindowActive(fenster));
+            besuch(name, *fenster);
+            fenster->close();
+            QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+            return;
+        }
+    }
+    QFAIL(qPrintable(QStringLiteral("no window: ") + name));
+}
+
+void Fensterrunde::gehe(const Besuch &besuch)
+{
+    AppController &controller = m_fenster->controller();
+    geheDurchsHauptfenster(besuch);
+    QMainWindow &plan = *controller.planmodul->window();
+    plan.activateWindow();
+    QVERIFY(QTest::qWaitForWindowActive(&plan));
+    besuch(QStringLiteral("plan"), plan);
+    oeffne(
+        "QDialog", QStringLiteral("own food"), [&] { controller.Fenster(); }, besuch);
+    oeffne(
+        "Sicherungsfenster", QStringLiteral("states"),
+        [&] { Q_EMIT controller.fruehereStaendeGewuenscht(); }, besuch);
+    oeffne(
+        "Anpassungspalette", QStringLiteral("palette"), [&] { controller.Leisteanpassen(); },
+        besuch);
+    oeffne(
+        "QDialog", QStringLiteral("about"), [&] { zeigeUeber(controller.Hauptfenster); }, besuch);
+    m_heim.antworten << -1;
+    controller.planmodul->druckenentscheidung();
+    QTimer::singleShot(0, qApp, [&] {
+        QWidget *frage = QApplication::activeModalWidget();
+        QVERIFY(frage != nullptr);
+        frage->activateWindow();
+        QVERIFY(QTest::qWaitForWindowActive(frage));
+        besuch(QStringLiteral("print question"), *frage);
+        frage->close();
+    });
+    zeigeMeldung(&plan, m_heim.meldungen.takeLast());
+}
+
+bool istVonQt(const QWidget &widget)
+{
+    const QWidget *mutter = widget.parentWidget();
+    return widget.objectName().startsWith(QLatin1String("qt_")) ||
+           widget.inherits("QTableCornerButton") || widget.inherits("QToolBarExtension") ||
+           qobject_cast<const QTabBar *>(mutter) != nullptr ||
+           qobject_cast<const QLineEdit *>(mutter) != nullptr ||
+           (mutter != nullptr &&
+            (mutter->inherits("QAbstractSpinBox") || mutter->inherits("QComboBox")));
+}
+
+QString bezeichne(const QWidget &widget)
+{
+    return QLatin1String(widget.metaObject()->className()) + QLatin1Char(' ') + widget.objectName();
+}

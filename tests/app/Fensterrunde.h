@@ -1,0 +1,40 @@
+#pragma once
+
+#include "Probefenster.h"
+#include "Sprache.h"
+
+#include <functional>
+
+/// All windows of the program, one after the other, in one language: the main window with each of
+/// its tabs, with the box for saving and with the profile, the sheet for own foods, the plan, the
+/// former states, the palette of the toolbar, the question before a print, and the one about the
+/// program.
+class Fensterrunde
+{
+public:
+    /// "de" or "en". There are five foods, one own food, and a plan of three rows.
+    explicit Fensterrunde(const QString &sprache);
+
+    /// Shows each window and runs `besuch` with it and with what to call it.
+    void gehe(const std::function<void(const QString &name, QWidget &fenster)> &besuch);
+
+    Probefenster &fenster() { return *m_fenster; }
+    Probeheim &heim() { return m_heim; }
+
+private:
+    using Besuch = std::function<void(const QString &name, QWidget &fenster)>;
+    void geheDurchsHauptfenster(const Besuch &besuch);
+    void oeffne(const char *klasse, const QString &name, const std::function<void()> &oeffner,
+                const Besuch &besuch);
+
+    Probeheim m_heim;
+    Sprache m_sprache;
+    std::unique_ptr<Probefenster> m_fenster;
+};
+
+/// A child of a window that Qt has made for itself: scroll bars, the arrows of tabs, buttons in
+/// fields.
+bool istVonQt(const QWidget &widget);
+
+/// A widget in words: its class and name.
+QString bezeichne(const QWidget &widget);
