@@ -185,6 +185,7 @@ private:
     void verbindeLeeres();
     void zeigeLeeres();
     QString leereSuche() const;
+    void zeigeErsteSchritte();
     void begruendeSperren();
 
     // The meal plan

@@ -35,6 +35,7 @@ void AppController::rausholen(const Datenmodul *lebensmittel)
         m_wertungsfelder[stelle(zeile.wertung)]->setStringValue(
             lebensmittel->wertung(zeile.wertung));
     }
+    zeigeErsteSchritte();
 }
 
 /// Shows the name of a food. The marked cell of the table bears it too.

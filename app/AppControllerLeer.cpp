@@ -11,6 +11,8 @@
 #include <QDoubleSpinBox>
 #include <QSlider>
 
+#include <algorithm>
+
 void AppController::verbindeLeeres()
 {
     m_eigenhinweis = new Spaltenhinweis(*Tabelle, QStringLiteral("eigen"));
@@ -23,11 +25,10 @@ void AppController::verbindeLeeres()
 void AppController::zeigeLeeres()
 {
     const bool leer = KundenArray.isEmpty() && !Array.isEmpty();
+    const QString neu = QKeySequence(QKeySequence::New).toString(QKeySequence::NativeText);
     m_eigenhinweis->zeige(
-        leer ? localizedString(QStringLiteral("Noch keine eigenen Lebensmittel. Eines eintippen: "
-                                              "Ablage, Neues Lebensmittel."))
-             : QString(),
-        0);
+        leer ? localizedString(QStringLiteral("Noch keine.\nNeu: %1")).arg(neu) : QString(), 0);
+    zeigeErsteSchritte();
     const QString vorher = m_suchhinweis->text();
     m_suchhinweis->zeige(leereSuche(), static_cast<int>(suchArray.size()));
     if (!m_vergeblich.isEmpty() && m_suchhinweis->text() != vorher) {
@@ -36,24 +37,30 @@ void AppController::zeigeLeeres()
     }
 }
 
-/// The words for the search column: what to try when a search found nothing, or the first steps
-/// until the user has chosen a food; none while there are results.
+/// What to try when a search found nothing; empty while there are results.
 QString AppController::leereSuche() const
 {
-    if (suchArray.size() > 1 || Array.isEmpty()) {
-        return {};
+    return suchArray.size() > 1 || Array.isEmpty() ? QString() : m_vergeblich;
+}
+
+/// The way through the program stands where the values will be, until the user has chosen a food.
+void AppController::zeigeErsteSchritte()
+{
+    const bool leer = !hatGewaehlt() && !Array.isEmpty() &&
+                      std::all_of(m_wertfelder.begin(), m_wertfelder.end(),
+                                  [](const Textfeld *feld) { return feld->isHidden(); });
+    if (leer) {
+        const QString taste =
+            QKeySequence(QStringLiteral("Ctrl+Return")).toString(QKeySequence::NativeText);
+        ersteSchritte->setText(
+            localizedString(QStringLiteral("So geht es los:\n"
+                                           "1. Links oben einen Namen suchen.\n"
+                                           "2. Ein Lebensmittel anklicken.\n"
+                                           "3. Hier oben die Menge einstellen.\n"
+                                           "4. Mit %1 in den Mahlzeitenplan geben."))
+                .arg(taste));
     }
-    if (!m_vergeblich.isEmpty() || hatGewaehlt()) {
-        return m_vergeblich;
-    }
-    const QString taste =
-        QKeySequence(QStringLiteral("Ctrl+Return")).toString(QKeySequence::NativeText);
-    return localizedString(QStringLiteral("So geht es los:\n"
-                                          "1. Oben einen Namen suchen.\n"
-                                          "2. Ein Lebensmittel anklicken.\n"
-                                          "3. Rechts die Menge einstellen.\n"
-                                          "4. Mit %1 in den Mahlzeitenplan geben."))
-        .arg(taste);
+    ersteSchritte->setVisible(leer);
 }
 
 void AppController::begruendeSperren()

@@ -66,6 +66,7 @@ void Breittabelle::folge(Breittabelle &obere)
             &QScrollBar::setValue);
     connect(horizontalScrollBar(), &QScrollBar::valueChanged, obere.horizontalScrollBar(),
             &QScrollBar::setValue);
+    updateGeometry(); // it is as high as its rows from now on
 }
 
 QSize Breittabelle::sizeHint() const

@@ -844,8 +844,10 @@ Nothing is worked out for children under 10 years; it resumes at 11 years.</tr
   <translation>No food chosen yet</translation>
  </message>
  <message>
-  <source>Noch keine eigenen Lebensmittel. Eines eintippen: Ablage, Neues Lebensmittel.</source>
-  <translation>No foods of your own yet. To type one in: File, New food.</translation>
+  <source>Noch keine.
+Neu: %1</source>
+  <translation>None yet.
+New: %1</translation>
  </message>
  <message>
   <source>Schalten Sie das Kriterium davor ein, um es einzustellen.</source>
@@ -853,14 +855,14 @@ Nothing is worked out for children under 10 years; it resumes at 11 years.</tr
  </message>
  <message>
   <source>So geht es los:
-1. Oben einen Namen suchen.
+1. Links oben einen Namen suchen.
 2. Ein Lebensmittel anklicken.
-3. Rechts die Menge einstellen.
+3. Hier oben die Menge einstellen.
 4. Mit %1 in den Mahlzeitenplan geben.</source>
   <translation>How to begin:
-1. Search for a name above.
+1. Search for a name, above on the left.
 2. Click on a food.
-3. Set the amount on the right.
+3. Set the amount, above here.
 4. Send it to the meal plan with %1.</translation>
  </message>
  <message>
@@ -2041,10 +2043,6 @@ Nothing is worked out for children under 10 years; it resumes at 11 years.</tr
  <message>
   <source>4 Wochen</source>
   <translation>4 weeks</translation>
- </message>
- <message>
-  <source>A&amp;nsicht</source>
-  <translation>&amp;View</translation>
  </message>
  <message>
   <source>Anteil am Tagesbedarf</source>

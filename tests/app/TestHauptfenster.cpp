@@ -181,11 +181,16 @@ void TestHauptfenster::closingTheSheetDoesNot()
 void TestHauptfenster::closingAsksNothingAndWritesNothing()
 {
     m_fenster->klicke(3, inName);
+    m_heim->einstellungen().sync();
+    QFile einstellungen(m_heim->einstellungsdatei());
+    QVERIFY(einstellungen.open(QIODevice::ReadOnly));
+    const QByteArray vorher = einstellungen.readAll();
     controller().Hauptfenster->close();
     QVERIFY(m_heim->meldungen.isEmpty());
     QVERIFY(!QFileInfo::exists(m_heim->eigeneDatei()));
     m_heim->einstellungen().sync();
-    QCOMPARE(QFileInfo(m_heim->einstellungsdatei()).size(), 0);
+    einstellungen.seek(0);
+    QCOMPARE(einstellungen.readAll(), vorher);
 }
 
 void TestHauptfenster::everyControlHasANameForThoseWhoCantSeeIt()

@@ -159,6 +159,7 @@ bool Planfenster::wirfAbUeber(const QString &text, int zeile) const
 {
     Tabellenansicht &tabelle = *m_plan->PlanTabelle;
     tabelle.scrollRowToVisible(zeile);
+    QCoreApplication::processEvents(); // somebody drops on what they see
     const bool unten = zeile >= tabelle.model()->rowCount();
     const int letzte = tabelle.model()->rowCount() - 1;
     const int y = !unten       ? tabelle.rowViewportPosition(zeile) + 1
