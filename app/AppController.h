@@ -142,6 +142,8 @@ Q_SIGNALS:
     void spracheGewaehlt(const QString &sprache);
     /// The copies of own foods and plan are to be shown.
     void fruehereStaendeGewuenscht();
+    /// The user of this window, the main one or the plan's, wants the handbook.
+    void hilfeGewuenscht(const QWidget *fenster);
 
 protected:
     bool eventFilter(QObject *watched, QEvent *event) override;

@@ -16,6 +16,8 @@ void AppController::Planmoduloeffnen()
                                    .drucke = m_tueren.drucke,
                                    .dateien = m_tueren.dateien,
                                    .einstellungen = m_tueren.einstellungen});
+        connect(planmodul, &Planmodul::hilfeGewuenscht, this,
+                [this] { Q_EMIT hilfeGewuenscht(planmodul->window()); });
         stellePlanDaneben();
     }
     planmodul->showWindow();

@@ -4,14 +4,16 @@
 #include "AppController.h"
 #include "Dateiansage.h"
 #include "Fenstergedaechtnis.h"
+#include "Hilfe.h"
 
 #include <functional>
 #include <memory>
 
 class Dateihueter;
 
-/// All that is there once the program has started: the main window with its controller, and the
-/// calculator, whose two pages lie in the last two tabs of that window.
+/// All that is there once the program has started: the main window with its controller, the
+/// calculator, whose two pages lie in the last two tabs of that window, and the way into the
+/// handbook.
 class Oberflaeche
 {
 public:
@@ -29,6 +31,7 @@ public:
     AnthroController rechner;
     Dateiansage ansage;
     Fenstergedaechtnis gedaechtnis;
+    Hilfe hilfe;
 
 private:
     static void folgeSprache(Planmodul *plan);

@@ -161,6 +161,7 @@ public:
                   QWidget *fenster)
         : QPrintPreviewDialog(eingerichtet(drucker, seite, auftrag.titel), fenster)
     {
+        setObjectName(QStringLiteral("druckvorschau"));
         drucker.setDocName(alsDateiname(auftrag.titel)); // the window has its title by now
         QCoreApplication::instance()->installEventFilter(this);
         connect(this, &QPrintPreviewDialog::paintRequested, this,

@@ -132,6 +132,10 @@ public:
     /// has it.
     const Datenmodul *lebensmittel(const QString &name) const;
 
+Q_SIGNALS:
+    /// The user of the window wants the handbook.
+    void hilfeGewuenscht();
+
 private:
     void awakeFromNib();
     void verbinde();

@@ -796,8 +796,40 @@ Nothing is worked out for children under 10 years; it resumes at 11 years.</tr
   <translation>%1 (own)</translation>
  </message>
  <message>
+  <source>&amp;Handbuch</source>
+  <translation>&amp;Handbook</translation>
+ </message>
+ <message>
   <source>&amp;Zuletzt gewählte Lebensmittel …</source>
   <translation>&amp;Recently chosen foods …</translation>
+ </message>
+ <message>
+  <source>Auf dieser Seite suchen</source>
+  <translation>Find on this page</translation>
+ </message>
+ <message>
+  <source>Handbuch</source>
+  <translation>Handbook</translation>
+ </message>
+ <message>
+  <source>Seite des Handbuchs</source>
+  <translation>Page of the handbook</translation>
+ </message>
+ <message>
+  <source>Seiten des Handbuchs</source>
+  <translation>Pages of the handbook</translation>
+ </message>
+ <message>
+  <source>Steht nicht auf dieser Seite.</source>
+  <translation>Not on this page.</translation>
+ </message>
+ <message>
+  <source>Vor</source>
+  <translation>Forward</translation>
+ </message>
+ <message>
+  <source>Zurück</source>
+  <translation>Back</translation>
  </message>
  <message>
   <source>ab %1 %</source>
@@ -2019,6 +2051,14 @@ New: %1</translation>
  <message>
   <source>&amp;Größe der Tabelle</source>
   <translation>&amp;Size of the table</translation>
+ </message>
+ <message>
+  <source>&amp;Handbuch</source>
+  <translation>&amp;Handbook</translation>
+ </message>
+ <message>
+  <source>&amp;Hilfe</source>
+  <translation>&amp;Help</translation>
  </message>
  <message>
   <source>&amp;Menge ändern</source>
