@@ -82,11 +82,10 @@ public:
 protected:
     QVariant loadResource(int type, const QUrl &name) override
     {
-        const QUrl ganz = source().resolved(name);
         if (type == QTextDocument::ImageResource) {
-            return QImage(datei(ganz));
+            return QImage(datei(name));
         }
-        return inhalt(ganz);
+        return inhalt(name);
     }
 
     void resizeEvent(QResizeEvent *event) override
@@ -108,6 +107,7 @@ private:
                 form.setBorderCollapse(true);
                 form.setCellSpacing(0);
                 form.setCellPadding(zellenrand);
+                form.setRightMargin(form.border()); // its line lies beyond its width
                 tabelle->setFormat(form);
             }
         }
@@ -260,11 +260,6 @@ void Handbuch::oeffne(const QString &seite)
     m_blatt->setFocus();
 }
 
-QString Handbuch::seite() const
-{
-    return m_blatt->source().fileName().chopped(endung.size());
-}
-
 void Handbuch::folgeSprache()
 {
     beschrifte();
@@ -286,10 +281,11 @@ void Handbuch::folgeVerweis(const QUrl &verweis)
     }
 }
 
-void Handbuch::folgeSeite()
+void Handbuch::folgeSeite(const QUrl &adresse)
 {
+    m_seite = adresse.fileName().chopped(endung.size());
     const QSignalBlocker schon(m_inhalt); // the page is on display
-    m_inhalt->setCurrentRow(static_cast<int>(seiten().indexOf(seite())));
+    m_inhalt->setCurrentRow(static_cast<int>(seiten().indexOf(m_seite)));
     m_vergeblich->hide();
 }
 

@@ -35,7 +35,7 @@ public:
     void oeffne(const QString &seite);
 
     /// The name of the page on display.
-    QString seite() const;
+    QString seite() const { return m_seite; }
 
     /// The language was changed: the page on display is the same one in the other language.
     void folgeSprache();
@@ -51,10 +51,11 @@ private:
     void beschrifte();
     void zeige(const QString &seite);
     void folgeVerweis(const QUrl &verweis);
-    void folgeSeite();
+    void folgeSeite(const QUrl &adresse);
     void suche();
     void haengeAn(QWindow *dialog);
 
+    QString m_seite;
     QTextBrowser *m_blatt = nullptr;
     QListWidget *m_inhalt = nullptr;
     QLineEdit *m_suchfeld = nullptr;

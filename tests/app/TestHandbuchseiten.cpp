@@ -45,6 +45,7 @@ const QSet<QString> keineAufschrift = {
     u"Toastbrote"_s,
     u"gr"_s,
     u"bread"_s,
+    u"crispbread"_s,
     u"Library/Application Support/Mahlberg"_s,
     u".config/Mahlberg"_s,
 };
