@@ -127,10 +127,12 @@ void AnthroController::zeigeGeschlecht()
 
 void AnthroController::rateBmi()
 {
-    zeigeUrteil(*bmifaceview, *bmiworte, bmiGesicht(resultatbmi->floatValue()));
+    zeigeUrteil(*bmifaceview, *bmiworte, bmiGesicht(resultatbmi->floatValue()),
+                fehlende({{gewichttext, *gewicht}, {groessetext, *groesse}}));
 }
 
 void AnthroController::rateVerhaeltnis()
 {
-    zeigeUrteil(*whfaceview, *whworte, verhaeltnisGesicht(resultatwh->floatValue()));
+    zeigeUrteil(*whfaceview, *whworte, verhaeltnisGesicht(resultatwh->floatValue()),
+                fehlende({{taillentext, *taillenumfang}, {huefttext, *hueftumfang}}));
 }

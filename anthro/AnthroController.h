@@ -122,7 +122,15 @@ private:
     void rateBmi();
     void rateVerhaeltnis();
     void rateEnergie();
-    void zeigeUrteil(FaceView &gesicht, QLabel &worte, std::optional<int> code);
+    /// A measure and its caption.
+    struct Mass
+    {
+        const QLabel *beschriftung;
+        const Textfeld &feld;
+    };
+    static QString fehlende(std::initializer_list<Mass> masse);
+    static void zeigeUrteil(FaceView &gesicht, QLabel &worte, std::optional<int> code,
+                            const QString &fehlt = {});
     void zeigeImperial();
     void zeigeMasssystem(bool metrisch);
     void rechneEnergie();

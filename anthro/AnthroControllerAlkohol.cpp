@@ -16,6 +16,7 @@ void AnthroController::wievielalkohol(const Wertehalter &sender)
 {
     const std::int32_t milliliter = sender.intValue();
     zeigeFarbe(*ml, *mengenworte, mengenfarbe(milliliter));
+    ml->setVisible(!mengenworte->isHidden()); // otherwise the number stands beside the slider
     ml->setIntValue(milliliter);
     nimmGetraenk(Alkoholanlass::Menge, milliliter);
 }

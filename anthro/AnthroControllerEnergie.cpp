@@ -63,13 +63,16 @@ void AnthroController::erlaubeRechner(bool erlaubt)
     altersworte->setVisible(!erlaubt);
 }
 
-/// What is computed from these fields from now on reads 0.
+/// What is computed from these fields from now on reads 0. That they are without a number is seen:
+/// otherwise the numbers stand beside the sliders, and once is enough.
 void AnthroController::verbirgMasse()
 {
     for (Textfeld *feld :
          {gewicht, gewichtbmi, groesse, hueftumfang, resultatbmi, resultatwh, taillenumfang}) {
         feld->setStringValue(keineAngabe);
     }
+    hueftumfang->show();
+    taillenumfang->show();
 }
 
 /// The faces stay as they are until the next measure is set.
@@ -80,6 +83,8 @@ void AnthroController::zeigeMasseWieder()
     groesse->setFloatValue(groessen->floatValue());
     hueftumfang->setFloatValue(hueftn->floatValue());
     taillenumfang->setFloatValue(taillen->floatValue());
+    hueftumfang->hide();
+    taillenumfang->hide();
     zeigeBmi();
     rechneEnergie();
     uebergibEnergie();
@@ -143,7 +148,8 @@ void AnthroController::uebergibEnergie()
 
 void AnthroController::rateEnergie()
 {
-    zeigeUrteil(*kalfaceview, *kalworte, energieGesicht(kal));
+    zeigeUrteil(*kalfaceview, *kalworte, energieGesicht(kal),
+                fehlende({{gewichttext, *gewichtbmi}}));
 }
 
 void AnthroController::zeigeReduktion()

@@ -290,12 +290,32 @@ void AnthroController::merke(const char *schluessel, float zahl)
     m_tueren.einstellungen->setValue(QLatin1String(schluessel), kuerzeste(zahl));
 }
 
-/// Chooses the face and the words beside it. Without a code both stay as they are.
-void AnthroController::zeigeUrteil(FaceView &gesicht, QLabel &worte, std::optional<int> code)
+/// The captions of the measures that nobody has set yet, as words to stand beside a face.
+QString AnthroController::fehlende(std::initializer_list<Mass> masse)
+{
+    QStringList worte;
+    for (const auto &[beschriftung, feld] : masse) {
+        if (feld.floatValue() == 0.0F) {
+            worte << beschriftung->text().remove(QLatin1Char('&'));
+        }
+    }
+    return worte.isEmpty() ? QString()
+                           : localizedString(QStringLiteral("noch nicht eingestellt: %1"))
+                                 .arg(worte.join(QStringLiteral(", ")));
+}
+
+/// Chooses the face and the words beside it. Without a code the face stays as it is. A face that
+/// rests on nothing is no verdict: what is missing is said instead.
+void AnthroController::zeigeUrteil(FaceView &gesicht, QLabel &worte, std::optional<int> code,
+                                   const QString &fehlt)
 {
     if (code) {
         gesicht.entscheidung(*code);
-        worte.setText(
-            localizedString(QString::fromUtf8(urteile.at(static_cast<std::size_t>(*code - 1)))));
+    }
+    const auto stelle = static_cast<std::size_t>(gesicht.entscheidungszahl() - 1);
+    if (!fehlt.isEmpty()) {
+        worte.setText(fehlt);
+    } else if (stelle < urteile.size()) {
+        worte.setText(localizedString(QString::fromUtf8(urteile.at(stelle))));
     }
 }

@@ -107,6 +107,12 @@ public:
     void waehleErscheinungsbild(Erscheinungsbild bild);
     void waehleSprache(const QString &sprache);
 
+    /// Makes these the own foods everywhere: in this window, in the plan and in the file. The names
+    /// stand in the order of display.
+    void uebernimmEigene(const Lebensmittelverzeichnis &eigene, const QStringList &namen);
+    /// Chooses an own food as a click on its cell does; one that is in no row stays unchosen.
+    void zeigeEigenes(const QString &name);
+
     /// The language was changed while the window is open, and its captions with it. What is held in
     /// the former language (the shown name, the results of a search) follows; the order of the
     /// foods stays.
@@ -142,6 +148,14 @@ Q_SIGNALS:
     void spracheGewaehlt(const QString &sprache);
     /// The copies of own foods and plan are to be shown.
     void fruehereStaendeGewuenscht();
+    /// The own foods were changed and saved. It is not sent for what `uebernimmEigene` does.
+    void eigeneGeaendert(const Aenderung &was);
+    /// `planmodul` is there from now on.
+    void planBereit();
+    /// The last change of own foods or plan is to be taken back.
+    void zuruecknehmenGewuenscht();
+    /// What was taken back last is to be repeated.
+    void wiederholenGewuenscht();
     /// The user of this window, the main one or the plan's, wants the handbook.
     void hilfeGewuenscht(const QWidget *fenster);
 
@@ -199,6 +213,7 @@ private:
     QString nameFuerAbschrift(const QString &name) const;
     bool sichere();
     bool schreibeEigeneLebensmittel() const;
+    void folgeAuswahl(const QStringList &vorher);
     void setzeAnzeigeBearbeitbar(bool bearbeitbar);
 
     // Notices
@@ -206,7 +221,7 @@ private:
     void meldeGesichertes(const QString &name, bool gesichert, bool neu);
     void meldeGeloeschtes(const QString &name, bool gesichert);
     void nimmGesichertesZurueck();
-    void zeigeEigenes(const QString &name);
+    Hinweis mitRueckweg(const QString &text);
 
     // Why the ratings are what they are
     void verbindeWertungen();

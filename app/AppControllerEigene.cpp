@@ -141,7 +141,8 @@ bool AppController::sichere()
         planmodul->umschreibungMitName(eingegebenesLebensmittel());
     }
     const QString name = feldA->stringValue();
-    if (!KundenDictionary.contains(name)) {
+    const bool neu = !KundenDictionary.contains(name);
+    if (neu) {
         KundenDictionary.insert(name, Datenmodul());
         KundenArray << name;
         Tabelle->reloadData();
@@ -152,7 +153,9 @@ bool AppController::sichere()
     Datenmodul &eigenes = KundenDictionary[name];
     eintragen(eigenes);
     zeigeAnderes(&eigenes); // what is on display is the user's from now on
-    return schreibeEigeneLebensmittel();
+    const bool gesichert = schreibeEigeneLebensmittel();
+    Q_EMIT eigeneGeaendert({neu ? Aenderungsart::Gesichert : Aenderungsart::Geaendert, name});
+    return gesichert;
 }
 
 bool AppController::schreibeEigeneLebensmittel() const
@@ -228,8 +231,41 @@ void AppController::LoescheneigeneLM()
         KundenArray.removeAt(zeile);
     }
     Tabelle->reloadData();
-    meldeGeloeschtes(name, gesichert);
     if (planmodul != nullptr) {
         planmodul->loeschenvonkundeneintraegen(name);
+    }
+    Q_EMIT eigeneGeaendert({Aenderungsart::Geloescht, name});
+    meldeGeloeschtes(name, gesichert);
+}
+
+void AppController::uebernimmEigene(const Lebensmittelverzeichnis &eigene, const QStringList &namen)
+{
+    const QStringList vorher = KundenArray;
+    KundenDictionary = eigene;
+    KundenArray = namen;
+    Tabelle->reloadData();
+    folgeAuswahl(vorher);
+    nimmGesichertesZurueck();
+    if (planmodul != nullptr) {
+        planmodul->uebernimmEigene(eigene);
+    }
+    schreibeEigeneLebensmittel();
+}
+
+/// Deleting takes the selected row out of the list, so the selection stays with the own food on
+/// display when that has moved. One that is gone can't be selected, nor be deleted.
+void AppController::folgeAuswahl(const QStringList &vorher)
+{
+    const bool eigenes = angeklickteSpalte > 0 && !unuebersetztername.isNull() &&
+                         vorher.indexOf(unuebersetztername) == Tabelle->selectedRow();
+    const auto zeile = static_cast<int>(KundenArray.indexOf(unuebersetztername));
+    if (!eigenes || zeile == Tabelle->selectedRow()) {
+        return;
+    }
+    if (zeile >= 0 && zeile < Tabelle->modell()->rowCount()) {
+        Tabelle->selectRow(zeile);
+    } else {
+        Tabelle->clearSelection();
+        loeschenknopf->setEnabled(false);
     }
 }

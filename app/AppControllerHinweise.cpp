@@ -38,13 +38,24 @@ void AppController::meldeUebernommenes(const QString &name, bool gesichert, bool
     hinweise->zeige(hinweis);
 }
 
+/// A notice about a change of the own foods, with the way back.
+Hinweis AppController::mitRueckweg(const QString &text)
+{
+    return {.kennung = hinweisGesichert,
+            .text = text,
+            .knopf = localizedString(QStringLiteral("Zurücknehmen")),
+            .aktion = [this] {
+                Q_EMIT zuruecknehmenGewuenscht();
+            }};
+}
+
 /// What was saved from the display stands there already. A file that could not be written is told
 /// of by itself, with what can be done about it.
 void AppController::meldeGesichertes(const QString &name, bool gesichert, bool neu)
 {
     nimmGesichertesZurueck();
     if (gesichert) {
-        hinweise->zeige({.kennung = hinweisGesichert, .text = wasGeschah(name, gesichert, neu)});
+        hinweise->zeige(mitRueckweg(wasGeschah(name, gesichert, neu)));
     }
 }
 
@@ -52,9 +63,8 @@ void AppController::meldeGeloeschtes(const QString &name, bool gesichert)
 {
     nimmGesichertesZurueck();
     if (gesichert) {
-        hinweise->zeige(
-            {.kennung = hinweisGesichert,
-             .text = localizedString(QStringLiteral("„%1“ ist gelöscht.")).arg(kurzerName(name))});
+        hinweise->zeige(mitRueckweg(
+            localizedString(QStringLiteral("„%1“ ist gelöscht.")).arg(kurzerName(name))));
     }
 }
 

@@ -19,6 +19,7 @@ void AppController::Planmoduloeffnen()
         connect(planmodul, &Planmodul::hilfeGewuenscht, this,
                 [this] { Q_EMIT hilfeGewuenscht(planmodul->window()); });
         stellePlanDaneben();
+        Q_EMIT planBereit();
     }
     planmodul->showWindow();
 }

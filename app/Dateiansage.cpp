@@ -257,42 +257,12 @@ void Dateiansage::vergleiche()
                                     "diesem Fenster, so wie der Plan sie kennt (%1)."))
                      .arg(worteFuer(unterschied)),
          .knopf = localizedString(QStringLiteral("Die des Fensters sichern")),
-         .aktion = [this] { setzeEigene(m_controller.KundenDictionary, m_controller.KundenArray); },
+         .aktion =
+             [this] {
+                 m_controller.uebernimmEigene(m_controller.KundenDictionary,
+                                              m_controller.KundenArray);
+             },
          .warnung = true});
-}
-
-/// Makes these the own foods everywhere: in the main window, in the plan and in the file.
-void Dateiansage::setzeEigene(const Lebensmittelverzeichnis &eigene, const QStringList &namen)
-{
-    const QStringList vorher = m_controller.KundenArray;
-    m_controller.KundenDictionary = eigene;
-    m_controller.KundenArray = namen;
-    m_controller.Tabelle->reloadData();
-    folgeAuswahl(vorher);
-    m_controller.hinweise->nimmZurueck(AppController::hinweisGesichert);
-    if (m_controller.planmodul != nullptr) {
-        m_controller.planmodul->uebernimmEigene(eigene);
-    }
-    m_dateien->schreiben(pfad(eigeneDaten), eigene);
-}
-
-/// Deleting takes the selected row out of the list, so the selection stays with the own food on
-/// display when that has moved. One that is gone can't be selected, nor be deleted.
-void Dateiansage::folgeAuswahl(const QStringList &vorher) const
-{
-    const QString &gezeigt = m_controller.unuebersetztername;
-    const bool eigenes = AppController::angeklickteSpalte > 0 && !gezeigt.isNull() &&
-                         vorher.indexOf(gezeigt) == m_controller.Tabelle->selectedRow();
-    const auto zeile = static_cast<int>(m_controller.KundenArray.indexOf(gezeigt));
-    if (!eigenes || zeile == m_controller.Tabelle->selectedRow()) {
-        return;
-    }
-    if (zeile >= 0 && zeile < m_controller.Tabelle->modell()->rowCount()) {
-        m_controller.Tabelle->selectRow(zeile);
-    } else {
-        m_controller.Tabelle->clearSelection();
-        m_controller.loeschenknopf->setEnabled(false);
-    }
 }
 
 void Dateiansage::zeigeFruehereStaende(const QString &path)
@@ -326,6 +296,12 @@ void Dateiansage::zeigeFruehereStaende(const QString &path)
                               path, m_controller.Hauptfenster);
     fenster->setAttribute(Qt::WA_DeleteOnClose);
     fenster->open();
+}
+
+void Dateiansage::setzeEigene(const Lebensmittelverzeichnis &eigene, const QStringList &namen)
+{
+    m_controller.uebernimmEigene(eigene, namen);
+    Q_EMIT m_controller.eigeneGeaendert({Aenderungsart::Eigenstand});
 }
 
 void Dateiansage::holeEigeneZurueck(const Lebensmittelverzeichnis &stand)

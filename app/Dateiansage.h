@@ -47,7 +47,6 @@ private:
     void merkeGeschriebenes(const QString &path, const Lebensmittelverzeichnis &inhalt);
     void vergleiche();
     void setzeEigene(const Lebensmittelverzeichnis &eigene, const QStringList &namen);
-    void folgeAuswahl(const QStringList &vorher) const;
 
     void holeEigeneZurueck(const Lebensmittelverzeichnis &stand);
     void holePlanZurueck(const Lebensmittelverzeichnis &stand);

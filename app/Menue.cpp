@@ -23,6 +23,15 @@ QAction *eintrag(QMenu &menue, const char *text, const QKeySequence &tasten,
     return neu;
 }
 
+/// Takes back or repeats what was typed into the field that has the keyboard. False when there is
+/// nothing to take back in it: then the last change of foods or plan is meant.
+bool bearbeiteGetipptes(const char *slot, bool (QLineEdit::*moeglich)() const)
+{
+    const auto *feld = qobject_cast<QLineEdit *>(QApplication::focusWidget());
+    return feld != nullptr && !feld->isReadOnly() && (feld->*moeglich)() &&
+           QMetaObject::invokeMethod(QApplication::focusWidget(), slot);
+}
+
 QMenu &menue(AppController &controller, const char *titel)
 {
     return *controller.Hauptfenster->menuBar()->addMenu(localizedString(QString::fromUtf8(titel)));
@@ -74,6 +83,21 @@ void baueAblage(AppController &controller)
 void baueBearbeiten(AppController &controller)
 {
     QMenu &bearbeiten = menue(controller, QT_TRANSLATE_NOOP("Mahlberg", "&Bearbeiten"));
+    QAction *zurueck = eintrag(bearbeiten, QT_TRANSLATE_NOOP("Mahlberg", "&Rückgängig"),
+                               QKeySequence::Undo, [&controller] {
+                                   if (!bearbeiteGetipptes("undo", &QLineEdit::isUndoAvailable)) {
+                                       Q_EMIT controller.zuruecknehmenGewuenscht();
+                                   }
+                               });
+    zurueck->setObjectName(QStringLiteral("aktionRueckgaengig"));
+    QAction *wieder = eintrag(bearbeiten, QT_TRANSLATE_NOOP("Mahlberg", "&Wiederholen"),
+                              QKeySequence(QStringLiteral("Ctrl+Shift+Z")), [&controller] {
+                                  if (!bearbeiteGetipptes("redo", &QLineEdit::isRedoAvailable)) {
+                                      Q_EMIT controller.wiederholenGewuenscht();
+                                  }
+                              });
+    wieder->setObjectName(QStringLiteral("aktionWiederholen"));
+    bearbeiten.addSeparator();
     const struct
     {
         const char *text;
@@ -81,8 +105,6 @@ void baueBearbeiten(AppController &controller)
         const char *slot;
         bool trennung;
     } zeilen[] = {
-        {QT_TRANSLATE_NOOP("Mahlberg", "&Rückgängig"), QKeySequence::Undo, "undo", false},
-        {QT_TRANSLATE_NOOP("Mahlberg", "&Wiederholen"), QKeySequence::Redo, "redo", true},
         {QT_TRANSLATE_NOOP("Mahlberg", "&Ausschneiden"), QKeySequence::Cut, "cut", false},
         {QT_TRANSLATE_NOOP("Mahlberg", "&Kopieren"), QKeySequence::Copy, "copy", false},
         {QT_TRANSLATE_NOOP("Mahlberg", "&Einfügen"), QKeySequence::Paste, "paste", true},

@@ -43,6 +43,7 @@ Oberflaeche::Oberflaeche(const Tueren &tueren)
     , rechner(anthrotueren(mitDateien(tueren, dateien)))
     , ansage(hauptfenster, tueren.datenordner, dateien)
     , gedaechtnis(hauptfenster, *tueren.einstellungen)
+    , verlauf(hauptfenster)
     , m_sprich(tueren.sprich)
 {
     QObject::connect(&hauptfenster, &AppController::spracheGewaehlt, &hauptfenster,
@@ -60,6 +61,7 @@ void Oberflaeche::awakeFromNib()
     rechner.awakeFromNib();
     ansage.beginne();
     gedaechtnis.beginne();
+    verlauf.beginne();
 }
 
 void Oberflaeche::sprich(const QString &kuerzel)

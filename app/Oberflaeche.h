@@ -5,6 +5,7 @@
 #include "Dateiansage.h"
 #include "Fenstergedaechtnis.h"
 #include "Hilfe.h"
+#include "Verlauf.h"
 
 #include <functional>
 #include <memory>
@@ -32,6 +33,7 @@ public:
     Dateiansage ansage;
     Fenstergedaechtnis gedaechtnis;
     Hilfe hilfe;
+    Verlauf verlauf;
 
 private:
     static void folgeSprache(Planmodul *plan);

@@ -4,6 +4,7 @@
 #include <QEvent>
 #include <QFocusEvent>
 #include <QGuiApplication>
+#include <QKeyEvent>
 #include <QPainter>
 #include <QPalette>
 #include <QRegularExpression>
@@ -244,7 +245,19 @@ bool Textfeld::event(QEvent *event)
         zeigen();
         return true;
     }
+    if (event->type() == QEvent::ShortcutOverride &&
+        !nimmtTaste(*static_cast<QKeyEvent *>(event))) {
+        event->ignore();
+        return true;
+    }
     return Zahlenzeile::event(event);
+}
+
+/// A field in which nothing was typed leaves the keys for taking back and repeating to the window.
+bool Textfeld::nimmtTaste(const QKeyEvent &taste) const
+{
+    return !(taste.matches(QKeySequence::Undo) && !isUndoAvailable()) &&
+           !(taste.matches(QKeySequence::Redo) && !isRedoAvailable());
 }
 
 void Textfeld::paintEvent(QPaintEvent *event)

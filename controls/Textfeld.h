@@ -81,6 +81,7 @@ protected:
     void focusOutEvent(QFocusEvent *event) override;
 
 private:
+    bool nimmtTaste(const QKeyEvent &taste) const;
     void veralte();
     void tippe(const QString &text);
     void zeigen();

@@ -9,6 +9,8 @@
 #include <QItemSelectionModel>
 #include <QPushButton>
 
+#include <algorithm>
+
 Klient Planmodul::klient;
 
 namespace {
@@ -131,6 +133,8 @@ void Planmodul::verbinde()
         connect(flaeche, &QWidget::customContextMenuRequested, this,
                 [this, flaeche](QPoint ort) { zeigeTabellenmenue(flaeche->mapToGlobal(ort)); });
     }
+    connect(aktionRueckgaengig, &QAction::triggered, this, &Planmodul::zuruecknehmenGewuenscht);
+    connect(aktionWiederholen, &QAction::triggered, this, &Planmodul::wiederholenGewuenscht);
     connect(druckknopf, &QPushButton::clicked, this, &Planmodul::druckenentscheidung);
     connect(aktionDrucken, &QAction::triggered, druckknopf, &QPushButton::click);
     connect(aktionHandbuch, &QAction::triggered, this, &Planmodul::hilfeGewuenscht);
@@ -202,13 +206,17 @@ void Planmodul::nameimportvontoolbar(const QString &name)
     if (m_fenster != nullptr) {
         PlanTabelle->scrollRowToVisible(numberOfRows() - 1);
     }
+    Q_EMIT geaendert({Aenderungsart::Hinein, name});
 }
 
 void Planmodul::Lebensmittelentfernen()
 {
     beendeEingabe();
-    if (m_fenster != nullptr && zeileEntfernen(PlanTabelle->selectedRow())) {
+    const int zeile = m_fenster != nullptr ? PlanTabelle->selectedRow() : -1;
+    const QString name = PlanArray.value(zeile);
+    if (zeileEntfernen(zeile)) {
         uebernimmAenderung();
+        Q_EMIT geaendert({Aenderungsart::Hinaus, name});
     }
 }
 
@@ -220,6 +228,7 @@ void Planmodul::Lebensmittelverschieben(int um)
         uebernimmAenderung();
         PlanTabelle->selectRow(zeile + um);
         PlanTabelle->scrollRowToVisible(zeile + um);
+        Q_EMIT geaendert({Aenderungsart::Platz, PlanArray[zeile + um]});
     }
 }
 
@@ -252,10 +261,27 @@ void Planmodul::uebernimmEigene(const Lebensmittelverzeichnis &eigene)
 
 void Planmodul::uebernimmPlan(const Planliste &zeilen)
 {
+    setzePlan(zeilen);
+    pruefePlannamen();
+    Q_EMIT geaendert({Aenderungsart::Planstand});
+}
+
+void Planmodul::setzePlan(const Planliste &zeilen)
+{
     beendeEingabe();
+    const QStringList namen = PlanArray;
+    const QList<float> mengen = mengenarray;
     Planliste::operator=(zeilen);
     uebernimmAenderung();
-    pruefePlannamen();
+    qsizetype erste = 0;
+    while (erste < std::min(namen.size(), PlanArray.size()) && namen[erste] == PlanArray[erste] &&
+           mengen[erste] == mengenarray[erste]) {
+        ++erste;
+    }
+    if (m_fenster != nullptr && erste < PlanArray.size()) {
+        PlanTabelle->selectRow(static_cast<int>(erste));
+        PlanTabelle->scrollRowToVisible(static_cast<int>(erste));
+    }
 }
 
 /// An amount that is being typed still belongs to the row in which it is typed.

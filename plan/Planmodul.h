@@ -1,5 +1,6 @@
 #pragma once
 
+#include "Aenderung.h"
 #include "Datenmodul.h"
 #include "Datenordner.h"
 #include "Drucktuer.h"
@@ -99,6 +100,9 @@ public:
     /// Takes over these rows in place of those that are there, saves and shows them, and tells of
     /// foods that have another name now or none any more.
     void uebernimmPlan(const Planliste &zeilen);
+    /// Takes back or repeats a change: these rows come in place of those that are there, and are
+    /// saved and shown. The first one that has changed is selected.
+    void setzePlan(const Planliste &zeilen);
 
     // Actions of the window; without one they do nothing
     /// Takes the selected row out of the plan; without one, nothing happens.
@@ -133,6 +137,13 @@ public:
     const Datenmodul *lebensmittel(const QString &name) const;
 
 Q_SIGNALS:
+    /// The rows were changed, saved and shown; one that ended on its way was neither saved nor
+    /// shown. It is not sent for what `setzePlan` does.
+    void geaendert(const Aenderung &was);
+    /// The last change is to be taken back.
+    void zuruecknehmenGewuenscht();
+    /// What was taken back last is to be repeated.
+    void wiederholenGewuenscht();
     /// The user of the window wants the handbook.
     void hilfeGewuenscht();
 

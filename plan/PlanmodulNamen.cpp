@@ -153,4 +153,5 @@ void Planmodul::uebernimmNeueNamen()
         umbenennen(name, m_namenswechsel.value(name));
     }
     uebernimmAenderung();
+    Q_EMIT geaendert({Aenderungsart::Namen});
 }

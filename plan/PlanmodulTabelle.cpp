@@ -254,6 +254,7 @@ void Planmodul::setObjectValue(const QString &spalte, int zeile, const QString &
     folgeAuswahl();
     schreibePlan();
     datenberechnen();
+    Q_EMIT geaendert({Aenderungsart::Menge, PlanArray[zeile]});
 }
 
 /// With an amount that no number can hold the whole plan would be infinite.
@@ -282,6 +283,7 @@ void Planmodul::acceptDrop(int zeile, const QString &text)
     } else {
         zeigeAnsichtshinweis();
     }
+    Q_EMIT geaendert({Aenderungsart::Hinein, text});
 }
 
 /// A drop that ended on its way has changed the rows, and the table does not show it. Whoever

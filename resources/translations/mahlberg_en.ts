@@ -530,6 +530,18 @@
 <context>
  <name>KoerperGestalt</name>
  <message>
+  <source>0,80 bis 0,88</source>
+  <translation>0.80 to 0.88</translation>
+ </message>
+ <message>
+  <source>1400 bis 2700</source>
+  <translation>1400 to 2700</translation>
+ </message>
+ <message>
+  <source>18 bis 25</source>
+  <translation>18 to 25</translation>
+ </message>
+ <message>
   <source>Abnehmen</source>
   <translation>Weight loss</translation>
  </message>
@@ -598,6 +610,18 @@
   <translation>Height, remaining inches</translation>
  </message>
  <message>
+  <source>Günstiger Bereich des Body-Mass-Index</source>
+  <translation>Favourable range of the body mass index</translation>
+ </message>
+ <message>
+  <source>Günstiger Bereich des Energiebedarfs</source>
+  <translation>Favourable range of the energy need</translation>
+ </message>
+ <message>
+  <source>Günstiger Bereich des Verhältnisses</source>
+  <translation>Favourable range of the ratio</translation>
+ </message>
+ <message>
   <source>Hüfte</source>
   <translation>Hip</translation>
  </message>
@@ -664,6 +688,10 @@
  <message>
   <source>aus</source>
   <translation>off</translation>
+ </message>
+ <message>
+  <source>günstiger Bereich</source>
+  <translation>favourable range</translation>
  </message>
  <message>
   <source>imperial</source>
@@ -796,40 +824,44 @@ Nothing is worked out for children under 10 years; it resumes at 11 years.</tr
   <translation>%1 (own)</translation>
  </message>
  <message>
-  <source>&amp;Handbuch</source>
-  <translation>&amp;Handbook</translation>
+  <source>%1: %2</source>
+  <translation>%1: %2</translation>
  </message>
  <message>
   <source>&amp;Zuletzt gewählte Lebensmittel …</source>
   <translation>&amp;Recently chosen foods …</translation>
  </message>
  <message>
-  <source>Auf dieser Seite suchen</source>
-  <translation>Find on this page</translation>
+  <source>Es gibt nichts zu wiederholen.</source>
+  <translation>There is nothing to redo.</translation>
  </message>
  <message>
-  <source>Handbuch</source>
-  <translation>Handbook</translation>
+  <source>Es gibt nichts zurückzunehmen.</source>
+  <translation>There is nothing to undo.</translation>
  </message>
  <message>
-  <source>Seite des Handbuchs</source>
-  <translation>Page of the handbook</translation>
+  <source>Menge von „%1“</source>
+  <translation>amount of “%1”</translation>
  </message>
  <message>
-  <source>Seiten des Handbuchs</source>
-  <translation>Pages of the handbook</translation>
+  <source>Platz von „%1“</source>
+  <translation>place of “%1”</translation>
  </message>
  <message>
-  <source>Steht nicht auf dieser Seite.</source>
-  <translation>Not on this page.</translation>
+  <source>Wiederholen</source>
+  <translation>Redo</translation>
  </message>
  <message>
-  <source>Vor</source>
-  <translation>Forward</translation>
+  <source>Wiederholt: %1.</source>
+  <translation>Redone: %1.</translation>
  </message>
  <message>
-  <source>Zurück</source>
-  <translation>Back</translation>
+  <source>Zurückgenommen: %1.</source>
+  <translation>Undone: %1.</translation>
+ </message>
+ <message>
+  <source>Zurücknehmen</source>
+  <translation>Undo</translation>
  </message>
  <message>
   <source>ab %1 %</source>
@@ -896,6 +928,22 @@ New: %1</translation>
 2. Click on a food.
 3. Set the amount, above here.
 4. Send it to the meal plan with %1.</translation>
+ </message>
+ <message>
+  <source>früherer Stand der eigenen Lebensmittel</source>
+  <translation>earlier state of your own foods</translation>
+ </message>
+ <message>
+  <source>früherer Stand des Plans</source>
+  <translation>earlier state of the plan</translation>
+ </message>
+ <message>
+  <source>neue Namen im Plan</source>
+  <translation>new names in the plan</translation>
+ </message>
+ <message>
+  <source>noch nicht eingestellt: %1</source>
+  <translation>not set yet: %1</translation>
  </message>
  <message>
   <source>verfehlt</source>
@@ -2002,6 +2050,26 @@ New: %1</translation>
   <translation>“%1”</translation>
  </message>
  <message>
+  <source>„%1“ aus dem Plan</source>
+  <translation>“%1” out of the plan</translation>
+ </message>
+ <message>
+  <source>„%1“ gelöscht</source>
+  <translation>“%1” deleted</translation>
+ </message>
+ <message>
+  <source>„%1“ gesichert</source>
+  <translation>“%1” saved</translation>
+ </message>
+ <message>
+  <source>„%1“ geändert</source>
+  <translation>“%1” changed</translation>
+ </message>
+ <message>
+  <source>„%1“ in den Plan</source>
+  <translation>“%1” into the plan</translation>
+ </message>
+ <message>
   <source>„%1“ ist gelöscht.</source>
   <translation>“%1” has been deleted.</translation>
  </message>
@@ -2029,6 +2097,38 @@ New: %1</translation>
   <source>… oder ziehen Sie den Standardsatz in die Symbolleiste. Was Sie aus der Leiste herausziehen, verschwindet.</source>
   <translation>… or drag the default set into the toolbar. What you drag out of the toolbar disappears.</translation>
  </message>
+ <message>
+  <source>&amp;Handbuch</source>
+  <translation>&amp;Handbook</translation>
+ </message>
+ <message>
+  <source>Handbuch</source>
+  <translation>Handbook</translation>
+ </message>
+ <message>
+  <source>Zurück</source>
+  <translation>Back</translation>
+ </message>
+ <message>
+  <source>Vor</source>
+  <translation>Forward</translation>
+ </message>
+ <message>
+  <source>Auf dieser Seite suchen</source>
+  <translation>Find on this page</translation>
+ </message>
+ <message>
+  <source>Steht nicht auf dieser Seite.</source>
+  <translation>Not on this page.</translation>
+ </message>
+ <message>
+  <source>Seiten des Handbuchs</source>
+  <translation>Pages of the handbook</translation>
+ </message>
+ <message>
+  <source>Seite des Handbuchs</source>
+  <translation>Page of the handbook</translation>
+ </message>
 </context>
 <context>
  <name>PlanmodulGestalt</name>
@@ -2039,6 +2139,10 @@ New: %1</translation>
  <message>
   <source>&amp;Bearbeiten</source>
   <translation>&amp;Edit</translation>
+ </message>
+ <message>
+  <source>&amp;Darstellung</source>
+  <translation>&amp;View</translation>
  </message>
  <message>
   <source>&amp;Drucken …</source>
@@ -2053,14 +2157,6 @@ New: %1</translation>
   <translation>&amp;Size of the table</translation>
  </message>
  <message>
-  <source>&amp;Handbuch</source>
-  <translation>&amp;Handbook</translation>
- </message>
- <message>
-  <source>&amp;Hilfe</source>
-  <translation>&amp;Help</translation>
- </message>
- <message>
   <source>&amp;Menge ändern</source>
   <translation>Change &amp;amount</translation>
  </message>
@@ -2071,6 +2167,10 @@ New: %1</translation>
  <message>
   <source>&amp;Tage berechnen</source>
   <translation>Work out the &amp;days</translation>
+ </message>
+ <message>
+  <source>&amp;Wiederholen</source>
+  <translation>&amp;Redo</translation>
  </message>
  <message>
   <source>&amp;Wunschverlust</source>
@@ -2255,6 +2355,10 @@ New: %1</translation>
  <message>
   <source>Nach &amp;unten</source>
   <translation>Move &amp;down</translation>
+ </message>
+ <message>
+  <source>Rück&amp;gängig</source>
+  <translation>&amp;Undo</translation>
  </message>
  <message>
   <source>Summen des Plans und was bis zum Tagesbedarf bleibt</source>
@@ -2499,6 +2603,14 @@ New: %1</translation>
  <message>
   <source>Übergewicht, ungeeignete Lebensmittel</source>
   <translation>Overweight, unsuitable foods</translation>
+ </message>
+ <message>
+  <source>&amp;Hilfe</source>
+  <translation>&amp;Help</translation>
+ </message>
+ <message>
+  <source>&amp;Handbuch</source>
+  <translation>&amp;Handbook</translation>
  </message>
 </context>
 </TS>

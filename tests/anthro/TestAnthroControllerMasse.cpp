@@ -1,3 +1,5 @@
+#include "Energiebedarf.h"
+#include "Koerpermasse.h"
 #include "Rechnerprobe.h"
 
 #include <QAbstractButton>
@@ -13,6 +15,10 @@ private Q_SLOTS:
     void theWeightGoesEverywhere();
     void theHeightLeavesTheEnergyAlone();
     void waistAndHip();
+    void aFaceThatRestsOnNothingSaysWhatIsMissing();
+    void theWordsAreThoseOfTheFace();
+    void theRangesAreThoseOfTheSmilingFace();
+    void noNumberStandsThereTwice();
     void noHeightAndNoHip();
     void bmiFaces_data();
     void bmiFaces();
@@ -89,6 +95,78 @@ void TestAnthroControllerMasse::waistAndHip()
     QCOMPARE(r.whfaceview->entscheidungszahl(), 2);
     QCOMPARE(r.whworte->text(), QStringLiteral("außerhalb des günstigen Bereichs"));
     QCOMPARE(probe->rufe(), QStringList());
+}
+
+/// At the first start no measure is set, and three faces cry about nothing.
+void TestAnthroControllerMasse::aFaceThatRestsOnNothingSaysWhatIsMissing()
+{
+    Rechnerprobe probe;
+    AnthroController &r = probe.rechner();
+    QCOMPARE(r.bmifaceview->entscheidungszahl(), 3);
+    QCOMPARE(r.bmiworte->text(), QStringLiteral("noch nicht eingestellt: Gewicht, Größe"));
+    QCOMPARE(r.whworte->text(), QStringLiteral("noch nicht eingestellt: Taille, Hüfte"));
+    QCOMPARE(r.kalworte->text(), QStringLiteral("noch nicht eingestellt: Gewicht"));
+    r.slidergewicht(Sender(80.0));
+    QCOMPARE(r.kalworte->text(), QStringLiteral("im günstigen Bereich")); // 2112 kcal
+    QCOMPARE(r.bmiworte->text(), QStringLiteral("noch nicht eingestellt: Größe"));
+    r.slidergroesse(Sender(1.8));
+    QCOMPARE(r.bmiworte->text(), QStringLiteral("im günstigen Bereich"));
+    r.slidertaille(Sender(71.0));
+    QCOMPARE(r.whworte->text(), QStringLiteral("noch nicht eingestellt: Hüfte"));
+    r.sliderhuefte(Sender(100.0)); // 0.71
+    QCOMPARE(r.whworte->text(), QStringLiteral("weit außerhalb des günstigen Bereichs"));
+}
+
+/// A body-mass index of exactly 25 chooses no face: the words are then those of the one that stays.
+void TestAnthroControllerMasse::theWordsAreThoseOfTheFace()
+{
+    Rechnerprobe probe;
+    AnthroController &r = probe.rechner();
+    r.slidergroesse(Sender(2.0));
+    QCOMPARE(r.bmiworte->text(), QStringLiteral("noch nicht eingestellt: Gewicht"));
+    r.slidergewicht(Sender(100.0));
+    QCOMPARE(r.bmifaceview->entscheidungszahl(), 3);
+    QCOMPARE(r.bmiworte->text(), QStringLiteral("weit außerhalb des günstigen Bereichs"));
+}
+
+/// The ranges that stand beside the faces are those of the smiling one.
+void TestAnthroControllerMasse::theRangesAreThoseOfTheSmilingFace()
+{
+    const auto probe = Rechnerprobe::mitKlient();
+    AnthroController &r = probe->rechner();
+    QCOMPARE(r.bmigrenzen->text(), QStringLiteral("18 bis 25"));
+    QCOMPARE(bmiGesicht(18.01F), std::optional<int>(1));
+    QVERIFY(bmiGesicht(17.99F) != std::optional<int>(1));
+    QCOMPARE(bmiGesicht(24.99F), std::optional<int>(1));
+    QVERIFY(bmiGesicht(25.01F) != std::optional<int>(1));
+    QCOMPARE(r.whgrenzen->text(), QStringLiteral("0,80 bis 0,88"));
+    QCOMPARE(verhaeltnisGesicht(0.801F), std::optional<int>(1));
+    QVERIFY(verhaeltnisGesicht(0.799F) != std::optional<int>(1));
+    QCOMPARE(verhaeltnisGesicht(0.879F), std::optional<int>(1));
+    QVERIFY(verhaeltnisGesicht(0.881F) != std::optional<int>(1));
+    QCOMPARE(r.kalgrenzen->text(), QStringLiteral("1400 bis 2700"));
+    QCOMPARE(energieGesicht(1401), std::optional<int>(1));
+    QVERIFY(energieGesicht(1399) != std::optional<int>(1));
+    QCOMPARE(energieGesicht(2699), std::optional<int>(1));
+    QVERIFY(energieGesicht(2701) != std::optional<int>(1));
+}
+
+/// A number that stands beside its slider is not shown once more, but a missing one is.
+void TestAnthroControllerMasse::noNumberStandsThereTwice()
+{
+    const auto probe = Rechnerprobe::mitKlient();
+    AnthroController &r = probe->rechner();
+    QVERIFY(r.taillenumfang->isHidden() && r.hueftumfang->isHidden());
+    QVERIFY(r.alteranzeige->isHidden() && r.ml->isHidden());
+    r.wiealt(Sender(9.0));
+    QVERIFY(!r.taillenumfang->isHidden() && !r.hueftumfang->isHidden());
+    QCOMPARE(r.taillenumfang->stringValue(), QStringLiteral("-"));
+    r.wiealt(Sender(30.0));
+    QVERIFY(r.taillenumfang->isHidden() && r.hueftumfang->isHidden());
+    r.wievielalkohol(Sender(601.0));
+    QVERIFY(!r.ml->isHidden()); // red, and the words beside it say why
+    r.wievielalkohol(Sender(599.0));
+    QVERIFY(r.ml->isHidden());
 }
 
 void TestAnthroControllerMasse::noHeightAndNoHip()
