@@ -60,6 +60,8 @@ QString titel(const QString &seite)
     return text.section(u'\n', 0, 0).remove(u'#').trimmed();
 }
 
+} // namespace
+
 /// Shows one page, whose pictures are never wider than the window.
 class Handbuchblatt : public QTextBrowser
 {
@@ -140,8 +142,6 @@ private:
         document()->addResource(QTextDocument::ImageResource, bild, gezeigt);
     }
 };
-
-} // namespace
 
 Handbuch::Handbuch()
 {
@@ -331,6 +331,6 @@ void Handbuch::changeEvent(QEvent *event)
 {
     QWidget::changeEvent(event);
     if (event->type() == QEvent::PaletteChange && m_blatt != nullptr) {
-        static_cast<Handbuchblatt *>(m_blatt)->erneuere();
+        m_blatt->erneuere();
     }
 }

@@ -6,12 +6,12 @@
 
 #include <functional>
 
+class Handbuchblatt;
 class QAction;
 class QKeySequence;
 class QLabel;
 class QLineEdit;
 class QListWidget;
-class QTextBrowser;
 class QUrl;
 class QWindow;
 
@@ -56,7 +56,7 @@ private:
     void haengeAn(QWindow *dialog);
 
     QString m_seite;
-    QTextBrowser *m_blatt = nullptr;
+    Handbuchblatt *m_blatt = nullptr;
     QListWidget *m_inhalt = nullptr;
     QLineEdit *m_suchfeld = nullptr;
     QLabel *m_vergeblich = nullptr; ///< says that the page does not hold what is looked for
