@@ -60,11 +60,11 @@ void TestBildVerkleinern::ofManyColoursTheFrequentOnesStay()
     QVERIFY(bild.save(pfad(u"gross.png"_s)));
     QCOMPARE(starte({pfad(u"gross.png"_s), pfad(u"klein.png"_s)}), 0);
     const QImage kleines(pfad(u"klein.png"_s));
-    QCOMPARE(kleines.colorCount(), 256);
+    QVERIFY(kleines.colorCount() <= 256);
     QCOMPARE(kleines.pixel(399, 9), 0xffffffffU);
     QCOMPARE(kleines.pixel(7, 5), qRgb(200, 0, 0));
     for (int x = 0; x < 300; ++x) { // no colour is far from what it was
-        QVERIFY(qAbs(qGreen(kleines.pixel(x, 0)) - x % 256) < 60);
+        QVERIFY(qAbs(qGreen(kleines.pixel(x, 0)) - x % 256) <= 1);
     }
 }
 
