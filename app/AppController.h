@@ -163,6 +163,8 @@ Q_SIGNALS:
     void zuruecknehmenGewuenscht();
     /// What was taken back last is to be repeated.
     void wiederholenGewuenscht();
+    /// The user of this window, the main one or the plan's, wants the handbook.
+    void hilfeGewuenscht(const QWidget *fenster);
 
 protected:
     bool eventFilter(QObject *watched, QEvent *event) override;

@@ -17,6 +17,8 @@ Planmodul &AppController::holePlan()
                                    .drucke = m_tueren.drucke,
                                    .dateien = m_tueren.dateien,
                                    .einstellungen = m_tueren.einstellungen});
+        connect(planmodul, &Planmodul::hilfeGewuenscht, this,
+                [this] { Q_EMIT hilfeGewuenscht(planmodul->window()); });
         planmodul->window();
         Q_EMIT planBereit();
     }

@@ -216,6 +216,9 @@ void baueFenster(AppController &controller)
 void baueHilfe(AppController &controller)
 {
     QMenu &hilfe = menue(controller, QT_TRANSLATE_NOOP("Mahlberg", "&Hilfe"));
+    eintrag(hilfe, QT_TRANSLATE_NOOP("Mahlberg", "&Handbuch"), QKeySequence(QStringLiteral("F1")),
+            [&controller] { Q_EMIT controller.hilfeGewuenscht(controller.Hauptfenster); });
+    hilfe.addSeparator();
     eintrag(hilfe, QT_TRANSLATE_NOOP("Mahlberg", "&Über Mahlberg"), {},
             [&controller] { zeigeUeber(controller.Hauptfenster); });
     eintrag(hilfe, QT_TRANSLATE_NOOP("Mahlberg", "Über &Qt"), {}, &QApplication::aboutQt);

@@ -67,6 +67,8 @@ Oberflaeche::Oberflaeche(const Tueren &tueren)
 {
     QObject::connect(&hauptfenster, &AppController::spracheGewaehlt, &hauptfenster,
                      [this](const QString &kuerzel) { sprich(kuerzel); });
+    QObject::connect(&hauptfenster, &AppController::hilfeGewuenscht, &hilfe,
+                     [this](const QWidget *fenster) { hilfe.zeige(*fenster); });
     ansage.beachte(*tueren.einstellungen);
     Rollbereich::fuelle(*hauptfenster.tabVier, rechner.koerperseite);
     Rollbereich::fuelle(*hauptfenster.tabFuenf, rechner.lebensweiseseite);
@@ -102,6 +104,7 @@ void Oberflaeche::sprich(const QString &kuerzel)
     rechner.folgeSprache();
     folgeSprache(hauptfenster.planmodul);
     folgeSprache(rechner.plan);
+    hilfe.folgeSprache();
 }
 
 /// The sentences below the plan's pictures are made of several, with figures in them.

@@ -4,6 +4,7 @@
 #include "AppController.h"
 #include "Dateiansage.h"
 #include "Fenstergedaechtnis.h"
+#include "Hilfe.h"
 #include "Verlauf.h"
 
 #include <functional>
@@ -11,8 +12,9 @@
 
 class Dateihueter;
 
-/// All that is there once the program has started: the main window with its controller, and the
-/// calculator, whose two pages lie in the last two tabs of that window.
+/// All that is there once the program has started: the main window with its controller, the
+/// calculator, whose two pages lie in the last two tabs of that window, and the way into the
+/// handbook.
 class Oberflaeche
 {
 public:
@@ -30,6 +32,7 @@ public:
     AnthroController rechner;
     Dateiansage ansage;
     Fenstergedaechtnis gedaechtnis;
+    Hilfe hilfe;
     Verlauf verlauf;
 
 private:

@@ -153,6 +153,7 @@ public:
         : QPrintPreviewDialog(eingerichtet(drucker, seite, auftrag.titel), fenster)
         , m_name(druckname(auftrag))
     {
+        setObjectName(QStringLiteral("druckvorschau"));
         drucker.setDocName(m_name); // the window has its title by now
         QCoreApplication::instance()->installEventFilter(this);
         connect(this, &QPrintPreviewDialog::paintRequested, this,

@@ -151,11 +151,23 @@ bool Feldauskunft::feldereignis(QEvent *event)
     case QEvent::Wheel:
         verstecke();
         return false;
+    case QEvent::ShortcutOverride:
+        return beansprucht(static_cast<QKeyEvent *>(event));
     case QEvent::KeyPress:
         return taste(static_cast<QKeyEvent *>(event)->key());
     default:
         return false;
     }
+}
+
+/// The window opens the handbook with F1. Where there is something to explain, the field is first.
+bool Feldauskunft::beansprucht(QKeyEvent *event) const
+{
+    const bool meine = event->key() == Qt::Key_F1 && !m_frage().isEmpty();
+    if (meine) {
+        event->accept();
+    }
+    return meine;
 }
 
 bool Feldauskunft::taste(int taste)

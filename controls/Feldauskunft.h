@@ -7,12 +7,14 @@
 
 #include <functional>
 
+class QKeyEvent;
 class QLabel;
 class QWidget;
 
 /// Explains what a field shows: to the mouse that rests on it, to the keyboard whose focus rests on
-/// it, and to a screen reader as the field's description. F1 explains at once, Escape takes the
-/// text away. The text is only made when somebody is there to read it.
+/// it, and to a screen reader as the field's description. F1 explains at once, also where a menu
+/// has a use for that key; Escape takes the text away. The text is only made when somebody is there
+/// to read it.
 class Feldauskunft : public QObject, private QAccessible::ActivationObserver
 {
     Q_OBJECT
@@ -34,6 +36,7 @@ protected:
 private:
     void accessibilityActiveChanged(bool active) override;
     bool feldereignis(QEvent *event);
+    bool beansprucht(QKeyEvent *event) const;
     bool taste(int taste);
     void stoerung(const QObject *watched, const QEvent *event);
     bool anMaus() const;

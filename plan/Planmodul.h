@@ -147,6 +147,8 @@ Q_SIGNALS:
     void zuruecknehmenGewuenscht();
     /// What was taken back last is to be repeated.
     void wiederholenGewuenscht();
+    /// The user of the window wants the handbook.
+    void hilfeGewuenscht();
 
 private:
     void awakeFromNib();

@@ -2197,6 +2197,38 @@ New: %1</translation>
   <source>… oder ziehen Sie den Standardsatz in die Symbolleiste. Was Sie aus der Leiste herausziehen, verschwindet.</source>
   <translation>… or drag the default set into the toolbar. What you drag out of the toolbar disappears.</translation>
  </message>
+ <message>
+  <source>&amp;Handbuch</source>
+  <translation>&amp;Handbook</translation>
+ </message>
+ <message>
+  <source>Handbuch</source>
+  <translation>Handbook</translation>
+ </message>
+ <message>
+  <source>Zurück</source>
+  <translation>Back</translation>
+ </message>
+ <message>
+  <source>Vor</source>
+  <translation>Forward</translation>
+ </message>
+ <message>
+  <source>Auf dieser Seite suchen</source>
+  <translation>Find on this page</translation>
+ </message>
+ <message>
+  <source>Steht nicht auf dieser Seite.</source>
+  <translation>Not on this page.</translation>
+ </message>
+ <message>
+  <source>Seiten des Handbuchs</source>
+  <translation>Pages of the handbook</translation>
+ </message>
+ <message>
+  <source>Seite des Handbuchs</source>
+  <translation>Page of the handbook</translation>
+ </message>
 </context>
 <context>
  <name>PlanmodulGestalt</name>
@@ -2675,6 +2707,14 @@ New: %1</translation>
  <message>
   <source>Übergewicht, ungeeignete Lebensmittel</source>
   <translation>Overweight, unsuitable foods</translation>
+ </message>
+ <message>
+  <source>&amp;Hilfe</source>
+  <translation>&amp;Help</translation>
+ </message>
+ <message>
+  <source>&amp;Handbuch</source>
+  <translation>&amp;Handbook</translation>
  </message>
 </context>
 </TS>

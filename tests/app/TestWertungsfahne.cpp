@@ -7,6 +7,8 @@
 #include <QTest>
 #include <QToolTip>
 
+#include <algorithm>
+
 using namespace Qt::StringLiterals;
 using enum Naehrwert;
 
@@ -25,6 +27,7 @@ private Q_SLOTS:
     void theTextGoes_data();
     void theTextGoes();
     void escapeIsLeftToOthersWhereThereIsNoText();
+    void theKeyOpensTheHandbookWhereThereIsNoText();
     void theMousesTextGoesWithItsFood();
     void aLongTextIsWrapped();
     void whatTheUserWroteIsShownAsWritten();
@@ -139,6 +142,23 @@ void TestWertungsfahne::escapeIsLeftToOthersWhereThereIsNoText()
         return !fahne()->isVisible() && escape.isAccepted();
     };
     QVERIFY(!angenommen());
+}
+
+void TestWertungsfahne::theKeyOpensTheHandbookWhereThereIsNoText()
+{
+    oeffne();
+    const auto handbuchOffen = [] {
+        const QWidgetList fenster = QApplication::topLevelWidgets();
+        return std::any_of(fenster.begin(), fenster.end(), [](const QWidget *eines) {
+            return eines->objectName() == u"handbuch"_s && eines->isVisible();
+        });
+    };
+    m_fenster->klicke(1, inName);
+    QVERIFY(!anTaste().isEmpty());
+    QVERIFY(!handbuchOffen());
+    m_fenster->klicke(0, inName); // no table explains it
+    QVERIFY(anTaste().isEmpty());
+    QVERIFY(handbuchOffen());
 }
 
 void TestWertungsfahne::theMousesTextGoesWithItsFood()
