@@ -7,6 +7,7 @@
 #include "Lebensmittelbestand.h"
 #include "Menue.h"
 #include "Rollbereich.h"
+#include "Schriftplatz.h"
 #include "Schriftstufe.h"
 #include "Zeichenkettentabelle.h"
 #include "Zeilenhoehe.h"
@@ -135,6 +136,7 @@ void AppController::findeFelder()
 void AppController::beschrifte()
 {
     Schriftstufe::kleide(*Hauptfenster);
+    Schriftplatz::gib(*Hauptfenster);
     view->viewport()->setAutoFillBackground(false);
     // The note on the source is seen whole, in however many lines.
     connect(view->document()->documentLayout(), &QAbstractTextDocumentLayout::documentSizeChanged,

@@ -9,9 +9,11 @@
 #include <QComboBox>
 #include <QDialog>
 #include <QHeaderView>
+#include <QHelpEvent>
 #include <QLabel>
 #include <QScrollBar>
 #include <QTest>
+#include <QToolTip>
 
 using enum Naehrwert;
 
@@ -77,11 +79,16 @@ bool zeilenPassen(const QLabel &aufschrift)
            aufschrift.height() >= aufschrift.heightForWidth(aufschrift.width());
 }
 
-/// A text that is longer than its field can be read all the same.
-bool textPasst(const Textfeld &feld)
+/// A text that is longer than its field can be read in the field's tooltip.
+bool textPasst(Textfeld &feld)
 {
-    return feld.width() >= feld.fontMetrics().horizontalAdvance(feld.text()) ||
-           !feld.toolTip().isEmpty();
+    if (feld.width() >= feld.fontMetrics().horizontalAdvance(feld.text()) + 4 ||
+        !feld.toolTip().isEmpty()) {
+        return true;
+    }
+    QHelpEvent frage(QEvent::ToolTip, QPoint(2, 2), feld.mapToGlobal(QPoint(2, 2)));
+    QApplication::sendEvent(&feld, &frage);
+    return QToolTip::text() == feld.text();
 }
 
 bool zeilenPassen(const QTableView &tabelle)
@@ -89,11 +96,14 @@ bool zeilenPassen(const QTableView &tabelle)
     return tabelle.verticalHeader()->defaultSectionSize() >= tabelle.fontMetrics().height();
 }
 
-bool passt(const QWidget &feld)
+bool passt(QWidget &feld)
 {
-    const QSize mindestens = traegtText(feld) ? feld.minimumSizeHint() : QSize(0, 0);
     const auto *aufschrift = qobject_cast<const QLabel *>(&feld);
-    const auto *textfeld = qobject_cast<const Textfeld *>(&feld);
+    auto *textfeld = qobject_cast<Textfeld *>(&feld);
+    // What is shown has room for its text; the sign of a rating is as wide as the sign.
+    const bool anzeige = textfeld != nullptr &&
+                         (!textfeld->isEditable() || textfeld->muster() == QStringLiteral("+"));
+    const QSize mindestens = traegtText(feld) && !anzeige ? feld.minimumSizeHint() : QSize(0, 0);
     const auto *tabelle = qobject_cast<const QTableView *>(&feld);
     return feld.width() >= mindestens.width() && feld.height() >= mindestens.height() &&
            (aufschrift == nullptr || zeilenPassen(*aufschrift)) &&
@@ -101,13 +111,20 @@ bool passt(const QWidget &feld)
            (tabelle == nullptr || zeilenPassen(*tabelle));
 }
 
+/// The arrows that roll the tabs are the style's.
+bool gehoertDenReitern(const QWidget &feld)
+{
+    return feld.parentWidget()->inherits("QTabBar");
+}
+
 /// What of a window has less room than it needs, in words; empty when all is seen whole.
 QString geschnittene(const QWidget &fenster)
 {
     QCoreApplication::processEvents();
     QStringList ergebnis;
-    for (const QWidget *feld : fenster.findChildren<QWidget *>()) {
-        if (feld->window() == &fenster && feld->isVisible() && !passt(*feld)) {
+    for (QWidget *feld : fenster.findChildren<QWidget *>()) {
+        if (feld->window() == &fenster && feld->isVisible() && !gehoertDenReitern(*feld) &&
+            !passt(*feld)) {
             ergebnis << QStringLiteral("%1 %2 (%3 x %4 of %5 x %6)")
                             .arg(QLatin1String(feld->metaObject()->className()), feld->objectName())
                             .arg(feld->width())
