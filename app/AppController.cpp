@@ -7,10 +7,13 @@
 #include "Lebensmittelbestand.h"
 #include "Menue.h"
 #include "Rollbereich.h"
+#include "Schriftplatz.h"
 #include "Schriftstufe.h"
 #include "Zeichenkettentabelle.h"
+#include "Zeilenhoehe.h"
 
 #include <QAbstractButton>
+#include <QAbstractTextDocumentLayout>
 #include <QEvent>
 #include <QKeyEvent>
 
@@ -133,7 +136,11 @@ void AppController::findeFelder()
 void AppController::beschrifte()
 {
     Schriftstufe::kleide(*Hauptfenster);
+    Schriftplatz::gib(*Hauptfenster);
     view->viewport()->setAutoFillBackground(false);
+    // The note on the source is seen whole, in however many lines.
+    connect(view->document()->documentLayout(), &QAbstractTextDocumentLayout::documentSizeChanged,
+            this, [this](const QSizeF &text) { view->setFixedHeight(qCeil(text.height())); });
     view->setPlainText(localizedString(QString::fromUtf8(quellenangabe)));
     nahrviewfarben->setEintraege({
         {QColor(0, 255, 0), localizedString(QStringLiteral("Protein"))},
@@ -240,7 +247,7 @@ void AppController::awakeFromNib()
     LManzahl->setIntValue(static_cast<int>(Array.size()));
     Tabelle->setAlternatingRowColors(true);
     Tabelle->setGitter(true);
-    Tabelle->setRowHeight(zeilenhoehe);
+    Tabelle->setRowHeight(zeilenhoeheFuer(*Tabelle, zeilenhoehe));
     for (std::size_t i = 0; i < m_mengenregler.size(); ++i) {
         m_mengenregler[i]->setEnabled(false);
         m_mengenanzeigen[i]->setStringValue(

@@ -2,6 +2,7 @@
 
 #include "AppController.h"
 #include "Einstellungen.h"
+#include "Platzgedaechtnis.h"
 
 #include <QScreen>
 
@@ -12,8 +13,18 @@ namespace {
 const QString teilung = QStringLiteral("Hauptfenster/rechteSeite"); // its width
 const QString profilsuche = QStringLiteral("Hauptfenster/Profilsuche");
 const QString ansicht = QStringLiteral("Hauptfenster/Ansicht");
+const QString auswertung = QStringLiteral("Planfenster/untereSeite"); // its height
+const QString planzeile = QStringLiteral("Planfenster/Zeilenhoehe");
 
 constexpr int schmalsteSpalte = 30;
+
+/// The first part of a window keeps what the second one, of this size, leaves of it.
+void teile(QSplitter &teiler, int ganz, int zweiter)
+{
+    if (zweiter > 0) {
+        teiler.setSizes({std::max(1, ganz - zweiter), std::min(zweiter, ganz)});
+    }
+}
 
 QString spaltenschluessel(const AppController &controller, int spalte)
 {
@@ -30,6 +41,13 @@ Fenstergedaechtnis::Fenstergedaechtnis(AppController &controller, Einstellungen 
 
 void Fenstergedaechtnis::beginne()
 {
+    using enum Platzgedaechtnis::Umfang;
+    auto *haupt = new Platzgedaechtnis(*m_controller.Hauptfenster, m_einstellungen,
+                                       QStringLiteral("Hauptfenster"), Platz, this);
+    auto *blatt = new Platzgedaechtnis(*m_controller.einfenster, m_einstellungen,
+                                       QStringLiteral("Eingabefenster"), Groesse, this);
+    haupt->stelleWiederHer();
+    blatt->stelleWiederHer();
     stelleWiederHer();
     beachteAenderungen();
 }
@@ -40,11 +58,7 @@ void Fenstergedaechtnis::stelleWiederHer()
 {
     AppController &c = m_controller;
     const int schirmbreite = c.Hauptfenster->screen()->availableGeometry().width();
-    const int rechts = m_einstellungen.value(teilung).toInt();
-    if (rechts > 0) {
-        const int ganz = c.Hauptfenster->width();
-        c.teiler->setSizes({std::max(1, ganz - rechts), std::min(rechts, ganz)});
-    }
+    teile(*c.teiler, c.Hauptfenster->width(), m_einstellungen.value(teilung).toInt());
     for (int spalte = 0; spalte < c.Tabelle->modell()->columnCount(); ++spalte) {
         const int breite = m_einstellungen.value(spaltenschluessel(c, spalte)).toInt();
         if (breite > 0) {
@@ -74,4 +88,26 @@ void Fenstergedaechtnis::beachteAenderungen()
     connect(c.DatenAnsicht, &QTabWidget::currentChanged, this, [this, &c] {
         m_einstellungen.setValue(ansicht, c.DatenAnsicht->currentWidget()->property("kennung"));
     });
+    connect(&c, &AppController::planBereit, this, &Fenstergedaechtnis::bereitePlan);
+}
+
+/// The plan's window is made when it is first asked for.
+void Fenstergedaechtnis::bereitePlan()
+{
+    Planmodul &plan = *m_controller.planmodul;
+    QWidget &fenster = *plan.window();
+    auto *platz = new Platzgedaechtnis(fenster, m_einstellungen, QStringLiteral("Planfenster"),
+                                       Platzgedaechtnis::Umfang::Platz, this);
+    platz->stelleWiederHer();
+    teile(*plan.teiler, fenster.height(), m_einstellungen.value(auswertung).toInt());
+    const int hoehe = m_einstellungen.value(planzeile).toInt();
+    if (hoehe >= plan.tabellengroesse->minimumValue() &&
+        hoehe <= plan.tabellengroesse->maximumValue()) {
+        plan.tabellengroesse->setIntValue(hoehe);
+        plan.PlanTabelle->setRowHeight(hoehe);
+    }
+    connect(plan.teiler, &QSplitter::splitterMoved, this,
+            [this, &plan] { m_einstellungen.setValue(auswertung, plan.teiler->sizes().last()); });
+    connect(plan.tabellengroesse, &Schieber::betaetigt, this,
+            [this, &plan] { m_einstellungen.setValue(planzeile, plan.PlanTabelle->rowHeight()); });
 }

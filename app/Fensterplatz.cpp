@@ -40,6 +40,18 @@ QRect imSchirm(const QRect &schirm, const QPoint &ort, const QSize &wunsch)
     return {QPoint(x, y), groesse};
 }
 
+QRect wiederImSchirm(const QList<QRect> &schirme, const QRect &platz)
+{
+    const auto anteil = [&platz](const QRect &schirm) {
+        const QRect zuSehen = schirm.intersected(platz);
+        return static_cast<qint64>(zuSehen.width()) * zuSehen.height();
+    };
+    const auto bester =
+        std::max_element(schirme.begin(), schirme.end(),
+                         [&anteil](const auto &a, const auto &b) { return anteil(a) < anteil(b); });
+    return bester != schirme.end() ? imSchirm(*bester, platz.topLeft(), platz.size()) : platz;
+}
+
 void bringeInDenSchirm(QWidget &fenster)
 {
     const QRect schirm = fenster.screen()->availableGeometry();

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QList>
 #include <QObject>
 #include <QPoint>
 #include <QRect>
@@ -21,6 +22,10 @@ inline constexpr int rahmen = 4;
 /// desktop leaves free, its title bar included, and no larger than that. `ort` is where its content
 /// would like to begin.
 QRect imSchirm(const QRect &schirm, const QPoint &ort, const QSize &wunsch);
+
+/// Where a window opens that stood here the last time: on the one of these screens where most of it
+/// was, on the first one when that screen is gone. No screen at all leaves it where it was.
+QRect wiederImSchirm(const QList<QRect> &schirme, const QRect &platz);
 
 /// Brings a window within its screen before it is shown: no larger than it, and whole on it.
 void bringeInDenSchirm(QWidget &fenster);

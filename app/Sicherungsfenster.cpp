@@ -3,6 +3,7 @@
 #include "Bestandsvergleich.h"
 #include "Wertehalter.h"
 #include "Zeichenkettentabelle.h"
+#include "Zeilenhoehe.h"
 
 #include <QComboBox>
 #include <QDialogButtonBox>
@@ -94,7 +95,7 @@ QWidget *Sicherungsfenster::mittelteil()
     m_inhalt->setAlternatingRowColors(true);
     m_inhalt->setTabKeyNavigation(false);
     m_inhalt->verticalHeader()->hide();
-    m_inhalt->verticalHeader()->setDefaultSectionSize(zeilenhoehe);
+    m_inhalt->verticalHeader()->setDefaultSectionSize(zeilenhoeheFuer(*m_inhalt, zeilenhoehe));
     m_inhalt->horizontalHeader()->setSectionResizeMode(spalteName, QHeaderView::Stretch);
     m_inhalt->horizontalHeader()->setSectionResizeMode(spalteWert, QHeaderView::ResizeToContents);
     m_inhalt->horizontalHeader()->setSectionResizeMode(spalteHeute, QHeaderView::ResizeToContents);

@@ -5,6 +5,7 @@
 #include <QComboBox>
 #include <QCoreApplication>
 #include <QEvent>
+#include <QLayout>
 #include <QScrollBar>
 #include <QVBoxLayout>
 
@@ -18,6 +19,15 @@ bool folgtDemRad(const QWidget &feld)
     return qobject_cast<const QAbstractSlider *>(&feld) != nullptr ||
            qobject_cast<const QAbstractSpinBox *>(&feld) != nullptr ||
            qobject_cast<const QComboBox *>(&feld) != nullptr;
+}
+
+/// A sentence that is broken into lines makes the page higher than its fields alone would.
+void gibZeilenPlatz(QWidget &seite)
+{
+    const QLayout *anordnung = seite.layout();
+    if (anordnung != nullptr && anordnung->hasHeightForWidth()) {
+        seite.setMinimumHeight(anordnung->totalMinimumHeightForWidth(seite.width()));
+    }
 }
 
 } // namespace
@@ -72,6 +82,10 @@ bool Rollbereich::eventFilter(QObject *watched, QEvent *event)
 {
     if (watched == widget() && event->type() == QEvent::LayoutRequest) {
         updateGeometry(); // the page may have become wider
+    }
+    if (watched == widget() &&
+        (event->type() == QEvent::LayoutRequest || event->type() == QEvent::Resize)) {
+        gibZeilenPlatz(*widget());
     }
     // The scroll bars and the page pass through here too.
     const auto *feld = qobject_cast<const QWidget *>(watched);

@@ -6,10 +6,12 @@
 #include <QEvent>
 #include <QFocusEvent>
 #include <QGuiApplication>
+#include <QHelpEvent>
 #include <QKeyEvent>
 #include <QPainter>
 #include <QPalette>
 #include <QRegularExpression>
+#include <QToolTip>
 #include <QValidator>
 
 #include <algorithm>
@@ -37,6 +39,13 @@ public:
                                                                               : Invalid;
     }
 };
+
+/// True when the field is too narrow for what it shows; a name can be as long as it likes.
+bool schneidetAb(const QLineEdit &feld)
+{
+    constexpr int rand = 4; // that a line of text keeps free on both sides
+    return feld.fontMetrics().horizontalAdvance(feld.text()) + rand > feld.contentsRect().width();
+}
 
 } // namespace
 
@@ -244,6 +253,10 @@ bool Textfeld::event(QEvent *event)
 {
     if (event->type() == auffrischen) {
         zeigen();
+        return true;
+    }
+    if (event->type() == QEvent::ToolTip && toolTip().isEmpty() && schneidetAb(*this)) {
+        QToolTip::showText(static_cast<QHelpEvent *>(event)->globalPos(), text(), this);
         return true;
     }
     if (event->type() == QEvent::ShortcutOverride &&

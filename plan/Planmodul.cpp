@@ -3,6 +3,7 @@
 #include "Ampel.h"
 #include "Archivdatei.h"
 #include "Dateihueter.h"
+#include "Schriftplatz.h"
 #include "Zeichenkettentabelle.h"
 
 #include <QImage>
@@ -28,6 +29,25 @@ constexpr int ersteTage = 7;
 QImage gesicht(const char *name)
 {
     return QImage(QStringLiteral(":/bilder/%1.png").arg(QLatin1String(name)));
+}
+
+/// The words below the circles begin where the circles end, also where larger letters make the
+/// picture wider. There a circle's radius is a fifth of the width, and its centre lies 45 points
+/// above the middle.
+void rueckeKreisworte(const Ui::PlanmodulGestalt &plan)
+{
+    constexpr int wortzeilen = 3; // of the sentence below the colours
+    const QSize bild = plan.kreisansicht->minimumSize();
+    const int breite = std::max(bild.width(), plan.kreisfarben->minimumSizeHint().width());
+    const int hoehe = bild.height() * breite / bild.width();
+    const int worte = plan.wort29->sizeHint().height() + plan.kreisfarben->sizeHint().height() +
+                      wortzeilen * plan.kreisworte->fontMetrics().lineSpacing() +
+                      3 * plan.anordnung9->spacing();
+    const int kreisende = hoehe / 2 - 45 + breite / 5;
+    const int mitAllenWorten = worte - 90 + 2 * breite / 5; // the picture as high as both together
+    plan.luft4->changeSize(0,
+                           std::max({plan.luft4->sizeHint().height(), kreisende, mitAllenWorten}),
+                           QSizePolicy::Minimum, QSizePolicy::Fixed);
 }
 
 } // namespace
@@ -77,6 +97,7 @@ void Planmodul::awakeFromNib()
     verbinde();
     reloadData();
     ladeBilder();
+    teiler->setStretchFactor(0, 1); // on a larger screen more rows are seen
     planbeurteilungfaceview->entscheidung(Gesichtscode::lachend);
     Kalorienbedarf->setIntValue(klient.unbereinigt);
     for (Textfeld *feld : {Kalorienerrechnet, wunschverlust}) {
@@ -91,6 +112,8 @@ void Planmodul::awakeFromNib()
     Tage->setIntValue(ersteTage);
     datenberechnen();
     // The sentences set here need room; without this the first picture would be laid out too small.
+    rueckeKreisworte(*this);
+    Schriftplatz::gib(*boxinhalt);
     boxinhalt->layout()->activate();
     ladeNamenswechsel();
     pruefePlannamen();

@@ -166,6 +166,11 @@ void Planmodul::datenberechnen()
 /// for a printer that knows only black.
 void Planmodul::stelleZeichenDazu()
 {
+    int zeichenbreite = 0;
+    for (const char *zeichen : {"✓", "≈", "✗"}) {
+        const QLabel probe(QString::fromUtf8(zeichen));
+        zeichenbreite = std::max(zeichenbreite, probe.minimumSizeHint().width());
+    }
     for (std::size_t i = 0; i < anzahlNaehrwerte; ++i) {
         int zeile = 0;
         int spalte = 0;
@@ -175,6 +180,7 @@ void Planmodul::stelleZeichenDazu()
                                        &zeile, &spalte, &hoch, &breit);
         m_zeichen[i] = new QLabel(boxinhalt);
         m_zeichen[i]->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred); // none moves
+        m_zeichen[i]->setMinimumWidth(zeichenbreite);
         anteilsgitter->addWidget(m_zeichen[i], zeile, spalte + 1);
     }
 }

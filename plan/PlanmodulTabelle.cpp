@@ -5,6 +5,7 @@
 #include "Ganzzahl.h"
 #include "Planzahlen.h"
 #include "Zeichenkettentabelle.h"
+#include "Zeilenhoehe.h"
 
 #include <QCoreApplication>
 #include <QHeaderView>
@@ -118,6 +119,10 @@ void Planmodul::beschrifteTabelle()
         spalte.bearbeitbar = false;
     }
     SummenTabelle->setQuelle(&m_summenzeilen, spalten);
+    for (Breittabelle *tabelle : {PlanTabelle, SummenTabelle}) {
+        tabelle->setRowHeight(zeilenhoeheFuer(*tabelle, tabelle->rowHeight()));
+    }
+    tabellengroesse->setIntValue(PlanTabelle->rowHeight());
     SummenTabelle->folge(*PlanTabelle);
     summenreihe->setContentsMargins(
         0, 0, PlanTabelle->style()->pixelMetric(QStyle::PM_ScrollBarExtent), 0);

@@ -1894,6 +1894,10 @@ New: %1</translation>
   <translation>Search</translation>
  </message>
  <message>
+  <source>Suchen</source>
+  <translation>Find</translation>
+ </message>
+ <message>
   <source>Suche: %1 gefunden</source>
   <translation>Search: %1 found</translation>
  </message>
