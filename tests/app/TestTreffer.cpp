@@ -125,6 +125,7 @@ void TestTreffer::twoClicksOnTheLowestRowMeetTheRowTwice()
     QTest::mouseDClick(controller().Hauptfenster->windowHandle(), Qt::LeftButton, {},
                        tabelle.viewport()->mapTo(controller().Hauptfenster, ort));
     QCOMPARE(gezeigt(), name);
+    QVERIFY(controller().planmodul != nullptr);
     QCOMPARE(controller().planmodul->PlanArray, QStringList{name});
 }
 
