@@ -4,6 +4,7 @@
 
 #include "Zellenmaler.h"
 
+#include <QCoreApplication>
 #include <QDrag>
 #include <QDragMoveEvent>
 #include <QMimeData>
