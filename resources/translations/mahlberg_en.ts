@@ -459,6 +459,10 @@
   <translation>Source of the values</translation>
  </message>
  <message>
+  <source>Suchen</source>
+  <translation>Find</translation>
+ </message>
+ <message>
   <source>✓ grün: über 10 % des Tagesbedarfs, ✗ rot: darunter. Genau 10 % werden wie die Zeile davor beurteilt, bei Calcium grün.</source>
   <translation>✓ green: above 10 % of the daily need, ✗ red: below. Exactly 10 % is judged like the row before, for calcium green.</translation>
  </message>
@@ -1776,10 +1780,6 @@ New: %1</translation>
  <message>
   <source>Suche</source>
   <translation>Search</translation>
- </message>
- <message>
-  <source>Suchen</source>
-  <translation>Find</translation>
  </message>
  <message>
   <source>Suche: %1 gefunden</source>
