@@ -471,6 +471,10 @@
   <translation>Source of the values</translation>
  </message>
  <message>
+  <source>Suchen</source>
+  <translation>Find</translation>
+ </message>
+ <message>
   <source>Zurück zu den Treffern</source>
   <translation>Back to the results</translation>
  </message>
@@ -1894,10 +1898,6 @@ New: %1</translation>
   <translation>Search</translation>
  </message>
  <message>
-  <source>Suchen</source>
-  <translation>Find</translation>
- </message>
- <message>
   <source>Suche: %1 gefunden</source>
   <translation>Search: %1 found</translation>
  </message>
@@ -2465,7 +2465,7 @@ New: %1</translation>
   <translation>Move &amp;down</translation>
  </message>
  <message>
-  <source>Rück&amp;gängig</source>
+  <source>&amp;Rückgängig</source>
   <translation>&amp;Undo</translation>
  </message>
  <message>

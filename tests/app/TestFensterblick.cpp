@@ -248,6 +248,9 @@ void TestFensterblick::nothingIsCutOnASmallScreen()
     QVERIFY(!aussen->horizontalScrollBar()->isVisible());
     QVERIFY(!aussen->verticalScrollBar()->isVisible());
     QVERIFY(!c.Tabelle->horizontalScrollBar()->isVisible()); // all three lists are seen
+    QVERIFY(c.suchfeld->width() >=
+            c.suchfeld->fontMetrics().horizontalAdvance(c.suchfeld->placeholderText()) + 12);
+    QCOMPARE(c.view->verticalScrollBar()->maximum(), 0); // the note on the source is seen whole
     for (int ansicht = 0; ansicht < c.DatenAnsicht->count(); ++ansicht) {
         c.DatenAnsicht->setCurrentIndex(ansicht);
         QCoreApplication::processEvents();
