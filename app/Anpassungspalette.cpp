@@ -154,6 +154,9 @@ QWidget *Anpassungspalette::kacheln()
         kachel->setIcon(werkzeug.bild);
         kachel->setText(werkzeug.palettenbeschriftung);
         raster->addWidget(kachel, i / spalten, i % spalten);
+        if (i == 0) {
+            kachel->setFocus(); // the keyboard begins where the eye does
+        }
         ++i;
     }
     return flaeche;

@@ -1,6 +1,7 @@
 #include "Sicherungsfenster.h"
 
 #include "Bestandsvergleich.h"
+#include "Sperrgrund.h"
 #include "Wertehalter.h"
 #include "Zeichenkettentabelle.h"
 #include "Zeilenhoehe.h"
@@ -120,6 +121,8 @@ QWidget *Sicherungsfenster::unterteil()
     m_zurueck = knoepfe->addButton(localizedString(QStringLiteral("&Zurückholen")),
                                    QDialogButtonBox::ActionRole);
     m_zurueck->setObjectName(QStringLiteral("zurueckholen"));
+    new Sperrgrund(m_zurueck, localizedString(QStringLiteral(
+                                  "Es gibt keinen Stand, der zurückgeholt werden kann.")));
     zeilen->addWidget(knoepfe);
     connect(m_zurueck, &QPushButton::clicked, this, &Sicherungsfenster::holeZurueck);
     connect(knoepfe, &QDialogButtonBox::rejected, this, &QDialog::reject);

@@ -42,14 +42,6 @@ void maleFokus(QPainter &painter, const QRect &platz, const QPalette &palette, b
 
 Fokusstil::Fokusstil() : QProxyStyle(QStringLiteral("Fusion")) {}
 
-void Fokusstil::polish(QWidget *widget)
-{
-    QProxyStyle::polish(widget);
-    if (widget->isWindow()) {
-        widget->setAttribute(Qt::WA_KeyboardFocusChange);
-    }
-}
-
 void Fokusstil::drawPrimitive(PrimitiveElement element, const QStyleOption *option,
                               QPainter *painter, const QWidget *widget) const
 {
@@ -70,8 +62,13 @@ void Fokusstil::drawControl(ControlElement element, const QStyleOption *option, 
                             const QWidget *widget) const
 {
     QProxyStyle::drawControl(element, option, painter, widget);
-    if (element == CE_ShapedFrame && hatTastatur(*option)) { // lists, tables and texts
+    if (!hatTastatur(*option)) {
+        return;
+    }
+    if (element == CE_ShapedFrame || element == CE_PushButton) { // lists, tables and texts too
         maleFokus(*painter, option->rect, option->palette);
+    } else if (element == CE_TabBarTabLabel) {
+        maleFokus(*painter, option->rect.adjusted(3, 3, -3, -3), option->palette);
     }
 }
 
@@ -79,7 +76,8 @@ void Fokusstil::drawComplexControl(ComplexControl control, const QStyleOptionCom
                                    QPainter *painter, const QWidget *widget) const
 {
     QProxyStyle::drawComplexControl(control, option, painter, widget);
-    if ((control == CC_SpinBox || control == CC_ComboBox) && hatTastatur(*option)) {
+    const bool umrahmt = control == CC_SpinBox || control == CC_ComboBox || control == CC_Slider;
+    if (umrahmt && hatTastatur(*option)) {
         maleFokus(*painter, option->rect, option->palette);
     }
 }

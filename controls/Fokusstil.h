@@ -19,10 +19,6 @@ class Fokusstil : public QProxyStyle
 public:
     Fokusstil();
 
-    /// Windows tell the keyboard's place from the first moment on, not from the first Tab key.
-    void polish(QWidget *widget) override;
-    using QProxyStyle::polish;
-
     void drawPrimitive(PrimitiveElement element, const QStyleOption *option, QPainter *painter,
                        const QWidget *widget) const override;
     void drawControl(ControlElement element, const QStyleOption *option, QPainter *painter,

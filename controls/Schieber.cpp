@@ -141,6 +141,7 @@ void Schieber::setUnit(const QString &unit)
 {
     m_unit = unit;
     m_eingabe->setSuffix(unit.isEmpty() ? QString() : QChar(QChar::Nbsp) + unit);
+    beschreibe();
 }
 
 void Schieber::einteilen()

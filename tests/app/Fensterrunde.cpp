@@ -97,7 +97,8 @@ bool istVonQt(const QWidget &widget)
 {
     const QWidget *mutter = widget.parentWidget();
     return widget.objectName().startsWith(QLatin1String("qt_")) ||
-           widget.inherits("QTableCornerButton") || widget.inherits("QToolBarExtension") ||
+           widget.inherits("QTableCornerButton") || widget.inherits("QHeaderView") ||
+           widget.inherits("QToolBarExtension") ||
            qobject_cast<const QTabBar *>(mutter) != nullptr ||
            qobject_cast<const QLineEdit *>(mutter) != nullptr ||
            (mutter != nullptr &&

@@ -146,10 +146,10 @@ void druecke(Qt::Key taste, Qt::KeyboardModifiers dazu = {})
 /// Opens the palette from the menu and goes to the tile of this item, with the Tab key alone.
 void geheZurKachel(const AppController &controller, const QString &kennung)
 {
-    const auto *palette = controller.Hauptfenster->findChild<Anpassungspalette *>();
+    auto *palette = controller.Hauptfenster->findChild<Anpassungspalette *>();
     QVERIFY(palette != nullptr);
-    QVERIFY(QTest::qWaitForWindowActive(
-        controller.Hauptfenster->findChild<QDialog *>(QStringLiteral("anpassungspalette"))));
+    palette->activateWindow(); // there is no desktop that does it
+    QTRY_VERIFY(palette->isActiveWindow());
     for (int i = 0; i < 30; ++i) {
         if (QApplication::focusWidget() != nullptr &&
             QApplication::focusWidget()->objectName() == QLatin1String("kachel ") + kennung) {
