@@ -89,9 +89,7 @@ Hilfe::~Hilfe() = default;
 
 void Hilfe::zeige(const QWidget &fenster)
 {
-    const QWidget *vorn = QApplication::activeWindow();
-    const bool ihres = vorn != nullptr && vorn->parentWidget() == &fenster;
-    const QString seite = handbuchseite(ihres ? *vorn : fenster);
+    const QString seite = handbuchseite(fenster);
     if (m_handbuch == nullptr) {
         m_handbuch = std::make_unique<Handbuch>();
     }

@@ -22,8 +22,7 @@ public:
     Hilfe();
     ~Hilfe() override;
 
-    /// Shows the page that fits this window, or the one of its own that is in front of it: some of
-    /// them leave their keys to it.
+    /// Shows the page that fits this window.
     void zeige(const QWidget &fenster);
 
     /// The language was changed, and the handbook may be open.

@@ -152,7 +152,8 @@ void TestHilfe::theKeyOpensThePageOfThePlace()
 {
     QFETCH(Gang, gang);
     QWidget *wo = gang(c());
-    QVERIFY(QTest::qWaitForWindowActive(wo->window()));
+    wo->window()->activateWindow();
+    QTRY_COMPARE(QApplication::activeWindow(), wo->window());
     QTest::keyClick(wo, Qt::Key_F1);
     QTEST(offeneSeite(), "seite");
 }
