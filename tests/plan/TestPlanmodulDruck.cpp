@@ -199,7 +199,8 @@ void TestPlanmodulDruck::theSimpleListOfAPlanWorkedOutByHand()
     m_heim->schreibePlan({{u"Äpfel, roh"_s, 150.0F}, {u"Hefe"_s, 60.0F}});
     oeffne();
     (*m_fenster)->drucken();
-    QCOMPARE(m_druck->zeilen(1).first(5), // and below them the foot
+    QCOMPARE(m_druck->zeilen(1).size(), 6); // the foot is the last one
+    QCOMPARE(m_druck->zeilen(1).first(5),
              QStringList({u"Hefe 60 gr 54 kcal"_s, u"Äpfel, roh 150 gr 78 kcal"_s,
                           u"Lebensmittel Gramm Kalorien"_s, u"Gesamt 210 gr 132 kcal"_s,
                           u"Soll 1690 kcal"_s}));
