@@ -5,6 +5,7 @@
 #include "Energiebedarf.h"
 #include "Ganzzahl.h"
 #include "Getraenke.h"
+#include "Sperrgrund.h"
 #include "Sportarten.h"
 #include "Zeichenkettentabelle.h"
 
@@ -240,9 +241,17 @@ void AnthroController::setzeStartwerte()
     gewicht2->setFloatValue(gewicht->floatValue());
     zeigeGeschlecht();
     sportmenge->setEnabled(false);
+    begruendeSperren();
     sportstunden->setStringValue(localizedString(QStringLiteral("Zeit(h)")));
     alteranzeige->setIntValue(startalter);
     alter->setIntValue(startalter);
+}
+
+void AnthroController::begruendeSperren()
+{
+    const QString sport = localizedString(QStringLiteral("Wählen Sie zuerst eine Sportart."));
+    new Sperrgrund(sportmenge->regler(), sport);
+    new Sperrgrund(sportmenge->eingabe(), sport);
 }
 
 void AnthroController::liesEinstellungen()

@@ -808,6 +808,14 @@ Nothing is worked out for children under 10 years; it resumes at 11 years.</tr
   <translation>Meaning of the colours, from the left: %1</translation>
  </message>
  <message>
+  <source>Es gibt keinen Stand, der zurückgeholt werden kann.</source>
+  <translation>There is no state that can be brought back.</translation>
+ </message>
+ <message>
+  <source>Wählen Sie zuerst eine Sportart.</source>
+  <translation>First choose a sport.</translation>
+ </message>
+ <message>
   <source>Es gibt nichts zu wiederholen.</source>
   <translation>There is nothing to redo.</translation>
  </message>
