@@ -110,6 +110,7 @@ private:
     void verbindeGruppe(const Matrix &gruppe, void (AnthroController::*aktion)(int));
     void ladeBilder();
     void setzeStartwerte();
+    void begruendeSperren();
     void liesEinstellungen();
 
     // The settings

@@ -5,17 +5,20 @@
 #include "Energiebedarf.h"
 #include "Ganzzahl.h"
 #include "Getraenke.h"
+#include "Sperrgrund.h"
 #include "Sportarten.h"
 #include "Zeichenkettentabelle.h"
 
 #include <QAbstractButton>
 #include <QCollator>
 #include <QCoreApplication>
+#include <QDoubleSpinBox>
 #include <QLabel>
 #include <QLineEdit>
 #include <QLocale>
 #include <QSettings>
 #include <QSignalBlocker>
+#include <QSlider>
 
 #include <algorithm>
 #include <array>
@@ -240,9 +243,17 @@ void AnthroController::setzeStartwerte()
     gewicht2->setFloatValue(gewicht->floatValue());
     zeigeGeschlecht();
     sportmenge->setEnabled(false);
+    begruendeSperren();
     sportstunden->setStringValue(localizedString(QStringLiteral("Zeit(h)")));
     alteranzeige->setIntValue(startalter);
     alter->setIntValue(startalter);
+}
+
+void AnthroController::begruendeSperren()
+{
+    const QString grund = localizedString(QStringLiteral("Wählen Sie zuerst eine Sportart."));
+    new Sperrgrund(sportmenge->regler(), grund);
+    new Sperrgrund(sportmenge->eingabe(), grund);
 }
 
 void AnthroController::liesEinstellungen()

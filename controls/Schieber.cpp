@@ -182,12 +182,14 @@ void Schieber::zeigen()
     beschreibe();
 }
 
-/// By itself the slider would be read out as the number of its step. One that can't be used says
-/// why instead.
+/// By itself the slider would be read out as the number of its step, and the number without its
+/// unit. What can't be used says why instead.
 void Schieber::beschreibe()
 {
-    if (m_regler->isEnabled()) {
-        m_regler->setAccessibleDescription(m_eingabe->text());
+    for (QWidget *teil : {static_cast<QWidget *>(m_regler), static_cast<QWidget *>(m_eingabe)}) {
+        if (teil->isEnabled()) {
+            teil->setAccessibleDescription(m_eingabe->text());
+        }
     }
 }
 

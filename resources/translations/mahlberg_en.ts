@@ -880,6 +880,10 @@ Nothing is worked out for children under 10 years; it resumes at 11 years.</tr
   <translation>The line “%1” stands for no food and does not go into the plan.</translation>
  </message>
  <message>
+  <source>Es gibt keinen Stand, der zurückgeholt werden kann.</source>
+  <translation>There is no state that can be brought back.</translation>
+ </message>
+ <message>
   <source>Es gibt nichts zu wiederholen.</source>
   <translation>There is nothing to redo.</translation>
  </message>
@@ -930,6 +934,10 @@ Nothing is worked out for children under 10 years; it resumes at 11 years.</tr
  <message>
   <source>Wählen Sie zuerst ein Lebensmittel in der Tabelle aus.</source>
   <translation>Choose a food in the table first.</translation>
+ </message>
+ <message>
+  <source>Wählen Sie zuerst eine Sportart.</source>
+  <translation>First choose a sport.</translation>
  </message>
  <message>
   <source>Zurückgenommen: %1.</source>

@@ -179,7 +179,8 @@ void TestVorlesen::valuesHaveTheirUnit()
         if (const auto *schieber = qobject_cast<Schieber *>(&widget)) {
             return mit(vorgelesen(*schieber->regler(), QAccessible::Description),
                        schieber->unit()) +
-                   mit(vorgelesen(*schieber->eingabe(), QAccessible::Value), schieber->unit());
+                   mit(vorgelesen(*schieber->eingabe(), QAccessible::Description),
+                       schieber->unit());
         }
         return mit(vorgelesen(widget, QAccessible::Value),
                    qobject_cast<Textfeld *>(&widget)->unit());

@@ -181,12 +181,12 @@ void TestPlanmodulMenue::theAmountIsChangedFromTheMenu()
 {
     klickeRechts(1);
     waehle(plan().aktionMenge);
-    plan()
-        .window()
-        ->activateWindow(); // without a desktop, the keyboard doesn't come back by itself
-    QTRY_VERIFY(qobject_cast<QLineEdit *>(QApplication::focusWidget()) != nullptr);
-    QTest::keyClicks(QApplication::focusWidget(), u"75"_s);
-    QTest::keyClick(QApplication::focusWidget(), Qt::Key_Return);
+    auto *feld = tabelle().viewport()->findChild<QLineEdit *>();
+    QVERIFY(feld != nullptr);
+    feld->selectAll();
+    QTest::keyClicks(feld, u"75"_s);
+    QTest::keyClick(feld, Qt::Key_Return);
+    QCoreApplication::processEvents();
     QCOMPARE(plan().mengenarray, (QList<float>{10, 75, 30}));
 }
 
