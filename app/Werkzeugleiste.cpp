@@ -165,8 +165,8 @@ void Werkzeugleiste::setAnpassbar(bool anpassbar)
 
 QString Werkzeugleiste::raumname(const QString &kennung)
 {
-    return localizedString(kennung == flexibleSpace ? QStringLiteral("Flexibler Leerraum")
-                                                    : QStringLiteral("Leerraum"));
+    return kennung == flexibleSpace ? localizedString(QStringLiteral("Flexibler Leerraum"))
+                                    : localizedString(QStringLiteral("Leerraum"));
 }
 
 QWidget *Werkzeugleiste::werkzeugfeld(int stelle) const

@@ -61,10 +61,9 @@ void Zellenmaler::paint(QPainter *painter, const QStyleOptionViewItem &option,
     }
     maleText(*painter, option, bild, index);
     if ((option.state & QStyle::State_HasFocus) != 0) {
-        // Within the border of the chosen cell, which stays when the keyboard goes.
-        const int rand = bild.umrandet ? 4 : 1;
-        maleFokus(*painter, option.rect.adjusted(rand, rand, -rand - 1, -rand - 1), option.palette,
-                  istGewaehlt(option) && !istBearbeitbar(index));
+        // Around the border of the chosen cell, which stays when the keyboard goes.
+        const QRect platz = bild.umrandet ? option.rect : option.rect.adjusted(1, 1, -2, -2);
+        maleFokus(*painter, platz, option.palette, istGewaehlt(option) && !istBearbeitbar(index));
     }
     painter->restore();
 }

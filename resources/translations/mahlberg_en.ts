@@ -550,16 +550,8 @@
 <context>
  <name>KoerperGestalt</name>
  <message>
-  <source>0,80 bis 0,88</source>
-  <translation>0.80 to 0.88</translation>
- </message>
- <message>
-  <source>1400 bis 2700</source>
-  <translation>1400 to 2700</translation>
- </message>
- <message>
-  <source>18 bis 25</source>
-  <translation>18 to 25</translation>
+  <source>0,80–0,88</source>
+  <translation>0.80–0.88</translation>
  </message>
  <message>
   <source>Abnehmen</source>

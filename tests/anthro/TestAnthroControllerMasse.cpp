@@ -134,17 +134,17 @@ void TestAnthroControllerMasse::theRangesAreThoseOfTheSmilingFace()
 {
     const auto probe = Rechnerprobe::mitKlient();
     AnthroController &r = probe->rechner();
-    QCOMPARE(r.bmigrenzen->text(), QStringLiteral("18 bis 25"));
+    QCOMPARE(r.bmigrenzen->text(), QStringLiteral("18–25"));
     QCOMPARE(bmiGesicht(18.01F), std::optional<int>(1));
     QVERIFY(bmiGesicht(17.99F) != std::optional<int>(1));
     QCOMPARE(bmiGesicht(24.99F), std::optional<int>(1));
     QVERIFY(bmiGesicht(25.01F) != std::optional<int>(1));
-    QCOMPARE(r.whgrenzen->text(), QStringLiteral("0,80 bis 0,88"));
+    QCOMPARE(r.whgrenzen->text(), QStringLiteral("0,80–0,88"));
     QCOMPARE(verhaeltnisGesicht(0.801F), std::optional<int>(1));
     QVERIFY(verhaeltnisGesicht(0.799F) != std::optional<int>(1));
     QCOMPARE(verhaeltnisGesicht(0.879F), std::optional<int>(1));
     QVERIFY(verhaeltnisGesicht(0.881F) != std::optional<int>(1));
-    QCOMPARE(r.kalgrenzen->text(), QStringLiteral("1400 bis 2700"));
+    QCOMPARE(r.kalgrenzen->text(), QStringLiteral("1400–2700"));
     QCOMPARE(energieGesicht(1401), std::optional<int>(1));
     QVERIFY(energieGesicht(1399) != std::optional<int>(1));
     QCOMPARE(energieGesicht(2699), std::optional<int>(1));

@@ -132,7 +132,7 @@ void TestRechnerbild::theWindowFitsASmallScreen()
     fenster.resize(1280, 680);
     QCoreApplication::processEvents();
     QVERIFY(r->gewichtredu->visibleRegion().isEmpty()); // the last field of the page
-    r->arbeit->setFocus();
+    r->arbeit->zelle(0)->setFocus();
     for (int i = 0; i < 4 && !r->gewichtredu->hasFocus(); ++i) {
         QTest::keyClick(QApplication::focusWidget(), Qt::Key_Tab);
     }
@@ -198,13 +198,13 @@ void TestRechnerbild::textsAreTranslated()
         {{QStringLiteral("aus"), QStringLiteral("off")},
          {QStringLiteral("Zeit(h)"), QStringLiteral("time(h)")},
          {QStringLiteral("Frau"), QStringLiteral("woman")},
-         {QStringLiteral("weit außerhalb des günstigen Bereichs"), QStringLiteral("far off")}});
+         {QStringLiteral("noch nicht eingestellt: %1"), QStringLiteral("missing: %1")}});
     m_fenster.reset();
     m_fenster = std::make_unique<Probefenster>(*m_heim);
     r = &m_fenster->rechner();
     QCOMPARE(r->gewichtredu->text(), QStringLiteral("off"));
     QCOMPARE(r->sportstunden->stringValue(), QStringLiteral("time(h)"));
-    QCOMPARE(r->bmiworte->text(), QStringLiteral("far off"));
+    QVERIFY(r->bmiworte->text().startsWith(QStringLiteral("missing: ")));
     r->geschlechtAktion(1);
     QCOMPARE(Probefenster::text(*r->geschlecht), QStringLiteral("woman"));
     QCOMPARE(r->geschlecht->stringValue(), QStringLiteral("Frau"));

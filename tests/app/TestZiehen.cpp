@@ -217,6 +217,7 @@ void TestZiehen::aDragMovesNothing()
     Tabellenansicht *tabelle = controller().Tabelle;
     m_fenster->klicke(gewaehlt, spalte);
     const int zeile = tabelle->selectedRow();
+    QCoreApplication::processEvents(); // the window has come to rest
     tabelle->verticalScrollBar()->setValue(20);
     const QPersistentModelIndex schreibmarke = tabelle->currentIndex();
     const QImage anblick = tabelle->viewport()->grab().toImage();
