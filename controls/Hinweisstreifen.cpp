@@ -92,6 +92,12 @@ void Hinweisstreifen::zeige(const Hinweis &hinweis)
     ordne();
 }
 
+bool Hinweisstreifen::zeigt(const QString &kennung) const
+{
+    return std::any_of(m_hinweise.cbegin(), m_hinweise.cend(),
+                       [&](const Hinweis &einer) { return einer.kennung == kennung; });
+}
+
 void Hinweisstreifen::nimmZurueck(const QString &kennung)
 {
     const auto gemeint =

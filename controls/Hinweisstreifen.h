@@ -49,6 +49,9 @@ public:
     /// What is to be said, the newest first.
     const QList<Hinweis> &hinweise() const { return m_hinweise; }
 
+    /// Whether there is a notice of this `kennung`.
+    bool zeigt(const QString &kennung) const;
+
     /// Closes the newest notice.
     void schliesse();
 

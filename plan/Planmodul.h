@@ -185,7 +185,7 @@ private:
     void weiseMengeZurueck(int zeile, const QString &text);
 
     // The foods' names
-    QStringList unbekannteNamen() const;
+    Namensbefund namensbefund() const;
     void ladeNamenswechsel();
     void pruefePlannamen();
     void folgePlannamen();

@@ -63,13 +63,13 @@ QString fehlendSatz(const QStringList &namen)
 
 } // namespace
 
-/// The names of the rows that count nothing.
-QStringList Planmodul::unbekannteNamen() const
+/// What has become of the foods whose rows count nothing.
+Namensbefund Planmodul::namensbefund() const
 {
-    QStringList namen;
-    std::copy_if(PlanArray.begin(), PlanArray.end(), std::back_inserter(namen),
+    QStringList unbekannt;
+    std::copy_if(PlanArray.begin(), PlanArray.end(), std::back_inserter(unbekannt),
                  [this](const QString &name) { return lebensmittel(name) == nullptr; });
-    return namen;
+    return pruefeNamen(unbekannt, PlanArray, m_namenswechsel);
 }
 
 /// The former names of foods that this table has.
@@ -83,7 +83,7 @@ void Planmodul::ladeNamenswechsel()
 void Planmodul::pruefePlannamen()
 {
     if (m_fenster != nullptr) {
-        const Namensbefund befund = pruefeNamen(unbekannteNamen(), PlanArray, m_namenswechsel);
+        const Namensbefund befund = namensbefund();
         zeigeFehlende(befund);
         zeigeUmbenannte(befund.umbenannt);
     }
@@ -95,16 +95,16 @@ void Planmodul::folgePlannamen()
     if (m_fenster == nullptr) {
         return;
     }
-    const auto gezeigt = [this](const QString &kennung) {
-        const QList<Hinweis> &alle = hinweise->hinweise();
-        return std::any_of(alle.begin(), alle.end(),
-                           [&](const Hinweis &einer) { return einer.kennung == kennung; });
-    };
-    const Namensbefund befund = pruefeNamen(unbekannteNamen(), PlanArray, m_namenswechsel);
-    if (gezeigt(fehlendeNamen)) {
+    const bool fehlende = hinweise->zeigt(fehlendeNamen);
+    const bool umbenannte = hinweise->zeigt(neueNamen);
+    if (!fehlende && !umbenannte) {
+        return; // as nearly always, so a change of an amount costs no look at all names
+    }
+    const Namensbefund befund = namensbefund();
+    if (fehlende) {
         zeigeFehlende(befund);
     }
-    if (gezeigt(neueNamen)) {
+    if (umbenannte) {
         zeigeUmbenannte(befund.umbenannt);
     }
 }
@@ -148,8 +148,8 @@ void Planmodul::zeigeFehlende(const Namensbefund &befund)
 void Planmodul::uebernimmNeueNamen()
 {
     beendeEingabe();
-    const Namensbefund befund = pruefeNamen(unbekannteNamen(), PlanArray, m_namenswechsel);
-    for (const QString &name : befund.umbenannt) {
+    const QStringList umbenannte = namensbefund().umbenannt;
+    for (const QString &name : umbenannte) {
         umbenennen(name, m_namenswechsel.value(name));
     }
     uebernimmAenderung();

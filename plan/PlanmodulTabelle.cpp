@@ -366,9 +366,7 @@ void Planmodul::zeigeAnsichtshinweis()
 /// A notice that the user has closed does not come back for another row.
 void Planmodul::folgeAuswahl()
 {
-    const QList<Hinweis> &alle = hinweise->hinweise();
-    if (std::any_of(alle.begin(), alle.end(),
-                    [](const Hinweis &einer) { return einer.kennung == alteAnsicht; })) {
+    if (hinweise->zeigt(alteAnsicht)) {
         zeigeAnsichtshinweis();
     }
 }

@@ -20,6 +20,7 @@ private Q_SLOTS:
     void itIsHiddenWhileThereIsNothingToSay();
     void theNewestStandsAbove();
     void aNoticeTakesThePlaceOfTheOneBefore();
+    void itKnowsWhatItHasToSay();
     void theSameWordsAgainLeaveTheRowAlone();
     void signsAreShownAsTheyAre();
     void theActionRunsOnceAndTheNoticeIsGone();
@@ -111,6 +112,23 @@ void TestHinweisstreifen::aNoticeTakesThePlaceOfTheOneBefore()
     m_streifen->zeige({.kennung = u"b"_s, .text = u"Zweites"_s});
     m_streifen->zeige({.kennung = u"a"_s, .text = u"Neues"_s});
     QCOMPARE(texte(), (QStringList{u"Neues"_s, u"Zweites"_s}));
+}
+
+/// One that waits for room counts too.
+void TestHinweisstreifen::itKnowsWhatItHasToSay()
+{
+    const QStringList alle = {u"a"_s, u"b"_s, u"c"_s, u"d"_s};
+    for (const QString &eine : alle) {
+        QVERIFY(!m_streifen->zeigt(eine));
+        m_streifen->zeige({.kennung = eine, .text = u"Es gibt etwas."_s});
+        QVERIFY(m_streifen->zeigt(eine));
+    }
+    QVERIFY(m_streifen->zeigt(u"a"_s)); // three stand in front of it
+    m_streifen->nimmZurueck(u"a"_s);
+    QVERIFY(!m_streifen->zeigt(u"a"_s));
+    m_streifen->schliesse();
+    QVERIFY(!m_streifen->zeigt(u"d"_s));
+    QVERIFY(m_streifen->zeigt(u"b"_s));
 }
 
 void TestHinweisstreifen::theSameWordsAgainLeaveTheRowAlone()

@@ -1,5 +1,7 @@
 #include "Planprobe.h"
 
+#include <QDir>
+#include <QLineEdit>
 #include <QPushButton>
 #include <QTest>
 
@@ -27,6 +29,8 @@ private Q_SLOTS:
     void theNoticeGoesWithItsRows();
     void aClosedNoticeDoesNotComeBack();
     void aPlanThatIsTakenOverIsLookedAt();
+    void whatCanNotBeWrittenIsWrittenNextTime();
+    void anAmountThatIsBeingTypedIsKept();
     void theProgramKnowsTheFormerNamesOfItsFoods();
 
 private:
@@ -233,6 +237,35 @@ void TestPlanmodulNamen::aPlanThatIsTakenOverIsLookedAt()
     frueher.anhaengen(u"Ente"_s);
     plan().uebernimmPlan(frueher);
     QVERIFY(hinweise().at(0).startsWith(u"„Ente“ im Plan heißt jetzt"_s));
+}
+
+/// The plan goes on with the new names, and the next change brings them into the file.
+void TestPlanmodulNamen::whatCanNotBeWrittenIsWrittenNextTime()
+{
+    m_heim->schreibePlan({{u"Brot"_s, 20}, {u"Ente"_s, 150}});
+    oeffne();
+    QVERIFY(QFile::remove(m_heim->plandatei()));
+    QVERIFY(QDir().mkdir(m_heim->plandatei())); // a folder stands where the file belongs
+    uebernimm();
+    QCOMPARE(plan().PlanArray, QStringList({u"Brot"_s, u"Enten, gebraten"_s}));
+    QVERIFY(QDir().rmdir(m_heim->plandatei()));
+    m_fenster->tippeMenge(0, u"30"_s);
+    QCOMPARE(m_heim->plan(), (QMap<QString, float>{{u"Brot"_s, 30}, {u"Enten, gebraten"_s, 150}}));
+}
+
+/// What is being typed belongs to its row, whatever the food is called afterwards.
+void TestPlanmodulNamen::anAmountThatIsBeingTypedIsKept()
+{
+    m_heim->schreibePlan({{u"Brot"_s, 20}, {u"Ente"_s, 150}});
+    oeffne();
+    plan().PlanTabelle->setCurrentIndex(m_fenster->index(1, u"menge"_s));
+    plan().aktionMenge->trigger();
+    auto *feld = plan().PlanTabelle->viewport()->findChild<QLineEdit *>();
+    QVERIFY(feld != nullptr);
+    feld->setText(u"75"_s);
+    const Hinweis hinweis = plan().hinweise->hinweise().constFirst();
+    hinweis.aktion(); // as the key on its button does, which leaves the field where it is
+    QCOMPARE(m_heim->plan(), (QMap<QString, float>{{u"Brot"_s, 20}, {u"Enten, gebraten"_s, 75}}));
 }
 
 void TestPlanmodulNamen::theProgramKnowsTheFormerNamesOfItsFoods()
