@@ -138,6 +138,7 @@ private:
     void uebergibEnergie();
     void zeigeReduktion();
     void zeigeGeschlecht();
+    QWidgetList altersfelder() const;
     void erlaubeRechner(bool erlaubt);
     void verbirgMasse();
     void zeigeMasseWieder();

@@ -54,10 +54,15 @@ void AnthroController::wiealt(const Wertehalter &sender)
     }
 }
 
+/// What can't be set for a child.
+QWidgetList AnthroController::altersfelder() const
+{
+    return {arbeit, geschlechte, alkohol, zieher, groessen, gewichtn, taillen, hueftn};
+}
+
 void AnthroController::erlaubeRechner(bool erlaubt)
 {
-    for (QWidget *feld : std::initializer_list<QWidget *>{arbeit, geschlechte, alkohol, zieher,
-                                                          groessen, gewichtn, taillen, hueftn}) {
+    for (QWidget *feld : altersfelder()) {
         feld->setEnabled(erlaubt);
     }
     altersworte->setVisible(!erlaubt);

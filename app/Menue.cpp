@@ -191,6 +191,8 @@ void baueDarstellung(AppController &controller)
     darstellung.addAction(leiste);
     eintrag(darstellung, QT_TRANSLATE_NOOP("Mahlberg", "Symbolleiste &anpassen …"), {},
             [&controller] { controller.Leisteanpassen(); });
+    eintrag(darstellung, QT_TRANSLATE_NOOP("Mahlberg", "&Trennlinie bewegen"),
+            QKeySequence(QStringLiteral("F8")), [&controller] { controller.teiler->bewege(); });
     darstellung.addSeparator();
     baueErscheinungsbild(darstellung, controller);
     baueSprache(darstellung, controller);

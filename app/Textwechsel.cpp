@@ -1,6 +1,7 @@
 #include "Textwechsel.h"
 
 #include "Farblegende.h"
+#include "Sperrgrund.h"
 #include "Tabellenansicht.h"
 #include "Textfeld.h"
 
@@ -149,9 +150,17 @@ void Textwechsel::beschrifte(QWidget &fenster) const
             beschrifteAktion(*aktion);
         }
     }
+    const auto neu = [this](const QString &bisher) {
+        return text(bisher);
+    };
     for (auto *modell : fenster.findChildren<Tabellenmodell *>()) {
         if (liegtIn(*modell, fenster)) {
-            modell->beschrifteNeu([this](const QString &bisher) { return text(bisher); });
+            modell->beschrifteNeu(neu);
+        }
+    }
+    for (auto *grund : fenster.findChildren<Sperrgrund *>()) {
+        if (liegtIn(*grund, fenster)) {
+            grund->beschrifteNeu(neu);
         }
     }
 }

@@ -12,6 +12,13 @@ Sperrgrund::Sperrgrund(QWidget *feld, const QString &grund)
     folge();
 }
 
+void Sperrgrund::beschrifteNeu(const std::function<QString(const QString &)> &text)
+{
+    for (QString *eines : {&m_grund, &m_fahne, &m_beschreibung}) {
+        *eines = text(*eines);
+    }
+}
+
 bool Sperrgrund::eventFilter(QObject *watched, QEvent *event)
 {
     if (event->type() == QEvent::EnabledChange) {

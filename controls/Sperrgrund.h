@@ -3,6 +3,8 @@
 #include <QObject>
 #include <QString>
 
+#include <functional>
+
 class QWidget;
 
 /// Says why a control can't be used, while it can't: in its tooltip and to screen readers. When it
@@ -14,6 +16,9 @@ class Sperrgrund : public QObject
 public:
     /// Belongs to the control.
     Sperrgrund(QWidget *feld, const QString &grund);
+
+    /// Writes what is kept here in another language; what the control says now is not touched.
+    void beschrifteNeu(const std::function<QString(const QString &)> &text);
 
 protected:
     bool eventFilter(QObject *watched, QEvent *event) override;

@@ -13,6 +13,12 @@
 
 #include <utility>
 
+namespace {
+
+constexpr int breitenschritt = 8; // px, two fields of the grid on which everything stands
+
+} // namespace
+
 Tabellenansicht::Tabellenansicht(QWidget *parent)
     : QTableView(parent)
     , m_modell(new Tabellenmodell(this))
@@ -340,8 +346,26 @@ void Tabellenansicht::wuenscheMenue()
     Q_EMIT menueGewuenscht(currentIndex(), viewport()->mapToGlobal(zelle.center()));
 }
 
+/// The last column only takes what the others leave, with the mouse as well.
+bool Tabellenansicht::aendereBreite(const QKeyEvent &event)
+{
+    const bool breiter = event.key() == Qt::Key_Right;
+    if (event.modifiers() != Qt::AltModifier || (!breiter && event.key() != Qt::Key_Left)) {
+        return false;
+    }
+    const int spalte = currentIndex().column();
+    if (spalte >= 0 && spalte < m_modell->columnCount() - 1) {
+        const int breite = columnWidth(spalte) + (breiter ? breitenschritt : -breitenschritt);
+        setColumnWidth(spalte, qMax(horizontalHeader()->minimumSectionSize(), breite));
+    }
+    return true;
+}
+
 void Tabellenansicht::keyPressEvent(QKeyEvent *event)
 {
+    if (aendereBreite(*event)) {
+        return;
+    }
     // Not every desktop turns this key into the wish for a menu, as all do the key made for it.
     if (event->key() == Qt::Key_F10 && event->modifiers() == Qt::ShiftModifier &&
         contextMenuPolicy() == Qt::DefaultContextMenu) {

@@ -10,7 +10,8 @@
 /// A table that follows its controller (`Tabellenquelle`). A cell is chosen with the mouse or the
 /// arrow keys; the action then finds the chosen row and the column in which it was chosen. The
 /// mouse chooses when it is let go: a drag chooses nothing and moves nothing. Where the controller
-/// takes drops (and `acceptDrops` is on), a line shows where they go.
+/// takes drops (and `acceptDrops` is on), a line shows where they go. Alt+Left and Alt+Right make
+/// the column of the keyboard's cell narrower and wider, as drawing its border does.
 class Tabellenansicht : public QTableView
 {
     Q_OBJECT
@@ -135,6 +136,7 @@ private:
     void setzeUngerollt(const QModelIndex &index, QItemSelectionModel::SelectionFlags auswahl);
     void verteileBreiten();
     void wuenscheMenue();
+    bool aendereBreite(const QKeyEvent &event);
     bool pruefeAbwurf(QDropEvent &event);
     int oberkante(int zeile) const;
     bool nurMitReturn(int spalte) const;

@@ -150,6 +150,7 @@ void Planmodul::verbinde()
     connect(aktionHoch, &QAction::triggered, this, [this] { Lebensmittelverschieben(-1); });
     connect(aktionRunter, &QAction::triggered, this, [this] { Lebensmittelverschieben(1); });
     connect(aktionSpalten, &QAction::triggered, this, &Planmodul::Spaltenanpassen);
+    connect(aktionTeiler, &QAction::triggered, teiler, &Teiler::bewege);
     verbindeTabellenmenue();
     connect(aktionRueckgaengig, &QAction::triggered, this, &Planmodul::zuruecknehmenGewuenscht);
     connect(aktionWiederholen, &QAction::triggered, this, &Planmodul::wiederholenGewuenscht);

@@ -852,6 +852,10 @@ Nothing is worked out for children under 10 years; it resumes at 11 years.</tr
   <translation>&amp;Fit columns</translation>
  </message>
  <message>
+  <source>&amp;Trennlinie bewegen</source>
+  <translation>Move &amp;divider</translation>
+ </message>
+ <message>
   <source>&amp;Vorheriger Treffer</source>
   <translation>Pre&amp;vious result</translation>
  </message>
@@ -868,6 +872,10 @@ Nothing is worked out for children under 10 years; it resumes at 11 years.</tr
   <translation>Meaning of the colours, from the left: %1</translation>
  </message>
  <message>
+  <source>Die Pfeiltasten verschieben die Trennlinie, die Eingabetaste beendet.</source>
+  <translation>The arrow keys move the divider, Return ends it.</translation>
+ </message>
+ <message>
   <source>Die Zeile „%1“ steht für kein Lebensmittel und kommt nicht in den Plan.</source>
   <translation>The line “%1” stands for no food and does not go into the plan.</translation>
  </message>
@@ -882,6 +890,10 @@ Nothing is worked out for children under 10 years; it resumes at 11 years.</tr
  <message>
   <source>Es gibt nichts zurückzunehmen.</source>
   <translation>There is nothing to undo.</translation>
+ </message>
+ <message>
+  <source>Hier wird erst ab 11 Jahren gerechnet.</source>
+  <translation>Nothing is computed here below 11 years.</translation>
  </message>
  <message>
   <source>In den Plan &amp;geben</source>
@@ -914,6 +926,10 @@ Nothing is worked out for children under 10 years; it resumes at 11 years.</tr
  <message>
   <source>Treffer %1 von %2</source>
   <translation>Result %1 of %2</translation>
+ </message>
+ <message>
+  <source>Trennlinie</source>
+  <translation>Divider</translation>
  </message>
  <message>
   <source>Wiederholen</source>
@@ -2271,6 +2287,10 @@ New: %1</translation>
  <message>
   <source>&amp;Tage berechnen</source>
   <translation>Work out the &amp;days</translation>
+ </message>
+ <message>
+  <source>&amp;Trennlinie bewegen</source>
+  <translation>Move &amp;divider</translation>
  </message>
  <message>
   <source>&amp;Wiederholen</source>

@@ -30,6 +30,7 @@ private Q_SLOTS:
     void storedNumbersAreShort();
     void belowTenTheCalculatorRefuses();
     void atTenNothingHappens();
+    void whatIsShutBelowElevenSaysWhy();
     void aboveTenItResumes();
     void aMeasureSetBelowTen();
 };
@@ -354,6 +355,25 @@ void TestAnthroControllerMasse::atTenNothingHappens()
     QVERIFY(r.altersworte->isHidden());
     QVERIFY(r.gewichtn->isEnabledTo(nullptr));
     QVERIFY(r.alkohol->isEnabledTo(nullptr));
+}
+
+void TestAnthroControllerMasse::whatIsShutBelowElevenSaysWhy()
+{
+    const auto probe = Rechnerprobe::mitKlient();
+    AnthroController &r = probe->rechner();
+    const QString grund = QStringLiteral("Hier wird erst ab 11 Jahren gerechnet.");
+    const QString sonst = r.gewichtn->regler()->toolTip();
+    r.wiealt(Sender(9.0));
+    for (const QWidget *teil : std::initializer_list<const QWidget *>{
+             r.gewichtn->regler(), r.gewichtn->eingabe(), r.zieher->regler(), r.alkohol,
+             r.arbeit->zelle(0), r.geschlechte->zelle(1)}) {
+        QVERIFY(!teil->isEnabledTo(nullptr));
+        QCOMPARE(teil->toolTip(), grund);
+        QCOMPARE(teil->accessibleDescription(), grund);
+    }
+    r.wiealt(Sender(11.0));
+    QCOMPARE(r.gewichtn->regler()->toolTip(), sonst);
+    QVERIFY(r.alkohol->toolTip() != grund);
 }
 
 void TestAnthroControllerMasse::aboveTenItResumes()

@@ -26,6 +26,7 @@ private Q_SLOTS:
     void whatIsTypedAndChosenStays();
     void numbersFollow();
     void drinksAndSportsFollow();
+    void whyAControlIsShutFollows();
     void toAndFroIsAsBefore();
     void theSameLanguageChangesNothing();
 
@@ -223,6 +224,28 @@ void TestSprachwechsel::drinksAndSportsFollow()
     QCOMPARE(r.alkohol->stringValue(), QStringLiteral("Bier Marke Eigenbau")); // in no table
     waehle(QStringLiteral("Deutsch"));
     QCOMPARE(r.sport->stringValue(), QStringLiteral("Fußball"));
+}
+
+/// Shut and opened again, before and after the change.
+void TestSprachwechsel::whyAControlIsShutFollows()
+{
+    const QWidget *feld = c().proteineingabe;
+    const QString gesperrt =
+        QStringLiteral("Schalten Sie das Kriterium davor ein, um es einzustellen.");
+    QAbstractButton *schalter = c().suchprofileinaus->zelle(0);
+    c().profilaufzu->click();
+    schalter->click();
+    const QString offen = feld->toolTip();
+    schalter->click();
+    QCOMPARE(feld->toolTip(), gesperrt);
+    waehle(QStringLiteral("English"));
+    QCOMPARE(feld->toolTip(), QStringLiteral("Switch on the criterion before it to set this."));
+    schalter->click();
+    QVERIFY(offen.isEmpty() || feld->toolTip() != offen);
+    QCOMPARE(feld->toolTip().isEmpty(), offen.isEmpty());
+    schalter->click();
+    QCOMPARE(feld->toolTip(), QStringLiteral("Switch on the criterion before it to set this."));
+    QCOMPARE(feld->accessibleDescription(), feld->toolTip());
 }
 
 void TestSprachwechsel::toAndFroIsAsBefore()

@@ -55,6 +55,10 @@ private Q_SLOTS:
     void theProgramNeverRollsSideways();
     void aClickNeverRollsSideways();
     void theKeyboardsCursorRollsSideways();
+    void keysSetAColumnsWidth_data();
+    void keysSetAColumnsWidth();
+    void keysLeaveTheLastColumnWhatRemains();
+    void aWidthSetWithKeysStays();
 
 private:
     int breite(int spalte) const { return m_tabelle->columnWidth(spalte); }
@@ -242,6 +246,57 @@ void TestTabellenbreite::theKeyboardsCursorRollsSideways()
     QCOMPARE(quer()->value(), 0);
     m_tabelle->setzeSchreibmarke(1, u"such"_s);
     QCOMPARE(quer()->value(), 200);
+}
+
+void TestTabellenbreite::keysSetAColumnsWidth_data()
+{
+    QTest::addColumn<int>("spalte");
+    QTest::addColumn<QList<Qt::Key>>("tasten");
+    QTest::addColumn<int>("neu");
+    QTest::newRow("wider") << eigen << QList{Qt::Key_Right} << 108;
+    QTest::newRow("narrower") << eigen << QList{Qt::Key_Left} << 92;
+    QTest::newRow("there and back") << eigen << QList{Qt::Key_Left, Qt::Key_Right} << 100;
+    QTest::newRow("no narrower than the mouse makes it")
+        << eigen << QList<Qt::Key>(20, Qt::Key_Left) << 40;
+}
+
+/// The cursor stays in its cell, and what is chosen there stays chosen.
+void TestTabellenbreite::keysSetAColumnsWidth()
+{
+    QFETCH(int, spalte);
+    QFETCH(QList<Qt::Key>, tasten);
+    m_tabelle->horizontalHeader()->setMinimumSectionSize(40);
+    m_tabelle->waehle(2, u"eigen"_s);
+    const QSignalSpy gezogen(m_tabelle.get(), &Tabellenansicht::spalteGezogen);
+    const QSignalSpy gewaehlt(m_tabelle.get(), &Tabellenansicht::betaetigt);
+    for (const Qt::Key taste : tasten) {
+        QTest::keyClick(m_tabelle.get(), taste, Qt::AltModifier);
+    }
+    QTEST(breite(spalte), "neu");
+    QCOMPARE(gezogen.last()[0].toInt(), spalte);
+    QCOMPARE(gezogen.last()[1].toInt(), breite(spalte));
+    QVERIFY(gewaehlt.isEmpty());
+    QCOMPARE(m_tabelle->currentIndex().column(), spalte);
+    QCOMPARE(m_tabelle->selectedRow(), 2);
+}
+
+void TestTabellenbreite::keysLeaveTheLastColumnWhatRemains()
+{
+    m_tabelle->waehle(2, u"such"_s);
+    const int vorher = breite(such);
+    QTest::keyClick(m_tabelle.get(), Qt::Key_Left, Qt::AltModifier);
+    QCOMPARE(breite(such), vorher);
+    QCOMPARE(m_tabelle->currentIndex().column(), int(such));
+}
+
+void TestTabellenbreite::aWidthSetWithKeysStays()
+{
+    setzeInnenbreite(450);
+    m_tabelle->waehle(2, u"name"_s);
+    QTest::keyClick(m_tabelle.get(), Qt::Key_Right, Qt::AltModifier);
+    QCOMPARE(breite(name), 208);
+    setzeInnenbreite(900);
+    QCOMPARE(breite(name), 208);
 }
 
 QTEST_MAIN(TestTabellenbreite)

@@ -1,0 +1,112 @@
+#include "Teiler.h"
+
+#include "Fokusstil.h"
+#include "Zeichenkettentabelle.h"
+
+#include <QApplication>
+#include <QKeyEvent>
+#include <QPainter>
+#include <QToolTip>
+
+namespace {
+
+constexpr int schritt = 16; // px, four fields of the grid on which everything stands
+
+QString anleitung()
+{
+    return localizedString(
+        QStringLiteral("Die Pfeiltasten verschieben die Trennlinie, die Eingabetaste beendet."));
+}
+
+} // namespace
+
+class Teiler::Griff : public QSplitterHandle
+{
+public:
+    explicit Griff(Teiler *teiler)
+        : QSplitterHandle(teiler->orientation(), teiler)
+        , m_teiler(teiler)
+    {
+        setAccessibleName(localizedString(QStringLiteral("Trennlinie")));
+        setAccessibleDescription(anleitung());
+    }
+
+protected:
+    void keyPressEvent(QKeyEvent *event) override
+    {
+        const bool quer = orientation() == Qt::Horizontal;
+        const int ort = quer ? x() : y();
+        switch (event->key()) {
+        case Qt::Key_Left:
+        case Qt::Key_Up:
+            moveSplitter(ort - schritt);
+            break;
+        case Qt::Key_Right:
+        case Qt::Key_Down:
+            moveSplitter(ort + schritt);
+            break;
+        case Qt::Key_Home:
+            moveSplitter(0);
+            break;
+        case Qt::Key_End:
+            moveSplitter(quer ? m_teiler->width() : m_teiler->height());
+            break;
+        case Qt::Key_Return:
+        case Qt::Key_Enter:
+        case Qt::Key_Escape:
+            gibTastaturZurueck();
+            break;
+        default:
+            QSplitterHandle::keyPressEvent(event);
+        }
+    }
+
+    void focusInEvent(QFocusEvent *event) override
+    {
+        QSplitterHandle::focusInEvent(event);
+        update();
+    }
+
+    void focusOutEvent(QFocusEvent *event) override
+    {
+        QSplitterHandle::focusOutEvent(event);
+        update();
+    }
+
+    void paintEvent(QPaintEvent *event) override
+    {
+        QSplitterHandle::paintEvent(event);
+        if (hasFocus()) {
+            QPainter painter(this);
+            maleFokus(painter, rect(), palette());
+        }
+    }
+
+private:
+    void gibTastaturZurueck()
+    {
+        if (m_teiler->m_vorher != nullptr) {
+            m_teiler->m_vorher->setFocus(Qt::OtherFocusReason);
+        } else {
+            clearFocus();
+        }
+    }
+
+    Teiler *m_teiler;
+};
+
+QSplitterHandle *Teiler::createHandle()
+{
+    return new Griff(this);
+}
+
+void Teiler::bewege()
+{
+    QSplitterHandle *griff = handle(1);
+    if (griff == nullptr || griff->hasFocus()) {
+        return;
+    }
+    m_vorher = QApplication::focusWidget();
+    griff->setFocus(Qt::ShortcutFocusReason);
+    QToolTip::showText(griff->mapToGlobal(griff->rect().center()), anleitung(), griff);
+}
