@@ -33,12 +33,12 @@ Zeilen zeilenBeurteilen(const Naehrwertreihe &anzeige)
     return zeilen;
 }
 
-/// The sum of the percentages per 100 kcal; 0 when there is less energy than that.
-std::int32_t mittlereDeckung(const Zeilen &zeilen, float kilokalorien)
+/// The sum of the percentages per 100 kcal; absent when there is less energy than that.
+std::optional<std::int32_t> mittlereDeckung(const Zeilen &zeilen, float kilokalorien)
 {
     const std::int32_t hunderter = ganzzahl(static_cast<double>(kilokalorien / 100.0F));
     if (hunderter == 0) {
-        return 0;
+        return std::nullopt;
     }
     std::int64_t summe = 0;
     for (const Bedarfszeile &zeile : zeilen) {
@@ -92,8 +92,11 @@ Bedarfsbeurteilung bedarfBeurteilen(const Naehrwertreihe &anzeige)
             QString::fromUtf8(QT_TRANSLATE_NOOP("Mahlberg", "keine Beurteilung möglich"));
         return ergebnis;
     }
-    const std::int32_t wert = mittlereDeckung(ergebnis.zeilen, anzeige[stelle(Naehrwert::kal)]);
+    const std::optional<std::int32_t> deckung =
+        mittlereDeckung(ergebnis.zeilen, anzeige[stelle(Naehrwert::kal)]);
+    const std::int32_t wert = deckung.value_or(0);
     ergebnis.gesamt = gesamtBeurteilen(wert, ergebnis.zeilen.back().farbe);
+    ergebnis.gesamt->zuWenigEnergie = !deckung.has_value();
     ergebnis.boxtitel = boxtitel(ergebnis.gesamt->balkencode);
     ergebnis.balkenlaenge = wert;
     return ergebnis;

@@ -30,6 +30,8 @@ struct Gesamtbeurteilung
     std::int32_t wert = 0;                     ///< mean coverage per 100 kcal, in percent
     Ampel farbe = Ampel::Rot;                  ///< text colour of the number
     int balkencode = Balkencode::unveraendert; ///< for the bar; 0 at exactly 45
+    /// True below 100 kcal: then the value is 0 whatever is covered, and says nothing.
+    bool zuWenigEnergie = false;
 };
 
 /// What the evaluation of the displayed values gives.

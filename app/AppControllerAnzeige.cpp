@@ -205,6 +205,7 @@ void AppController::rechnen()
         gesamtbeurteilungfeld->setIntValue(urteil.gesamt->wert);
         aview->drawaRect(urteil.gesamt->balkencode);
     }
+    zuWenigEnergie->setVisible(urteil.gesamt.has_value() && urteil.gesamt->zuWenigEnergie);
     aview->drawabalken(urteil.balkenlaenge);
 }
 

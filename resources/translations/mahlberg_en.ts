@@ -287,6 +287,10 @@
   <translation>Save own food …</translation>
  </message>
  <message>
+  <source>Ein Treffer wird gleich gezeigt. Ausgeschaltet wählt er nur seine Zeile; seine Werte zeigt dann ein Klick auf seinen Namen in der Spalte „Lebensmittel“ oder „Eigene“.</source>
+  <translation>A result is shown at once. Switched off, it only selects its row; its values then appear with a click on its name in the column “Food” or “Own”.</translation>
+ </message>
+ <message>
   <source>Eisen</source>
   <translation>Iron</translation>
  </message>
@@ -473,6 +477,10 @@
  <message>
   <source>Suchen</source>
   <translation>Find</translation>
+ </message>
+ <message>
+  <source>Unter 100 kcal sagt die 0 nichts aus.</source>
+  <translation>Below 100 kcal the 0 says nothing.</translation>
  </message>
  <message>
   <source>Zurück zu den Treffern</source>

@@ -222,6 +222,7 @@ void TestBedarfsbeurteilung::theMeanCoverage()
     QVERIFY(beurteilung.gesamt.has_value());
     QTEST(beurteilung.gesamt->wert, "gesamt");
     QTEST(beurteilung.balkenlaenge, "gesamt");
+    QCOMPARE(beurteilung.gesamt->zuWenigEnergie, beurteilung.gesamt->wert == 0);
 }
 
 void TestBedarfsbeurteilung::theOverallJudgement_data()

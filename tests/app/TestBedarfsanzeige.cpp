@@ -30,6 +30,8 @@ private Q_SLOTS:
     void vitaminACountsAThousandth();
     void theJudgementIsThatOf100Kilocalories_data();
     void theJudgementIsThatOf100Kilocalories();
+    void onlyAJudgementWithoutEnergySaysNothing_data();
+    void onlyAJudgementWithoutEnergySaysNothing();
     void theJudgementFollowsTheAmount();
     void theBoxIsTranslated();
 
@@ -337,10 +339,28 @@ void TestBedarfsanzeige::theJudgementIsThatOf100Kilocalories()
     QCOMPARE(controller().gesamtbeurteilungfeld->intValue(), gesamt);
     QCOMPARE(controller().aview->a(), code);
     QVERIFY(!controller().gesamtbeurteilungfeld->isHidden());
+    QCOMPARE(!controller().zuWenigEnergie->isHidden(), gesamt == 0); // a 0 that is no verdict
     if (gesamt == 0) {
         QVERIFY(controller().gesamtbeurteilungfeld->textColor() == Textfarbe::Rot);
         QCOMPARE(controller().aview->value(), 0.0);
     }
+}
+
+/// What is no judgement anyway needs no word, and neither does a 0 that is one.
+void TestBedarfsanzeige::onlyAJudgementWithoutEnergySaysNothing_data()
+{
+    QTest::addColumn<Wertliste>("werte");
+    QTest::newRow("six values at 99 kcal") << plus(sechsProzent, {{kal, 99}});
+    QTest::newRow("seven percent at 800 kcal") << plus(sechsProzent, {{kal, 800}, {ca, 10}});
+}
+
+void TestBedarfsanzeige::onlyAJudgementWithoutEnergySaysNothing()
+{
+    QFETCH(Wertliste, werte);
+    zeige(plus(sechsProzent, {{kal, 99}, {ca, 850}}));
+    QVERIFY(!controller().zuWenigEnergie->isHidden());
+    zeige(werte);
+    QVERIFY(controller().zuWenigEnergie->isHidden());
 }
 
 void TestBedarfsanzeige::theJudgementFollowsTheAmount()
