@@ -11,6 +11,7 @@
 namespace {
 
 constexpr int zellenrand = 6;
+constexpr int zeilenmarke = 4;
 
 bool istBearbeitbar(const QModelIndex &index)
 {
@@ -58,6 +59,9 @@ void Zellenmaler::paint(QPainter *painter, const QStyleOptionViewItem &option,
     }
     if (bild.umrandet) {
         maleRand(*painter, option);
+    } else if (istZeilenanfang(index)) {
+        painter->fillRect(QRect(option.rect.topLeft(), QSize(zeilenmarke, option.rect.height())),
+                          option.palette.highlight());
     }
     maleText(*painter, option, bild, index);
     if ((option.state & QStyle::State_HasFocus) != 0) {
@@ -122,6 +126,14 @@ bool Zellenmaler::istGewaehlt(const QStyleOptionViewItem &option) const
 {
     return (option.state & QStyle::State_Selected) != 0 &&
            m_tabelle->selectionBehavior() == QAbstractItemView::SelectRows;
+}
+
+/// Where single cells are chosen, the border tells which one; but what was found by a search stands
+/// in another row than its result, and a mark at that row's beginning tells where.
+bool Zellenmaler::istZeilenanfang(const QModelIndex &index) const
+{
+    return m_tabelle->selectionBehavior() != QAbstractItemView::SelectRows && index.column() == 0 &&
+           index.row() == m_tabelle->selectedRow();
 }
 
 void Zellenmaler::maleGrund(QPainter &painter, const QStyleOptionViewItem &option) const

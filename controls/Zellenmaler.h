@@ -30,6 +30,7 @@ public:
 
 private:
     bool istGewaehlt(const QStyleOptionViewItem &option) const;
+    bool istZeilenanfang(const QModelIndex &index) const;
     void maleGrund(QPainter &painter, const QStyleOptionViewItem &option) const;
     void maleGitter(QPainter &painter, const QStyleOptionViewItem &option) const;
     void maleText(QPainter &painter, const QStyleOptionViewItem &option, const Zellenbild &bild,

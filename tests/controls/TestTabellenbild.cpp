@@ -31,6 +31,8 @@ private Q_SLOTS:
     void uprightLinesAreSolidAndTheOthersDashed_data();
     void uprightLinesAreSolidAndTheOthersDashed();
     void withoutAGridThereAreNoLines();
+    void theSelectedRowIsMarkedAtItsBeginning_data();
+    void theSelectedRowIsMarkedAtItsBeginning();
     void theDragsPictureShowsTheName_data();
     void theDragsPictureShowsTheName();
     void theDragsPictureDiffersByName();
@@ -128,6 +130,39 @@ void TestTabellenbild::withoutAGridThereAreNoLines()
     const QImage bild = m_tabelle->viewport()->grab().toImage();
     const QColor linie = m_tabelle->palette().color(QPalette::Midlight);
     QCOMPARE(gezaehlt(bild, zelle(0, 0).united(zelle(5, 1)), linie), 0);
+}
+
+void TestTabellenbild::theSelectedRowIsMarkedAtItsBeginning_data()
+{
+    QTest::addColumn<int>("zeile");
+    QTest::addColumn<bool>("ganzeZeilen");
+    QTest::addColumn<int>("marken"); // of 4 x 23 points
+    QTest::newRow("the first row") << 0 << false << 92;
+    QTest::newRow("a row far down") << 4 << false << 92;
+    QTest::newRow("a row that is coloured as a whole needs none") << 4 << true << 0;
+}
+
+/// The row is selected in the second column, as after a search; no other row has a mark.
+void TestTabellenbild::theSelectedRowIsMarkedAtItsBeginning()
+{
+    QFETCH(int, zeile);
+    QFETCH(bool, ganzeZeilen);
+    QFETCH(int, marken);
+    QPalette farben = m_tabelle->palette();
+    farben.setColor(QPalette::Highlight, Qt::magenta);
+    m_tabelle->setPalette(farben);
+    m_tabelle->setGitter(false);
+    m_tabelle->setzeSchreibmarke(2, u"b"_s);
+    m_tabelle->setSelectionBehavior(ganzeZeilen ? QAbstractItemView::SelectRows
+                                                : QAbstractItemView::SelectItems);
+    m_tabelle->selectionModel()->select(m_tabelle->model()->index(zeile, 1),
+                                        QItemSelectionModel::ClearAndSelect);
+    const QImage bild = m_tabelle->viewport()->grab().toImage();
+    for (int andere = 0; andere < 6; ++andere) {
+        QRect anfang = zelle(andere, 0);
+        anfang.setWidth(4);
+        QCOMPARE(gezaehlt(bild, anfang, Qt::magenta), andere == zeile ? marken : 0);
+    }
 }
 
 void TestTabellenbild::theDragsPictureShowsTheName_data()
