@@ -1,9 +1,9 @@
 #include "Teiler.h"
 
 #include "Fokusstil.h"
-#include "Zeichenkettentabelle.h"
 
 #include <QApplication>
+#include <QCoreApplication>
 #include <QKeyEvent>
 #include <QPainter>
 #include <QToolTip>
@@ -12,10 +12,15 @@ namespace {
 
 constexpr int schritt = 16; // px, four fields of the grid on which everything stands
 
+QString uebersetzt(const char *text)
+{
+    return QCoreApplication::translate("Mahlberg", text);
+}
+
 QString anleitung()
 {
-    return localizedString(
-        QStringLiteral("Die Pfeiltasten verschieben die Trennlinie, die Eingabetaste beendet."));
+    return uebersetzt(QT_TRANSLATE_NOOP(
+        "Mahlberg", "Die Pfeiltasten verschieben die Trennlinie, die Eingabetaste beendet."));
 }
 
 } // namespace
@@ -27,7 +32,7 @@ public:
         : QSplitterHandle(teiler->orientation(), teiler)
         , m_teiler(teiler)
     {
-        setAccessibleName(localizedString(QStringLiteral("Trennlinie")));
+        setAccessibleName(uebersetzt(QT_TRANSLATE_NOOP("Mahlberg", "Trennlinie")));
         setAccessibleDescription(anleitung());
     }
 
