@@ -254,11 +254,12 @@ void AnthroController::begruendeSperren()
     const QString grund = localizedString(QStringLiteral("Wählen Sie zuerst eine Sportart."));
     new Sperrgrund(sportmenge->regler(), grund);
     new Sperrgrund(sportmenge->eingabe(), grund);
-    const QString alter = localizedString(QStringLiteral("Hier wird erst ab 11 Jahren gerechnet."));
+    const QString kindesalter =
+        localizedString(QStringLiteral("Hier wird erst ab 11 Jahren gerechnet."));
     for (QWidget *feld : altersfelder()) {
         for (QWidget *teil : feld->findChildren<QWidget *>() << feld) {
             if (teil->focusPolicy() != Qt::NoFocus) {
-                new Sperrgrund(teil, alter);
+                new Sperrgrund(teil, kindesalter);
             }
         }
     }
