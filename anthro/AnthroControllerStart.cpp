@@ -257,7 +257,8 @@ void AnthroController::begruendeSperren()
     const QString kindesalter =
         localizedString(QStringLiteral("Hier wird erst ab 11 Jahren gerechnet."));
     for (QWidget *feld : altersfelder()) {
-        for (QWidget *teil : feld->findChildren<QWidget *>() << feld) {
+        const QWidgetList teile = feld->findChildren<QWidget *>() << feld;
+        for (QWidget *teil : teile) {
             if (teil->focusPolicy() != Qt::NoFocus) {
                 new Sperrgrund(teil, kindesalter);
             }
