@@ -140,7 +140,14 @@ void AppController::beschrifte()
     view->viewport()->setAutoFillBackground(false);
     // The note on the source is seen whole, in however many lines.
     connect(view->document()->documentLayout(), &QAbstractTextDocumentLayout::documentSizeChanged,
-            this, [this](const QSizeF &text) { view->setFixedHeight(qCeil(text.height())); });
+            this, [this](const QSizeF &text) {
+                const int hoehe = qCeil(text.height());
+                view->setFixedHeight(hoehe);
+                fusshoehe->changeSize(0, std::max(hoehe, hinweise->zeilenhoehe()),
+                                      QSizePolicy::Fixed, QSizePolicy::Fixed);
+                fusszeile->invalidate();
+            });
+    hinweise->vertritt(view);
     view->setPlainText(localizedString(QString::fromUtf8(quellenangabe)));
     nahrviewfarben->setEintraege({
         {QColor(0, 255, 0), localizedString(QStringLiteral("Protein"))},

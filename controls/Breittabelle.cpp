@@ -3,6 +3,7 @@
 #include "Tabellenkopf.h"
 
 #include <QPainter>
+#include <QResizeEvent>
 #include <QScrollBar>
 
 #include <algorithm>
@@ -138,6 +139,14 @@ void Breittabelle::scrollTo(const QModelIndex &index, ScrollHint hint)
     } else if (index.column() > 0 && !rolltNurSenkrecht()) {
         const int verdeckt = festeBreite() - columnViewportPosition(index.column());
         balken.setValue(balken.value() - std::max(0, verdeckt));
+    }
+}
+
+void Breittabelle::resizeEvent(QResizeEvent *event)
+{
+    Tabellenansicht::resizeEvent(event);
+    if (event->size().width() != event->oldSize().width()) {
+        Q_EMIT breiteGeaendert();
     }
 }
 

@@ -35,7 +35,12 @@ public:
     /// Width of the first column while it stands still in front of the others; 0 while it does not.
     int festeBreite() const;
 
+Q_SIGNALS:
+    /// There is more or less room beside one another.
+    void breiteGeaendert();
+
 protected:
+    void resizeEvent(QResizeEvent *event) override;
     void scrollContentsBy(int dx, int dy) override;
     void updateGeometries() override;
 

@@ -109,6 +109,27 @@ void Hinweisstreifen::nimmZurueck(const QString &kennung)
     }
 }
 
+int Hinweisstreifen::zeilenhoehe() const
+{
+    const QPushButton knopf(QStringLiteral("X"));
+    return knopf.sizeHint().height() + 2 * (aussenrand + frameWidth());
+}
+
+void Hinweisstreifen::vertritt(QWidget *anderes)
+{
+    m_anderes = anderes;
+    zeigeOderVerbirg();
+}
+
+void Hinweisstreifen::zeigeOderVerbirg()
+{
+    const bool leer = m_hinweise.isEmpty();
+    if (m_anderes != nullptr) {
+        m_anderes->setVisible(leer);
+    }
+    setVisible(!leer);
+}
+
 void Hinweisstreifen::schliesse()
 {
     if (!m_hinweise.isEmpty()) {
@@ -137,7 +158,7 @@ void Hinweisstreifen::ordne()
             zeile.flaeche->show(); // at once, so that the strip has its height when it appears
         }
     }
-    setVisible(!m_hinweise.isEmpty());
+    zeigeOderVerbirg();
 }
 
 Hinweisstreifen::Zeile Hinweisstreifen::neueZeile(const Hinweis &hinweis)

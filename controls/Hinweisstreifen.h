@@ -2,6 +2,7 @@
 
 #include <QFrame>
 #include <QList>
+#include <QPointer>
 #include <QString>
 
 #include <functional>
@@ -52,6 +53,14 @@ public:
     /// Whether there is a notice of this `kennung`.
     bool zeigt(const QString &kennung) const;
 
+    /// From now on this strip and the other widget, which stands beside it in one layout, take
+    /// turns: the other one is seen while there is nothing to say. Where their place is kept as
+    /// high as both, nothing in the window moves when a notice comes or goes.
+    void vertritt(QWidget *anderes);
+
+    /// The height of a notice of one line, in px.
+    int zeilenhoehe() const;
+
     /// Closes the newest notice.
     void schliesse();
 
@@ -71,6 +80,7 @@ private:
         int uhr = 0; ///< number of the timer that ends it; 0: none
     };
 
+    void zeigeOderVerbirg();
     void ordne();
     Zeile neueZeile(const Hinweis &hinweis);
     void entferneZeile(qsizetype stelle);
@@ -78,6 +88,7 @@ private:
     void druecke(const QString &kennung);
     QString kennungBei(const QWidget *kind) const;
 
+    QPointer<QWidget> m_anderes; ///< seen while there is nothing to say
     QList<Hinweis> m_hinweise;
     QList<Zeile> m_zeilen;
     QVBoxLayout *m_anordnung;

@@ -8,6 +8,7 @@
 #include <QPalette>
 #include <QWidget>
 
+#include <algorithm>
 #include <array>
 
 namespace {
@@ -151,6 +152,11 @@ Papierbild::Papierbild(QWidget &flaeche) : m_groesse(flaeche.size())
     flaeche.render(&maler, QPoint(), QRegion(), QWidget::DrawChildren);
 }
 
+double Papierbild::vergroesserung(const QSizeF &platz) const
+{
+    return std::min(platz.width() / m_groesse.width(), platz.height() / m_groesse.height());
+}
+
 void Papierbild::male(QPainter &maler, const QRectF &ziel) const
 {
     maler.save();
@@ -165,12 +171,21 @@ void Papierbild::male(QPainter &maler, const QRectF &ziel) const
 Druckauftrag bildauftrag(const QStringList &ueberschriften, QWidget &flaeche,
                          const QList<Papierwertung> &wertungen)
 {
-    const Papierbild bild(flaeche);
+    return bildauftrag(ueberschriften, QList{Papierbild(flaeche)}, wertungen);
+}
+
+Druckauftrag bildauftrag(const QStringList &ueberschriften, const QList<Papierbild> &bilder,
+                         const QList<Papierwertung> &wertungen)
+{
     return {ueberschriften.value(0), [](const QPageLayout &) { return 1; },
-            [ueberschriften, wertungen, bild](QPainter &maler, const QPageLayout &seite, int) {
+            [ueberschriften, wertungen, bilder](QPainter &maler, const QPageLayout &seite, int) {
                 QRectF platz = platzAuf(seite);
                 platz.setTop(platz.top() + maleUeberschriften(maler, platz, ueberschriften));
                 platz.setTop(platz.top() + maleWertungen(maler, platz, wertungen));
-                bild.male(maler, platz);
+                const auto groesstes = std::max_element(
+                    bilder.begin(), bilder.end(), [&](const auto &a, const auto &b) {
+                        return a.vergroesserung(platz.size()) < b.vergroesserung(platz.size());
+                    });
+                groesstes->male(maler, platz);
             }};
 }

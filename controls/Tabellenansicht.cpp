@@ -94,6 +94,10 @@ void Tabellenansicht::resizeEvent(QResizeEvent *event)
 {
     verteileBreiten();
     QTableView::resizeEvent(event);
+    const int unten = rowViewportPosition(m_gewaehlt) + rowHeight();
+    if (m_gewaehlt >= 0 && unten > viewport()->height() && unten <= event->oldSize().height()) {
+        scrollRowToVisible(m_gewaehlt); // what appears below the table does not hide it
+    }
 }
 
 void Tabellenansicht::changeEvent(QEvent *event)

@@ -84,10 +84,12 @@ void Umbruchzeile::resizeEvent(QResizeEvent *event)
 void Umbruchzeile::ordne()
 {
     const bool darunter = width() < nebeneinander().width();
+    const int zeilenhoehe = nebeneinander().height();
     QPoint ort(0, 0);
     for (QWidget *gruppe : gruppen()) {
         const QSize groesse = bedarf(*gruppe);
-        gruppe->setGeometry(QRect(ort, groesse));
+        const int tiefer = darunter ? 0 : (zeilenhoehe - groesse.height()) / 2;
+        gruppe->setGeometry(QRect(ort + QPoint(0, tiefer), groesse));
         ort += darunter ? QPoint(0, groesse.height() + abstandDarunter)
                         : QPoint(groesse.width() + abstandDaneben, 0);
     }

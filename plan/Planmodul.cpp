@@ -4,6 +4,7 @@
 #include "Archivdatei.h"
 #include "Dateihueter.h"
 #include "Schriftplatz.h"
+#include "Spaltenumbruch.h"
 #include "Zeichenkettentabelle.h"
 
 #include <QImage>
@@ -115,6 +116,7 @@ void Planmodul::awakeFromNib()
     rueckeKreisworte(*this);
     Schriftplatz::gib(*boxinhalt);
     boxinhalt->layout()->activate();
+    m_spaltenumbruch = new Spaltenumbruch(*untereSeite, *anordnung4, *rechteSpalten);
     ladeNamenswechsel();
     pruefePlannamen();
 }

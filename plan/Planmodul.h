@@ -23,6 +23,7 @@
 
 class Dateihueter;
 class QSettings;
+class Spaltenumbruch;
 
 /// The doors through which a plan reaches the world outside of its window.
 struct Plantueren
@@ -161,6 +162,7 @@ private:
     void beschrifteTabelle();
     void stelleBreiten();
     void merkeBreite(int spalte);
+    void gibNamenPlatz();
     void verbindeTabellenmenue();
     void zeigeTabellenmenue(int zeile, const QPoint &ort);
     void reloadData();
@@ -214,6 +216,7 @@ private:
 
     Plantueren m_tueren;
     QMainWindow *m_fenster = nullptr;
+    Spaltenumbruch *m_spaltenumbruch = nullptr; ///< of the evaluation
     Summenzeilen m_summenzeilen;
     Namenswechsel m_namenswechsel;                         ///< empty before the window is made
     std::array<QLabel *, anzahlNaehrwerte> m_zeichen = {}; ///< the verdicts beside the bars
@@ -221,6 +224,7 @@ private:
         m_projiziert; ///< whom the chart shows; absent before the first projection
 
     bool m_merktBreiten = false; ///< a width that changes now is the user's choice
+    bool m_namenbreiteGewaehlt = false;
 
     // What the table shows: the rows of the last reload, and the amounts typed since.
     QStringList m_gezeigteNamen;

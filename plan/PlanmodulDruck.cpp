@@ -6,6 +6,7 @@
 #include "Papierbild.h"
 #include "Plandruckwerte.h"
 #include "Planmodulprint.h"
+#include "Spaltenumbruch.h"
 #include "Zeichenkettentabelle.h"
 
 #include <algorithm>
@@ -94,8 +95,14 @@ void Planmodul::drucken()
 
 void Planmodul::drucken2()
 {
-    window(); // makes what is to be printed
-    Druckauftrag auftrag = bildauftrag({planname()}, *boxinhalt);
+    window();                 // makes what is to be printed
+    QList<Papierbild> bilder; // for paper across and upright
+    for (const auto form : {Spaltenumbruch::Form::Nebeneinander, Spaltenumbruch::Form::Geteilt}) {
+        m_spaltenumbruch->stelle(form);
+        bilder << Papierbild(*boxinhalt);
+    }
+    m_spaltenumbruch->ordne();
+    Druckauftrag auftrag = bildauftrag({planname()}, bilder);
     auftrag.form = localizedString(QStringLiteral("Auswertung"));
     drucke(auftrag);
 }

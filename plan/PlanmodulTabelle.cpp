@@ -145,13 +145,32 @@ void Planmodul::stelleBreiten()
                                    ? breiteMenge
                                    : std::max(mindestbreite, kopf->sectionSizeHint(i)));
     }
+    m_namenbreiteGewaehlt = kopf->sectionSize(0) != breiteName;
     m_merktBreiten = true;
     connect(kopf, &QHeaderView::sectionResized, this, &Planmodul::merkeBreite);
+    connect(PlanTabelle, &Breittabelle::breiteGeaendert, this, &Planmodul::gibNamenPlatz);
+}
+
+/// On a wide screen the longest name is read whole, before the room beside the last column stays
+/// empty. Who has set the width keeps it.
+void Planmodul::gibNamenPlatz()
+{
+    if (m_namenbreiteGewaehlt || m_fenster == nullptr) {
+        return;
+    }
+    const QScopedValueRollback vonSelbst(m_merktBreiten, false);
+    int frei = PlanTabelle->viewport()->width();
+    for (int i = 1; i < PlanTabelle->modell()->columnCount(); ++i) {
+        frei -= PlanTabelle->columnWidth(i);
+    }
+    const int bedarf = static_cast<QAbstractItemView *>(PlanTabelle)->sizeHintForColumn(0);
+    PlanTabelle->setColumnWidth(0, std::max(breiteName, std::min(frei, bedarf)));
 }
 
 /// The size control sets the widths for the time being; what was chosen column by column stays.
 void Planmodul::merkeBreite(int spalte)
 {
+    m_namenbreiteGewaehlt |= m_merktBreiten && spalte == 0;
     if (m_merktBreiten && m_tueren.einstellungen != nullptr) {
         m_tueren.einstellungen->setValue(breitenschluessel(PlanTabelle->modell()->kennung(spalte)),
                                          PlanTabelle->columnWidth(spalte));
@@ -222,6 +241,7 @@ void Planmodul::reloadData()
     m_gezeigteMengen = mengenarray;
     if (m_fenster != nullptr) {
         PlanTabelle->reloadData();
+        gibNamenPlatz();
         hinweise->nimmZurueck(alteAnsicht);
     }
 }
@@ -385,4 +405,5 @@ void Planmodul::tabgroesseaendern(const Wertehalter &sender)
             PlanTabelle->setColumnWidth(i, groesse);
         }
     }
+    gibNamenPlatz();
 }

@@ -145,7 +145,7 @@ void TestAnthroControllerMasse::theRangesAreThoseOfTheSmilingFace()
     QVERIFY(verhaeltnisGesicht(0.799F) != std::optional<int>(1));
     QCOMPARE(verhaeltnisGesicht(0.879F), std::optional<int>(1));
     QVERIFY(verhaeltnisGesicht(0.881F) != std::optional<int>(1));
-    QCOMPARE(r.kalgrenzen->text(), QStringLiteral("1400–2700"));
+    QCOMPARE(r.kalgrenzen->text(), QStringLiteral("1400–2700 kcal"));
     QCOMPARE(energieGesicht(1401), std::optional<int>(1));
     QVERIFY(energieGesicht(1399) != std::optional<int>(1));
     QCOMPARE(energieGesicht(2699), std::optional<int>(1));

@@ -16,6 +16,7 @@ private Q_SLOTS:
     void cleanup();
     void whatTheSheetSavedIsNamed();
     void theDisplayStaysAsTheStepsLeaveIt();
+    void nothingMovesWhenANoticeComesOrGoes();
     void showingItSelectsItsRow();
     void choosingAnyFoodSettlesIt();
     void deletingItIsConfirmedInItsPlace();
@@ -106,6 +107,33 @@ void TestHinweise::theDisplayStaysAsTheStepsLeaveIt()
     QCOMPARE(controller().kalumrprot, 100.0F);
     QCOMPARE(controller().Tabelle->selectedRow(), 4);
     QCOMPARE(controller().feldB->floatValue(), 80.0F);
+}
+
+/// It stands where the source is named otherwise.
+void TestHinweise::nothingMovesWhenANoticeComesOrGoes()
+{
+    oeffne(30, 0);
+    controller().Hauptfenster->resize(1280, 768);
+    QCoreApplication::processEvents();
+    const auto orte = [this] {
+        QCoreApplication::processEvents();
+        QList<QRect> alle;
+        for (const QWidget *teil : std::initializer_list<const QWidget *>{
+                 controller().Tabelle, controller().trefferleiste, controller().LManzahl,
+                 controller().DatenAnsicht, controller().sichernaufzu}) {
+            alle << QRect(teil->mapTo(controller().Hauptfenster, QPoint(0, 0)), teil->size());
+        }
+        return alle;
+    };
+    const QList<QRect> vorher = orte();
+    QVERIFY(controller().view->isVisible());
+    sichere(QStringLiteral("Linsensuppe"), QStringLiteral("80"));
+    QVERIFY(controller().hinweise->isVisible());
+    QVERIFY(!controller().view->isVisible());
+    QCOMPARE(orte(), vorher);
+    QTest::keyClick(controller().Hauptfenster, Qt::Key_Escape, Qt::ShiftModifier);
+    QVERIFY(controller().view->isVisible());
+    QCOMPARE(orte(), vorher);
 }
 
 void TestHinweise::showingItSelectsItsRow()

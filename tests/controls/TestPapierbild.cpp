@@ -26,6 +26,8 @@ private Q_SLOTS:
     void verdictsAreWrittenInTheColoursOfALightPage();
     void itFillsTheWidthWithinTheMargins();
     void aTallPartFitsThePageToo();
+    void eachPaperGetsThePictureThatIsLargestOnIt_data();
+    void eachPaperGetsThePictureThatIsLargestOnIt();
     void theLinesAboveSayWhatItIs();
     void barsAreDrawnInLines();
     void aFaceKeepsItsPixels();
@@ -218,6 +220,34 @@ void TestPapierbild::aTallPartFitsThePageToo()
     const Druckwort wort = finde(probe.worte(), QStringLiteral("Ernährungsmaß"));
     QVERIFY(wort.x >= 36);
     QVERIFY(wort.rechts < 36 + 300 * (595 - 72) / 1200.0);
+}
+
+void TestPapierbild::eachPaperGetsThePictureThatIsLargestOnIt_data()
+{
+    QTest::addColumn<QPageLayout::Orientation>("lage");
+    QTest::addColumn<QString>("wort");
+    QTest::newRow("upright") << QPageLayout::Portrait << QStringLiteral("hoch");
+    QTest::newRow("across") << QPageLayout::Landscape << QStringLiteral("breit");
+}
+
+void TestPapierbild::eachPaperGetsThePictureThatIsLargestOnIt()
+{
+    QFETCH(QPageLayout::Orientation, lage);
+    QFETCH(QString, wort);
+    QList<Papierbild> bilder;
+    m_flaeche->resize(400, 200);
+    m_beschriftung->setText(QStringLiteral("breit"));
+    bilder << Papierbild(*m_flaeche);
+    m_flaeche->resize(200, 400);
+    m_beschriftung->setText(QStringLiteral("hoch"));
+    bilder << Papierbild(*m_flaeche);
+    Druckprobe probe(Druckprobe::papier(QPageSize::A4, lage));
+    probe.drucke(bildauftrag({}, bilder));
+    QCOMPARE(probe.seiten(), 1);
+    QCOMPARE(finde(probe.worte(), wort).seite, 1);
+    const QString anderes =
+        wort == QLatin1String("hoch") ? QStringLiteral("breit") : QStringLiteral("hoch");
+    QCOMPARE(finde(probe.worte(), anderes).seite, 0);
 }
 
 void TestPapierbild::theLinesAboveSayWhatItIs()

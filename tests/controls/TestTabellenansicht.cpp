@@ -5,6 +5,7 @@
 #include <QHeaderView>
 #include <QHelpEvent>
 #include <QMimeData>
+#include <QScrollBar>
 #include <QSignalSpy>
 #include <QTest>
 #include <QToolTip>
@@ -68,6 +69,8 @@ private Q_SLOTS:
     void aPullThatCarriesNothingChoosesWhereItEnds();
     void aDragBeginsWhereNothingIsSelected();
     void tabLeavesTheTable();
+    void theSelectedRowStaysInSightWhenTheTableShrinks_data();
+    void theSelectedRowStaysInSightWhenTheTableShrinks();
     void whatIsCutOffStandsInTheToolTip();
 
 private:
@@ -304,6 +307,35 @@ void TestTabellenansicht::whatIsCutOffStandsInTheToolTip()
                              QStringLiteral("</qt>"));
     hinweis(2);
     QTRY_VERIFY(!QToolTip::isVisible());
+}
+
+void TestTabellenansicht::theSelectedRowStaysInSightWhenTheTableShrinks_data()
+{
+    QTest::addColumn<int>("zeile");
+    QTest::addColumn<int>("oben"); // the first row in sight before the table shrinks
+    QTest::addColumn<bool>("rollt");
+    QTest::newRow("the last row in sight") << 8 << 0 << true;
+    QTest::newRow("a row that stays in sight") << 2 << 0 << false;
+    QTest::newRow("one that was below it already") << 15 << 0 << false;
+    QTest::newRow("one that was above it already") << 1 << 5 << false;
+}
+
+/// Nine rows of 20 points are in sight, then five.
+void TestTabellenansicht::theSelectedRowStaysInSightWhenTheTableShrinks()
+{
+    QFETCH(int, zeile);
+    QFETCH(int, oben);
+    QFETCH(bool, rollt);
+    m_tabelle->setRowHeight(20);
+    const int rest = m_tabelle->height() - m_tabelle->viewport()->height();
+    m_tabelle->resize(m_tabelle->width(), rest + 180);
+    m_tabelle->selectRow(zeile);
+    m_tabelle->verticalScrollBar()->setValue(oben);
+    m_tabelle->resize(m_tabelle->width(), rest + 100);
+    QCOMPARE(m_tabelle->verticalScrollBar()->value() != oben, rollt);
+    if (rollt) {
+        QCOMPARE(m_tabelle->rowViewportPosition(zeile), 80);
+    }
 }
 
 QTEST_MAIN(TestTabellenansicht)

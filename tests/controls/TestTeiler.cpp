@@ -50,6 +50,7 @@ void TestTeiler::init()
     m_feld = new QLineEdit;
     for (QWidget *teil : std::initializer_list<QWidget *>{m_feld, new QLineEdit}) {
         teil->setMinimumSize(60, 20);
+        teil->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Expanding);
         m_teiler->addWidget(teil);
     }
     alles->addWidget(m_teiler);

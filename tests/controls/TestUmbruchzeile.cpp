@@ -11,6 +11,7 @@ class TestUmbruchzeile : public QObject
 private Q_SLOTS:
     void theGroupsGoBelowOneAnother_data();
     void theGroupsGoBelowOneAnother();
+    void lowerGroupsStandInTheMiddleOfTheLine();
     void aHiddenLineKeepsTheHeightThatItWillHave();
     void aLongerTextBreaksTheLine();
 
@@ -49,6 +50,21 @@ void TestUmbruchzeile::theGroupsGoBelowOneAnother()
     QTEST(zeile.heightForWidth(breite), "hoehe");
     QCOMPARE(zwei->geometry().top() > eins->geometry().bottom(), darunter);
     QCOMPARE(zeile.minimumSizeHint().width(), 100);
+}
+
+/// A word beside a button stands on one level with the button's own.
+void TestUmbruchzeile::lowerGroupsStandInTheMiddleOfTheLine()
+{
+    Umbruchzeile zeile;
+    const QWidget *knopf = gruppe(zeile, 100);
+    QWidget *wort = gruppe(zeile, 60);
+    wort->setFixedSize(60, 12);
+    zeile.show();
+    zeile.resize(200, 20);
+    QTRY_COMPARE(wort->geometry(), QRect(108, 4, 60, 12));
+    QCOMPARE(knopf->geometry(), QRect(0, 0, 100, 20));
+    zeile.resize(120, 50);
+    QCOMPARE(wort->geometry(), QRect(0, 24, 60, 12));
 }
 
 void TestUmbruchzeile::aHiddenLineKeepsTheHeightThatItWillHave()

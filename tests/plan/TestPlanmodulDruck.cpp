@@ -32,6 +32,8 @@ private Q_SLOTS:
     void theCopiesAreMadeOnceAndEmptiedLater();
     void theEvaluationIsPrintedAsItLooks_data();
     void theEvaluationIsPrintedAsItLooks();
+    void theEvaluationFillsItsPaper_data();
+    void theEvaluationFillsItsPaper();
     void everyPageOfALongListHasItsFoot();
     void printingChangesNeitherPlanNorFiles();
     void withoutADoorNothingHappens();
@@ -329,6 +331,35 @@ void TestPlanmodulDruck::theEvaluationIsPrintedAsItLooks()
         }
     }
     QVERIFY(schwarz);
+}
+
+void TestPlanmodulDruck::theEvaluationFillsItsPaper_data()
+{
+    QTest::addColumn<QPageLayout::Orientation>("lage");
+    QTest::addColumn<bool>("daneben"); // the second and third part stand beside the first
+    QTest::newRow("across") << QPageLayout::Landscape << true;
+    QTest::newRow("upright") << QPageLayout::Portrait << false;
+}
+
+/// On upright paper the letters would be tiny if all three parts stood beside one another.
+void TestPlanmodulDruck::theEvaluationFillsItsPaper()
+{
+    QFETCH(QPageLayout::Orientation, lage);
+    QFETCH(bool, daneben);
+    m_druck = std::make_unique<Druckprobe>(Druckprobe::papier(QPageSize::A4, lage));
+    m_heim->schreibePlan({{u"Hefe"_s, 60.0F}, {u"Äpfel, roh"_s, 150.0F}});
+    oeffne();
+    const QRect vorher = m_fenster->plan().boxinhalt->geometry();
+    (*m_fenster)->drucken2();
+    const QList<Druckwort> worte = m_druck->worte();
+    const Druckwort erster = finde(worte, u"Anteil"_s);
+    const Druckwort zweiter = finde(worte, u"Energieverteilung"_s);
+    const Druckwort dritter = finde(worte, u"Gewichtsverlauf"_s);
+    QCOMPARE(qAbs(zweiter.grundlinie - erster.grundlinie) < 3, daneben);
+    QCOMPARE(zweiter.x > erster.x + 100, daneben);
+    QVERIFY(qAbs(dritter.grundlinie - zweiter.grundlinie) < 3);
+    QVERIFY2(erster.groesse > 6.5, qPrintable(QString::number(erster.groesse)));
+    QCOMPARE(m_fenster->plan().boxinhalt->geometry(), vorher);
 }
 
 /// 22 foods and the nine rows below them take two pages of thirty.

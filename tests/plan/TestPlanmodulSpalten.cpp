@@ -30,6 +30,11 @@ private Q_SLOTS:
     void fittedWidthsAreRemembered();
     void theSizeControlIsNotRemembered();
     void aWidthThatCanNotBeIsNotTaken();
+    void onAWideScreenTheNamesAreReadWhole();
+    void theNamesTakeNoMoreThanTheyNeed();
+    void aNamesWidthThatIsChosenStays_data();
+    void aNamesWidthThatIsChosenStays();
+    void roomThatTheSizeControlLeavesGoesToTheNames();
 
 private:
     void oeffne()
@@ -235,6 +240,66 @@ void TestPlanmodulSpalten::aWidthThatCanNotBeIsNotTaken()
         oeffne();
         QCOMPARE(breite(u"protein"_s), vorher);
     }
+}
+
+/// What the other columns leave, to the point; and less again when the window is narrow again.
+void TestPlanmodulSpalten::onAWideScreenTheNamesAreReadWhole()
+{
+    const int schmal = breite(u"name"_s);
+    const int fehlt = balken().maximum();
+    plan().window()->resize(900 + fehlt, 780);
+    QTRY_COMPARE(balken().maximum(), 0);
+    QCOMPARE(breite(u"name"_s), schmal);
+    plan().window()->resize(900 + fehlt + 57, 780);
+    QTRY_COMPARE(breite(u"name"_s), schmal + 57);
+    QCOMPARE(plan().SummenTabelle->columnWidth(0), schmal + 57);
+    plan().window()->resize(900, 780);
+    QTRY_COMPARE(breite(u"name"_s), schmal);
+    QVERIFY(m_einstellungen->allKeys().filter(u"Planspalten"_s).isEmpty());
+}
+
+void TestPlanmodulSpalten::theNamesTakeNoMoreThanTheyNeed()
+{
+    plan().window()->resize(4000, 780);
+    const int laengster = tabelle().fontMetrics().horizontalAdvance(
+        u"Kartoffelauflauf mit Käse und reichlich Petersilie"_s);
+    QTRY_VERIFY(breite(u"name"_s) >= laengster);
+    QVERIFY(breite(u"name"_s) < laengster + 40);
+    tabelle().selectRow(1);
+    plan().Lebensmittelentfernen();
+    QTRY_VERIFY(breite(u"name"_s) < laengster);
+}
+
+void TestPlanmodulSpalten::aNamesWidthThatIsChosenStays_data()
+{
+    QTest::addColumn<bool>("sofort");
+    QTest::newRow("while the window is open") << true;
+    QTest::newRow("and in the next one") << false;
+}
+
+void TestPlanmodulSpalten::aNamesWidthThatIsChosenStays()
+{
+    QFETCH(bool, sofort);
+    const int vorher = breite(u"name"_s);
+    ziehe(*tabelle().horizontalHeader(), 0, 20);
+    QCOMPARE(breite(u"name"_s), vorher + 20);
+    if (!sofort) {
+        oeffne();
+    }
+    plan().window()->resize(4000, 780);
+    QTRY_COMPARE(balken().maximum(), 0);
+    QCOMPARE(breite(u"name"_s), vorher + 20);
+}
+
+void TestPlanmodulSpalten::roomThatTheSizeControlLeavesGoesToTheNames()
+{
+    const int vorher = breite(u"name"_s);
+    plan().tabellengroesse->setIntValue(20);
+    plan().tabgroesseaendern(*plan().tabellengroesse);
+    QVERIFY(breite(u"name"_s) > vorher);
+    plan().tabellengroesse->setIntValue(90);
+    plan().tabgroesseaendern(*plan().tabellengroesse);
+    QCOMPARE(breite(u"name"_s), vorher);
 }
 
 QTEST_MAIN(TestPlanmodulSpalten)
