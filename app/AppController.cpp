@@ -143,7 +143,7 @@ void AppController::beschrifte()
             this, [this](const QSizeF &text) {
                 const int hoehe = qCeil(text.height());
                 view->setFixedHeight(hoehe);
-                fusshoehe->changeSize(0, std::max(hoehe, hinweise->zeilenhoehe()),
+                fusshoehe->changeSize(0, std::max(hoehe, hinweise->zweizeilig()),
                                       QSizePolicy::Fixed, QSizePolicy::Fixed);
                 fusszeile->invalidate();
             });

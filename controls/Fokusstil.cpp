@@ -24,6 +24,15 @@ bool istInnenzeile(const QWidget *widget)
            qobject_cast<const QAbstractSpinBox *>(mutter) != nullptr;
 }
 
+/// The style's own edge is darker than the window, and in the dark nobody sees where a field is.
+bool brauchtRand(const QStyleOption &option, const QWidget *widget)
+{
+    constexpr int mitte = 128;
+    const auto *feld = qstyleoption_cast<const QStyleOptionFrame *>(&option);
+    return feld != nullptr && feld->lineWidth > 0 && !istInnenzeile(widget) &&
+           option.palette.color(QPalette::Window).lightness() < mitte;
+}
+
 bool istTabelle(const QWidget *widget)
 {
     return qobject_cast<const QAbstractItemView *>(widget) != nullptr;
@@ -53,6 +62,10 @@ void Fokusstil::drawPrimitive(PrimitiveElement element, const QStyleOption *opti
         return;
     }
     QProxyStyle::drawPrimitive(element, option, painter, widget);
+    if (element == PE_PanelLineEdit && brauchtRand(*option, widget)) {
+        painter->setPen(option->palette.color(QPalette::PlaceholderText));
+        painter->drawRect(option->rect.adjusted(0, 0, -1, -1));
+    }
     if (element == PE_PanelLineEdit && hatTastatur(*option) && !istInnenzeile(widget)) {
         maleFokus(*painter, option->rect, option->palette);
     }

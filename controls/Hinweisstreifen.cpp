@@ -109,10 +109,11 @@ void Hinweisstreifen::nimmZurueck(const QString &kennung)
     }
 }
 
-int Hinweisstreifen::zeilenhoehe() const
+int Hinweisstreifen::zweizeilig() const
 {
     const QPushButton knopf(QStringLiteral("X"));
-    return knopf.sizeHint().height() + 2 * (aussenrand + frameWidth());
+    const int worte = 2 * fontMetrics().lineSpacing();
+    return std::max(worte, knopf.sizeHint().height()) + 2 * (aussenrand + frameWidth());
 }
 
 void Hinweisstreifen::vertritt(QWidget *anderes)
@@ -124,10 +125,14 @@ void Hinweisstreifen::vertritt(QWidget *anderes)
 void Hinweisstreifen::zeigeOderVerbirg()
 {
     const bool leer = m_hinweise.isEmpty();
-    if (m_anderes != nullptr) {
-        m_anderes->setVisible(leer);
+    if (m_anderes == nullptr) {
+        setVisible(!leer);
+        return;
     }
-    setVisible(!leer);
+    QWidget *geht = leer ? this : m_anderes;
+    QWidget *kommt = leer ? m_anderes : this;
+    geht->hide(); // first: with both in sight the rest of the window would shrink for a moment
+    kommt->show();
 }
 
 void Hinweisstreifen::schliesse()

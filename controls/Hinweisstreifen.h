@@ -58,8 +58,8 @@ public:
     /// high as both, nothing in the window moves when a notice comes or goes.
     void vertritt(QWidget *anderes);
 
-    /// The height of a notice of one line, in px.
-    int zeilenhoehe() const;
+    /// The height of a notice of two lines, as most are at most, in px.
+    int zweizeilig() const;
 
     /// Closes the newest notice.
     void schliesse();

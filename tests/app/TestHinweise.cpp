@@ -2,6 +2,7 @@
 
 #include <QLabel>
 #include <QPushButton>
+#include <QScrollBar>
 #include <QTest>
 
 using enum Naehrwert;
@@ -125,6 +126,9 @@ void TestHinweise::nothingMovesWhenANoticeComesOrGoes()
         }
         return alle;
     };
+    const int letzte = controller().Tabelle->rowAt(controller().Tabelle->viewport()->height() - 30);
+    m_fenster->klicke(letzte, inName);
+    const int gerollt = controller().Tabelle->verticalScrollBar()->value();
     const QList<QRect> vorher = orte();
     QVERIFY(controller().view->isVisible());
     sichere(QStringLiteral("Linsensuppe"), QStringLiteral("80"));
@@ -134,6 +138,7 @@ void TestHinweise::nothingMovesWhenANoticeComesOrGoes()
     QTest::keyClick(controller().Hauptfenster, Qt::Key_Escape, Qt::ShiftModifier);
     QVERIFY(controller().view->isVisible());
     QCOMPARE(orte(), vorher);
+    QCOMPARE(controller().Tabelle->verticalScrollBar()->value(), gerollt);
 }
 
 void TestHinweise::showingItSelectsItsRow()
