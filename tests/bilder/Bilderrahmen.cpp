@@ -4,10 +4,12 @@
 #include "Erscheinungsbild.h"
 #include "Fokusstil.h"
 
+#include <QAbstractAnimation>
 #include <QDir>
 #include <QFile>
 #include <QFont>
 
+#include <algorithm>
 #include <utility>
 
 namespace {
@@ -25,8 +27,8 @@ public:
     }
 };
 
-const QString ordner = QStringLiteral(MAHLBERG_BILDER);
-const QString abweichungen = QStringLiteral(MAHLBERG_ABWEICHUNGEN);
+QString ordner = QStringLiteral(MAHLBERG_BILDER);
+QString abweichungen = QStringLiteral(MAHLBERG_ABWEICHUNGEN);
 
 QString abweichung(const QString &name, const char *welche)
 {
@@ -80,6 +82,15 @@ QImage ruhig(const std::function<QImage()> &male)
     return bild;
 }
 
+/// Buttons within fields, for instance, fade in.
+bool bewegtSich(const QWidget &fenster)
+{
+    const auto bewegungen = fenster.findChildren<QAbstractAnimation *>();
+    return std::any_of(bewegungen.begin(), bewegungen.end(), [](const QAbstractAnimation *eine) {
+        return eine->state() == QAbstractAnimation::Running;
+    });
+}
+
 /// On a busy machine what is expected may come a little later.
 void vergleiche(const QString &name, const std::function<QImage()> &male)
 {
@@ -127,6 +138,12 @@ void Bilderrahmen::bereiteVor()
     QApplication::setStyle(new StillerStil);
 }
 
+void Bilderrahmen::setzeOrdner(const QString &bilder, const QString &unterschiede)
+{
+    ordner = bilder;
+    abweichungen = unterschiede;
+}
+
 void Bilderrahmen::kleide()
 {
     constexpr int punkte = 9; // 12 pixels
@@ -153,5 +170,7 @@ void Bilderrahmen::pruefe(const QString &name, const QImage &bild)
 
 void Bilderrahmen::pruefe(const QString &name, QWidget &teil, int verhaeltnis)
 {
+    QCoreApplication::processEvents();
+    QTRY_VERIFY(!bewegtSich(*teil.window()));
     vergleiche(name, [&teil, verhaeltnis] { return male(teil, verhaeltnis); });
 }

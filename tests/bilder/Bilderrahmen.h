@@ -21,6 +21,9 @@ void bereiteVor();
 /// moves by itself.
 void kleide();
 
+/// Looks for the pictures to expect in one folder, and leaves in another what differs from them.
+void setzeOrdner(const QString &bilder, const QString &unterschiede);
+
 /// What a part of a window looks like, with so many device pixels to a point.
 QImage male(QWidget &teil, int verhaeltnis = 1);
 
