@@ -3,10 +3,11 @@
 #include <QImage>
 #include <QString>
 
-/// Compares a picture of what is on screen with the one that is expected. Two runs on one machine
-/// give the same picture to the last bit, with the sanitizers and without, so there is no number of
-/// pixels that may differ: a comma in place of a point is three of them. Only the colour of each
-/// may be off by a few steps, which is what another processor's rounding makes of a soft edge.
+/// Compares a picture of what is on screen with the one that is expected. Two runs give the same to
+/// the last bit, on a busy machine and with the processor's newer instructions switched off, so no
+/// number of pixels may differ: a comma in place of a point is three of them. Only the colour of
+/// each may be off by a few steps, which is what a processor of another make can round at a soft
+/// edge.
 class Bildvergleich
 {
 public:

@@ -118,7 +118,7 @@ void TestBildvergleich::whatDiffersIsRed()
     maler.end();
     const Bildvergleich vergleich(gesehen, gemalt({}));
     QCOMPARE(vergleich.worte(), u"6 pixels differ, at 20, 4 in 3 x 2"_s);
-    const QImage bild = vergleich.unterschied();
+    const QImage &bild = vergleich.unterschied();
     QCOMPARE(bild.size(), groesse);
     for (int y = 0; y < bild.height(); ++y) {
         for (int x = 0; x < bild.width(); ++x) {
