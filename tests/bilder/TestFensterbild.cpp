@@ -36,6 +36,7 @@ private Q_SLOTS:
     void theMenus();
     void thePlansMenus();
     void theTablesMenu();
+    void theFoodsChosenLast();
 };
 
 namespace {
@@ -252,6 +253,18 @@ void TestFensterbild::theTablesMenu()
     Q_EMIT fenster->Tabelle->menueGewuenscht(zelle, QPoint(100, 100));
     QTRY_VERIFY(offen("QMenu") != nullptr);
     Bilderrahmen::pruefe(u"menue-tabelle"_s, *offen("QMenu"));
+    offen("QMenu")->close();
+}
+
+void TestFensterbild::theFoodsChosenLast()
+{
+    const Bilderfenster fenster;
+    fenster.suche(u"kart"_s);
+    fenster->waehleTreffer(1);
+    fenster->waehleTreffer(1);
+    fenster->zeigeZuletzt();
+    QTRY_VERIFY(offen("QMenu") != nullptr);
+    Bilderrahmen::pruefe(u"menue-zuletzt"_s, *offen("QMenu"));
     offen("QMenu")->close();
 }
 

@@ -19,6 +19,7 @@ private Q_SLOTS:
     void aFoodInTheDark();
     void theCalculator_data();
     void theCalculator();
+    void theCalculatorInTheDark();
     void aChildInTheCalculator();
     void aSearch();
     void aSearchInVain();
@@ -99,6 +100,15 @@ void TestHauptfensterbild::theCalculator()
     }
     fenster->zeigeAnsicht(ansicht);
     Bilderrahmen::pruefe(bild, *fenster->DatenAnsicht);
+}
+
+void TestHauptfensterbild::theCalculatorInTheDark()
+{
+    const Bilderfenster fenster;
+    fenster.rechne();
+    fenster->zeigeAnsicht(u"vier"_s);
+    zeigeErscheinungsbild(Erscheinungsbild::Dunkel);
+    Bilderrahmen::pruefe(u"rechner-dunkel"_s, *fenster->DatenAnsicht);
 }
 
 /// For the youngest nothing is worked out, and the page says so.
