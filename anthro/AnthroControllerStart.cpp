@@ -257,7 +257,9 @@ void AnthroController::begruendeSperren()
     const QString kindesalter =
         localizedString(QStringLiteral("Hier wird erst ab 11 Jahren gerechnet."));
     for (QWidget *feld : altersfelder()) {
-        for (QWidget *teil : feld->findChildren<QWidget *>() << feld) {
+        QList<QWidget *> teile = feld->findChildren<QWidget *>();
+        teile << feld;
+        for (QWidget *teil : std::as_const(teile)) {
             if (teil->focusPolicy() != Qt::NoFocus) {
                 new Sperrgrund(teil, kindesalter);
             }
