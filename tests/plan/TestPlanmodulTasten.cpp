@@ -27,6 +27,7 @@ private Q_SLOTS:
     void removingTakesTheAmountThatIsTypedWithIt();
     void removingFromTheMenuWithNothingSelectedLeavesTheTypedAmount();
     void aFoodThatComesInLeavesATypedAmountWhereItWas();
+    void soDoesAFoodThatComesWithAnAmount();
     void aDropLeavesATypedAmountWhereItWas();
     void aDeletedOwnFoodLeavesTheTypedAmountOfAnother();
 
@@ -197,6 +198,14 @@ void TestPlanmodulTasten::aFoodThatComesInLeavesATypedAmountWhereItWas()
     QCOMPARE(mengen(),
              (QMap<QString, float>{
                  {u"Auflauf"_s, 45}, {u"Brot"_s, 100}, {u"Ei"_s, 30}, {u"Milch"_s, 100}}));
+    QCOMPARE(m_heim->plan(), mengen());
+}
+
+void TestPlanmodulTasten::soDoesAFoodThatComesWithAnAmount()
+{
+    beginne(0, u"45"_s);
+    (*m_fenster)->gibHinein(u"Brot"_s, 80);
+    QCOMPARE(mengen(), (QMap<QString, float>{{u"Auflauf"_s, 45}, {u"Brot"_s, 80}, {u"Ei"_s, 30}}));
     QCOMPARE(m_heim->plan(), mengen());
 }
 
