@@ -217,8 +217,8 @@ void TestTabellenmenue::theMenuCopiesAnOwnFood()
     waehle(*menue, QStringLiteral("Werte als neues Lebensmittel abschreiben …"));
     QVERIFY(controller().einfenster->isVisible());
     QCOMPARE(controller().EingabeFensterfeldA->stringValue(), QStringLiteral("Omas Torte (eigen)"));
-    QCOMPARE(controller().EingabeFensterfeldA->selectedText(),
-             QStringLiteral("Omas Torte (eigen)")); // another name is typed at once
+    QTRY_COMPARE(controller().EingabeFensterfeldA->selectedText(),
+                 QStringLiteral("Omas Torte (eigen)")); // another name is typed at once
     QCOMPARE(controller().EingabeFensterfeldB->floatValue(), 500.0F);
     QCOMPARE(Probefenster::text(*controller().feldA), zaehlname(2)); // what was on display
     QCOMPARE(controller().Tabelle->selectedRow(), 3);

@@ -204,6 +204,7 @@ void TestVerlauf::anAmountThatIsBeingTypedIsGoneWithTheStep()
     plan().aktionWiederholen->trigger();
     QCOMPARE(zeilen(), (QStringList{QStringLiteral("A 100"), QStringLiteral("B 100"),
                                     QStringLiteral("C 100")}));
+    QCOMPARE(plan().aktionWiederholen->text(), QStringLiteral("&Wiederholen")); // no step more
 }
 
 void TestVerlauf::nothingIsLeftToTakeBack()

@@ -5,6 +5,7 @@
 #include <QDoubleSpinBox>
 #include <QLineEdit>
 #include <QPushButton>
+#include <QScrollBar>
 #include <QSlider>
 #include <QTest>
 
@@ -28,6 +29,7 @@ private Q_SLOTS:
     void removingFromTheMenuWithNothingSelectedLeavesTheTypedAmount();
     void aFoodThatComesInLeavesATypedAmountWhereItWas();
     void soDoesAFoodThatComesWithAnAmount();
+    void aFoodThatComesInIsInSight();
     void aDropLeavesATypedAmountWhereItWas();
     void aDeletedOwnFoodLeavesTheTypedAmountOfAnother();
 
@@ -207,6 +209,17 @@ void TestPlanmodulTasten::soDoesAFoodThatComesWithAnAmount()
     (*m_fenster)->gibHinein(u"Brot"_s, 80);
     QCOMPARE(mengen(), (QMap<QString, float>{{u"Auflauf"_s, 45}, {u"Brot"_s, 80}, {u"Ei"_s, 30}}));
     QCOMPARE(m_heim->plan(), mengen());
+}
+
+void TestPlanmodulTasten::aFoodThatComesInIsInSight()
+{
+    for (int i = 0; i < 60; ++i) {
+        (*m_fenster)->nameimportvontoolbar(u"Speise %1"_s.arg(i));
+    }
+    tabelle().verticalScrollBar()->setValue(0);
+    (*m_fenster)->gibHinein(u"Milch"_s, 80);
+    QCOMPARE(tabelle().verticalScrollBar()->value(), tabelle().verticalScrollBar()->maximum());
+    QVERIFY(tabelle().verticalScrollBar()->maximum() > 0);
 }
 
 void TestPlanmodulTasten::aDropLeavesATypedAmountWhereItWas()
