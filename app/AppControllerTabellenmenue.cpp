@@ -42,7 +42,9 @@ void AppController::zeigeTabellenmenue(const QModelIndex &zelle, const QPoint &o
                     Fenster();
                     schreibeInsBlatt(KundenDictionary.value(schluessel),
                                      nameFuerAbschrift(schluessel));
-                    EingabeFensterfeldA->selectAll();
+                    // The field shows the name with its next event, and is marked after that.
+                    QMetaObject::invokeMethod(EingabeFensterfeldA, &QLineEdit::selectAll,
+                                              Qt::QueuedConnection);
                 });
     }
     if (istLoeschbar(zelle)) {

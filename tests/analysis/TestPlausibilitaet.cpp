@@ -41,16 +41,22 @@ void TestPlausibilitaet::figuresThatAgreeAreNotQuestioned_data()
     QTest::addColumn<Wertliste>("werte");
     QTest::newRow("nothing typed") << Wertliste{};
     QTest::newRow("energy alone") << Wertliste{{kal, 300}};
+    QTest::newRow("energy alone, more than alcohol has") << Wertliste{{kal, 900}};
     QTest::newRow("bread") << Wertliste{{kal, 244}, {protein, 8}, {fett, 1.5F}, {kh, 46}, {bs, 6}};
     QTest::newRow("oil") << Wertliste{{kal, 900}, {fett, 100}};
     QTest::newRow("rounded by a label") // 4 * 10 + 9 * 10 + 4 * 50 = 330
         << Wertliste{{kal, 355}, {protein, 10}, {fett, 10}, {kh, 50}};
+    QTest::newRow("rounded down by a label") // 400 - 10 - 0.05 * 400 is 370
+        << Wertliste{{kal, 370}, {kh, 100}};
+    QTest::newRow("beer with as much protein as a drink has")
+        << Wertliste{{kal, 77}, {protein, 2}, {kh, 1.5F}};
     QTest::newRow("white wine") << Wertliste{{kal, 77}, {protein, 0.1F}, {kh, 1.5F}};
     QTest::newRow("spirit with sugar") << Wertliste{{kal, 320}, {kh, 30}};
     QTest::newRow("parts rounded up") << Wertliste{{kal, 408}, {kh, 102}};
     QTest::newRow("table salt") << Wertliste{{na, 39900}};
     QTest::newRow("little sodium") << Wertliste{{kal, 52}, {kh, 13}, {na, 1}};
     QTest::newRow("an analysis of sodium") << Wertliste{{na, 1.5F}, {ka, 120}};
+    QTest::newRow("a fraction of much sodium") << Wertliste{{na, 10.5F}};
     QTest::newRow("ham") << Wertliste{{kal, 119}, {protein, 20}, {fett, 4}, {na, 1180}};
 }
 
@@ -76,6 +82,8 @@ void TestPlausibilitaet::energyIsComparedWithTheNutrients_data()
         << Wertliste{{kal, 540}, {protein, 7}, {kh, 55}} << Zweifel::EnergieZuGross << 248.0;
     QTest::newRow("more than alcohol has room for")
         << Wertliste{{kal, 800}, {kh, 50}} << Zweifel::EnergieZuGross << 200.0;
+    QTest::newRow("as much as alcohol has, in something to eat")
+        << Wertliste{{kal, 250}, {protein, 3}} << Zweifel::EnergieZuGross << 12.0;
     QTest::newRow("just beyond rounding") // 330 + 10 + 0.05 * 358 is 357.9
         << Wertliste{{kal, 358}, {protein, 10}, {fett, 10}, {kh, 50}} << Zweifel::EnergieZuGross
         << 330.0;

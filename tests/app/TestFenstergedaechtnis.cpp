@@ -27,6 +27,7 @@ private Q_SLOTS:
     void nonsenseInTheFileIsNotTaken();
     void aWindowOnItsWayIsNotNoted();
     void closingNotesAtOnce();
+    void aFullScreenKeepsThePlaceOfBefore();
     void thePlansDividingLineComesBack();
     void thePlansRowsComeBack();
     void rowsThatCanNotBeAreNotTaken_data();
@@ -224,6 +225,18 @@ void TestFenstergedaechtnis::closingNotesAtOnce()
     QVERIFY(!gemerkt("Hauptfenster/Platz").isValid());
     haupt().close();
     QCOMPARE(gemerkt("Hauptfenster/Platz").toRect(), QRect(25, 45, 700, 600));
+}
+
+/// It was filled for the time being.
+void TestFenstergedaechtnis::aFullScreenKeepsThePlaceOfBefore()
+{
+    haupt().setGeometry(30, 60, 740, 610);
+    QTRY_COMPARE(gemerkt("Hauptfenster/Platz").toRect(), QRect(30, 60, 740, 610));
+    haupt().showFullScreen();
+    QTRY_VERIFY(haupt().width() > 740);
+    haupt().close();
+    QCOMPARE(gemerkt("Hauptfenster/Platz").toRect(), QRect(30, 60, 740, 610));
+    QVERIFY(!gemerkt("Hauptfenster/maximiert").toBool());
 }
 
 void TestFenstergedaechtnis::thePlansDividingLineComesBack()

@@ -21,6 +21,8 @@ private Q_SLOTS:
     void thePlanStandsBesideTheTable_data();
     void thePlanStandsBesideTheTable();
     void everyWindowIsBroughtIn();
+    void aWindowWithoutAPlaceGetsNone();
+    void whatFillsTheScreenFillsIt();
     void shownAgainItStaysWhereItWas();
     void aLongNameMakesNoWindowWider();
     void aMenuIsLeftWhereItIs();
@@ -90,6 +92,9 @@ void TestFensterplatz::thePlanStandsBesideTheTable_data()
     QTest::newRow("room on the left only")
         << gross << QRect(1272, 100, 1288, 836) << QRect(1288, 250, 640, 600)
         << QRect(28, 132, 1240, 780);
+    QTest::newRow("on the left exactly as much as it needs")
+        << gross << QRect(1248, 100, 1288, 836) << QRect(1264, 250, 640, 600)
+        << QRect(4, 132, 1240, 780);
     QTest::newRow("a laptop: narrower, right of the table")
         << laptop << QRect(0, 0, 1288, 768) << QRect(16, 150, 640, 500) << QRect(660, 32, 702, 732);
     QTest::newRow("a maximised main window")
@@ -130,6 +135,31 @@ void TestFensterplatz::everyWindowIsBroughtIn()
     frage.open();
     QVERIFY(QTest::qWaitForWindowExposed(&frage));
     QCOMPARE(frage.height(), schirm.height() - 36);
+}
+
+/// The desktop knows best where a window goes that was never put anywhere.
+void TestFensterplatz::aWindowWithoutAPlaceGetsNone()
+{
+    QWidget fenster;
+    fenster.resize(QGuiApplication::primaryScreen()->availableGeometry().width() + 500, 300);
+    bringeInDenSchirm(fenster);
+    QVERIFY(!fenster.testAttribute(Qt::WA_Moved));
+    QCOMPARE(fenster.width(), QGuiApplication::primaryScreen()->availableGeometry().width() - 8);
+}
+
+void TestFensterplatz::whatFillsTheScreenFillsIt()
+{
+    const Schirmwaechter waechter;
+    const QRect schirm = QGuiApplication::primaryScreen()->geometry();
+    QWidget fenster;
+    fenster.showFullScreen();
+    QTRY_COMPARE(fenster.geometry(), schirm);
+    fenster.hide();
+    fenster.setWindowState(Qt::WindowMaximized);
+    fenster.show();
+    QVERIFY(QTest::qWaitForWindowExposed(&fenster));
+    QVERIFY(fenster.isMaximized());
+    QVERIFY(fenster.width() > schirm.width() - 8); // it needs no frame beside it
 }
 
 void TestFensterplatz::shownAgainItStaysWhereItWas()

@@ -36,6 +36,7 @@ private Q_SLOTS:
     void aKeyCloses_data();
     void aKeyCloses();
     void aWordIsFoundOnThePage();
+    void itComesToTheFront();
     void thePageFollowsTheLanguage();
     void thePageFollowsTheAppearance();
     void aPictureIsNoWiderThanTheWindow();
@@ -262,6 +263,33 @@ void TestHandbuch::aWordIsFoundOnThePage()
     QCOMPARE(blatt().textCursor().selectionStart(), stellen[0]); // it stays where it was
     QTest::keyClick(&suchfeld(), Qt::Key_Backspace);
     QVERIFY(!vergeblich->isVisible());
+    QTest::keyClick(&suchfeld(), Qt::Key_Return);
+    QVERIFY(vergeblich->isVisible());
+    m_handbuch->oeffne(u"plan"_s); // of which it says nothing
+    QVERIFY(!vergeblich->isVisible());
+    QTest::keyClick(&blatt(), Qt::Key_F, Qt::ControlModifier);
+    QCOMPARE(suchfeld().selectedText(), u"Calciumxy"_s); // another word is typed at once
+    suchfeld().deselect();
+    QTest::keyClick(&suchfeld(), Qt::Key_F, Qt::ControlModifier); // also from the box itself
+    QCOMPARE(suchfeld().selectedText(), u"Calciumxy"_s);
+    suchfeld().clear();
+    QTest::keyClick(&suchfeld(), Qt::Key_Return);
+    QVERIFY(!vergeblich->isVisible()); // nothing was looked for
+}
+
+/// Asked for again, it comes in front of the others, even folded away.
+void TestHandbuch::itComesToTheFront()
+{
+    QWidget anderes;
+    anderes.show();
+    anderes.activateWindow();
+    QVERIFY(QTest::qWaitForWindowActive(&anderes));
+    m_handbuch->oeffne(u"plan"_s);
+    QVERIFY(QTest::qWaitForWindowActive(m_handbuch.get()));
+    m_handbuch->showMinimized();
+    QVERIFY(m_handbuch->isMinimized());
+    m_handbuch->oeffne(u"plan"_s);
+    QVERIFY(!m_handbuch->isMinimized());
 }
 
 void TestHandbuch::thePageFollowsTheLanguage()

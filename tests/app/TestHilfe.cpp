@@ -31,6 +31,8 @@ private Q_SLOTS:
     void inTheHandbookTheKeyLeadsToTheFirstPage();
     void oneWindowIsEnough();
     void aMenuThatIsOpenKeepsTheKey();
+    void otherKeysWithF1DoNotOpenIt();
+    void whoHasAUseForTheKeyGetsIt();
     void theOpenPageFollowsTheLanguage();
 
 private:
@@ -268,6 +270,43 @@ void TestHilfe::aMenuThatIsOpenKeepsTheKey()
     QVERIFY(QTest::qWaitForWindowExposed(&menue));
     QTest::keyClick(&menue, Qt::Key_F1);
     QVERIFY(handbuch() == nullptr);
+}
+
+void TestHilfe::otherKeysWithF1DoNotOpenIt()
+{
+    c().suchfeld->setFocus();
+    for (const Qt::KeyboardModifier dazu : {Qt::ShiftModifier, Qt::ControlModifier}) {
+        QTest::keyClick(c().suchfeld, Qt::Key_F1, dazu);
+        QVERIFY(handbuch() == nullptr);
+    }
+}
+
+namespace {
+
+/// A part of a window that has a use for F1 itself.
+class Verbraucher : public QWidget
+{
+public:
+    using QWidget::QWidget;
+
+protected:
+    void keyPressEvent(QKeyEvent *event) override { event->accept(); }
+};
+
+} // namespace
+
+void TestHilfe::whoHasAUseForTheKeyGetsIt()
+{
+    QDialog dialog(c().Hauptfenster);
+    Verbraucher teil(&dialog);
+    teil.setFocusPolicy(Qt::StrongFocus);
+    dialog.open();
+    QVERIFY(QTest::qWaitForWindowActive(&dialog));
+    teil.setFocus();
+    QTest::keyClick(&teil, Qt::Key_F1);
+    QVERIFY(handbuch() == nullptr);
+    QTest::keyClick(&dialog, Qt::Key_F1);
+    QVERIFY(handbuch() != nullptr);
 }
 
 void TestHilfe::theOpenPageFollowsTheLanguage()

@@ -3,6 +3,7 @@
 #include <QApplication>
 #include <QContextMenuEvent>
 #include <QMenu>
+#include <QPointer>
 #include <QTest>
 
 using enum Naehrwert;
@@ -21,6 +22,9 @@ private Q_SLOTS:
     void theMenuOffersWhatTheCellAllows_data();
     void theMenuOffersWhatTheCellAllows();
     void theMenuCopiesAnOwnFood();
+    void aBuiltInFoodIsNoOwnOneOfItsName();
+    void anOwnFoodChosenAmongTheResultsIsNotDeleted();
+    void theMenuGoesToTheNextResult();
     void theMenuDeletesTheChosenOwnFood();
     void theMenuGivesTheColumnsTheirWidths();
 
@@ -112,7 +116,9 @@ void TestTabellenmenue::theMenuPutsInTheCellUnderTheMouse()
     QCOMPARE(controller().Tabelle->selectedRow(), 3);
     QCOMPARE(menue->actions().constFirst()->text().section(u'\t', 1),
              QKeySequence(QStringLiteral("Ctrl+Return")).toString(QKeySequence::NativeText));
+    const QPointer<QMenu> danach(menue);
     waehle(*menue, QStringLiteral("In den Plan geben"));
+    QTRY_VERIFY(danach.isNull()); // one is made each time
     QCOMPARE(plan().PlanArray, QStringList{zaehlname(7)});
     QCOMPARE(plan().mengenarray, QList<float>{150.0F});
     QCOMPARE(controller().Tabelle->selectedRow(), 3); // nothing was chosen
@@ -211,9 +217,40 @@ void TestTabellenmenue::theMenuCopiesAnOwnFood()
     waehle(*menue, QStringLiteral("Werte als neues Lebensmittel abschreiben …"));
     QVERIFY(controller().einfenster->isVisible());
     QCOMPARE(controller().EingabeFensterfeldA->stringValue(), QStringLiteral("Omas Torte (eigen)"));
+    QTRY_COMPARE(controller().EingabeFensterfeldA->selectedText(),
+                 QStringLiteral("Omas Torte (eigen)")); // another name is typed at once
     QCOMPARE(controller().EingabeFensterfeldB->floatValue(), 500.0F);
     QCOMPARE(Probefenster::text(*controller().feldA), zaehlname(2)); // what was on display
     QCOMPARE(controller().Tabelle->selectedRow(), 3);
+}
+
+/// A cell of the table stands for the food of the table, whatever own foods are called.
+void TestTabellenmenue::aBuiltInFoodIsNoOwnOneOfItsName()
+{
+    controller().EingabeFensterfeldA->setStringValue(zaehlname(7));
+    controller().umschreibenDerEingabeFelder();
+    QVERIFY(controller().KundenDictionary.contains(zaehlname(7)));
+    QCOMPARE(
+        ::eintraege(*oeffneMenue(8, inName)),
+        QStringList({QStringLiteral("In den Plan geben"), QStringLiteral("Spalten anpassen")}));
+}
+
+/// Deleting is about the column of the own foods, and the user was in another one since.
+void TestTabellenmenue::anOwnFoodChosenAmongTheResultsIsNotDeleted()
+{
+    suche(QStringLiteral("omas"));
+    m_fenster->klicke(1, inEigen);
+    m_fenster->klicke(2, inSuch);
+    QCOMPARE(controller().Tabelle->selectedRow(), 1);
+    QCOMPARE(controller().feldA->stringValue(), torte);
+    QVERIFY(!::eintraege(*oeffneMenue(1, inEigen)).contains(QStringLiteral("Löschen …")));
+}
+
+void TestTabellenmenue::theMenuGoesToTheNextResult()
+{
+    suche(QStringLiteral("000"));
+    waehle(*oeffneMenue(8, inName), QStringLiteral("Nächster Treffer"));
+    QCOMPARE(Probefenster::text(*controller().feldA), zaehlname(0));
 }
 
 void TestTabellenmenue::theMenuDeletesTheChosenOwnFood()

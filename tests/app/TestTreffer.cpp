@@ -20,6 +20,7 @@ private Q_SLOTS:
     void init();
     void cleanup();
     void theStripTellsWhichResultIsChosen();
+    void resultsBelowTheTableAreNotChosen();
     void theStripKeepsItsPlace();
     void twoClicksOnTheLowestRowMeetTheRowTwice();
     void theResultsOfAProfileAreCountedFromTheFirst();
@@ -95,6 +96,24 @@ void TestTreffer::theStripTellsWhichResultIsChosen()
     QCOMPARE(gezeigt(), controller().suchArray2[3]);
     m_fenster->klicke(0, inSuch); // the line above them
     QCOMPARE(strip(), QString());
+    m_fenster->klicke(3, inSuch);
+    m_fenster->klicke(20, inSuch); // below them
+    QCOMPARE(strip(), QString());
+}
+
+/// With own foods a search finds more than the table has rows, and what is not seen is not chosen.
+void TestTreffer::resultsBelowTheTableAreNotChosen()
+{
+    m_fenster.reset();
+    m_heim->schreibeTabelle(zaehltabelle(4));
+    m_fenster = std::make_unique<Probefenster>(*m_heim);
+    suche(QStringLiteral("speise"));
+    QCOMPARE(controller().suchArray2.size(), 6); // with the line above them
+    drueckeF3(Qt::ShiftModifier);
+    QCOMPARE(strip(), QStringLiteral("Treffer 3 von 5"));
+    QCOMPARE(gezeigt(), controller().suchArray2[3]);
+    drueckeF3();
+    QCOMPARE(strip(), QStringLiteral("Treffer 1 von 5"));
 }
 
 /// The table is no lower once a result is chosen: its last row does not slip away under the mouse.
@@ -236,7 +255,9 @@ void TestTreffer::theFoodIsShownInItsList()
     QVERIFY(!controller().lebensmittelmenge->isEnabled());
     QCOMPARE(controller().treffermenge->text(), QStringLiteral("Menge ändern: zuerst"));
     QVERIFY(controller().trefferinliste->isVisible());
+    controller().suchfeld->setFocus();
     QTest::mouseClick(controller().trefferinliste, Qt::LeftButton);
+    QVERIFY(controller().Tabelle->hasFocus());
     QCOMPARE(AppController::angeklickteSpalte, spalte);
     QCOMPARE(gezeigt(), name);
     const int zeile = controller().Tabelle->selectedRow();

@@ -1,10 +1,8 @@
-#include "Archivdatei.h"
-#include "Probefenster.h"
+#include "Verlaufsprobe.h"
 
-#include <QApplication>
 #include <QDir>
-#include <QDropEvent>
-#include <QMimeData>
+#include <QFile>
+#include <QLineEdit>
 #include <QTest>
 
 #include <functional>
@@ -13,13 +11,11 @@ using enum Naehrwert;
 
 /// Taking back and repeating what was changed in own foods and plan, by the keys in both windows,
 /// with the files following.
-class TestVerlauf : public QObject
+class TestVerlauf : public Verlaufsprobe
 {
     Q_OBJECT
 
 private Q_SLOTS:
-    void init();
-    void cleanup();
     void aChangeOfThePlan_data();
     void aChangeOfThePlan();
     void aNewFoodIsTakenBack();
@@ -27,159 +23,18 @@ private Q_SLOTS:
     void aDeletedFoodComesBackWithItsRow();
     void changesAreTakenBackOneByOne();
     void anotherChangeEndsTheRepeating();
+    void anAmountThatIsBeingTypedIsGoneWithTheStep();
     void nothingIsLeftToTakeBack();
     void theSameAmountIsNoChange();
     void whatWasThereBeforeThePlanWasOpenedStays();
     void whatIsTypedGoesFirst();
-    void theMenusSayWhatIsTakenBack();
-    void theNoticeOffersTheWayBack();
-    void theWayBackGoesWithTheNextChange();
     void anEarlierStateIsTakenBack();
     void aFileThatCannotBeWrittenKeepsNothingBack();
-
-private:
-    void oeffnePlan();
-    void imPlan(Qt::KeyboardModifiers dazu = {}) const;
-    void imHauptfenster(Qt::KeyboardModifiers dazu = {}) const;
-    void sichere(const QString &name, const QString &energie) const;
-    void wirfAb(const QString &name, int zeile) const;
-    QStringList zeilen() const;
-    QString plandatei() const
-    {
-        return QFileInfo(m_heim->eigeneDatei()).path() + QStringLiteral("/MahlbergPlanmod.daten");
-    }
-    QStringList planInDerDatei() const;
-    QStringList eigeneInDerDatei() const;
-    QString hinweis() const;
-    AppController &controller() const { return m_fenster->controller(); }
-    Planmodul &plan() const { return *controller().planmodul; }
-
-    std::unique_ptr<Probeheim> m_heim;
-    std::unique_ptr<Probefenster> m_fenster;
 };
-
-namespace {
-
-const QString a = QStringLiteral("A");
-const QString b = QStringLiteral("B");
-const QString c = QStringLiteral("C");
-const QString d = QStringLiteral("D");
-const QString brei = QStringLiteral("brei");
-
-} // namespace
-
-void TestVerlauf::init()
-{
-    m_heim = std::make_unique<Probeheim>();
-    m_heim->schreibeTabelle(
-        verzeichnis({lebensmittel(a, {{kal, 10}}), lebensmittel(b, {{kal, 20}}),
-                     lebensmittel(c, {{kal, 30}}), lebensmittel(d, {{kal, 40}})}));
-    m_heim->schreibeEigene(verzeichnis({lebensmittel(brei, {{kal, 70}})}));
-    m_fenster = std::make_unique<Probefenster>(*m_heim);
-}
-
-void TestVerlauf::cleanup()
-{
-    m_fenster.reset();
-    m_heim.reset();
-}
-
-/// A, B and C with 100 g each, the plan's window in front.
-void TestVerlauf::oeffnePlan()
-{
-    controller().Planmoduloeffnen();
-    for (const QString &name : {a, b, c}) {
-        plan().nameimportvontoolbar(name);
-    }
-    QVERIFY(QTest::qWaitForWindowActive(plan().window()));
-    plan().PlanTabelle->setFocus();
-}
-
-void TestVerlauf::imPlan(Qt::KeyboardModifiers dazu) const
-{
-    plan().window()->activateWindow();
-    QVERIFY(QTest::qWaitForWindowActive(plan().window()));
-    QTest::keyClick(plan().PlanTabelle, Qt::Key_Z, Qt::ControlModifier | dazu);
-}
-
-void TestVerlauf::imHauptfenster(Qt::KeyboardModifiers dazu) const
-{
-    controller().Hauptfenster->activateWindow();
-    QVERIFY(QTest::qWaitForWindowActive(controller().Hauptfenster));
-    controller().Tabelle->setFocus();
-    QTest::keyClick(controller().Tabelle, Qt::Key_Z, Qt::ControlModifier | dazu);
-}
-
-void TestVerlauf::sichere(const QString &name, const QString &energie) const
-{
-    controller().EingabeFensterfeldA->setStringValue(name);
-    controller().eingabefelder()[0]->setStringValue(energie);
-    controller().umschreibenDerEingabeFelder();
-}
-
-void TestVerlauf::wirfAb(const QString &name, int zeile) const
-{
-    Tabellenansicht &tabelle = *plan().PlanTabelle;
-    QCoreApplication::processEvents();
-    const int letzte = tabelle.model()->rowCount() - 1;
-    const int y = zeile <= letzte ? tabelle.rowViewportPosition(zeile) + 1
-                                  : tabelle.rowViewportPosition(letzte) + tabelle.rowHeight() - 1;
-    QMimeData daten;
-    daten.setText(name);
-    const QPoint ort(30, y);
-    QDragEnterEvent herein(ort, Qt::CopyAction, &daten, Qt::LeftButton, {});
-    QApplication::sendEvent(tabelle.viewport(), &herein);
-    QDragMoveEvent darueber(ort, Qt::CopyAction, &daten, Qt::LeftButton, {});
-    QApplication::sendEvent(tabelle.viewport(), &darueber);
-    QDropEvent fallen(ort, Qt::CopyAction, &daten, Qt::LeftButton, {});
-    QApplication::sendEvent(tabelle.viewport(), &fallen);
-}
-
-/// What the plan holds: QStringLiteral("A 100").
-QStringList TestVerlauf::zeilen() const
-{
-    QStringList alle;
-    for (qsizetype i = 0; i < plan().PlanArray.size(); ++i) {
-        alle << QStringLiteral("%1 %2").arg(plan().PlanArray[i]).arg(plan().mengenarray[i]);
-    }
-    return alle;
-}
-
-/// The same from the file, which knows no order.
-QStringList TestVerlauf::planInDerDatei() const
-{
-    const auto datei = Archivdatei::lesen(plandatei()).archiv.verzeichnis;
-    QStringList alle;
-    for (auto zeile = datei.cbegin(); zeile != datei.cend(); ++zeile) {
-        alle << QStringLiteral("%1 %2").arg(zeile.key()).arg(zeile->kal());
-    }
-    alle.sort();
-    return alle;
-}
-
-QStringList TestVerlauf::eigeneInDerDatei() const
-{
-    const auto datei = Archivdatei::lesen(m_heim->eigeneDatei()).archiv.verzeichnis;
-    QStringList alle;
-    for (auto zeile = datei.cbegin(); zeile != datei.cend(); ++zeile) {
-        alle << QStringLiteral("%1 %2").arg(zeile.key()).arg(zeile->kal());
-    }
-    alle.sort();
-    return alle;
-}
-
-/// The newest notice of the window in front.
-QString TestVerlauf::hinweis() const
-{
-    const Planmodul *einPlan = controller().planmodul;
-    const bool vorn = einPlan != nullptr && plan().window()->isActiveWindow();
-    const auto &alle = vorn ? einPlan->hinweise->hinweise() : controller().hinweise->hinweise();
-    return alle.isEmpty() ? QString() : alle.constFirst().text;
-}
 
 void TestVerlauf::aChangeOfThePlan_data()
 {
-    using Tat = std::function<void(const TestVerlauf &)>;
+    using Tat = std::function<void(const Verlaufsprobe &)>;
     QTest::addColumn<Tat>("tat");
     QTest::addColumn<QStringList>("danach");
     QTest::addColumn<QString>("worte");
@@ -218,7 +73,7 @@ void TestVerlauf::aChangeOfThePlan_data()
 
 void TestVerlauf::aChangeOfThePlan()
 {
-    using Tat = std::function<void(const TestVerlauf &)>;
+    using Tat = std::function<void(const Verlaufsprobe &)>;
     QFETCH(const Tat, tat);
     QFETCH(const QStringList, danach);
     QFETCH(const QString, worte);
@@ -328,6 +183,28 @@ void TestVerlauf::anotherChangeEndsTheRepeating()
     imPlan(Qt::ShiftModifier);
     QCOMPARE(zeilen(), (QStringList{QStringLiteral("A 100"), QStringLiteral("B 100"),
                                     QStringLiteral("D 100")}));
+    imPlan(); // D's coming, and C's stays taken back
+    QCOMPARE(zeilen(), (QStringList{QStringLiteral("A 100"), QStringLiteral("B 100")}));
+}
+
+/// The menu is opened while an amount stands unfinished in its row.
+void TestVerlauf::anAmountThatIsBeingTypedIsGoneWithTheStep()
+{
+    oeffnePlan();
+    plan().PlanTabelle->selectRow(1);
+    plan().aktionMenge->trigger();
+    auto *feld = plan().PlanTabelle->viewport()->findChild<QLineEdit *>();
+    QVERIFY(feld != nullptr);
+    feld->setText(QStringLiteral("75"));
+    plan().aktionRueckgaengig->trigger();
+    const QStringList ohneC = {QStringLiteral("A 100"), QStringLiteral("B 100")};
+    QCOMPARE(zeilen(), ohneC);
+    QCOMPARE(planInDerDatei(), ohneC);
+    QVERIFY(plan().aktionRueckgaengig->text().endsWith(QStringLiteral("„B“ in den Plan")));
+    plan().aktionWiederholen->trigger();
+    QCOMPARE(zeilen(), (QStringList{QStringLiteral("A 100"), QStringLiteral("B 100"),
+                                    QStringLiteral("C 100")}));
+    QCOMPARE(plan().aktionWiederholen->text(), QStringLiteral("&Wiederholen")); // no step more
 }
 
 void TestVerlauf::nothingIsLeftToTakeBack()
@@ -371,48 +248,6 @@ void TestVerlauf::whatIsTypedGoesFirst()
     QCOMPARE(controller().KundenArray.size(), 2);
     QTest::keyClick(controller().suchfeld, Qt::Key_Z, Qt::ControlModifier); // nothing is typed
     QCOMPARE(controller().KundenArray.size(), 1);
-}
-
-void TestVerlauf::theMenusSayWhatIsTakenBack()
-{
-    const auto worte = [this](const char *name) {
-        return controller().Hauptfenster->findChild<QAction *>(QLatin1String(name))->text();
-    };
-    QCOMPARE(worte("aktionRueckgaengig"), QStringLiteral("&Rückgängig"));
-    oeffnePlan();
-    QCOMPARE(worte("aktionRueckgaengig"), QStringLiteral("&Rückgängig: „C“ in den Plan"));
-    QCOMPARE(plan().aktionRueckgaengig->text(), worte("aktionRueckgaengig"));
-    QCOMPARE(worte("aktionWiederholen"), QStringLiteral("&Wiederholen"));
-    imPlan();
-    QCOMPARE(worte("aktionRueckgaengig"), QStringLiteral("&Rückgängig: „B“ in den Plan"));
-    QCOMPARE(worte("aktionWiederholen"), QStringLiteral("&Wiederholen: „C“ in den Plan"));
-    QCOMPARE(plan().aktionWiederholen->text(), worte("aktionWiederholen"));
-}
-
-void TestVerlauf::theNoticeOffersTheWayBack()
-{
-    m_fenster->klicke(0, inEigen);
-    m_heim->antworten = {1};
-    controller().LoescheneigeneLM();
-    const Hinweis einer = controller().hinweise->hinweise().constFirst();
-    QCOMPARE(einer.text, QStringLiteral("„brei“ ist gelöscht."));
-    QCOMPARE(einer.knopf, QStringLiteral("Zurücknehmen"));
-    einer.aktion();
-    QCOMPARE(controller().KundenArray, QStringList{brei});
-    QCOMPARE(hinweis(), QStringLiteral("Zurückgenommen: „brei“ gelöscht."));
-    QCOMPARE(controller().hinweise->hinweise().size(), 1); // the one about deleting is settled
-    controller().hinweise->hinweise().constFirst().aktion();
-    QVERIFY(controller().KundenArray.isEmpty());
-}
-
-void TestVerlauf::theWayBackGoesWithTheNextChange()
-{
-    m_fenster->klicke(0, inEigen);
-    m_heim->antworten = {1};
-    controller().LoescheneigeneLM();
-    controller().Planmoduloeffnen();
-    plan().nameimportvontoolbar(a);
-    QVERIFY(controller().hinweise->hinweise().isEmpty());
 }
 
 void TestVerlauf::anEarlierStateIsTakenBack()

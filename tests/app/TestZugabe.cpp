@@ -27,9 +27,14 @@ private Q_SLOTS:
     void theKeyPutsInTheFoodWhereTheKeyboardIs();
     void theKeyTakesAResultThatIsNotChosenYet();
     void theKeyPutsInAnOwnFoodOfTheRow();
+    void theKeyTakesTheResultOfTheSameRow();
+    void withoutADisplayTheKeyTakesTheCell();
     void aTypedAmountCounts();
     void aFoodThatWasInThePlanMovesToTheEnd();
     void theWayBack();
+    void theLastOneGetsAnotherAmount();
+    void foodsAreCalledAsInTheTable();
+    void theLineAboveTheResultsIsNoFoodOfAnyTable();
     void theWayBackGoesWithTheNextChange();
     void whatIsThereAlreadyCanNotBeTakenBack();
     void whatIsNoFoodSaysWhy_data();
@@ -222,6 +227,32 @@ void TestZugabe::theKeyPutsInAnOwnFoodOfTheRow()
     QCOMPARE(Probefenster::text(*controller().feldA), torte);
     drueckeTaste(controller().Tabelle);
     QCOMPARE(plan().PlanArray, QStringList{torte});
+    QTest::keyClick(controller().Tabelle, Qt::Key_Down); // to another row, whose food is meant
+    QTest::keyClick(controller().Tabelle, Qt::Key_Return, Qt::ControlModifier);
+    QCOMPARE(plan().PlanArray, QStringList({torte, zaehlname(1)}));
+}
+
+/// The own food of the row was called up, and then the keyboard went on to a result beside it.
+void TestZugabe::theKeyTakesTheResultOfTheSameRow()
+{
+    suche(QStringLiteral("0012"));
+    m_fenster->klicke(1, inName);
+    QTest::keyClick(controller().Tabelle, Qt::Key_E, Qt::ControlModifier);
+    QCOMPARE(Probefenster::text(*controller().feldA), torte);
+    controller().Tabelle->setFocus();
+    QTest::keyClick(controller().Tabelle, Qt::Key_Right);
+    QTest::keyClick(controller().Tabelle, Qt::Key_Right);
+    QTest::keyClick(controller().Tabelle, Qt::Key_Return, Qt::ControlModifier);
+    QCOMPARE(plan().PlanArray, QStringList{zaehlname(12)});
+}
+
+/// While no food is on display, that of the table's cell is meant wherever the keyboard is.
+void TestZugabe::withoutADisplayTheKeyTakesTheCell()
+{
+    controller().DatenAnsicht->hide();
+    controller().Tabelle->setzeSchreibmarke(8, QStringLiteral("name"));
+    drueckeTaste(controller().suchfeld);
+    QCOMPARE(plan().PlanArray, QStringList{zaehlname(7)});
 }
 
 void TestZugabe::aTypedAmountCounts()
@@ -259,6 +290,44 @@ void TestZugabe::theWayBack()
     QCOMPARE(plan().mengenarray, QList<float>({150.0F, 150.0F}));
     QCOMPARE(plandatei(), (QMap<QString, float>{{zaehlname(7), 150.0F}, {zaehlname(8), 150.0F}}));
     QCOMPARE(hinweis(), QString());
+}
+
+/// Its place stays, its amount does not.
+void TestZugabe::theLastOneGetsAnotherAmount()
+{
+    doppelklicke(8, inName);
+    m_fenster->tippeMenge(QStringLiteral("80"));
+    doppelklicke(8, inName);
+    QCOMPARE(hinweis(), QStringLiteral("„Speise 0007“ stand schon im Plan: Es steht jetzt am Ende "
+                                       "und hat 80 g (vorher: 150 g)."));
+    nimmZurueck();
+    QCOMPARE(plandatei(), (QMap<QString, float>{{zaehlname(7), 150.0F}}));
+}
+
+void TestZugabe::foodsAreCalledAsInTheTable()
+{
+    const Probeuebersetzer uebersetzer({{zaehlname(7), QString(70, u'n')},
+                                        {zaehlname(8), QStringLiteral("Dill")},
+                                        {leereZeile, QStringLiteral("(leer)")}});
+    doppelklicke(9, inName);
+    QCOMPARE(hinweis(), QStringLiteral("„Dill“ ist mit 150 g im Plan."));
+    doppelklicke(8, inName);
+    QCOMPARE(hinweis(), QStringLiteral("„%1…“ ist mit 150 g im Plan.").arg(QString(59, u'n')));
+    doppelklicke(0, inName);
+    QCOMPARE(hinweis(), QStringLiteral("Die Zeile „(leer)“ steht für kein Lebensmittel und kommt "
+                                       "nicht in den Plan."));
+}
+
+/// A table need not begin with a line without values, the results of a search always do.
+void TestZugabe::theLineAboveTheResultsIsNoFoodOfAnyTable()
+{
+    m_fenster.reset();
+    m_heim->schreibeTabelle(zaehltabelle(30));
+    m_fenster = std::make_unique<Probefenster>(*m_heim);
+    suche(QStringLiteral("0012"));
+    doppelklicke(0, inSuch);
+    QCOMPARE(hinweis(), QStringLiteral("Die Zeile „-“ steht für kein Lebensmittel und kommt nicht "
+                                       "in den Plan."));
 }
 
 /// It is the way back of the last change alone.
@@ -305,6 +374,7 @@ void TestZugabe::whatIsNoFoodSaysWhy()
     QCOMPARE(controller().KundenArray, QStringList{kuchen});
     doppelklicke(zeile, spalte);
     QTEST(hinweis(), "grund");
+    QCOMPARE(controller().hinweise->hinweise().constFirst().dauer, 8000);
     QVERIFY(controller().planmodul == nullptr);
     QVERIFY(plandatei().isEmpty());
 }

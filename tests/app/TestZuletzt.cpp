@@ -21,6 +21,8 @@ private Q_SLOTS:
     void choosingOneShowsItAsAClickDoes();
     void anOwnFoodIsShownFromItsColumn();
     void anOwnFoodThatIsGoneIsNotOffered();
+    void foodsAreCalledAsInTheTable();
+    void theMenuOpensBelowTheSearchBox();
     void atTheStartThereIsNone();
 
 private:
@@ -154,6 +156,22 @@ void TestZuletzt::anOwnFoodThatIsGoneIsNotOffered()
     m_heim->antworten = {1};
     controller().LoescheneigeneLM();
     QCOMPARE(namen(), QStringList{zaehlname(3)});
+}
+
+void TestZuletzt::foodsAreCalledAsInTheTable()
+{
+    const Probeuebersetzer uebersetzer(
+        {{zaehlname(3), QStringLiteral("Dill")}, {zaehlname(4), QString(70, u'n')}});
+    m_fenster->klicke(3, inName);
+    m_fenster->klicke(4, inName);
+    QCOMPARE(namen(), QStringList({QString(59, u'n') + u'…', QStringLiteral("Dill")}));
+}
+
+void TestZuletzt::theMenuOpensBelowTheSearchBox()
+{
+    m_fenster->klicke(3, inName);
+    const QWidget &feld = *controller().suchfeld;
+    QCOMPARE(oeffne()->pos(), feld.mapToGlobal(QPoint(0, feld.height())));
 }
 
 void TestZuletzt::atTheStartThereIsNone()

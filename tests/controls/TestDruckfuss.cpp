@@ -5,6 +5,8 @@
 #include <QPainter>
 #include <QTest>
 
+#include <functional>
+
 /// The line at the foot of every page.
 class TestDruckfuss : public QObject
 {
@@ -15,6 +17,9 @@ private Q_SLOTS:
     void itSaysDayPageAndProgram();
     void itStandsWithinTheMargins_data();
     void itStandsWithinTheMargins();
+    void thePagesAreThoseAboveTheFoot();
+    void thePagesMayBeMeasuredInMillimetres();
+    void thePageLeavesTheFootAsItIs();
     void aPrintIsOfToday();
 };
 
@@ -23,9 +28,9 @@ void TestDruckfuss::itSaysDayPageAndProgram_data()
     QTest::addColumn<QLocale>("sprache");
     QTest::addColumn<QString>("tag");
     QTest::newRow("German") << QLocale(QLocale::German, QLocale::Germany)
-                            << QStringLiteral("Sonntag, 22. November 2026");
+                            << QStringLiteral("Sonntag, 1. März 2026");
     QTest::newRow("English") << QLocale(QLocale::English, QLocale::UnitedKingdom)
-                             << QStringLiteral("Sunday, 22 November 2026");
+                             << QStringLiteral("Sunday, 1 March 2026");
 }
 
 void TestDruckfuss::itSaysDayPageAndProgram()
@@ -34,7 +39,7 @@ void TestDruckfuss::itSaysDayPageAndProgram()
     QFETCH(QString, tag);
     QLocale::setDefault(sprache);
     Druckauftrag auftrag = beziffert(2);
-    auftrag.tag = QDate(2026, 11, 22);
+    auftrag.tag = QDate(2026, 3, 1);
     Druckprobe probe(Druckprobe::papier(QPageSize::A4, QPageLayout::Portrait));
     probe.drucke(mitFuss(auftrag));
     QCOMPARE(probe.seiten(), 2);
@@ -76,6 +81,61 @@ void TestDruckfuss::itStandsWithinTheMargins()
     QVERIFY(letztes.grundlinie <= 612 - unten);
     QVERIFY(letztes.grundlinie > 612 - frei);
     QVERIFY(letztes.rechts <= 792 - qMax(36.0, raender.right()) + 0.5);
+}
+
+/// With the foot there is less room for the rows, and they may need one page more.
+void TestDruckfuss::thePagesAreThoseAboveTheFoot()
+{
+    QLocale::setDefault(QLocale(QLocale::German, QLocale::Germany));
+    Druckauftrag auftrag = beziffert(2);
+    auftrag.seitenzahl = [](const QPageLayout &seite) {
+        return seite.margins(QPageLayout::Point).bottom() > 20 ? 3 : 2;
+    };
+    Druckprobe probe(Druckprobe::papier(QPageSize::A4, QPageLayout::Portrait));
+    probe.drucke(mitFuss(auftrag));
+    QCOMPARE(probe.seiten(), 3);
+    QVERIFY(probe.zeilen(3).last().contains(QStringLiteral("Seite 3 von 3")));
+}
+
+void TestDruckfuss::thePagesMayBeMeasuredInMillimetres()
+{
+    Druckauftrag auftrag = beziffert(1);
+    double unten = 0;
+    auftrag.seitenzahl = [&unten](const QPageLayout &seite) {
+        unten = seite.margins(QPageLayout::Point).bottom();
+        return 1;
+    };
+    const QPageLayout seite(QPageSize(QPageSize::A4), QPageLayout::Portrait,
+                            QMarginsF(12.7, 12.7, 12.7, 12.7), QPageLayout::Millimeter);
+    mitFuss(auftrag).seitenzahl(seite);
+    QVERIFY(qAbs(unten - (36 + 16)) < 0.5); // 12.7 mm are half an inch
+}
+
+/// What a page draws last may be light, turned or moved.
+void TestDruckfuss::thePageLeavesTheFootAsItIs()
+{
+    QImage papier(595, 842, QImage::Format_RGB32);
+    const auto fuss = [&papier](const std::function<void(QPainter &)> &danach) {
+        Druckauftrag auftrag = beziffert(1);
+        auftrag.male = [danach](QPainter &maler, const QPageLayout &, int) {
+            danach(maler);
+        };
+        papier.fill(Qt::white);
+        QPainter maler(&papier);
+        mitFuss(auftrag).male(maler, Druckprobe::papier(QPageSize::A4, QPageLayout::Portrait), 1);
+        maler.end();
+        return papier;
+    };
+    const QImage erwartet = fuss([](QPainter &) {});
+    const QImage gedruckt = fuss([](QPainter &maler) {
+        maler.setPen(Qt::white);
+        maler.setOpacity(0.2);
+        maler.translate(40, -60);
+        maler.rotate(10);
+    });
+    QCOMPARE(gedruckt, erwartet);
+    papier.fill(Qt::white);
+    QVERIFY(erwartet != papier);
 }
 
 void TestDruckfuss::aPrintIsOfToday()

@@ -1,6 +1,7 @@
 #include "Druckname.h"
 #include "Drucktuer.h"
 
+#include <QDir>
 #include <QFile>
 #include <QTemporaryDir>
 #include <QTest>
@@ -13,6 +14,7 @@ private Q_SLOTS:
     void titleDayAndForm_data();
     void titleDayAndForm();
     void anExistingFileGetsANumber();
+    void theDocumentsAreTheFirstPlace();
 };
 
 void TestDruckname::titleDayAndForm_data()
@@ -24,6 +26,7 @@ void TestDruckname::titleDayAndForm_data()
                                      << QStringLiteral("Mahlzeitenplan 2026-11-22 Liste");
     QTest::newRow("no form") << QStringLiteral("Alkohol und Sport") << QString()
                              << QStringLiteral("Alkohol und Sport 2026-11-22");
+    QTest::newRow("no title") << QString() << QString() << QStringLiteral("2026-11-22");
     QTest::newRow("a slash is no folder")
         << QStringLiteral("Apfel/Birne") << QString() << QStringLiteral("Apfel-Birne 2026-11-22");
     QTest::newRow("signs that other systems refuse")
@@ -55,6 +58,23 @@ void TestDruckname::anExistingFileGetsANumber()
         QFile vorhanden(pfad);
         QVERIFY(vorhanden.open(QIODevice::WriteOnly));
     }
+}
+
+/// A desktop need not have a folder for documents.
+void TestDruckname::theDocumentsAreTheFirstPlace()
+{
+    const QTemporaryDir heim;
+    const QByteArray vorher = qgetenv("HOME");
+    const QByteArray einstellungen = qgetenv("XDG_CONFIG_HOME");
+    qputenv("HOME", heim.path().toLocal8Bit());
+    qputenv("XDG_CONFIG_HOME", heim.path().toLocal8Bit());
+    const QString ohne = dokumentenordner();
+    QVERIFY(QDir(heim.path()).mkdir(QStringLiteral("Documents")));
+    const QString mit = dokumentenordner();
+    qputenv("HOME", vorher);
+    qputenv("XDG_CONFIG_HOME", einstellungen);
+    QCOMPARE(ohne, heim.path());
+    QCOMPARE(mit, heim.filePath(QStringLiteral("Documents")));
 }
 
 QTEST_MAIN(TestDruckname)

@@ -31,6 +31,8 @@ private Q_SLOTS:
     void nothingOfTheseIsPrinted();
     void theseAreTheirPlainText_data();
     void theseAreTheirPlainText();
+    void aNumberStandsWhereItsFieldHasIt();
+    void aGroupsTitleStandsAtItsTop();
     void aNumberThatIsBeingTypedHasItsUnit();
     void aNewValueIsPrintedAtOnce();
     void noLetterIsUnderlined_data();
@@ -75,13 +77,18 @@ Schieber *gramm(double zahl)
     return schieber;
 }
 
+using Gestalten = std::function<void(QLabel &)>;
+
 /// A caption for an entry that is not printed.
-QWidget *zeile(const QString &text, bool mitTaste)
+QWidget *zeile(const QString &text, bool mitTaste, const Gestalten &gestalte = {})
 {
     auto *flaeche = new QWidget;
     auto *anordnung = new QVBoxLayout(flaeche);
     auto *feld = new Textfeld;
     auto *beschriftung = new QLabel(text);
+    if (gestalte) {
+        gestalte(*beschriftung);
+    }
     if (mitTaste) {
         beschriftung->setBuddy(feld);
     }
@@ -178,6 +185,20 @@ void TestPapierteile::theseAreTheirPlainText_data()
         wahl->setStringValue(QStringLiteral("Most"));
         return wahl;
     }) << QStringLiteral("Most");
+    QTest::newRow("an empty entry of a typed choice says what that means") << Machen([] {
+        auto *wahl = new Auswahlfeld;
+        wahl->setFreitext(true);
+        wahl->lineEdit()->setPlaceholderText(QStringLiteral("keine"));
+        return wahl;
+    }) << QStringLiteral("keine");
+    QTest::newRow("and of a choice from a list") << Machen([] {
+        auto *wahl = new Auswahlfeld;
+        wahl->setPlaceholderText(QStringLiteral("unbekannt"));
+        return wahl;
+    }) << QStringLiteral("unbekannt");
+    QTest::newRow("a caption that belongs to no field keeps its signs")
+        << Machen([] { return new QLabel(QStringLiteral("Salz & Brot")); })
+        << QStringLiteral("Salz & Brot");
     QTest::newRow("the choice that was made") << Machen([] {
         auto *wahl = new QRadioButton(QStringLiteral("Frau"));
         wahl->setChecked(true);
@@ -202,6 +223,43 @@ void TestPapierteile::theseAreTheirPlainText()
     const QImage linker = bild.copy(0, 0, 2 * links, bild.height());
     QVERIFY(istWeiss(linker));
     QVERIFY(istWeiss(bild.copy(2 * rechts, 0, bild.width() - 2 * rechts, bild.height())));
+    QVERIFY(!istWeiss(bild)); // one can see it
+}
+
+/// The columns of numbers end below one another.
+void TestPapierteile::aNumberStandsWhereItsFieldHasIt()
+{
+    Textfeld *feld = eintrag(12.5);
+    feld->setAlignment(Qt::AlignRight);
+    gedruckt(feld);
+    const double rechterRand = m_probe->worte().last().rechts;
+    feld->setAlignment(Qt::AlignLeft);
+    m_probe->drucke(bildauftrag({}, *m_flaeche));
+    const QList<Druckwort> links = m_probe->worte();
+    QVERIFY(rechterRand - links.last().rechts > 100);
+}
+
+/// It stands above what belongs to it and is seen from afar.
+void TestPapierteile::aGroupsTitleStandsAtItsTop()
+{
+    const auto punkte = [](const QImage &bild) {
+        int dunkel = 0;
+        for (int y = 0; y < bild.height(); ++y) {
+            for (int x = 0; x < bild.width(); ++x) {
+                dunkel += qGray(bild.pixel(x, y)) < 128 ? 1 : 0;
+            }
+        }
+        return dunkel;
+    };
+    auto *gruppe = new QGroupBox(QStringLiteral("Sport"));
+    gruppe->setMinimumHeight(180);
+    const int fett = punkte(gedruckt(gruppe));
+    const Druckwort titel = m_probe->worte().first();
+    auto *text = new QCheckBox(QStringLiteral("Sport"));
+    text->setMinimumHeight(180);
+    const int mager = punkte(gedruckt(text));
+    QVERIFY(m_probe->worte().first().grundlinie - titel.grundlinie > 40);
+    QVERIFY2(fett > mager * 1.15, qPrintable(QStringLiteral("%1, %2").arg(fett).arg(mager)));
 }
 
 void TestPapierteile::aNumberThatIsBeingTypedHasItsUnit()
@@ -234,6 +292,22 @@ void TestPapierteile::noLetterIsUnderlined_data()
     QTest::newRow("the caption of a field")
         << Machen([] { return zeile(QStringLiteral("&Gewicht"), true); })
         << Machen([] { return zeile(QStringLiteral("Gewicht"), false); });
+    const Gestalten rechts = [](QLabel &beschriftung) {
+        beschriftung.setAlignment(Qt::AlignRight | Qt::AlignTop);
+        beschriftung.setMinimumHeight(60);
+    };
+    QTest::newRow("a caption at the right, beside much")
+        << Machen([rechts] { return zeile(QStringLiteral("&Gewicht"), true, rechts); })
+        << Machen([rechts] { return zeile(QStringLiteral("Gewicht"), false, rechts); });
+    const Gestalten mehrzeilig = [](QLabel &beschriftung) {
+        beschriftung.setWordWrap(true);
+        beschriftung.setMinimumHeight(90);
+        beschriftung.setContentsMargins(60, 10, 0, 0);
+    };
+    const QString langer = QString(QStringLiteral(" nach dem Essen")).repeated(8);
+    QTest::newRow("a caption of several lines with room before them")
+        << Machen([=] { return zeile(QStringLiteral("&Gewicht") + langer, true, mehrzeilig); })
+        << Machen([=] { return zeile(QStringLiteral("Gewicht") + langer, false, mehrzeilig); });
     QTest::newRow("a group") << Machen([] { return new QGroupBox(QStringLiteral("&Sport")); })
                              << Machen([] { return new QGroupBox(QStringLiteral("Sport")); });
     QTest::newRow("a switch") << Machen([] { return new QCheckBox(QStringLiteral("&aus")); })

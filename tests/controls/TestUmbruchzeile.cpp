@@ -1,5 +1,6 @@
 #include "Umbruchzeile.h"
 
+#include <QLabel>
 #include <QTest>
 #include <QVBoxLayout>
 
@@ -13,17 +14,20 @@ private Q_SLOTS:
     void theGroupsGoBelowOneAnother();
     void lowerGroupsStandInTheMiddleOfTheLine();
     void aHiddenLineKeepsTheHeightThatItWillHave();
+    void itAsksForOneLineAndManagesWithSeveral();
+    void aLineTakesNoMoreHeightThanItNeeds();
+    void aTextNeedsItsWidth();
     void aLongerTextBreaksTheLine();
 
 private:
-    static QWidget *gruppe(Umbruchzeile &zeile, int breite);
+    static QWidget *gruppe(Umbruchzeile &zeile, int breite, int hoehe = 20);
 };
 
-/// A group that needs this width and 20 points of height.
-QWidget *TestUmbruchzeile::gruppe(Umbruchzeile &zeile, int breite)
+/// A group that needs this width and height, in points.
+QWidget *TestUmbruchzeile::gruppe(Umbruchzeile &zeile, int breite, int hoehe)
 {
     auto *neue = new QWidget(&zeile);
-    neue->setFixedSize(breite, 20);
+    neue->setFixedSize(breite, hoehe);
     return neue;
 }
 
@@ -65,6 +69,48 @@ void TestUmbruchzeile::lowerGroupsStandInTheMiddleOfTheLine()
     QCOMPARE(knopf->geometry(), QRect(0, 0, 100, 20));
     zeile.resize(120, 50);
     QCOMPARE(wort->geometry(), QRect(0, 24, 60, 12));
+}
+
+/// The higher of two groups gives the line its height.
+void TestUmbruchzeile::itAsksForOneLineAndManagesWithSeveral()
+{
+    Umbruchzeile zeile;
+    gruppe(zeile, 100, 30);
+    gruppe(zeile, 60, 20);
+    QCOMPARE(zeile.sizeHint(), QSize(168, 30));
+    QCOMPARE(zeile.minimumSizeHint(), QSize(100, 54));
+}
+
+/// What lies above keeps the rest of the window.
+void TestUmbruchzeile::aLineTakesNoMoreHeightThanItNeeds()
+{
+    QWidget fenster;
+    auto *alles = new QVBoxLayout(&fenster);
+    alles->setContentsMargins(0, 0, 0, 0);
+    alles->setSpacing(0);
+    auto *rest = new QWidget(&fenster);
+    rest->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Expanding);
+    auto *zeile = new Umbruchzeile(&fenster);
+    QWidget *eins = gruppe(*zeile, 100);
+    gruppe(*zeile, 60);
+    alles->addWidget(rest);
+    alles->addWidget(zeile);
+    fenster.resize(200, 200);
+    fenster.show();
+    QTRY_COMPARE(rest->height(), 180);
+    eins->setFixedSize(100, 35); // larger letters, for instance
+    QTRY_COMPARE(rest->height(), 165);
+    eins->setFixedSize(150, 35);
+    QTRY_COMPARE(rest->height(), 200 - 35 - 4 - 20);
+}
+
+void TestUmbruchzeile::aTextNeedsItsWidth()
+{
+    Umbruchzeile zeile;
+    const auto *text = new QLabel(QStringLiteral("Menge: rechts einstellen."), &zeile);
+    gruppe(zeile, 60);
+    QCOMPARE(zeile.sizeHint().width(), text->minimumSizeHint().width() + 8 + 60);
+    QVERIFY(text->minimumSizeHint().width() > 60);
 }
 
 void TestUmbruchzeile::aHiddenLineKeepsTheHeightThatItWillHave()

@@ -5,6 +5,8 @@
 #include <QHeaderView>
 #include <QLineEdit>
 #include <QMenu>
+#include <QPointer>
+#include <QScrollBar>
 #include <QTest>
 
 using namespace Qt::StringLiterals;
@@ -20,6 +22,7 @@ private Q_SLOTS:
     void theRightButtonOffersWhatCanBeDoneWithTheRow();
     void theKeyOffersTheSameForTheRowOfTheKeyboard_data();
     void theKeyOffersTheSameForTheRowOfTheKeyboard();
+    void theKeyBringsTheRowIntoSight();
     void theKeysAreShown();
     void besideTheRowsOnlyTheColumnsAreLeft();
     void anEmptyPlanOffersOnlyTheColumns();
@@ -127,6 +130,23 @@ void TestPlanmodulMenue::theKeyOffersTheSameForTheRowOfTheKeyboard()
     QVERIFY(std::abs(menue()->y() - tabelle().viewport()->mapToGlobal(zeile.center()).y()) < 3);
     waehle(plan().aktionHoch);
     QCOMPARE(plan().PlanArray, (QStringList{u"Brot"_s, u"Apfel"_s, u"Ei"_s}));
+}
+
+/// The row comes into sight, so that one sees which it is.
+void TestPlanmodulMenue::theKeyBringsTheRowIntoSight()
+{
+    for (int i = 0; i < 60; ++i) {
+        plan().nameimportvontoolbar(u"Speise %1"_s.arg(i));
+    }
+    tabelle().setFocus();
+    QTest::keyClick(&tabelle(), Qt::Key_Home, Qt::ControlModifier);
+    tabelle().verticalScrollBar()->setValue(tabelle().verticalScrollBar()->maximum());
+    QTest::keyClick(&tabelle(), Qt::Key_Menu);
+    QVERIFY(menue() != nullptr);
+    QCOMPARE(tabelle().verticalScrollBar()->value(), 0);
+    const QPointer<QMenu> danach(menue());
+    menue()->close();
+    QTRY_VERIFY(danach.isNull()); // one is made each time
 }
 
 void TestPlanmodulMenue::theKeysAreShown()

@@ -16,6 +16,7 @@ private Q_SLOTS:
     void theEnergyIsThatOfTheColumn();
     void whatIsLeftIsTheNeedLessTheSum_data();
     void whatIsLeftIsTheNeedLessTheSum();
+    void whatIsMetIsNeitherLeftNorTooMuch();
     void withoutARequirementNothingIsLeftOfIt();
     void theSumsFollowTheRows();
     void aFoodOfNoTableDoesNotCount();
@@ -113,8 +114,18 @@ void TestPlanmodulSummen::whatIsLeftIsTheNeedLessTheSum()
     Planmodul::klient.bedarf = 2000;
     oeffne();
     QCOMPARE(this->rest(u"name"_s), u"Bis zum Tagesbedarf"_s);
+    QCOMPARE(this->worte(0, u"name"_s), QString()); // every food counts
     QCOMPARE(this->rest(spalte), rest);
     QCOMPARE(this->worte(1, spalte), worte);
+}
+
+void TestPlanmodulSummen::whatIsMetIsNeitherLeftNorTooMuch()
+{
+    m_heim->schreibeTabelle({speise(u"Quellwasser"_s, {{Naehrwert::na, 55}})});
+    m_heim->schreibePlan({{u"Quellwasser"_s, 1000}});
+    oeffne();
+    QCOMPARE(rest(u"na"_s), u"0"_s);
+    QCOMPARE(worte(1, u"na"_s), u"Natrium: 550 mg von 550 mg"_s);
 }
 
 void TestPlanmodulSummen::withoutARequirementNothingIsLeftOfIt()
@@ -147,6 +158,7 @@ void TestPlanmodulSummen::aFoodOfNoTableDoesNotCount()
     QCOMPARE(summe(u"name"_s), u"Summe (1 zählt nicht mit)"_s);
     QCOMPARE(summe(u"menge"_s), u"100"_s);
     QVERIFY(worte(0, u"name"_s).startsWith(u"Ein Lebensmittel, das in keiner Tabelle steht"_s));
+    QCOMPARE(worte(1, u"name"_s), QString()); // what is left needs no such words
     plan().nameimportvontoolbar(u"Moa"_s);
     QCOMPARE(summe(u"name"_s), u"Summe (2 zählen nicht mit)"_s);
 }

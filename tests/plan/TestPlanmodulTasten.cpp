@@ -5,6 +5,7 @@
 #include <QDoubleSpinBox>
 #include <QLineEdit>
 #include <QPushButton>
+#include <QScrollBar>
 #include <QSlider>
 #include <QTest>
 
@@ -27,6 +28,8 @@ private Q_SLOTS:
     void removingTakesTheAmountThatIsTypedWithIt();
     void removingFromTheMenuWithNothingSelectedLeavesTheTypedAmount();
     void aFoodThatComesInLeavesATypedAmountWhereItWas();
+    void soDoesAFoodThatComesWithAnAmount();
+    void aFoodThatComesInIsInSight();
     void aDropLeavesATypedAmountWhereItWas();
     void aDeletedOwnFoodLeavesTheTypedAmountOfAnother();
 
@@ -198,6 +201,25 @@ void TestPlanmodulTasten::aFoodThatComesInLeavesATypedAmountWhereItWas()
              (QMap<QString, float>{
                  {u"Auflauf"_s, 45}, {u"Brot"_s, 100}, {u"Ei"_s, 30}, {u"Milch"_s, 100}}));
     QCOMPARE(m_heim->plan(), mengen());
+}
+
+void TestPlanmodulTasten::soDoesAFoodThatComesWithAnAmount()
+{
+    beginne(0, u"45"_s);
+    (*m_fenster)->gibHinein(u"Brot"_s, 80);
+    QCOMPARE(mengen(), (QMap<QString, float>{{u"Auflauf"_s, 45}, {u"Brot"_s, 80}, {u"Ei"_s, 30}}));
+    QCOMPARE(m_heim->plan(), mengen());
+}
+
+void TestPlanmodulTasten::aFoodThatComesInIsInSight()
+{
+    for (int i = 0; i < 60; ++i) {
+        (*m_fenster)->nameimportvontoolbar(u"Speise %1"_s.arg(i));
+    }
+    tabelle().verticalScrollBar()->setValue(0);
+    (*m_fenster)->gibHinein(u"Milch"_s, 80);
+    QCOMPARE(tabelle().verticalScrollBar()->value(), tabelle().verticalScrollBar()->maximum());
+    QVERIFY(tabelle().verticalScrollBar()->maximum() > 0);
 }
 
 void TestPlanmodulTasten::aDropLeavesATypedAmountWhereItWas()
