@@ -127,12 +127,21 @@ void AnthroController::zeigeGeschlecht()
 
 void AnthroController::rateBmi()
 {
-    zeigeUrteil(*bmifaceview, *bmiworte, bmiGesicht(resultatbmi->floatValue()),
-                fehlende({{gewichttext, *gewicht}, {groessetext, *groesse}}));
+    zeigeUrteil(*bmifaceview, *bmiworte, bmiGesicht(resultatbmi->floatValue()), fehlendeFuerBmi());
+}
+
+QString AnthroController::fehlendeFuerBmi() const
+{
+    return fehlende({{gewichttext, *gewicht}, {groessetext, *groesse}});
 }
 
 void AnthroController::rateVerhaeltnis()
 {
     zeigeUrteil(*whfaceview, *whworte, verhaeltnisGesicht(resultatwh->floatValue()),
-                fehlende({{taillentext, *taillenumfang}, {huefttext, *hueftumfang}}));
+                fehlendeFuerVerhaeltnis());
+}
+
+QString AnthroController::fehlendeFuerVerhaeltnis() const
+{
+    return fehlende({{taillentext, *taillenumfang}, {huefttext, *hueftumfang}});
 }

@@ -130,8 +130,12 @@ private:
         const Textfeld &feld;
     };
     static QString fehlende(std::initializer_list<Mass> masse);
-    static void zeigeUrteil(FaceView &gesicht, QLabel &worte, std::optional<int> code,
-                            const QString &fehlt = {});
+    QString fehlendeFuerBmi() const;
+    QString fehlendeFuerVerhaeltnis() const;
+    QString fehlendeFuerEnergie() const;
+    void sageUrteile();
+    void zeigeUrteil(FaceView &gesicht, QLabel &worte, std::optional<int> code,
+                     const QString &fehlt = {});
     void zeigeImperial();
     void zeigeMasssystem(bool metrisch);
     void rechneEnergie();

@@ -78,9 +78,18 @@ void AnthroController::verbirgMasse()
     }
     hueftumfang->show();
     taillenumfang->show();
+    sageUrteile();
 }
 
-/// The faces stay as they are until the next measure is set.
+/// Says anew what the faces rest on; they stay as they are.
+void AnthroController::sageUrteile()
+{
+    zeigeUrteil(*bmifaceview, *bmiworte, std::nullopt, fehlendeFuerBmi());
+    zeigeUrteil(*whfaceview, *whworte, std::nullopt, fehlendeFuerVerhaeltnis());
+    zeigeUrteil(*kalfaceview, *kalworte, std::nullopt, fehlendeFuerEnergie());
+}
+
+/// The faces stay as they are until the next measure is set, and so they are told again.
 void AnthroController::zeigeMasseWieder()
 {
     gewicht->setFloatValue(gewichtn->floatValue());
@@ -94,6 +103,7 @@ void AnthroController::zeigeMasseWieder()
     rechneEnergie();
     uebergibEnergie();
     zeigeVerhaeltnis();
+    sageUrteile();
 }
 
 void AnthroController::welchersport(const Wertehalter &sender)
@@ -153,8 +163,12 @@ void AnthroController::uebergibEnergie()
 
 void AnthroController::rateEnergie()
 {
-    zeigeUrteil(*kalfaceview, *kalworte, energieGesicht(kal),
-                fehlende({{gewichttext, *gewichtbmi}}));
+    zeigeUrteil(*kalfaceview, *kalworte, energieGesicht(kal), fehlendeFuerEnergie());
+}
+
+QString AnthroController::fehlendeFuerEnergie() const
+{
+    return fehlende({{gewichttext, *gewichtbmi}});
 }
 
 void AnthroController::zeigeReduktion()

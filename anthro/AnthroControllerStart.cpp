@@ -334,7 +334,9 @@ void AnthroController::zeigeUrteil(FaceView &gesicht, QLabel &worte, std::option
         gesicht.entscheidung(*code);
     }
     const auto stelle = static_cast<std::size_t>(gesicht.entscheidungszahl() - 1);
-    if (!fehlt.isEmpty()) {
+    if (!altersworte->isHidden()) {
+        worte.setText(localizedString(QStringLiteral("gilt erst ab 11 Jahren")));
+    } else if (!fehlt.isEmpty()) {
         worte.setText(fehlt);
     } else if (stelle < urteile.size()) {
         worte.setText(localizedString(QString::fromUtf8(urteile.at(stelle))));

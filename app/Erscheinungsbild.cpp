@@ -51,6 +51,9 @@ QPalette palette(bool dunkel)
     for (const auto rolle : {QPalette::WindowText, QPalette::Text, QPalette::ButtonText}) {
         ergebnis.setColor(QPalette::Disabled, rolle, blass);
     }
+    // The filled part of a slider that can't be moved is no invitation.
+    ergebnis.setColor(QPalette::Disabled, QPalette::Highlight,
+                      ergebnis.color(QPalette::Active, QPalette::Mid));
     return ergebnis;
 }
 

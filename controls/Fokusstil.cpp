@@ -25,12 +25,32 @@ bool istInnenzeile(const QWidget *widget)
 }
 
 /// The style's own edge is darker than the window, and in the dark nobody sees where a field is.
-bool brauchtRand(const QStyleOption &option, const QWidget *widget)
+bool brauchtRand(QStyle::PrimitiveElement element, const QStyleOption &option,
+                 const QWidget *widget)
 {
     constexpr int mitte = 128;
+    if (option.palette.color(QPalette::Window).lightness() >= mitte) {
+        return false;
+    }
     const auto *feld = qstyleoption_cast<const QStyleOptionFrame *>(&option);
-    return feld != nullptr && feld->lineWidth > 0 && !istInnenzeile(widget) &&
-           option.palette.color(QPalette::Window).lightness() < mitte;
+    return element == QStyle::PE_IndicatorCheckBox || element == QStyle::PE_IndicatorRadioButton ||
+           (element == QStyle::PE_PanelLineEdit && feld != nullptr && feld->lineWidth > 0 &&
+            !istInnenzeile(widget));
+}
+
+void maleRand(QStyle::PrimitiveElement element, const QStyleOption &option, QPainter &painter)
+{
+    const QRect platz = option.rect.adjusted(0, 0, -1, -1);
+    painter.save();
+    painter.setPen(option.palette.color(QPalette::PlaceholderText));
+    painter.setBrush(Qt::NoBrush);
+    if (element == QStyle::PE_IndicatorRadioButton) {
+        painter.setRenderHint(QPainter::Antialiasing);
+        painter.drawEllipse(QRectF(platz).adjusted(0.5, 0.5, -0.5, -0.5));
+    } else {
+        painter.drawRect(platz);
+    }
+    painter.restore();
 }
 
 bool istTabelle(const QWidget *widget)
@@ -62,9 +82,8 @@ void Fokusstil::drawPrimitive(PrimitiveElement element, const QStyleOption *opti
         return;
     }
     QProxyStyle::drawPrimitive(element, option, painter, widget);
-    if (element == PE_PanelLineEdit && brauchtRand(*option, widget)) {
-        painter->setPen(option->palette.color(QPalette::PlaceholderText));
-        painter->drawRect(option->rect.adjusted(0, 0, -1, -1));
+    if (brauchtRand(element, *option, widget)) {
+        maleRand(element, *option, *painter);
     }
     if (element == PE_PanelLineEdit && hatTastatur(*option) && !istInnenzeile(widget)) {
         maleFokus(*painter, option->rect, option->palette);

@@ -1050,6 +1050,10 @@ New: %1</translation>
   <translation>earlier state of the plan</translation>
  </message>
  <message>
+  <source>gilt erst ab 11 Jahren</source>
+  <translation>holds from 11 years on</translation>
+ </message>
+ <message>
   <source>neue Namen im Plan</source>
   <translation>new names in the plan</translation>
  </message>

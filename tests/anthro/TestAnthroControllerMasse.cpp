@@ -31,6 +31,7 @@ private Q_SLOTS:
     void belowTenTheCalculatorRefuses();
     void atTenNothingHappens();
     void whatIsShutBelowElevenSaysWhy();
+    void belowElevenTheFacesSayThatTheyDoNotHold();
     void aboveTenItResumes();
     void aMeasureSetBelowTen();
 };
@@ -374,6 +375,29 @@ void TestAnthroControllerMasse::whatIsShutBelowElevenSaysWhy()
     r.wiealt(Sender(11.0));
     QCOMPARE(r.gewichtn->regler()->toolTip(), sonst);
     QVERIFY(r.alkohol->toolTip() != grund);
+}
+
+/// A face that stays from an older client is no verdict about the child.
+void TestAnthroControllerMasse::belowElevenTheFacesSayThatTheyDoNotHold()
+{
+    const auto probe = Rechnerprobe::mitKlient();
+    AnthroController &r = probe->rechner();
+    const auto worte = [&r] {
+        return QStringList{r.bmiworte->text(), r.whworte->text(), r.kalworte->text()};
+    };
+    const QStringList vorher = worte();
+    const int gesicht = r.bmifaceview->entscheidungszahl();
+    const QString erst = QStringLiteral("gilt erst ab 11 Jahren");
+    QVERIFY(!vorher.contains(erst));
+    r.wiealt(Sender(9.0));
+    QCOMPARE(worte(), QStringList(3, erst));
+    QCOMPARE(r.bmifaceview->entscheidungszahl(), gesicht);
+    r.welchersport(Sender(QStringLiteral("Karate"))); // computes on, for whoever goes on
+    QCOMPARE(worte(), QStringList(3, erst));
+    r.welchersport(Sender(QString()));
+    r.wiealt(Sender(11.0));
+    QCOMPARE(worte().first(2), vorher.first(2));
+    QVERIFY(r.kalworte->text() != erst);
 }
 
 void TestAnthroControllerMasse::aboveTenItResumes()

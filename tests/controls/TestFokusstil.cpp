@@ -1,8 +1,12 @@
 #include "Fokusstil.h"
 
+#include <QCheckBox>
 #include <QImage>
 #include <QLineEdit>
+#include <QRadioButton>
 #include <QTest>
+
+#include <memory>
 
 /// What the program's style adds to fields.
 class TestFokusstil : public QObject
@@ -13,6 +17,8 @@ private Q_SLOTS:
     void initTestCase() { QApplication::setStyle(new Fokusstil); }
     void aFieldIsSeenInTheDark_data();
     void aFieldIsSeenInTheDark();
+    void aChoiceIsSeenInTheDark_data();
+    void aChoiceIsSeenInTheDark();
 };
 
 void TestFokusstil::aFieldIsSeenInTheDark_data()
@@ -46,6 +52,45 @@ void TestFokusstil::aFieldIsSeenInTheDark()
         QCOMPARE(bild.pixelColor(stelle) == QColor(Qt::magenta), rand);
     }
     QVERIFY(bild.pixelColor(40, 4) != QColor(Qt::magenta));
+}
+
+void TestFokusstil::aChoiceIsSeenInTheDark_data()
+{
+    QTest::addColumn<bool>("rund");
+    QTest::addColumn<bool>("dunkel");
+    QTest::newRow("a box in the dark") << false << true;
+    QTest::newRow("a box in the light") << false << false;
+    QTest::newRow("a round one in the dark") << true << true;
+    QTest::newRow("a round one in the light") << true << false;
+}
+
+void TestFokusstil::aChoiceIsSeenInTheDark()
+{
+    QFETCH(bool, rund);
+    QFETCH(bool, dunkel);
+    std::unique_ptr<QAbstractButton> knopf;
+    if (rund) {
+        knopf = std::make_unique<QRadioButton>();
+    } else {
+        knopf = std::make_unique<QCheckBox>();
+    }
+    const QColor fenster = dunkel ? QColor(0x23, 0x25, 0x27) : QColor(0xf6, 0xf6, 0xf4);
+    QPalette farben(fenster);
+    farben.setColor(QPalette::Window, fenster);
+    farben.setColor(QPalette::PlaceholderText, Qt::magenta);
+    knopf->setPalette(farben);
+    knopf->setFocusPolicy(Qt::NoFocus);
+    knopf->resize(24, 24);
+    const QImage bild = knopf->grab().toImage();
+    int gefaerbt = 0;
+    for (int y = 0; y < bild.height(); ++y) {
+        for (int x = 0; x < bild.width(); ++x) {
+            const QColor punkt = bild.pixelColor(x, y);
+            gefaerbt += punkt.red() > punkt.green() + 100 && punkt.blue() > punkt.green() + 100;
+        }
+    }
+    QCOMPARE(gefaerbt > 20, dunkel);
+    QCOMPARE(gefaerbt > 0, dunkel);
 }
 
 QTEST_MAIN(TestFokusstil)
