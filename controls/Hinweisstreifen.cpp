@@ -40,12 +40,27 @@ QLabel *zeichen(const Hinweis &hinweis, QWidget *eltern)
     return feld;
 }
 
+/// A word too long for any line may be broken after so many letters.
+QString umbrechbar(QString text)
+{
+    constexpr int laengstes = 30;
+    int seitLuecke = 0;
+    for (qsizetype i = 0; i < text.size(); ++i) {
+        seitLuecke = text[i].isSpace() ? 0 : seitLuecke + 1;
+        if (seitLuecke > laengstes && !text[i].isLowSurrogate()) {
+            text.insert(i, QChar(0x200B)); // breaks without being seen
+            seitLuecke = 0;
+        }
+    }
+    return text;
+}
+
 QLabel *worte(const Hinweis &hinweis, QWidget *eltern)
 {
     auto *feld = new QLabel(eltern);
     feld->setObjectName(QStringLiteral("hinweistext"));
     feld->setTextFormat(Qt::PlainText); // a file or a food may be called anything
-    feld->setText(hinweis.text);
+    feld->setText(umbrechbar(hinweis.text));
     feld->setWordWrap(true);
     feld->setMinimumWidth(1); // a long word is cut before it makes the window wider
     feld->setTextInteractionFlags(Qt::TextSelectableByMouse);

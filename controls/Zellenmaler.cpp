@@ -74,9 +74,14 @@ void Zellenmaler::paint(QPainter *painter, const QStyleOptionViewItem &option,
 
 QSize Zellenmaler::sizeHint(const QStyleOptionViewItem &option, const QModelIndex &index) const
 {
-    const int text = option.fontMetrics.horizontalAdvance(m_tabelle->modell()->bild(index).text);
-    const int grosserAnfang = option.fontMetrics.averageCharWidth();
-    return {text + grosserAnfang + 2 * zellenrand, m_tabelle->rowHeight()};
+    return {textbreite(m_tabelle->modell()->bild(index).text, option.fontMetrics),
+            m_tabelle->rowHeight()};
+}
+
+int Zellenmaler::textbreite(const QString &text, const QFontMetrics &schrift)
+{
+    const int grosserAnfang = schrift.averageCharWidth();
+    return schrift.horizontalAdvance(text) + grosserAnfang + 2 * zellenrand;
 }
 
 QWidget *Zellenmaler::createEditor(QWidget *parent, const QStyleOptionViewItem &option,

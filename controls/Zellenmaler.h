@@ -18,6 +18,8 @@ public:
                const QModelIndex &index) const override;
     /// Room for the whole text, also when its first letter is a large one.
     QSize sizeHint(const QStyleOptionViewItem &option, const QModelIndex &index) const override;
+    /// What a text needs in a cell, in pixels.
+    static int textbreite(const QString &text, const QFontMetrics &schrift);
     QWidget *createEditor(QWidget *parent, const QStyleOptionViewItem &option,
                           const QModelIndex &index) const override;
     /// A double click takes the whole of what stands in a cell that is being edited, and not the

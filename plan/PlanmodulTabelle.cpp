@@ -6,6 +6,7 @@
 #include "Planzahlen.h"
 #include "Zeichenkettentabelle.h"
 #include "Zeilenhoehe.h"
+#include "Zellenmaler.h"
 
 #include <QCoreApplication>
 #include <QHeaderView>
@@ -152,7 +153,7 @@ void Planmodul::stelleBreiten()
 }
 
 /// On a wide screen the longest name is read whole, before the room beside the last column stays
-/// empty. Who has set the width keeps it.
+/// empty. Who has set the width keeps it. The table itself isn't asked: that would write own foods.
 void Planmodul::gibNamenPlatz()
 {
     if (m_namenbreiteGewaehlt || m_fenster == nullptr) {
@@ -163,7 +164,11 @@ void Planmodul::gibNamenPlatz()
     for (int i = 1; i < PlanTabelle->modell()->columnCount(); ++i) {
         frei -= PlanTabelle->columnWidth(i);
     }
-    const int bedarf = static_cast<QAbstractItemView *>(PlanTabelle)->sizeHintForColumn(0);
+    const QFontMetrics schrift = PlanTabelle->fontMetrics();
+    int bedarf = 0;
+    for (int zeile = 0; zeile < m_gezeigteNamen.size(); ++zeile) {
+        bedarf = std::max(bedarf, Zellenmaler::textbreite(zeilenname(zeile), schrift));
+    }
     PlanTabelle->setColumnWidth(0, std::max(breiteName, std::min(frei, bedarf)));
 }
 

@@ -3,7 +3,9 @@
 #include "Rechnerprobe.h"
 
 #include <QAbstractButton>
+#include <QDoubleSpinBox>
 #include <QLabel>
+#include <QSlider>
 #include <QTest>
 
 /// The four measures, the two systems of measures, the gender, and the age.

@@ -23,6 +23,8 @@ private Q_SLOTS:
     void itKnowsWhatItHasToSay();
     void theSameWordsAgainLeaveTheRowAlone();
     void signsAreShownAsTheyAre();
+    void aWordThatIsLongerThanALineIsBroken_data();
+    void aWordThatIsLongerThanALineIsBroken();
     void theActionRunsOnceAndTheNoticeIsGone();
     void anActionMayShowTheNextNotice();
     void withoutAnActionThereIsNoButton();
@@ -157,6 +159,31 @@ void TestHinweisstreifen::signsAreShownAsTheyAre()
     const QLabel *feld = sichtbare<QLabel>("hinweistext").value(0);
     QCOMPARE(feld->text(), text);
     QCOMPARE(feld->textFormat(), Qt::PlainText);
+}
+
+void TestHinweisstreifen::aWordThatIsLongerThanALineIsBroken_data()
+{
+    QTest::addColumn<QString>("text");
+    QTest::addColumn<QString>("gezeigt");
+    const QString dreissig(30, u'x');
+    const QChar bruch(0x200B);
+    QTest::newRow("30 letters stay whole") << dreissig << dreissig;
+    QTest::newRow("after 30 letters") << dreissig + u"x" << dreissig + bruch + u"x";
+    QTest::newRow("twice") << dreissig + dreissig + u"x"
+                           << dreissig + bruch + dreissig + bruch + u"x";
+    QTest::newRow("a blank begins anew") << dreissig + u" xx" << dreissig + u" xx";
+    QTest::newRow("a sign of two halves stays whole")
+        << QString(29, u'x') + u"\U0001F34E" + u"x"
+        << QString(29, u'x') + u"\U0001F34E" + bruch + u"x";
+}
+
+void TestHinweisstreifen::aWordThatIsLongerThanALineIsBroken()
+{
+    QFETCH(QString, text);
+    QFETCH(QString, gezeigt);
+    m_streifen->zeige({.kennung = u"a"_s, .text = text});
+    QCOMPARE(sichtbare<QLabel>("hinweistext").value(0)->text(), gezeigt);
+    QCOMPARE(m_streifen->hinweise().constFirst(), text);
 }
 
 void TestHinweisstreifen::theActionRunsOnceAndTheNoticeIsGone()
