@@ -168,13 +168,13 @@ void TestHinweisstreifen::aWordThatIsLongerThanALineIsBroken_data()
     const QString dreissig(30, u'x');
     const QChar bruch(0x200B);
     QTest::newRow("30 letters stay whole") << dreissig << dreissig;
-    QTest::newRow("after 30 letters") << dreissig + u"x" << dreissig + bruch + u"x";
-    QTest::newRow("twice") << dreissig + dreissig + u"x"
-                           << dreissig + bruch + dreissig + bruch + u"x";
-    QTest::newRow("a blank begins anew") << dreissig + u" xx" << dreissig + u" xx";
+    QTest::newRow("after 30 letters") << dreissig + u"x"_s << dreissig + bruch + u"x"_s;
+    QTest::newRow("twice") << dreissig + dreissig + u"x"_s
+                           << dreissig + bruch + dreissig + bruch + u"x"_s;
+    QTest::newRow("a blank begins anew") << dreissig + u" xx"_s << dreissig + u" xx"_s;
     QTest::newRow("a sign of two halves stays whole")
-        << QString(29, u'x') + u"\U0001F34E" + u"x"
-        << QString(29, u'x') + u"\U0001F34E" + bruch + u"x";
+        << QString(29, u'x') + u"\U0001F34E"_s + u"x"_s
+        << QString(29, u'x') + u"\U0001F34E"_s + bruch + u"x"_s;
 }
 
 void TestHinweisstreifen::aWordThatIsLongerThanALineIsBroken()
@@ -183,7 +183,7 @@ void TestHinweisstreifen::aWordThatIsLongerThanALineIsBroken()
     QFETCH(QString, gezeigt);
     m_streifen->zeige({.kennung = u"a"_s, .text = text});
     QCOMPARE(sichtbare<QLabel>("hinweistext").value(0)->text(), gezeigt);
-    QCOMPARE(m_streifen->hinweise().constFirst(), text);
+    QCOMPARE(m_streifen->hinweise().constFirst().text, text);
 }
 
 void TestHinweisstreifen::theActionRunsOnceAndTheNoticeIsGone()
