@@ -174,6 +174,7 @@ void AppController::verbinde()
                         {QStringLiteral("such"), localizedString(QStringLiteral("Suche"))}});
     Tabelle->setSpaltenbreiten({std::begin(spaltenbreiten), std::end(spaltenbreiten)});
     connect(Tabelle, &Tabellenansicht::betaetigt, this, &AppController::Laden);
+    connect(Tabelle, &Tabellenansicht::ziehenBeginnt, this, &AppController::holePlanNachVorn);
     connect(lebensmittelmenge, &Schieber::betaetigt, this,
             [this] { wieviellebensmittel(*lebensmittelmenge); });
     connect(lebensmittelmenge2, &Schieber::betaetigt, this,

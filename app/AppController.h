@@ -222,6 +222,7 @@ private:
     // The meal plan
     Planmodul &holePlan();
     void stellePlanDaneben();
+    void holePlanNachVorn();
     void verbindeZugabe();
     QString schluesselVon(const QModelIndex &zelle) const;
     QString gemeinterSchluessel() const;

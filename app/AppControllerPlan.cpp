@@ -61,3 +61,12 @@ void AppController::stellePlanDaneben()
     });
     plan.setGeometry(platz);
 }
+
+/// The press that a drag begins with brings this window to the front. On a small screen the plan
+/// lies behind it then, and what is dragged could not be dropped there.
+void AppController::holePlanNachVorn()
+{
+    if (planmodul != nullptr && planmodul->window()->isVisible()) {
+        planmodul->window()->raise();
+    }
+}

@@ -8,13 +8,20 @@ constexpr double ecke = 6;
 
 } // namespace
 
+void maleKarte(QPainter &painter, const QRect &platz, const QPalette &farben)
+{
+    painter.save();
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.setPen(farben.color(QPalette::Midlight));
+    painter.setBrush(farben.base());
+    painter.drawRoundedRect(QRectF(platz).adjusted(0.5, 0.5, -0.5, -0.5), ecke, ecke);
+    painter.restore();
+}
+
 Karte::Karte(QWidget *parent) : QFrame(parent) {}
 
 void Karte::paintEvent(QPaintEvent * /*event*/)
 {
     QPainter painter(this);
-    painter.setRenderHint(QPainter::Antialiasing);
-    painter.setPen(palette().color(QPalette::Midlight));
-    painter.setBrush(palette().base());
-    painter.drawRoundedRect(QRectF(rect()).adjusted(0.5, 0.5, -0.5, -0.5), ecke, ecke);
+    maleKarte(painter, rect(), palette());
 }

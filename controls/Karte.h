@@ -14,3 +14,6 @@ public:
 protected:
     void paintEvent(QPaintEvent *event) override;
 };
+
+/// Draws such a ground where there is no widget of its own for it.
+void maleKarte(QPainter &painter, const QRect &platz, const QPalette &farben);

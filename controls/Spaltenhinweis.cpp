@@ -1,9 +1,11 @@
 #include "Spaltenhinweis.h"
 
+#include "Karte.h"
 #include "Tabellenansicht.h"
 
 #include <QEvent>
 #include <QHeaderView>
+#include <QPainter>
 #include <QScrollBar>
 
 #include <algorithm>
@@ -11,6 +13,7 @@
 namespace {
 
 constexpr int innenrand = 8;
+constexpr int kartenrand = 3; ///< the table is seen at both sides of the words' card
 
 /// Narrower than this, in pixels, words are no lines any more.
 constexpr int lesbareBreite = 160;
@@ -25,8 +28,6 @@ Spaltenhinweis::Spaltenhinweis(Tabellenansicht &tabelle, const QString &kennung)
     setTextFormat(Qt::PlainText); // what was searched for may hold anything
     setWordWrap(true);
     setMargin(innenrand);
-    setBackgroundRole(QPalette::Base);
-    setAutoFillBackground(true); // no line of the table runs through the words
     setAttribute(Qt::WA_TransparentForMouseEvents);
     tabelle.viewport()->installEventFilter(this);
     connect(tabelle.horizontalHeader(), &QHeaderView::sectionResized, this, &Spaltenhinweis::ordne);
@@ -45,6 +46,14 @@ void Spaltenhinweis::zeige(const QString &text, int abZeile)
     setText(text);
     ordne();
     setVisible(!text.isEmpty());
+}
+
+/// The card keeps the table's lines from running through the words.
+void Spaltenhinweis::paintEvent(QPaintEvent *event)
+{
+    QPainter painter(this);
+    maleKarte(painter, rect().adjusted(kartenrand, 0, -kartenrand, 0), palette());
+    QLabel::paintEvent(event);
 }
 
 bool Spaltenhinweis::eventFilter(QObject *watched, QEvent *event)

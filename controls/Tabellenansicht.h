@@ -101,6 +101,8 @@ Q_SIGNALS:
     /// A menu is wanted at this place of the screen, for the cell under the mouse or, with the keys
     /// for menus, for the one where the keyboard is; invalid beside all cells. Nothing is chosen.
     void menueGewuenscht(const QModelIndex &zelle, const QPoint &ort);
+    /// Something is about to be dragged out of the table.
+    void ziehenBeginnt();
     /// The lists may have changed: the table has read its number of rows anew.
     void neuGelesen();
 

@@ -70,6 +70,7 @@ void Tabellenansicht::startDrag(Qt::DropActions supportedActions)
     zug->setMimeData(daten);
     zug->setPixmap(ziehbild(daten->text()));
     zug->setHotSpot({-zeigerabstand, 0});
+    Q_EMIT ziehenBeginnt();
     zug->exec(supportedActions | Qt::CopyAction, Qt::CopyAction);
 }
 

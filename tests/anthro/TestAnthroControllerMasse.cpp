@@ -138,7 +138,7 @@ void TestAnthroControllerMasse::theRangesAreThoseOfTheSmilingFace()
 {
     const auto probe = Rechnerprobe::mitKlient();
     AnthroController &r = probe->rechner();
-    QCOMPARE(r.bmigrenzen->text(), QStringLiteral("18–25"));
+    QCOMPARE(r.bmigrenzen->text(), QStringLiteral("18–25 kg/m²"));
     QCOMPARE(bmiGesicht(18.01F), std::optional<int>(1));
     QVERIFY(bmiGesicht(17.99F) != std::optional<int>(1));
     QCOMPARE(bmiGesicht(24.99F), std::optional<int>(1));

@@ -28,6 +28,8 @@ private Q_SLOTS:
     void aDragCarriesPlainTextAlone();
     void aDragMovesNothing_data();
     void aDragMovesNothing();
+    void aDragBringsTheOpenPlanToTheFront_data();
+    void aDragBringsTheOpenPlanToTheFront();
     void aPressAloneMovesNothing();
     void aDragLeavesTheDisplayAlone();
     void aDragBackIntoTheTableChoosesNothing();
@@ -248,6 +250,40 @@ void TestZiehen::aDragMovesNothing()
 }
 
 /// The mark does not jump ahead with the name of another food: only letting go chooses.
+void TestZiehen::aDragBringsTheOpenPlanToTheFront_data()
+{
+    QTest::addColumn<bool>("offen");
+    QTest::addColumn<bool>("geschlossen");
+    QTest::addColumn<int>("wieOft");
+    QTest::newRow("an open plan") << true << false << 1;
+    QTest::newRow("a plan that was closed stays closed") << true << true << 0;
+    QTest::newRow("a plan that was never opened") << false << false << 0;
+}
+
+/// The main window covers it on a small screen as soon as one presses there.
+void TestZiehen::aDragBringsTheOpenPlanToTheFront()
+{
+    QFETCH(bool, offen);
+    QFETCH(bool, geschlossen);
+    QFETCH(int, wieOft);
+    if (offen) {
+        controller().Planmoduloeffnen();
+        QVERIFY(QTest::qWaitForWindowExposed(controller().planmodul->window()));
+        controller().planmodul->window()->setVisible(!geschlossen);
+    }
+    static int vorne; // this platform has no order of windows, and says so whenever one is raised
+    vorne = 0;
+    const QtMessageHandler vorher =
+        qInstallMessageHandler([](QtMsgType, const QMessageLogContext &, const QString &worte) {
+            vorne += worte.contains(QLatin1String("raise()")) ? 1 : 0;
+        });
+    const QString name = abgelegt(7, inName);
+    qInstallMessageHandler(vorher);
+    QCOMPARE(name, zaehlname(7));
+    QCOMPARE(vorne, wieOft);
+    QCOMPARE(controller().planmodul != nullptr, offen);
+}
+
 void TestZiehen::aPressAloneMovesNothing()
 {
     m_fenster->klicke(9, inName);
