@@ -99,6 +99,7 @@ public:
     void Planmoduloeffnen();
     void toolbarlebensmittelweitergabe();
     void gibInPlan();
+    void gehZurMenge();
     void waehleTreffer(int um);
     void zeigeTreffer();
     void zeigeTrefferInListe();

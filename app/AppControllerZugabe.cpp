@@ -8,6 +8,8 @@
 
 #include <QDoubleSpinBox>
 
+#include <algorithm>
+
 const QString AppController::hinweisZugabe = QStringLiteral("zugabe");
 
 namespace {
@@ -40,6 +42,25 @@ void AppController::gibInPlan()
         }
     }
     gibHinein(gemeinterSchluessel());
+}
+
+/// Takes the keyboard to the amount of the view on display, or of the first view where that has
+/// none. A result's amount can be set in the column of its list alone, so it is chosen there first.
+void AppController::gehZurMenge()
+{
+    if (!lebensmittelmenge->isEnabled() && m_treffer >= 0) {
+        zeigeTrefferInListe();
+    }
+    const auto sichtbar = [](const Schieber *regler) {
+        return regler->isVisible();
+    };
+    auto regler = std::find_if(m_mengenregler.begin(), m_mengenregler.end(), sichtbar);
+    if (regler == m_mengenregler.end()) {
+        zeigeAnsicht(ansichten[0]);
+        regler = m_mengenregler.begin();
+    }
+    (*regler)->eingabe()->setFocus(Qt::ShortcutFocusReason);
+    (*regler)->eingabe()->selectAll();
 }
 
 /// In the table it is the food where the keyboard is, a result that is not chosen yet included, and

@@ -129,6 +129,8 @@ void baueBearbeiten(AppController &controller)
     eintrag(bearbeiten, QT_TRANSLATE_NOOP("Mahlberg", "&Vorheriger Treffer"),
             QKeySequence(QStringLiteral("Shift+F3")),
             [&controller] { controller.waehleTreffer(-1); });
+    eintrag(bearbeiten, QT_TRANSLATE_NOOP("Mahlberg", "&Menge eingeben"),
+            QKeySequence(QStringLiteral("Ctrl+G")), [&controller] { controller.gehZurMenge(); });
     eintrag(bearbeiten, QT_TRANSLATE_NOOP("Mahlberg", "&Profilsuche"),
             QKeySequence(QStringLiteral("Ctrl+Shift+F")),
             [&controller] { controller.profilaufzu->toggle(); });

@@ -852,6 +852,10 @@ Nothing is worked out for children under 10 years; it resumes at 11 years.</tr
   <translation>&amp;Delete …</translation>
  </message>
  <message>
+  <source>&amp;Menge eingeben</source>
+  <translation>&amp;Enter amount</translation>
+ </message>
+ <message>
   <source>&amp;Nächster Treffer</source>
   <translation>&amp;Next result</translation>
  </message>

@@ -2,6 +2,8 @@
 
 #include "Sprache.h"
 
+#include <QApplication>
+#include <QDoubleSpinBox>
 #include <QLabel>
 #include <QMenuBar>
 #include <QPushButton>
@@ -31,6 +33,8 @@ private Q_SLOTS:
     void theWayBackToTheResults();
     void theFoodIsShownInItsList_data();
     void theFoodIsShownInItsList();
+    void aKeyGoesToTheAmount_data();
+    void aKeyGoesToTheAmount();
     void anotherChoiceTakesTheStripAway_data();
     void anotherChoiceTakesTheStripAway();
     void theStripSpeaksBothLanguages();
@@ -272,6 +276,44 @@ void TestTreffer::theFoodIsShownInItsList()
     drueckeF3();
     QCOMPARE(strip(), QStringLiteral("Treffer %1 von 12").arg(treffer + 1));
     QVERIFY(controller().trefferinliste->isVisible());
+}
+
+void TestTreffer::aKeyGoesToTheAmount_data()
+{
+    QTest::addColumn<int>("zeile");
+    QTest::addColumn<int>("ansicht");
+    QTest::addColumn<int>("regler");
+    QTest::addColumn<int>("spalte");
+    QTest::newRow("of a food") << 3 << 0 << 0 << int(inName);
+    QTest::newRow("of a result, which is shown in its list first") << 3 << 0 << 0 << int(inSuch);
+    QTest::newRow("of the second view") << 3 << 1 << 1 << int(inName);
+    QTest::newRow("of the third view") << 3 << 2 << 2 << int(inSuch);
+    QTest::newRow("a view without an amount gives way to the first") << 3 << 3 << 0 << int(inName);
+    QTest::newRow("the last view") << 3 << 4 << 0 << int(inSuch);
+    QTest::newRow("of an own result") << 1 << 0 << 0 << int(inSuch);
+}
+
+void TestTreffer::aKeyGoesToTheAmount()
+{
+    QFETCH(int, zeile);
+    QFETCH(int, ansicht);
+    QFETCH(int, regler);
+    QFETCH(int, spalte);
+    AppController &c = controller();
+    suche(QStringLiteral("085"));
+    m_fenster->klicke(zeile, spalte);
+    const QString name = gezeigt();
+    c.DatenAnsicht->setCurrentIndex(ansicht);
+    QTest::keyClick(c.Hauptfenster, Qt::Key_G, Qt::ControlModifier);
+    QCOMPARE(c.DatenAnsicht->currentIndex(), regler);
+    QVERIFY(c.lebensmittelmenge->isEnabled());
+    QWidget *feld = QApplication::focusWidget();
+    const Schieber *alle[] = {c.lebensmittelmenge, c.lebensmittelmenge2, c.lebensmittelmenge3};
+    QVERIFY(alle[regler]->isAncestorOf(feld));
+    QTest::keyClicks(feld, QStringLiteral("65")); // in place of what stood there
+    QTest::keyClick(feld, Qt::Key_Return);
+    QCOMPARE(c.lebensmittelmenge->intValue(), 65);
+    QCOMPARE(gezeigt(), name);
 }
 
 void TestTreffer::anotherChoiceTakesTheStripAway_data()
