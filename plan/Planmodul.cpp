@@ -147,6 +147,9 @@ void Planmodul::verbinde()
     });
     connect(PlanTabelle->selectionModel(), &QItemSelectionModel::selectionChanged, this,
             &Planmodul::folgeAuswahl);
+    for (const QAction *aktion : {aktionEntfernen, aktionHoch, aktionRunter}) {
+        connect(aktion, &QAction::triggered, this, &Planmodul::waehleTastaturzeile);
+    }
     connect(entfernenknopf, &QPushButton::clicked, this, &Planmodul::Lebensmittelentfernen);
     connect(aktionEntfernen, &QAction::triggered, entfernenknopf, &QPushButton::click);
     connect(aktionHoch, &QAction::triggered, this, [this] { Lebensmittelverschieben(-1); });
@@ -244,6 +247,16 @@ void Planmodul::Lebensmittelentfernen()
     if (zeileEntfernen(zeile)) {
         uebernimmAenderung();
         Q_EMIT geaendert({Aenderungsart::Hinaus, name});
+    }
+}
+
+/// A table that was only just reached has no selection, but shows where the keyboard is: keys mean
+/// that row.
+void Planmodul::waehleTastaturzeile()
+{
+    const QModelIndex zelle = PlanTabelle->currentIndex();
+    if (PlanTabelle->hasFocus() && PlanTabelle->selectedRow() < 0 && zelle.isValid()) {
+        PlanTabelle->selectRow(zelle.row());
     }
 }
 

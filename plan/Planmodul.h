@@ -157,6 +157,7 @@ private:
     void ladeBilder();
     void bearbeiteMenge(const QModelIndex &zelle);
     void beendeEingabe();
+    void waehleTastaturzeile();
 
     // The table
     void beschrifteTabelle();

@@ -22,6 +22,7 @@ private Q_SLOTS:
     void aDayIsPlannedWithoutTheMouse();
     void altAndAnArrowMoveTheRow();
     void atTheEndsARowStays();
+    void keysMeanTheRowOfTheKeyboardUntilOneIsSelected();
     void movingTakesTheAmountThatIsTypedWithIt();
     void theMenuShowsTheKeysThatMove();
     void deleteInAnAmountDeletesACharacter();
@@ -140,8 +141,23 @@ void TestPlanmodulTasten::atTheEndsARowStays()
     tabelle().selectRow(2);
     QTest::keyClick(&tabelle(), Qt::Key_Down, Qt::AltModifier);
     tabelle().clearSelection();
+    (*m_fenster)->druckknopf->setFocus();
     (*m_fenster)->aktionHoch->trigger();
     QCOMPARE(m_fenster->spalte(u"name"_s), QStringList({u"Auflauf"_s, u"Brot"_s, u"Ei"_s}));
+}
+
+/// The table comes up with the keyboard's frame around a cell of its first row, and no selection.
+void TestPlanmodulTasten::keysMeanTheRowOfTheKeyboardUntilOneIsSelected()
+{
+    tabelle().setFocus();
+    QCOMPARE(tabelle().selectedRow(), -1);
+    QTest::keyClick(&tabelle(), Qt::Key_Down, Qt::AltModifier);
+    QCOMPARE(m_fenster->spalte(u"name"_s), QStringList({u"Brot"_s, u"Auflauf"_s, u"Ei"_s}));
+    QCOMPARE(tabelle().selectedRow(), 1);
+    tabelle().setCurrentIndex(tabelle().model()->index(2, 0));
+    tabelle().clearSelection();
+    QTest::keyClick(&tabelle(), Qt::Key_Delete);
+    QCOMPARE(mengen(), (QMap<QString, float>{{u"Auflauf"_s, 10}, {u"Brot"_s, 20}}));
 }
 
 void TestPlanmodulTasten::movingTakesTheAmountThatIsTypedWithIt()
