@@ -93,5 +93,8 @@ bool Spaltenumbruch::eventFilter(QObject *watched, QEvent *event)
     if (neuerPlatz || neueWorte) {
         ordne();
     }
+    if (watched == &m_seite && event->type() == QEvent::Show) {
+        m_aussen.invalidate(); // layouts don't follow what comes and goes while all is hidden
+    }
     return QObject::eventFilter(watched, event);
 }

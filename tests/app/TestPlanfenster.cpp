@@ -37,6 +37,8 @@ private Q_SLOTS:
     void bothWriteTheOwnFoodsInTheirOrder();
     void thePlanEndsWithTheProgram();
     void whatTheCalculatorSaysReachesThePlan();
+    void theCurveHasItsRoomWheneverItComes_data();
+    void theCurveHasItsRoomWheneverItComes();
 
 private:
     AppController &controller() const { return m_fenster->controller(); }
@@ -353,6 +355,46 @@ void TestPlanfenster::whatTheCalculatorSaysReachesThePlan()
     QCOMPARE(haupt.planmodul->BMI->floatValue(), 20.0F);
     QCOMPARE(haupt.planmodul->Kalorienbedarf->intValue(), Planmodul::klient.unbereinigt);
     QVERIFY(Planmodul::klient.unbereinigt > 1000);
+}
+
+void TestPlanfenster::theCurveHasItsRoomWheneverItComes_data()
+{
+    QTest::addColumn<bool>("vorher");
+    QTest::addColumn<int>("breite");
+    for (const int breite : {640, 667, 900, 1300}) {
+        QTest::addRow("the first food comes while the plan is closed, %d px", breite)
+            << true << breite;
+        QTest::addRow("the first food comes while it is open, %d px", breite) << false << breite;
+    }
+}
+
+/// An empty plan has no curve, and a closed one does not notice that it gets one.
+void TestPlanfenster::theCurveHasItsRoomWheneverItComes()
+{
+    QFETCH(bool, vorher);
+    QFETCH(int, breite);
+    Planmodul::klient = {.bedarf = 2000, .unbereinigt = 2500, .gewicht = 80.0F, .groesse = 1.8F};
+    m_fenster->klicke(3, inName);
+    if (vorher) {
+        controller().gibInPlan();
+        QCoreApplication::processEvents();
+    } else {
+        controller().Planmoduloeffnen();
+    }
+    plan().window()->resize(breite, 732);
+    controller().Planmoduloeffnen();
+    QVERIFY(QTest::qWaitForWindowExposed(plan().window()));
+    if (!vorher) {
+        controller().gibInPlan();
+    }
+    QCoreApplication::processEvents();
+    QVERIFY(plan().gewichtview->isVisible());
+    const auto platz = [this](const QWidget &teil) {
+        return QRect(teil.mapTo(plan().boxinhalt, QPoint()), teil.size());
+    };
+    QVERIFY(platz(*plan().gewichtview).bottom() < platz(*plan().wochenskala).top());
+    QVERIFY(platz(*plan().wochenskala).bottom() < platz(*plan().verlaufworte).top());
+    QVERIFY(platz(*plan().verlaufworte).bottom() <= plan().boxinhalt->height());
 }
 
 int main(int argc, char **argv)
