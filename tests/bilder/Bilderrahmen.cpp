@@ -95,11 +95,12 @@ bool bewegtSich(const QWidget &fenster)
 void vergleiche(const QString &name, const std::function<QImage()> &male)
 {
     constexpr int geduld = 1500; // milliseconds
-    QImage gesehen = ruhig(male);
     if (qEnvironmentVariableIsSet("MAHLBERG_BILDER_NEU")) {
-        erneuere(name, gesehen);
+        QTest::qWait(geduld / 5); // what is kept must not be taken before something fades in
+        erneuere(name, ruhig(male));
         return;
     }
+    QImage gesehen = ruhig(male);
     for (const char *welche : {"gesehen", "erwartet", "unterschied"}) {
         QFile::remove(abweichung(name, welche));
     }
