@@ -14,9 +14,11 @@ Bilderfenster::Bilderfenster(const QString &sprache, Eigene eigene) : m_sprache(
             drucke(fenster, auftrag);
         }
     };
-    m_heim.schreibeTabelle(bildertafel());
     if (eigene == Eigene::Mit) {
+        m_heim.schreibeTabelle(bildertafel());
         m_heim.schreibeEigene(bildereigene());
+    } else {
+        m_heim.schreibeTabelle(bildertafelMitLeerzeile());
     }
     m_fenster = std::make_unique<Probefenster>(m_heim);
     controller().Hauptfenster->resize(Bilderrahmen::gewoehnlich);

@@ -91,6 +91,18 @@ Lebensmittelverzeichnis bildertafel()
     return alle;
 }
 
+Lebensmittelverzeichnis bildertafelMitLeerzeile()
+{
+    Lebensmittelverzeichnis alle = bildertafel();
+    Datenmodul leer;
+    leer.setName(QStringLiteral("-"));
+    for (const auto &wertung : wertungen) {
+        leer.setWertung(wertung.wertung, QStringLiteral("0"));
+    }
+    alle.insert(leer.name(), leer);
+    return alle;
+}
+
 Lebensmittelverzeichnis bildereigene()
 {
     using enum Naehrwert;

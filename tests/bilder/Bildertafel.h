@@ -11,6 +11,9 @@
 /// that they have English ones too.
 Lebensmittelverzeichnis bildertafel();
 
+/// The same behind the row without a food that stands first in the shipped table.
+Lebensmittelverzeichnis bildertafelMitLeerzeile();
+
 /// Two foods of the user's own.
 Lebensmittelverzeichnis bildereigene();
 
