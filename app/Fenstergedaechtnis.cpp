@@ -18,11 +18,10 @@ const QString planzeile = QStringLiteral("Planfenster/Zeilenhoehe");
 
 constexpr int schmalsteSpalte = 30;
 
-/// The first part of a window keeps what the second one, of this size, leaves of it.
-void teile(QSplitter &teiler, int ganz, int zweiter)
+void teile(Teiler &teiler, int ganz, int zweiter)
 {
     if (zweiter > 0) {
-        teiler.setSizes({std::max(1, ganz - zweiter), std::min(zweiter, ganz)});
+        teiler.teileWieder(ganz, zweiter);
     }
 }
 

@@ -105,7 +105,7 @@ Textwechsel::Textwechsel(bool nachEnglisch)
 /// Some texts are put together from lines of their own.
 QString Textwechsel::text(const QString &bisher) const
 {
-    const QString ganz = zeile(bisher);
+    QString ganz = zeile(bisher);
     if (ganz != bisher || !bisher.contains(u'\n')) {
         return ganz;
     }

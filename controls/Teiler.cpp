@@ -8,6 +8,8 @@
 #include <QPainter>
 #include <QToolTip>
 
+#include <algorithm>
+
 namespace {
 
 constexpr int schritt = 16; // px, four fields of the grid on which everything stands
@@ -99,6 +101,45 @@ private:
 
     Teiler *m_teiler;
 };
+
+Teiler::Teiler(QWidget *parent) : Teiler(Qt::Horizontal, parent) {}
+
+Teiler::Teiler(Qt::Orientation richtung, QWidget *parent) : QSplitter(richtung, parent)
+{
+    connect(this, &QSplitter::splitterMoved, this, [this] { m_gewaehlt = true; });
+}
+
+void Teiler::goenneUnten(QScrollArea &unten)
+{
+    m_unten = &unten;
+    gibSeinen();
+}
+
+void Teiler::teileWieder(int ganz, int zweiter)
+{
+    setSizes({std::max(1, ganz - zweiter), std::min(zweiter, ganz)});
+    m_gewaehlt = true;
+}
+
+void Teiler::resizeEvent(QResizeEvent *event)
+{
+    QSplitter::resizeEvent(event);
+    gibSeinen();
+}
+
+void Teiler::gibSeinen()
+{
+    if (m_unten == nullptr || m_gewaehlt) {
+        return;
+    }
+    const QWidget &seite = *m_unten->widget();
+    const int rand = 2 * m_unten->frameWidth();
+    const int bedarf = seite.hasHeightForWidth() ? seite.heightForWidth(width() - rand)
+                                                 : seite.sizeHint().height();
+    const int frei = height() - handleWidth();
+    const int unten = std::min(bedarf + rand, frei / 2);
+    setSizes({frei - unten, unten});
+}
 
 QSplitterHandle *Teiler::createHandle()
 {

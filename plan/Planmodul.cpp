@@ -99,6 +99,7 @@ void Planmodul::awakeFromNib()
     reloadData();
     ladeBilder();
     teiler->setStretchFactor(0, 1); // on a larger screen more rows are seen
+    teiler->goenneUnten(*untereSeite);
     planbeurteilungfaceview->entscheidung(Gesichtscode::lachend);
     Kalorienbedarf->setIntValue(klient.unbereinigt);
     for (Textfeld *feld : {Kalorienerrechnet, wunschverlust}) {

@@ -28,8 +28,14 @@ private Q_SLOTS:
     void otherKeysAreLeftToTheWindow();
     void theTabKeyPassesTheLine();
     void twiceIsOnce();
+    void thePartBelowGetsWhatItNeeds_data();
+    void thePartBelowGetsWhatItNeeds();
+    void whoHasMovedTheLineKeepsIt_data();
+    void whoHasMovedTheLineKeepsIt();
 
 private:
+    /// A table, so to speak, and a page of this height below it.
+    static std::unique_ptr<Teiler> mitRollendem(int hoehe);
     int links() const { return m_teiler->sizes().first(); }
     QWidget *griff() const { return m_teiler->handle(1); }
 
@@ -60,6 +66,30 @@ void TestTeiler::init()
     m_teiler->setSizes({200, 200});
     m_feld->setFocus();
     QCOMPARE(links(), 200);
+}
+
+std::unique_ptr<Teiler> TestTeiler::mitRollendem(int hoehe)
+{
+    auto teiler = std::make_unique<Teiler>(Qt::Vertical);
+    teiler->setHandleWidth(10);
+    auto *oben = new QWidget;
+    oben->setMinimumHeight(50);
+    auto *unten = new QScrollArea;
+    auto *seite = new QWidget;
+    auto *anordnung = new QVBoxLayout(seite);
+    anordnung->setContentsMargins(0, 0, 0, 0);
+    auto *inhalt = new QWidget;
+    inhalt->setFixedHeight(hoehe);
+    anordnung->addWidget(inhalt);
+    unten->setFrameShape(QFrame::NoFrame);
+    unten->setWidgetResizable(true);
+    unten->setWidget(seite);
+    teiler->addWidget(oben);
+    teiler->addWidget(unten);
+    teiler->setStretchFactor(0, 1);
+    teiler->goenneUnten(*unten);
+    teiler->show();
+    return teiler;
 }
 
 void TestTeiler::theKeysMoveTheLine_data()
@@ -165,6 +195,52 @@ void TestTeiler::twiceIsOnce()
     m_teiler->bewege();
     QTest::keyClick(griff(), Qt::Key_Return);
     QVERIFY(m_feld->hasFocus());
+}
+
+void TestTeiler::thePartBelowGetsWhatItNeeds_data()
+{
+    QTest::addColumn<int>("hoehe");
+    QTest::addColumn<int>("unten");
+    // The line takes 10 px, the page below needs 300.
+    QTest::newRow("half, where there is too little") << 410 << 200;
+    QTest::newRow("just enough") << 610 << 300;
+    QTest::newRow("no more than it needs") << 900 << 300;
+}
+
+void TestTeiler::thePartBelowGetsWhatItNeeds()
+{
+    QFETCH(int, hoehe);
+    QFETCH(int, unten);
+    const std::unique_ptr<Teiler> teiler = mitRollendem(300);
+    for (const int vorher : {300, 1200}) { // whether the window has grown or shrunk
+        teiler->resize(200, vorher);
+        teiler->resize(200, hoehe);
+        QCOMPARE(teiler->sizes(), (QList<int>{hoehe - 10 - unten, unten}));
+    }
+}
+
+void TestTeiler::whoHasMovedTheLineKeepsIt_data()
+{
+    QTest::addColumn<bool>("frueher");
+    QTest::newRow("just now") << false;
+    QTest::newRow("at an earlier start") << true;
+}
+
+void TestTeiler::whoHasMovedTheLineKeepsIt()
+{
+    QFETCH(bool, frueher);
+    const std::unique_ptr<Teiler> teiler = mitRollendem(300);
+    teiler->resize(200, 610);
+    if (frueher) {
+        teiler->teileWieder(610, 120);
+    } else {
+        QTest::keyClick(teiler->handle(1), Qt::Key_End);
+        QTest::keyClick(teiler->handle(1), Qt::Key_Up);
+    }
+    const int unten = teiler->sizes().last();
+    QVERIFY(unten < 200);
+    teiler->resize(200, 900);
+    QCOMPARE(teiler->sizes().last(), unten);
 }
 
 QTEST_MAIN(TestTeiler)
