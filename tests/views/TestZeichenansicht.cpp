@@ -112,7 +112,7 @@ QImage imFenster(Zeichenansicht &ansicht, const QColor &farbe)
     fenster.resize(400, 300);
     ansicht.setParent(&fenster);
     ansicht.setGeometry(10, 10, 340, 260);
-    const QImage bild = fenster.grab().toImage();
+    QImage bild = fenster.grab().toImage();
     ansicht.setParent(nullptr);
     return bild;
 }
