@@ -153,14 +153,16 @@ void Planmodul::stelleBreiten()
 }
 
 /// On a wide screen the longest name is read whole, before the room beside the last column stays
-/// empty. Who has set the width keeps it. The table itself isn't asked: that would write own foods.
+/// empty, and a little before the last column is seen. Who has set the width keeps it. The table
+/// itself isn't asked: that would write own foods.
 void Planmodul::gibNamenPlatz()
 {
     if (m_namenbreiteGewaehlt || m_fenster == nullptr) {
         return;
     }
     const QScopedValueRollback vonSelbst(m_merktBreiten, false);
-    int frei = PlanTabelle->viewport()->width();
+    const int breit = PlanTabelle->viewport()->width();
+    int frei = breit;
     for (int i = 1; i < PlanTabelle->modell()->columnCount(); ++i) {
         frei -= PlanTabelle->columnWidth(i);
     }
@@ -169,7 +171,8 @@ void Planmodul::gibNamenPlatz()
     for (int zeile = 0; zeile < m_gezeigteNamen.size(); ++zeile) {
         bedarf = std::max(bedarf, Zellenmaler::textbreite(zeilenname(zeile), schrift));
     }
-    PlanTabelle->setColumnWidth(0, std::max(breiteName, std::min(frei, bedarf)));
+    const int hoechstens = std::max(frei, breit / 6);
+    PlanTabelle->setColumnWidth(0, std::max(breiteName, std::min(hoechstens, bedarf)));
 }
 
 /// The size control sets the widths for the time being; what was chosen column by column stays.

@@ -247,12 +247,20 @@ void TestPlanmodulSpalten::onAWideScreenTheNamesAreReadWhole()
 {
     const int schmal = breite(u"name"_s);
     const int fehlt = balken().maximum();
-    plan().window()->resize(900 + fehlt, 780);
-    QTRY_COMPARE(balken().maximum(), 0);
+    plan().window()->resize(1350, 780);
+    QCoreApplication::processEvents();
     QCOMPARE(breite(u"name"_s), schmal);
-    plan().window()->resize(900 + fehlt + 57, 780);
-    QTRY_COMPARE(breite(u"name"_s), schmal + 57);
-    QCOMPARE(plan().SummenTabelle->columnWidth(0), schmal + 57);
+    // A sixth of the table is theirs, though the last columns have to be rolled in then.
+    plan().window()->resize(1700, 780);
+    QTRY_COMPARE(breite(u"name"_s), tabelle().viewport()->width() / 6);
+    QVERIFY(breite(u"name"_s) > schmal + 40);
+    QVERIFY(balken().maximum() > 0);
+    QCOMPARE(plan().SummenTabelle->columnWidth(0), breite(u"name"_s));
+    // And what no other column needs.
+    plan().window()->resize(900 + fehlt + 100, 780);
+    QTRY_VERIFY(breite(u"name"_s) > tabelle().fontMetrics().horizontalAdvance(
+                                        u"Kartoffelauflauf mit Käse und reichlich Petersilie"_s));
+    QTRY_COMPARE(balken().maximum(), 0);
     plan().window()->resize(900, 780);
     QTRY_COMPARE(breite(u"name"_s), schmal);
     QVERIFY(m_einstellungen->allKeys().filter(u"Planspalten"_s).isEmpty());
