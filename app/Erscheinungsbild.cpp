@@ -2,6 +2,7 @@
 
 #include "Einstellungen.h"
 #include "Schreibtisch.h"
+#include "Textfarbe.h"
 
 #include <QApplication>
 #include <QPalette>
@@ -62,7 +63,7 @@ QPalette palette(bool dunkel)
 bool systemIstDunkel()
 {
     QApplication::setPalette(QPalette());
-    return QApplication::palette().color(QPalette::Window).lightness() < 128;
+    return istDunkel(QApplication::palette());
 }
 
 /// How the windows are dressed, like the palette one for the whole program.

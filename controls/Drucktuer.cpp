@@ -237,12 +237,17 @@ QList<int> druckfolge(int seitenzahl, const QPageRanges &bereiche, bool letzteZu
     return folge;
 }
 
+double passmass(const QSizeF &quelle, const QSizeF &ziel)
+{
+    return std::min(ziel.width() / quelle.width(), ziel.height() / quelle.height());
+}
+
 void passeEin(QPainter &maler, const QRectF &quelle, const QRectF &ziel)
 {
     if (quelle.isEmpty() || ziel.isEmpty()) {
         return;
     }
-    const double mass = std::min(ziel.width() / quelle.width(), ziel.height() / quelle.height());
+    const double mass = passmass(quelle.size(), ziel.size());
     maler.translate(ziel.topLeft());
     maler.scale(mass, mass);
     maler.translate(-quelle.topLeft());

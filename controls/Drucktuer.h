@@ -59,6 +59,10 @@ std::optional<QString> drucke(QPrinter &drucker, const Druckauftrag &auftrag,
 /// The numbers of the pages in the order in which they leave the printer. No ranges mean all pages.
 QList<int> druckfolge(int seitenzahl, const QPageRanges &bereiche, bool letzteZuerst, int kopien);
 
+/// How many times as large something gets when it is fitted into a place, with its proportions
+/// kept. Neither may be empty.
+double passmass(const QSizeF &quelle, const QSizeF &ziel);
+
 /// Moves and shrinks the painter's coordinates so that `quelle` lies within `ziel` as large as it
 /// can, at its top left corner, with its proportions kept.
 void passeEin(QPainter &maler, const QRectF &quelle, const QRectF &ziel);

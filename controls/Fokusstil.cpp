@@ -1,5 +1,7 @@
 #include "Fokusstil.h"
 
+#include "Textfarbe.h"
+
 #include <QAbstractItemView>
 #include <QAbstractSpinBox>
 #include <QComboBox>
@@ -28,8 +30,7 @@ bool istInnenzeile(const QWidget *widget)
 bool brauchtRand(QStyle::PrimitiveElement element, const QStyleOption &option,
                  const QWidget *widget)
 {
-    constexpr int mitte = 128;
-    if (option.palette.color(QPalette::Window).lightness() >= mitte) {
+    if (!istDunkel(option.palette)) {
         return false;
     }
     const auto *feld = qstyleoption_cast<const QStyleOptionFrame *>(&option);

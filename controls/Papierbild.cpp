@@ -154,7 +154,7 @@ Papierbild::Papierbild(QWidget &flaeche) : m_groesse(flaeche.size())
 
 double Papierbild::vergroesserung(const QSizeF &platz) const
 {
-    return std::min(platz.width() / m_groesse.width(), platz.height() / m_groesse.height());
+    return passmass(m_groesse, platz);
 }
 
 void Papierbild::male(QPainter &maler, const QRectF &ziel) const

@@ -1,7 +1,6 @@
 #include "Spaltenumbruch.h"
 
 #include <QBoxLayout>
-#include <QCoreApplication>
 #include <QEvent>
 #include <QFrame>
 #include <QScrollArea>

@@ -21,6 +21,12 @@ constexpr std::array<Farbpaar, 3> verdikte = {{
 
 } // namespace
 
+bool istDunkel(const QPalette &palette)
+{
+    constexpr int mitte = 128;
+    return palette.color(QPalette::Window).lightness() < mitte;
+}
+
 QColor farbeFuer(Textfarbe farbe, const QPalette &palette)
 {
     if (farbe == Textfarbe::Standard || farbe == Textfarbe::Schwarz) {
@@ -28,6 +34,5 @@ QColor farbeFuer(Textfarbe farbe, const QPalette &palette)
     }
     const auto &paar =
         verdikte[static_cast<std::size_t>(farbe) - static_cast<std::size_t>(Textfarbe::Rot)];
-    const bool dunkel = palette.color(QPalette::Window).lightness() < 128;
-    return QColor::fromRgb(dunkel ? paar.dunkel : paar.hell);
+    return QColor::fromRgb(istDunkel(palette) ? paar.dunkel : paar.hell);
 }

@@ -116,6 +116,15 @@ void Probefenster::drueckeWerkzeug(const QString &kennung) const
     QTest::mouseClick(leiste.werkzeugfeld(stelle), Qt::LeftButton);
 }
 
+void Probefenster::suche(const QString &text) const
+{
+    QLineEdit *feld = (*this)->suchfeld;
+    feld->setFocus();
+    feld->selectAll();
+    QTest::keyClicks(feld, text);
+    QTest::keyClick(feld, Qt::Key_Return);
+}
+
 void Probefenster::tippeMenge(const Schieber &schieber, const QString &gramm)
 {
     QDoubleSpinBox *eingabe = schieber.eingabe();

@@ -73,6 +73,9 @@ public:
     /// Presses an item of the toolbar.
     void drueckeWerkzeug(const QString &kennung) const;
 
+    /// Types into the search box in place of what stood there, and Return.
+    void suche(const QString &text) const;
+
     /// Types an amount behind the slider and presses Return.
     static void tippeMenge(const Schieber &schieber, const QString &gramm);
     void tippeMenge(const QString &gramm) const { tippeMenge(*(*this)->lebensmittelmenge, gramm); }

@@ -31,7 +31,7 @@ private Q_SLOTS:
 private:
     AppController &controller() const { return m_fenster->controller(); }
     Planmodul &plan() const { return *controller().planmodul; }
-    void suche(const QString &text) const;
+    void suche(const QString &text) const { m_fenster->suche(text); }
     QMenu *oeffneMenue(int zeile, int spalte) const;
     static void waehle(QMenu &menue, const QString &text);
 
@@ -78,14 +78,6 @@ void TestTabellenmenue::cleanup()
 {
     m_fenster.reset();
     m_heim.reset();
-}
-
-void TestTabellenmenue::suche(const QString &text) const
-{
-    controller().suchfeld->setFocus();
-    controller().suchfeld->selectAll();
-    QTest::keyClicks(controller().suchfeld, text);
-    QTest::keyClick(controller().suchfeld, Qt::Key_Return);
 }
 
 QMenu *TestTabellenmenue::oeffneMenue(int zeile, int spalte) const

@@ -41,7 +41,7 @@ private Q_SLOTS:
 
 private:
     AppController &controller() const { return m_fenster->controller(); }
-    void suche(const QString &text) const;
+    void suche(const QString &text) const { m_fenster->suche(text); }
     QString strip() const;
     QString gezeigt() const { return Probefenster::text(*controller().feldA); }
     void drueckeF3(Qt::KeyboardModifiers dazu = {}) const
@@ -72,14 +72,6 @@ void TestTreffer::cleanup()
 {
     m_fenster.reset();
     m_heim.reset();
-}
-
-void TestTreffer::suche(const QString &text) const
-{
-    controller().suchfeld->setFocus();
-    controller().suchfeld->selectAll();
-    QTest::keyClicks(controller().suchfeld, text);
-    QTest::keyClick(controller().suchfeld, Qt::Key_Return);
 }
 
 /// What the strip says, empty while it is not there.

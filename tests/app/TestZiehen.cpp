@@ -249,7 +249,6 @@ void TestZiehen::aDragMovesNothing()
     QCOMPARE(tabelle->viewport()->grab().toImage(), anblick);
 }
 
-/// The mark does not jump ahead with the name of another food: only letting go chooses.
 void TestZiehen::aDragBringsTheOpenPlanToTheFront_data()
 {
     QTest::addColumn<bool>("offen");
@@ -284,6 +283,7 @@ void TestZiehen::aDragBringsTheOpenPlanToTheFront()
     QCOMPARE(controller().planmodul != nullptr, offen);
 }
 
+/// The mark does not jump ahead with the name of another food: only letting go chooses.
 void TestZiehen::aPressAloneMovesNothing()
 {
     m_fenster->klicke(9, inName);

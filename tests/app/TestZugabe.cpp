@@ -46,7 +46,7 @@ private:
     AppController &controller() const { return m_fenster->controller(); }
     Planmodul &plan() const { return *controller().planmodul; }
     void doppelklicke(int zeile, int spalte) const;
-    void suche(const QString &text) const;
+    void suche(const QString &text) const { m_fenster->suche(text); }
     void drueckeTaste(QWidget *feld) const;
     QString hinweis() const;
     void nimmZurueck() const;
@@ -90,14 +90,6 @@ void TestZugabe::doppelklicke(int zeile, int spalte) const
     QTest::mouseDClick(controller().Hauptfenster->windowHandle(), Qt::LeftButton, {},
                        controller().Tabelle->viewport()->mapTo(controller().Hauptfenster,
                                                                m_fenster->mitte(zeile, spalte)));
-}
-
-void TestZugabe::suche(const QString &text) const
-{
-    controller().suchfeld->setFocus();
-    controller().suchfeld->selectAll();
-    QTest::keyClicks(controller().suchfeld, text);
-    QTest::keyClick(controller().suchfeld, Qt::Key_Return);
 }
 
 void TestZugabe::drueckeTaste(QWidget *feld) const

@@ -10,6 +10,22 @@
 
 using enum Naehrwert;
 
+namespace {
+
+/// Name and kcal, or grams in a plan's file, of each entry.
+QStringList inDerDatei(const QString &pfad)
+{
+    const auto datei = Archivdatei::lesen(pfad).archiv.verzeichnis;
+    QStringList alle;
+    for (auto zeile = datei.cbegin(); zeile != datei.cend(); ++zeile) {
+        alle << QStringLiteral("%1 %2").arg(zeile.key()).arg(zeile->kal());
+    }
+    alle.sort();
+    return alle;
+}
+
+} // namespace
+
 void Verlaufsprobe::init()
 {
     m_heim = std::make_unique<Probeheim>();
@@ -87,24 +103,12 @@ QStringList Verlaufsprobe::zeilen() const
 
 QStringList Verlaufsprobe::planInDerDatei() const
 {
-    const auto datei = Archivdatei::lesen(plandatei()).archiv.verzeichnis;
-    QStringList alle;
-    for (auto zeile = datei.cbegin(); zeile != datei.cend(); ++zeile) {
-        alle << QStringLiteral("%1 %2").arg(zeile.key()).arg(zeile->kal());
-    }
-    alle.sort();
-    return alle;
+    return inDerDatei(plandatei());
 }
 
 QStringList Verlaufsprobe::eigeneInDerDatei() const
 {
-    const auto datei = Archivdatei::lesen(m_heim->eigeneDatei()).archiv.verzeichnis;
-    QStringList alle;
-    for (auto zeile = datei.cbegin(); zeile != datei.cend(); ++zeile) {
-        alle << QStringLiteral("%1 %2").arg(zeile.key()).arg(zeile->kal());
-    }
-    alle.sort();
-    return alle;
+    return inDerDatei(m_heim->eigeneDatei());
 }
 
 QString Verlaufsprobe::hinweis() const

@@ -79,14 +79,6 @@ void Wertungsprobe::oeffne()
     m_fenster = std::make_unique<Probefenster>(*m_heim);
 }
 
-void Wertungsprobe::suche(const QString &text) const
-{
-    controller().suchfeld->setFocus();
-    controller().suchfeld->selectAll();
-    QTest::keyClicks(controller().suchfeld, text);
-    QTest::keyClick(controller().suchfeld, Qt::Key_Return);
-}
-
 void Wertungsprobe::waehleTreffer(const QString &name) const
 {
     m_fenster->klicke(static_cast<int>(controller().suchArray.indexOf(name)), inSuch);

@@ -16,7 +16,7 @@ protected:
     void oeffne();
     void schreibeErklaerungen();
 
-    void suche(const QString &text) const;
+    void suche(const QString &text) const { m_fenster->suche(text); }
     void waehleTreffer(const QString &name) const;
 
     /// What the mouse gets to see where it rests on a rating; empty for no tool tip.

@@ -37,14 +37,6 @@ void Bilderfenster::waehle(const QString &name) const
     QCOMPARE(controller().unuebersetztername, name);
 }
 
-void Bilderfenster::suche(const QString &wort) const
-{
-    controller().suchfeld->setFocus();
-    controller().suchfeld->selectAll();
-    QTest::keyClicks(controller().suchfeld, wort);
-    QTest::keyClick(controller().suchfeld, Qt::Key_Return);
-}
-
 void Bilderfenster::rechne() const
 {
     AnthroController &r = rechner();

@@ -30,7 +30,7 @@ public:
     /// Chooses a built-in food as a click on its name does.
     void waehle(const QString &name) const;
     /// Types a word into the search box, and Return.
-    void suche(const QString &wort) const;
+    void suche(const QString &wort) const { m_fenster->suche(wort); }
     /// Fills both pages of the calculator in for a client.
     void rechne() const;
     /// Opens the plan, as large as the main window.

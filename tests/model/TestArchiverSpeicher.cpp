@@ -6,12 +6,11 @@
 #include <algorithm>
 #include <functional>
 
-#if defined(__SANITIZE_ADDRESS__)
+// Memory is counted by the sanitizer's allocator.
 extern "C" int __sanitizer_install_malloc_and_free_hooks(void (*genommen)(const volatile void *,
                                                                           std::size_t),
                                                          void (*gegeben)(const volatile void *));
 extern "C" std::size_t __sanitizer_get_allocated_size(const volatile void *stelle);
-#endif
 
 using namespace Archivbau;
 
@@ -38,7 +37,6 @@ namespace {
 std::size_t belegt = 0;
 std::size_t hoechstens = 0;
 
-#if defined(__SANITIZE_ADDRESS__)
 void nimm(const volatile void *, std::size_t bytes)
 {
     belegt += bytes;
@@ -50,7 +48,6 @@ void gib(const volatile void *stelle)
     const std::size_t bytes = stelle == nullptr ? 0 : __sanitizer_get_allocated_size(stelle);
     belegt -= std::min(bytes, belegt); // some of it was taken before anybody counted
 }
-#endif
 
 const QByteArray kleineWerte = QByteArray("\x9A\x00", 2).repeated(17);
 const QByteArray keine = QByteArray("\x92\x85", 2).repeated(4);
@@ -100,9 +97,7 @@ void zeile(const char *wie, const std::function<QByteArray(int)> &eintrag, int a
 
 void TestArchiverSpeicher::initTestCase()
 {
-#if defined(__SANITIZE_ADDRESS__)
     QVERIFY(__sanitizer_install_malloc_and_free_hooks(nimm, gib) > 0);
-#endif
 }
 
 /// Entries that all mean one food, which takes 250 bytes in memory each time.
@@ -146,9 +141,6 @@ void TestArchiverSpeicher::ownRows()
 
 void TestArchiverSpeicher::memoryIsASmallMultipleOfTheBytes_data()
 {
-#if !defined(__SANITIZE_ADDRESS__)
-    QSKIP("memory is counted by the sanitizer's allocator");
-#endif
     QTest::addColumn<QByteArray>("bytes");
     sharedRows();
     ownRows();
