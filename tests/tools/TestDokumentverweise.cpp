@@ -15,6 +15,8 @@ private Q_SLOTS:
     void whatAPagePointsToIsThere_data();
     void whatAPagePointsToIsThere();
     void thePagesOnTheLooksHavePictures();
+    void whatDevelopersAreSentToIsThere_data();
+    void whatDevelopersAreSentToIsThere();
 
 private:
     static QString lies(const QString &seite);
@@ -52,7 +54,9 @@ QStringList TestDokumentverweise::verweise(const QString &seite)
 void TestDokumentverweise::whatAPagePointsToIsThere_data()
 {
     QTest::addColumn<QString>("seite");
-    QTest::newRow("README.md") << QStringLiteral("README.md");
+    for (const char *seite : {"README.md", "CONTRIBUTING.md", "CHANGELOG.md"}) {
+        QTest::newRow(seite) << QString::fromLatin1(seite);
+    }
     QDirIterator seiten(projekt.filePath(QStringLiteral("docs")), {QStringLiteral("*.md")},
                         QDir::Files, QDirIterator::Subdirectories);
     while (seiten.hasNext()) {
@@ -78,6 +82,28 @@ void TestDokumentverweise::thePagesOnTheLooksHavePictures()
         const QStringList bilder = verweise(QLatin1String(seite)).filter(QStringLiteral(".png"));
         QVERIFY2(bilder.size() >= 8, seite);
     }
+}
+
+void TestDokumentverweise::whatDevelopersAreSentToIsThere_data()
+{
+    QTest::addColumn<QString>("seite");
+    QTest::newRow("the rooms") << QStringLiteral("docs/architecture.md");
+    QTest::newRow("the usual changes") << QStringLiteral("CONTRIBUTING.md");
+}
+
+/// A path such as `plan/Planregeln.cpp`, or `plan/Planregeln` for a class with its two files.
+void TestDokumentverweise::whatDevelopersAreSentToIsThere()
+{
+    QFETCH(QString, seite);
+    static const QRegularExpression pfad(QStringLiteral("`([a-z]+/[A-Za-z./-]*)`"));
+    auto treffer = pfad.globalMatch(lies(seite));
+    int wege = 0;
+    for (; treffer.hasNext(); ++wege) {
+        const QString ziel = treffer.next().captured(1);
+        QVERIFY2(projekt.exists(ziel) || projekt.exists(ziel + QStringLiteral(".h")),
+                 qPrintable(ziel));
+    }
+    QVERIFY(wege >= 5);
 }
 
 QTEST_GUILESS_MAIN(TestDokumentverweise)
