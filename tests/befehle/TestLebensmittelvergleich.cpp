@@ -267,8 +267,10 @@ void TestLebensmittelvergleich::foodsAndAmounts()
         const Antwort antwort = frage(name, gramm, eigenes, Ausgabeform::Json);
         QCOMPARE(antwort.ausgang, 0);
         vergleiche(fenster, QJsonDocument::fromJson(antwort.ausgabe).object());
-        vergleicheText(fenster,
-                       QString::fromUtf8(frage(name, gramm, eigenes, Ausgabeform::Text).ausgabe));
+        if (i % 3 == 0) {
+            const Antwort text = frage(name, gramm, eigenes, Ausgabeform::Text);
+            vergleicheText(fenster, QString::fromUtf8(text.ausgabe));
+        }
         if (QTest::currentTestFailed()) {
             qWarning() << i << name << gramm << eigenes;
         }
