@@ -71,6 +71,8 @@ int main(int argc, char **argv)
     QApplication::setApplicationName(QStringLiteral("Mahlberg"));
     QApplication::setOrganizationName(QStringLiteral("Mahlberg"));
     QApplication::setApplicationVersion(QStringLiteral(MAHLBERG_VERSION));
+    // Desktops find the program's icon and its entry in their menus by this name.
+    QApplication::setDesktopFileName(QStringLiteral("org.mahlberg.Mahlberg"));
     QApplication::setWindowIcon(QIcon(QStringLiteral(":/bilder/Mahlberg.svg")));
     const Auftrag auftrag = leseAuftrag(app);
     const Fensterplatz::Schirmwaechter schirmwaechter;
