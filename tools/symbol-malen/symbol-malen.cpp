@@ -12,7 +12,7 @@ int main(int argc, char **argv)
     const QStringList angaben = QCoreApplication::arguments();
     QTextStream fehler(stderr);
     const int groesse = angaben.size() == 4 ? angaben[2].toInt() : 0;
-    if (groesse < 1 || groesse > 4096) {
+    if (groesse < 1 || groesse > 1024) {
         fehler << "usage: symbol-malen DRAWING.svg SIZE PICTURE.png" << Qt::endl;
         return 2;
     }
