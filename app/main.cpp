@@ -84,6 +84,8 @@ int zeigeFenster(int &argc, char **argv, const Auftrag &auftrag, const Datenordn
 {
     QApplication::setStyle(new Fokusstil);
     QApplication app(argc, argv);
+    // Desktops find the program's icon and its entry in their menus by this name.
+    QApplication::setDesktopFileName(QStringLiteral("org.mahlberg.Mahlberg"));
     QApplication::setWindowIcon(QIcon(QStringLiteral(":/bilder/Mahlberg.svg")));
     const Fensterplatz::Schirmwaechter schirmwaechter;
 

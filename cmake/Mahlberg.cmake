@@ -3,7 +3,7 @@
 
 add_library(mahlberg_options INTERFACE)
 target_compile_options(mahlberg_options INTERFACE
-    -Wall -Wextra -Wpedantic -Wshadow -Wconversion -Werror
+    -Wall -Wextra -Wpedantic -Wshadow -Wconversion $<$<BOOL:${MAHLBERG_STRICT}>:-Werror>
     # Single and double precision are both meant: nothing may reorder or contract the arithmetic.
     -ffp-contract=off -fno-fast-math)
 target_compile_definitions(mahlberg_options INTERFACE
@@ -35,6 +35,14 @@ if(NOT MAHLBERG_SANITIZE AND NOT MAHLBERG_COVERAGE AND NOT MAHLBERG_FUZZ)
     target_link_options(mahlberg_options INTERFACE
         "$<${optimised}:-pie;-Wl,-z,relro;-Wl,-z,now>")
 endif()
+
+# The same source gives the same bytes, wherever it lies and whenever it is built: what ships names
+# no folder of the machine that built it, and what it carries within bears no times (the first form
+# of Qt's resources has none).
+target_compile_options(mahlberg_options INTERFACE
+    "$<${optimised}:-ffile-prefix-map=${PROJECT_SOURCE_DIR}=.>")
+set(CMAKE_AUTORCC_OPTIONS --format-version 1)
+set(MAHLBERG_RCC_OPTIONS OPTIONS ${CMAKE_AUTORCC_OPTIONS})
 
 # A room: a static library whose headers are found only by those that link it. A header of a room
 # that is not on the link list can't even be included, so the link lists are the boundaries.

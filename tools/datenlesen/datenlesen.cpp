@@ -13,6 +13,7 @@ namespace {
 enum Ausgang { Gelungen = 0, Misslungen = 1, FalscherAufruf = 2 };
 
 constexpr const char *gebrauch = "Usage: datenlesen [--csv] FILE\n"
+                                 "       datenlesen --help\n"
                                  "Prints the foods in a .daten file as text, or as a table with "
                                  "--csv.\n"
                                  "Exit status: 0 read, 1 missing or damaged, 2 wrong usage.\n";

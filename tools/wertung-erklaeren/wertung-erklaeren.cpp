@@ -12,7 +12,7 @@ namespace {
 
 const QString gebrauch =
     u"Usage: wertung-erklaeren [--table TABLE.csv] NAME\n"
-    "       wertung-erklaeren --rules\n"
+    "       wertung-erklaeren --rules | --help\n"
     "Prints the rule behind each of a food's four ratings. NAME is the German or English\n"
     "name; a part of it lists the foods that have it. --rules prints all rules, the food\n"
     "groups and the sources as they stand in docs/ratings.md.\n"
@@ -20,7 +20,7 @@ const QString gebrauch =
 
 struct Auftrag
 {
-    QString tabelle = QStringLiteral(LEBENSMITTELTABELLE);
+    QString tabelle = u":/Lebensmittel.csv"_s; ///< the one that ships, carried within
     QString name;
 };
 
@@ -32,7 +32,8 @@ std::optional<Auftrag> auftrag(QStringList argumente)
         ergebnis.tabelle = argumente.at(1);
         argumente.remove(0, 2);
     }
-    if (argumente.size() != 1 || argumente.first().isEmpty() || argumente.first() == u"--table") {
+    if (argumente.size() != 1 || argumente.first().isEmpty() ||
+        argumente.first().startsWith(u"--")) {
         return std::nullopt;
     }
     ergebnis.name = argumente.first();
@@ -116,6 +117,10 @@ int main(int argc, char *argv[])
     const QCoreApplication app(argc, argv);
     if (QCoreApplication::arguments().mid(1) == QStringList{u"--rules"_s}) {
         regelnDrucken();
+        return Kommandozeile::Gelungen;
+    }
+    if (QCoreApplication::arguments().mid(1) == QStringList{u"--help"_s}) {
+        Kommandozeile::drucken(gebrauch);
         return Kommandozeile::Gelungen;
     }
     const auto was = auftrag(QCoreApplication::arguments());

@@ -1,15 +1,15 @@
 #include "Archivdatei.h"
 #include "Tabellenprobe.h"
+#include "Werkzeuglauf.h"
 
-#include <QProcess>
 #include <QSet>
 #include <QTemporaryDir>
 #include <QTest>
 
 using namespace Qt::StringLiterals;
 
-/// The two programs of the food table, as the build and people call them.
-class TestTabellenprogramme : public QObject
+/// The program that checks and builds the food table, as the build and people call it.
+class TestTabelleBauen : public QObject
 {
     Q_OBJECT
 
@@ -30,10 +30,6 @@ private Q_SLOTS:
     void wrongUsageIsTold();
     void aMissingTableIsTold();
     void aPlaceThatCantBeWrittenIsTold();
-    void aFoodsRatingsAreExplained_data();
-    void aFoodsRatingsAreExplained();
-    void aPartOfANameListsFoods();
-    void theRulesArePrinted();
 
 private:
     QString pfad(const QString &name) const { return m_ordner->filePath(name); }
@@ -45,23 +41,6 @@ private:
 
 namespace {
 
-struct Lauf
-{
-    int ausgang;
-    QString ausgabe;
-    QString fehler;
-};
-
-Lauf starten(const char *programm, const QStringList &argumente)
-{
-    QProcess prozess;
-    prozess.start(QString::fromUtf8(programm), argumente);
-    prozess.waitForFinished();
-    return {prozess.exitStatus() == QProcess::NormalExit ? prozess.exitCode() : -1,
-            QString::fromUtf8(prozess.readAllStandardOutput()),
-            QString::fromUtf8(prozess.readAllStandardError())};
-}
-
 const QString tabelle = QStringLiteral(LEBENSMITTELTABELLE);
 const QString quellwerte = QStringLiteral(QUELLWERTE);
 const QString purine = QStringLiteral(PURINE);
@@ -70,13 +49,13 @@ const QString seite = QStringLiteral(WERTUNGSSEITE);
 
 } // namespace
 
-void TestTabellenprogramme::init()
+void TestTabelleBauen::init()
 {
     m_ordner = std::make_unique<QTemporaryDir>();
     QVERIFY(m_ordner->isValid());
 }
 
-QString TestTabellenprogramme::ablegen(const QString &name, const QByteArray &bytes) const
+QString TestTabelleBauen::ablegen(const QString &name, const QByteArray &bytes) const
 {
     QFile file(pfad(name));
     return file.open(QIODevice::WriteOnly) && file.write(bytes) == bytes.size() ? pfad(name)
@@ -84,14 +63,14 @@ QString TestTabellenprogramme::ablegen(const QString &name, const QByteArray &by
 }
 
 /// A table of these lines with the published figures beside it.
-QString TestTabellenprogramme::tabelleAblegen(const QList<QStringList> &zeilen) const
+QString TestTabelleBauen::tabelleAblegen(const QList<QStringList> &zeilen) const
 {
     ablegen(u"Quellwerte.csv"_s, Tabellenprobe::dateiinhalt(QUELLWERTE));
     ablegen(u"Purine.csv"_s, Tabellenprobe::dateiinhalt(PURINE));
     return ablegen(u"klein.csv"_s, Tabellenprobe::datei(zeilen));
 }
 
-void TestTabellenprogramme::anyGoodTableIsBuilt()
+void TestTabelleBauen::anyGoodTableIsBuilt()
 {
     const QStringList leber = Tabellenprobe::felder(u"657"_s);
     const QStringList apfel = Tabellenprobe::felder(u"378"_s);
@@ -108,7 +87,7 @@ void TestTabellenprogramme::anyGoodTableIsBuilt()
     QVERIFY(Tabellenprobe::dateiinhalt(qPrintable(pfad(u"k.ts"_s))).contains(leber.at(1).toUtf8()));
 }
 
-void TestTabellenprogramme::aBrokenLineStopsTheBuild_data()
+void TestTabelleBauen::aBrokenLineStopsTheBuild_data()
 {
     QTest::addColumn<QString>("spalte");
     QTest::addColumn<QString>("wert");
@@ -124,7 +103,7 @@ void TestTabellenprogramme::aBrokenLineStopsTheBuild_data()
         << u"kal"_s << u"viel"_s << QStringList{u"[format]"_s};
 }
 
-void TestTabellenprogramme::aBrokenLineStopsTheBuild()
+void TestTabelleBauen::aBrokenLineStopsTheBuild()
 {
     QFETCH(QString, spalte);
     QFETCH(QString, wert);
@@ -145,7 +124,7 @@ void TestTabellenprogramme::aBrokenLineStopsTheBuild()
     QVERIFY(!QFile::exists(pfad(u"k.daten"_s)) && !QFile::exists(pfad(u"k.ts"_s)));
 }
 
-void TestTabellenprogramme::brokenPublishedFiguresStopTheBuild_data()
+void TestTabelleBauen::brokenPublishedFiguresStopTheBuild_data()
 {
     QTest::addColumn<QString>("datei");
     QTest::addColumn<QByteArray>("aus");
@@ -156,7 +135,7 @@ void TestTabellenprogramme::brokenPublishedFiguresStopTheBuild_data()
                                  << QByteArray("\nRinderfilet;119;110;");
 }
 
-void TestTabellenprogramme::brokenPublishedFiguresStopTheBuild()
+void TestTabelleBauen::brokenPublishedFiguresStopTheBuild()
 {
     QFETCH(QString, datei);
     QFETCH(QByteArray, aus);
@@ -173,7 +152,7 @@ void TestTabellenprogramme::brokenPublishedFiguresStopTheBuild()
     QVERIFY(!QFile::exists(pfad(u"k.daten"_s)));
 }
 
-void TestTabellenprogramme::aGoodTableIsSealed()
+void TestTabelleBauen::aGoodTableIsSealed()
 {
     const QStringList ei = Tabellenprobe::felder(u"290"_s);
     const QStringList neu = Tabellenprobe::geaendert(ei, u"note"_s, u"From a hen"_s);
@@ -191,7 +170,7 @@ void TestTabellenprogramme::aGoodTableIsSealed()
         0);
 }
 
-void TestTabellenprogramme::aBrokenLineIsNotSealed_data()
+void TestTabelleBauen::aBrokenLineIsNotSealed_data()
 {
     QTest::addColumn<QString>("spalte");
     QTest::addColumn<QString>("wert");
@@ -202,7 +181,7 @@ void TestTabellenprogramme::aBrokenLineIsNotSealed_data()
     QTest::newRow("what can't be read") << u"group"_s << u"Konfekt"_s << u"[format]"_s;
 }
 
-void TestTabellenprogramme::aBrokenLineIsNotSealed()
+void TestTabelleBauen::aBrokenLineIsNotSealed()
 {
     QFETCH(QString, spalte);
     QFETCH(QString, wert);
@@ -217,7 +196,7 @@ void TestTabellenprogramme::aBrokenLineIsNotSealed()
     QCOMPARE(Tabellenprobe::dateiinhalt(qPrintable(kaputt)), vorher);
 }
 
-void TestTabellenprogramme::nothingIsSealedWithoutPublishedFigures()
+void TestTabelleBauen::nothingIsSealedWithoutPublishedFigures()
 {
     const QString klein = tabelleAblegen({Tabellenprobe::felder(u"290"_s)});
     QVERIFY(QFile::remove(pfad(u"Purine.csv"_s)));
@@ -226,7 +205,7 @@ void TestTabellenprogramme::nothingIsSealedWithoutPublishedFigures()
     QVERIFY(lauf.fehler.contains(pfad(u"Purine.csv"_s)));
 }
 
-void TestTabellenprogramme::theShippedTableIsChecked_data()
+void TestTabelleBauen::theShippedTableIsChecked_data()
 {
     QTest::addColumn<QString>("quelle");
     QTest::addColumn<QString>("spalte");
@@ -246,7 +225,7 @@ void TestTabellenprogramme::theShippedTableIsChecked_data()
         << u"271"_s << u"na"_s << u"viel"_s << u"[format]"_s;
 }
 
-void TestTabellenprogramme::theShippedTableIsChecked()
+void TestTabelleBauen::theShippedTableIsChecked()
 {
     QFETCH(QString, quelle);
     QFETCH(QString, spalte);
@@ -263,37 +242,28 @@ void TestTabellenprogramme::theShippedTableIsChecked()
              lauf.fehler.count(u'\n') == 1 && regel == u"[format]");
 }
 
-void TestTabellenprogramme::wrongUsageIsTold_data()
+void TestTabelleBauen::wrongUsageIsTold_data()
 {
-    QTest::addColumn<bool>("bauen");
     QTest::addColumn<QStringList>("argumente");
-    QTest::newRow("tabelle-bauen, nothing") << true << QStringList();
-    QTest::newRow("tabelle-bauen, a file too few")
-        << true << QStringList{tabelle, quellwerte, purine, u"a"_s};
-    QTest::newRow("tabelle-bauen, a file too many")
-        << true << QStringList{tabelle, quellwerte, purine, u"a"_s, u"b"_s, u"c"_s};
-    QTest::newRow("tabelle-bauen, nothing to seal") << true << QStringList{u"--seal"_s};
-    QTest::newRow("tabelle-bauen, two tables to seal")
-        << true << QStringList{u"--seal"_s, tabelle, tabelle};
-    QTest::newRow("tabelle-bauen, the shipped table alone")
-        << true << QStringList{u"--shipped"_s, tabelle};
-    QTest::newRow("wertung-erklaeren, nothing") << false << QStringList();
-    QTest::newRow("wertung-erklaeren, an empty name") << false << QStringList{QString()};
-    QTest::newRow("wertung-erklaeren, two names") << false << QStringList{u"Ei"_s, u"Apfel"_s};
-    QTest::newRow("wertung-erklaeren, no table") << false << QStringList{u"--table"_s};
+    QTest::newRow("nothing") << QStringList();
+    QTest::newRow("a file too few") << QStringList{tabelle, quellwerte, purine, u"a"_s};
+    QTest::newRow("a file too many")
+        << QStringList{tabelle, quellwerte, purine, u"a"_s, u"b"_s, u"c"_s};
+    QTest::newRow("nothing to seal") << QStringList{u"--seal"_s};
+    QTest::newRow("two tables to seal") << QStringList{u"--seal"_s, tabelle, tabelle};
+    QTest::newRow("the shipped table alone") << QStringList{u"--shipped"_s, tabelle};
 }
 
-void TestTabellenprogramme::wrongUsageIsTold()
+void TestTabelleBauen::wrongUsageIsTold()
 {
-    QFETCH(bool, bauen);
     QFETCH(QStringList, argumente);
-    const Lauf lauf = starten(bauen ? BAUEN : ERKLAEREN, argumente);
+    const Lauf lauf = starten(BAUEN, argumente);
     QCOMPARE(lauf.ausgang, 2);
     QVERIFY(lauf.fehler.startsWith(u"Usage: "));
     QVERIFY(lauf.ausgabe.isEmpty());
 }
 
-void TestTabellenprogramme::aMissingTableIsTold()
+void TestTabelleBauen::aMissingTableIsTold()
 {
     const QString fehlt = pfad(u"fehlt.csv"_s);
     const QString a = pfad(u"a"_s);
@@ -303,12 +273,10 @@ void TestTabellenprogramme::aMissingTableIsTold()
     QCOMPARE(starten(BAUEN, {tabelle, quellwerte, fehlt, a, b}).ausgang, 1);
     QCOMPARE(starten(BAUEN, {u"--seal"_s, fehlt}).ausgang, 1);
     QCOMPARE(starten(BAUEN, {u"--shipped"_s, tabelle, fehlt, seite}).ausgang, 1);
-    const Lauf lauf = starten(ERKLAEREN, {u"--table"_s, fehlt, u"Ei"_s});
-    QCOMPARE(lauf.ausgang, 1);
-    QVERIFY(lauf.fehler.contains(fehlt));
+    QVERIFY(starten(BAUEN, {fehlt, quellwerte, purine, a, b}).fehler.contains(fehlt));
 }
 
-void TestTabellenprogramme::aPlaceThatCantBeWrittenIsTold()
+void TestTabelleBauen::aPlaceThatCantBeWrittenIsTold()
 {
     const QString klein = tabelleAblegen({Tabellenprobe::felder(u"378"_s)});
     const QString unterEinerDatei = klein + u"/k.daten"_s;
@@ -317,54 +285,5 @@ void TestTabellenprogramme::aPlaceThatCantBeWrittenIsTold()
     QVERIFY(lauf.fehler.contains(unterEinerDatei));
 }
 
-void TestTabellenprogramme::aFoodsRatingsAreExplained_data()
-{
-    QTest::addColumn<QString>("name");
-    QTest::newRow("German") << u"Rinderleber, roh"_s;
-    QTest::newRow("English") << u"Beef liver, raw"_s;
-    QTest::newRow("another case") << u"rinderleber, ROH"_s;
-}
-
-/// The beef liver of the source under names of this test.
-void TestTabellenprogramme::aFoodsRatingsAreExplained()
-{
-    QFETCH(QString, name);
-    QStringList leber = Tabellenprobe::felder(u"657"_s);
-    leber[0] = u"Rinderleber, roh"_s;
-    leber[1] = u"Beef liver, raw"_s;
-    const QString klein = tabelleAblegen({leber});
-    const Lauf lauf = starten(ERKLAEREN, {u"--table"_s, klein, name});
-    QCOMPARE(lauf.ausgang, 0);
-    QVERIFY(
-        lauf.ausgabe.startsWith(u"Rinderleber, roh (Beef liver, raw)\nFood group: Innereien\n"));
-    QVERIFY(lauf.ausgabe.contains(u"\nPurines: 394.5 mg uric acid, from Rinderleber ["));
-    QVERIFY(lauf.ausgabe.contains(u"\nOverweight: \"0\" (neutral), rule U12\n"));
-    QVERIFY(lauf.ausgabe.contains(u"\nDiabetes: \"+\" (suitable), rule D11\n"));
-    QVERIFY(lauf.ausgabe.contains(u"\nGout: \"-\" (unsuitable), rule G1\n    High in purines"));
-    QVERIFY(lauf.ausgabe.contains(u"\n    [ACR-2020] FitzGerald JD et al."));
-    QVERIFY(lauf.ausgabe.contains(u"\nHeart and circulation: \"-\" (unsuitable), rule H2\n"));
-    QVERIFY(lauf.ausgabe.contains(u"\n    cholesterol 354 mg (over 200 mg)\n"));
-}
-
-void TestTabellenprogramme::aPartOfANameListsFoods()
-{
-    const QString leber = Tabellenprobe::namen(u"657"_s).first();
-    const QString anfang = leber.chopped(1);
-    const Lauf lauf = starten(ERKLAEREN, {anfang});
-    QCOMPARE(lauf.ausgang, 1);
-    QVERIFY(lauf.fehler.contains(u"There is no food \"%1\"."_s.arg(anfang)));
-    QVERIFY(lauf.fehler.contains(leber));
-    QCOMPARE(starten(ERKLAEREN, {u"Einhorn"_s}).fehler, u"There is no food \"Einhorn\".\n"_s);
-}
-
-void TestTabellenprogramme::theRulesArePrinted()
-{
-    const Lauf lauf = starten(ERKLAEREN, {u"--rules"_s});
-    QCOMPARE(lauf.ausgang, 0);
-    QVERIFY(lauf.ausgabe.contains(u"| U1 | - | drink, energy over 20 kcal |"));
-    QVERIFY(lauf.ausgabe.contains(u"| Hülsenfrüchte | all |"));
-    QVERIFY(lauf.ausgabe.contains(u"- **WHO-2012**: WHO. Guideline: Sodium intake"));
-}
-
-QTEST_GUILESS_MAIN(TestTabellenprogramme)
-#include "TestTabellenprogramme.moc"
+QTEST_GUILESS_MAIN(TestTabelleBauen)
+#include "TestTabelleBauen.moc"
