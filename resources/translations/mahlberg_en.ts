@@ -880,6 +880,10 @@ Nothing is worked out for children under 10 years; it resumes at 11 years.</tr
   <translation>Recentl&amp;y chosen foods …</translation>
  </message>
  <message>
+  <source>Angezeigt als</source>
+  <translation>Shown as</translation>
+ </message>
+ <message>
   <source>Bedeutung der Farben, von links: %1</source>
   <translation>Meaning of the colours, from the left: %1</translation>
  </message>
