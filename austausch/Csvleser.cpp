@@ -90,6 +90,7 @@ public:
     Saetze zerlege();
 
 private:
+    bool trennt(QChar zeichen) const;
     bool endetZeile();
     void liesZitat();
     void beendeFeld();
@@ -105,6 +106,13 @@ private:
     bool m_zitiert = false;
     bool m_zeichenImSatz = false;
 };
+
+/// Whether something may end or begin with this sign.
+bool Zerleger::trennt(QChar zeichen) const
+{
+    return zeichen == m_trennung || zeichen == u'"' || zeichen == u'\n' || zeichen == u'\r' ||
+           (m_zitiert && zeichen.isSpace());
+}
 
 /// Steps over the end of a line, if there is one here.
 bool Zerleger::endetZeile()
@@ -182,7 +190,11 @@ Saetze Zerleger::zerlege()
         } else if (m_zitiert && m_text[m_ort].isSpace()) {
             ++m_ort;
         } else {
-            m_feld += m_text[m_ort++];
+            const qsizetype anfang = m_ort++;
+            while (m_ort < m_text.size() && !trennt(m_text[m_ort])) {
+                ++m_ort;
+            }
+            m_feld += QStringView(m_text).sliced(anfang, m_ort - anfang);
         }
     }
     beendeSatz();

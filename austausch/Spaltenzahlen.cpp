@@ -1,54 +1,72 @@
 #include "Spaltenzahlen.h"
 
 #include <QByteArray>
-#include <QRegularExpression>
 
 #include <algorithm>
 #include <charconv>
 
 namespace {
 
-/// Sign, digits in front with or without groups of three, decimals, power of ten. A group of
-/// thousands does not begin with 0: "0.123" has decimals.
-QRegularExpression muster(QLatin1StringView dezimal, QLatin1StringView gruppe)
+bool nurZiffern(QStringView text)
 {
-    return QRegularExpression(
-        QStringLiteral("^([+\\-\u2212]?)([1-9]\\d{0,2}(?:%2\\d{3})+|"
-                       "[1-9]\\d{0,2}(?:[ \u00A0\u2009\u202F]\\d{3})+|"
-                       "[1-9]\\d{0,2}(?:['\u2019]\\d{3})+|\\d*)(?:%1(\\d*))?([eE][+\\-]?\\d+)?$")
-            .arg(dezimal, gruppe));
+    return std::all_of(text.begin(), text.end(),
+                       [](QChar zeichen) { return zeichen >= u'0' && zeichen <= u'9'; });
+}
+
+/// What may stand between the thousands: the sign that is not before the decimals, blanks of all
+/// widths, and the apostrophes of Switzerland.
+bool istGruppenzeichen(QChar zeichen, Zahlenschrift schrift)
+{
+    return zeichen == (schrift == Zahlenschrift::Komma ? u'.' : u',') ||
+           QStringView(u" \u00A0\u2009\u202F'\u2019").contains(zeichen);
+}
+
+/// The digits in front of the decimals without what parts the thousands; absent where groups of
+/// three are not what is parted. A group of thousands does not begin with 0: "0.123" has decimals.
+std::optional<QString> ohneGruppen(QStringView ganze, Zahlenschrift schrift)
+{
+    const auto trennung = std::find_if(ganze.begin(), ganze.end(), [schrift](QChar zeichen) {
+        return istGruppenzeichen(zeichen, schrift);
+    });
+    if (trennung == ganze.end()) {
+        return nurZiffern(ganze) ? std::optional(ganze.toString()) : std::nullopt;
+    }
+    const QList<QStringView> gruppen = ganze.split(*trennung);
+    const bool dreier = std::all_of(gruppen.begin() + 1, gruppen.end(), [](QStringView gruppe) {
+        return gruppe.size() == 3 && nurZiffern(gruppe);
+    });
+    const QStringView erste = gruppen.first();
+    const bool anfang = !erste.isEmpty() && erste.size() <= 3 && erste.front() != u'0';
+    return dreier && anfang && nurZiffern(erste) ? std::optional(ganze.toString().remove(*trennung))
+                                                 : std::nullopt;
 }
 
 /// The number as C writes it; empty for what is none.
 QByteArray normiert(const QString &text, Zahlenschrift schrift)
 {
-    static const QRegularExpression mitKomma =
-        muster(QLatin1StringView(","), QLatin1StringView("\\."));
-    static const QRegularExpression mitPunkt =
-        muster(QLatin1StringView("\\."), QLatin1StringView(","));
-    const auto teile =
-        (schrift == Zahlenschrift::Komma ? mitKomma : mitPunkt).match(text.trimmed());
-    QByteArray ganze;
-    for (const QChar zeichen : teile.captured(2)) {
-        if (zeichen.isDigit()) {
-            ganze += zeichen.toLatin1();
-        }
-    }
-    const QByteArray bruch = teile.captured(3).toLatin1();
-    if (ganze.isEmpty() && bruch.isEmpty()) {
+    QStringView rest = QStringView(text).trimmed();
+    const bool minus = rest.startsWith(u'-') || rest.startsWith(u'\u2212');
+    rest = minus || rest.startsWith(u'+') ? rest.sliced(1) : rest;
+    const qsizetype potenz = rest.indexOf(u'e', 0, Qt::CaseInsensitive);
+    QStringView hoch = potenz < 0 ? QStringView() : rest.sliced(potenz + 1);
+    const bool hochMinus = hoch.startsWith(u'-');
+    hoch = hochMinus || hoch.startsWith(u'+') ? hoch.sliced(1) : hoch;
+    rest = potenz < 0 ? rest : rest.first(potenz);
+    const qsizetype dezimal = rest.indexOf(schrift == Zahlenschrift::Komma ? u',' : u'.');
+    const QStringView bruch = dezimal < 0 ? QStringView() : rest.sliced(dezimal + 1);
+    const auto ganze = ohneGruppen(dezimal < 0 ? rest : rest.first(dezimal), schrift);
+    if (!ganze || ganze->size() + bruch.size() == 0 || !nurZiffern(bruch) || !nurZiffern(hoch) ||
+        (potenz >= 0 && hoch.isEmpty())) {
         return {};
     }
-    const QByteArray vorzeichen =
-        teile.captured(1).isEmpty() || teile.captured(1) == QLatin1String("+") ? "" : "-";
-    return vorzeichen + (ganze.isEmpty() ? "0" : ganze) + '.' + (bruch.isEmpty() ? "0" : bruch) +
-           teile.captured(4).toLatin1();
+    return (minus ? "-0" : "0") + ganze->toLatin1() + '.' + bruch.toLatin1() + '0' +
+           (hochMinus ? "e-0" : "e0") + hoch.toLatin1();
 }
 
 template <typename Zahl>
 std::optional<Zahl> zahlAus(const QString &text, Zahlenschrift schrift)
 {
-    QByteArray ziffern = normiert(text, schrift);
-    ziffern.replace("e+", "e").replace("E+", "E");
+    const QByteArray ziffern = normiert(text, schrift);
     Zahl zahl = 0;
     const auto [ende, fehler] =
         std::from_chars(ziffern.constData(), ziffern.constData() + ziffern.size(), zahl);
