@@ -117,6 +117,7 @@ int main(int argc, char **argv)
         .drucke = eigenesHeim ? Drucktuer() : systemdrucktuer(*einstellungen, zeigeMeldung),
         .dateien = {},
         .sprich = [&sprache](const QString &kuerzel) { sprache.sprich(kuerzel); },
+        .waehleDatei = eigenesHeim ? Dateituer() : Dateituer(frageNachDatei),
     });
     oberflaeche.awakeFromNib();
     if (!auftrag.rundgang.isNull()) {
