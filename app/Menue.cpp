@@ -69,6 +69,13 @@ void baueAblage(AppController &controller)
     eintrag(ablage, QT_TRANSLATE_NOOP("Mahlberg", "In den Mahlzeiten&plan"), {},
             [&controller] { controller.toolbarlebensmittelweitergabe(); });
     ablage.addSeparator();
+    eintrag(ablage, QT_TRANSLATE_NOOP("Mahlberg", "Lebensmittel &einlesen …"),
+            QKeySequence(QStringLiteral("Ctrl+I")),
+            [&controller] { Q_EMIT controller.einlesenGewuenscht(); });
+    eintrag(ablage, QT_TRANSLATE_NOOP("Mahlberg", "Als &Tabelle sichern …"),
+            QKeySequence(QStringLiteral("Ctrl+Shift+S")),
+            [&controller] { Q_EMIT controller.ausgebenGewuenscht(); });
+    ablage.addSeparator();
     eintrag(ablage, QT_TRANSLATE_NOOP("Mahlberg", "&Drucken …"),
             QKeySequence(QStringLiteral("Ctrl+P")), [&controller] { controller.drucken(); });
     eintrag(ablage, QT_TRANSLATE_NOOP("Mahlberg", "&Frühere Stände …"), {},
@@ -118,6 +125,9 @@ void baueBearbeiten(AppController &controller)
             bearbeiten.addSeparator();
         }
     }
+    eintrag(bearbeiten, QT_TRANSLATE_NOOP("Mahlberg", "Als &Tabelle kopieren"),
+            QKeySequence(QStringLiteral("Ctrl+Shift+C")),
+            [&controller] { Q_EMIT controller.tabelleKopierenGewuenscht(); });
     bearbeiten.addSeparator();
     eintrag(bearbeiten, QT_TRANSLATE_NOOP("Mahlberg", "Lebensmittel &suchen"), QKeySequence::Find,
             [&controller] {

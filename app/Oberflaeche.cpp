@@ -63,6 +63,7 @@ Oberflaeche::Oberflaeche(const Tueren &tueren)
     , ansage(hauptfenster, tueren.datenordner, dateien)
     , gedaechtnis(hauptfenster, *tueren.einstellungen)
     , verlauf(hauptfenster)
+    , austausch(hauptfenster, mitDateien(tueren, dateien))
     , m_sprich(tueren.sprich)
 {
     QObject::connect(&hauptfenster, &AppController::spracheGewaehlt, &hauptfenster,

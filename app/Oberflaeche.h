@@ -5,6 +5,7 @@
 #include "Dateiansage.h"
 #include "Fenstergedaechtnis.h"
 #include "Hilfe.h"
+#include "Tabellenaustausch.h"
 #include "Verlauf.h"
 
 #include <functional>
@@ -34,6 +35,7 @@ public:
     Fenstergedaechtnis gedaechtnis;
     Hilfe hilfe;
     Verlauf verlauf;
+    Tabellenaustausch austausch;
 
 private:
     static void folgeSprache(Planmodul *plan);

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "Dateituer.h"
 #include "Datenordner.h"
 #include "Drucktuer.h"
 #include "Meldung.h"
@@ -31,4 +32,5 @@ struct Tueren
     /// Speaks another language ("de" or "en") from now on; while it is absent, the one of the start
     /// stays.
     std::function<void(const QString &)> sprich = {};
+    Dateituer waehleDatei = {}; ///< asks for a file; while it is absent, no list goes out or comes in
 };

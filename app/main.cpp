@@ -131,6 +131,7 @@ int zeigeFenster(int &argc, char **argv, const Auftrag &auftrag, const Datenordn
         .drucke = eigenesHeim ? Drucktuer() : systemdrucktuer(*einstellungen, zeigeMeldung),
         .dateien = {},
         .sprich = [&sprache](const QString &kuerzel) { sprache.sprich(kuerzel); },
+        .waehleDatei = eigenesHeim ? Dateituer() : Dateituer(frageNachDatei),
     });
     oberflaeche.awakeFromNib();
     if (!auftrag.rundgang.isNull()) {

@@ -13,7 +13,8 @@ enum class Aenderungsart {
     Gesichert, ///< a new own food was saved
     Geaendert, ///< an own food was saved with other values
     Geloescht, ///< an own food was deleted
-    Eigenstand ///< earlier own foods were brought back
+    Eigenstand, ///< earlier own foods were brought back
+    Eingelesen  ///< foods came into the own foods from a file
 };
 
 /// One change that can be taken back.
