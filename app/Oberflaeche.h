@@ -26,6 +26,9 @@ public:
     /// Speaks another language, "de" or "en", in all windows that are open.
     void sprich(const QString &kuerzel);
 
+    /// Opens the window of the settings, over the main window.
+    void zeigeEinstellungen();
+
     /// The keeper of the user's files, which all windows share.
     std::shared_ptr<Dateihueter> dateien;
     AppController hauptfenster;
@@ -39,4 +42,6 @@ private:
     static void folgeSprache(Planmodul *plan);
 
     std::function<void(const QString &)> m_sprich;
+    Einstellungen &m_einstellungen;
+    Dateituer m_frageNachDateien;
 };

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "Dateifrage.h"
 #include "Datenordner.h"
 #include "Drucktuer.h"
 #include "Meldung.h"
@@ -25,6 +26,9 @@ struct Tueren
     /// resource; while it is empty, no rating of theirs is explained.
     QString wertungstabelle = {};
     Drucktuer drucke = {}; ///< prints; while it is absent, nothing does
+    Pdftuer alsPdf = {};   ///< saves a print as a PDF; while it is absent, nothing does
+    /// Asks for files or a folder; while it is absent, nobody chooses any.
+    Dateituer frageNachDateien = {};
     /// Reads and writes the user's files, for all windows of the program; a controller that gets
     /// none makes one of its own.
     std::shared_ptr<Dateihueter> dateien = {};

@@ -3,6 +3,7 @@
 #include "Fensterplatz.h"
 #include "Fokusstil.h"
 #include "Oberflaeche.h"
+#include "Pdftuer.h"
 #include "Rundgang.h"
 #include "Schreibtisch.h"
 #include "Sprache.h"
@@ -107,6 +108,7 @@ int main(int argc, char **argv)
         return 0;
     };
 
+    const Pdftuer alsPdf = systempdftuer(*einstellungen, zeigeMeldung, frageNachDateien);
     Oberflaeche oberflaeche({
         .eingebauteTabelle = QStringLiteral(":/DatabaseIII.daten"),
         .datenordner = datenordner,
@@ -114,7 +116,9 @@ int main(int argc, char **argv)
         .protokolliere = [](const QString &zeile) { qCDebug(protokoll).noquote() << zeile; },
         .einstellungen = einstellungen.get(),
         .wertungstabelle = QStringLiteral(":/Lebensmittel.csv"),
-        .drucke = eigenesHeim ? Drucktuer() : systemdrucktuer(*einstellungen, zeigeMeldung),
+        .drucke = eigenesHeim ? Drucktuer() : systemdrucktuer(*einstellungen, zeigeMeldung, alsPdf),
+        .alsPdf = eigenesHeim ? Pdftuer() : alsPdf,
+        .frageNachDateien = eigenesHeim ? Dateituer() : frageNachDateien,
         .dateien = {},
         .sprich = [&sprache](const QString &kuerzel) { sprache.sprich(kuerzel); },
     });

@@ -848,6 +848,10 @@ Nothing is worked out for children under 10 years; it resumes at 11 years.</tr
   <translation>%1: %2</translation>
  </message>
  <message>
+  <source>&amp;Als PDF sichern …</source>
+  <translation>Save &amp;as PDF …</translation>
+ </message>
+ <message>
   <source>&amp;Löschen …</source>
   <translation>&amp;Delete …</translation>
  </message>
@@ -880,8 +884,32 @@ Nothing is worked out for children under 10 years; it resumes at 11 years.</tr
   <translation>Recentl&amp;y chosen foods …</translation>
  </message>
  <message>
+  <source>Als PDF sichern</source>
+  <translation>Save as PDF</translation>
+ </message>
+ <message>
+  <source>Als PDF sichern …</source>
+  <translation>Save as PDF …</translation>
+ </message>
+ <message>
   <source>Bedeutung der Farben, von links: %1</source>
   <translation>Meaning of the colours, from the left: %1</translation>
+ </message>
+ <message>
+  <source>Da&amp;tei öffnen …</source>
+  <translation>&amp;Open file …</translation>
+ </message>
+ <message>
+  <source>Das PDF ist gesichert: %1</source>
+  <translation>The PDF is saved: %1</translation>
+ </message>
+ <message>
+  <source>Das PDF ist nicht gesichert.</source>
+  <translation>The PDF was not saved.</translation>
+ </message>
+ <message>
+  <source>Der Ordner lässt sich nicht öffnen.</source>
+  <translation>The folder cannot be opened.</translation>
  </message>
  <message>
   <source>Die Pfeiltasten verschieben die Trennlinie, die Eingabetaste beendet.</source>
@@ -890,6 +918,18 @@ Nothing is worked out for children under 10 years; it resumes at 11 years.</tr
  <message>
   <source>Die Zeile „%1“ steht für kein Lebensmittel und kommt nicht in den Plan.</source>
   <translation>The line “%1” stands for no food and does not go into the plan.</translation>
+ </message>
+ <message>
+  <source>E&amp;instellungen …</source>
+  <translation>Se&amp;ttings …</translation>
+ </message>
+ <message>
+  <source>Einstellungen</source>
+  <translation>Settings</translation>
+ </message>
+ <message>
+  <source>Erscheinungsbild</source>
+  <translation>Appearance</translation>
  </message>
  <message>
   <source>Es gibt keinen Stand, der zurückgeholt werden kann.</source>
@@ -906,6 +946,10 @@ Nothing is worked out for children under 10 years; it resumes at 11 years.</tr
  <message>
   <source>Hier wird erst ab 11 Jahren gerechnet.</source>
   <translation>Nothing is computed here below 11 years.</translation>
+ </message>
+ <message>
+  <source>In den Ordner für PDF lässt sich nichts sichern.</source>
+  <translation>Nothing can be saved in the folder for PDFs.</translation>
  </message>
  <message>
   <source>In den Plan &amp;geben</source>
@@ -932,8 +976,28 @@ Nothing is worked out for children under 10 years; it resumes at 11 years.</tr
   <translation>Next one: %1, one before: %2</translation>
  </message>
  <message>
+  <source>Ordner &amp;wählen …</source>
+  <translation>&amp;Choose folder …</translation>
+ </message>
+ <message>
+  <source>Ordner für PDF</source>
+  <translation>Folder for PDFs</translation>
+ </message>
+ <message>
+  <source>Ordner öffnen</source>
+  <translation>Open folder</translation>
+ </message>
+ <message>
   <source>Platz von „%1“</source>
   <translation>place of “%1”</translation>
+ </message>
+ <message>
+  <source>So ist es schon eingestellt.</source>
+  <translation>This is set already.</translation>
+ </message>
+ <message>
+  <source>Sprache</source>
+  <translation>Language</translation>
  </message>
  <message>
   <source>Treffer %1 von %2</source>
@@ -942,6 +1006,14 @@ Nothing is worked out for children under 10 years; it resumes at 11 years.</tr
  <message>
   <source>Trennlinie</source>
   <translation>Divider</translation>
+ </message>
+ <message>
+  <source>Was möchten Sie als PDF sichern?</source>
+  <translation>What would you like to save as a PDF?</translation>
+ </message>
+ <message>
+  <source>Wie das System: D&amp;okumente</source>
+  <translation>Like the system: D&amp;ocuments</translation>
  </message>
  <message>
   <source>Wiederholen</source>
@@ -2210,6 +2282,10 @@ New: %1</translation>
   <translation>“%1” is in the plan with %2 g.</translation>
  </message>
  <message>
+  <source>„%1“ ist nicht da oder geschützt. Wählen Sie einen anderen Ordner. Welcher vorgeschlagen wird, steht in den Einstellungen.</source>
+  <translation>“%1” is missing or protected. Choose another folder. The settings say which one is proposed.</translation>
+ </message>
+ <message>
   <source>„%1“ stand schon im Plan: Es steht jetzt am Ende und hat %2 g (vorher: %3 g).</source>
   <translation>“%1” was in the plan already: it is at the end now and has %2 g (before: %3 g).</translation>
  </message>
@@ -2271,6 +2347,10 @@ New: %1</translation>
  <message>
   <source>&amp;Ablage</source>
   <translation>&amp;File</translation>
+ </message>
+ <message>
+  <source>&amp;Als PDF sichern …</source>
+  <translation>Save &amp;as PDF …</translation>
  </message>
  <message>
   <source>&amp;Bearbeiten</source>

@@ -76,6 +76,9 @@ void Fensterrunde::gehe(const Besuch &besuch)
         "Sicherungsfenster", QStringLiteral("states"),
         [&] { Q_EMIT controller.fruehereStaendeGewuenscht(); }, besuch);
     oeffne(
+        "Einstellungsfenster", QStringLiteral("settings"),
+        [&] { Q_EMIT controller.einstellungenGewuenscht(); }, besuch);
+    oeffne(
         "Anpassungspalette", QStringLiteral("palette"), [&] { controller.Leisteanpassen(); },
         besuch);
     oeffne(

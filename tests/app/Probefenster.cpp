@@ -73,6 +73,8 @@ Tueren Probeheim::tueren()
     };
     tueren.wertungstabelle = wertungstabelle;
     tueren.drucke = drucke;
+    tueren.alsPdf = alsPdf;
+    tueren.frageNachDateien = frageNachDateien;
     tueren.sprich = sprich;
     tueren.protokolliere = [this](const QString &zeile) {
         protokoll << zeile;
