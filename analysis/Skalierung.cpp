@@ -10,10 +10,14 @@ constexpr double milligrammJeGramm = 1000;
 
 Naehrwertreihe skalieren(const Datenmodul &lebensmittel, std::int32_t menge)
 {
-    const auto gramm = static_cast<float>(menge);
+    return skalieren(lebensmittel, static_cast<float>(menge));
+}
+
+Naehrwertreihe skalieren(const Datenmodul &lebensmittel, float menge)
+{
     Naehrwertreihe reihe = {};
     for (const auto &zeile : naehrwerte) {
-        reihe[stelle(zeile.wert)] = lebensmittel.wert(zeile.wert) * gramm / 100.0F;
+        reihe[stelle(zeile.wert)] = lebensmittel.wert(zeile.wert) * menge / 100.0F;
     }
     return reihe;
 }

@@ -15,6 +15,9 @@ using Naehrwertreihe = std::array<float, anzahlNaehrwerte>;
 /// digit of some values with three or more decimals (0.007 comes back as 0.0070000007).
 Naehrwertreihe skalieren(const Datenmodul &lebensmittel, std::int32_t menge);
 
+/// The same for an amount that may have a fraction, in grams.
+Naehrwertreihe skalieren(const Datenmodul &lebensmittel, float menge);
+
 /// Whether a value and its label are to be seen: yes above 0, no at exactly 0 (either sign).
 /// Absent for a negative value and for NaN: the two stay as they are.
 std::optional<bool> sichtbarkeit(float wert);

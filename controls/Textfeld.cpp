@@ -14,16 +14,12 @@
 #include <QToolTip>
 #include <QValidator>
 
-#include <algorithm>
 #include <cmath>
 
 namespace {
 
 /// Sent by a field to itself, once per turn of the event loop, to bring its text up to date.
 const QEvent::Type auffrischen = static_cast<QEvent::Type>(QEvent::registerEventType());
-
-/// More digits behind the comma than this help nobody.
-constexpr int meisteNachkommastellen = 3;
 
 /// Lets the keys of a number pass, as far as any number of a food goes.
 class Zahlenpruefer : public QValidator
@@ -213,13 +209,7 @@ QString Textfeld::zahlText(double zahl) const
     if (!m_trailingZeros && zahl == std::trunc(zahl)) {
         return wertText(zahl, 0);
     }
-    int stellen = m_decimals;
-    if (m_significantDigits > 0 && zahl != 0 && std::isfinite(zahl)) {
-        const int fuehrend = static_cast<int>(std::floor(std::log10(std::fabs(zahl))));
-        stellen = std::clamp(m_significantDigits - 1 - fuehrend, m_decimals,
-                             std::max(m_decimals, meisteNachkommastellen));
-    }
-    return wertText(zahl, stellen);
+    return wertText(zahl, m_decimals, m_significantDigits);
 }
 
 QString Textfeld::angezeigterText(bool tippend) const

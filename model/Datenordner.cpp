@@ -36,17 +36,39 @@ QString heimatordner()
     return QDir::homePath();
 }
 
-QString Datenordner::pathForDataFile(const QString &name) const
+Datenordner::Datenordner(const QString &home)
+    : m_ordner(QDir(home).filePath(QStringLiteral("Library/Application Support/Mahlberg")))
 {
-    const QDir ordner(m_home.filePath(QStringLiteral("Library/Application Support/Mahlberg")));
-    if (!QFileInfo::exists(ordner.path())) {
+}
+
+Datenordner Datenordner::unmittelbar(const QString &ordner)
+{
+    Datenordner benannter;
+    benannter.m_ordner = QDir(QFileInfo(ordner).absoluteFilePath());
+    return benannter;
+}
+
+bool Datenordner::lege() const
+{
+    if (!QFileInfo::exists(m_ordner.path())) {
         const EngeRechte eng;
-        ordner.mkpath(QStringLiteral("."));
+        m_ordner.mkpath(QStringLiteral("."));
     }
+    return QFileInfo(m_ordner.path()).isDir();
+}
+
+QString Datenordner::datei(const QString &name) const
+{
     for (const Datendatei &zeile : datendateien) {
         if (name == zeile.name) {
-            return ordner.filePath(zeile.dateiname);
+            return m_ordner.filePath(zeile.dateiname);
         }
     }
     return {};
+}
+
+QString Datenordner::pathForDataFile(const QString &name) const
+{
+    lege(); // without a folder, reading finds nothing and writing tells of it
+    return datei(name);
 }

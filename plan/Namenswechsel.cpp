@@ -19,6 +19,13 @@ Namenswechsel leseNamenswechsel(const QString &path)
     return wechsel;
 }
 
+Namenswechsel leseNamenswechsel(const QString &path, const Lebensmittelverzeichnis &eingebaute)
+{
+    Namenswechsel wechsel = leseNamenswechsel(path);
+    erase_if(wechsel, [&eingebaute](const auto &paar) { return !eingebaute.contains(*paar); });
+    return wechsel;
+}
+
 Namensbefund pruefeNamen(const QStringList &unbekannt, const QStringList &namen,
                          const Namenswechsel &wechsel)
 {

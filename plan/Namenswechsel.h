@@ -1,5 +1,7 @@
 #pragma once
 
+#include "Datenmodul.h"
+
 #include <QHash>
 #include <QSet>
 #include <QString>
@@ -11,6 +13,9 @@ using Namenswechsel = QHash<QString, QString>;
 /// Reads the lines "former name;name of today"; one that begins with # is a remark. A file that
 /// can't be read holds none.
 Namenswechsel leseNamenswechsel(const QString &path);
+
+/// The same, without what leads to names that the built-in table does not have.
+Namenswechsel leseNamenswechsel(const QString &path, const Lebensmittelverzeichnis &eingebaute);
 
 /// What has become of the foods of a plan that are in no store under the name that the plan has for
 /// them. Each name stands once, in the order of the rows.

@@ -3,6 +3,7 @@
 #include "Ampel.h"
 #include "Archivdatei.h"
 #include "Dateihueter.h"
+#include "Planzeilen.h"
 #include "Schriftplatz.h"
 #include "Spaltenumbruch.h"
 #include "Zeichenkettentabelle.h"
@@ -215,13 +216,7 @@ void Planmodul::zeigeUeberall()
 
 const Datenmodul *Planmodul::lebensmittel(const QString &name) const
 {
-    for (const Lebensmittelverzeichnis *verzeichnis : {&Dictionary, &KundenDictionary}) {
-        const auto gefunden = verzeichnis->constFind(name);
-        if (gefunden != verzeichnis->constEnd()) {
-            return &*gefunden;
-        }
-    }
-    return nullptr;
+    return lebensmittelVon(name, Dictionary, KundenDictionary);
 }
 
 void Planmodul::nameimportvontoolbar(const QString &name)

@@ -7,7 +7,9 @@
 #include "Bmi.h"
 #include "Ganzzahl.h"
 #include "Planregeln.h"
+#include "Planurteil.h"
 #include "Planzahlen.h"
+#include "Planzeilen.h"
 #include "Prognose.h"
 #include "Zeichenkettentabelle.h"
 
@@ -67,13 +69,6 @@ void setzeStil(Zaehlfeld &feld, const Zeichenstil &stil)
     feld.setAnfang(textfarbe(stil.farbe), stil.punktgroesse);
 }
 
-/// What the face says, for those who can't see it; in the order of the faces' codes.
-constexpr std::array<const char *, 3> gesichtsworte = {
-    QT_TRANSLATE_NOOP("Mahlberg", "Ein guter Plan"),
-    QT_TRANSLATE_NOOP("Mahlberg", "Ein Plan mit Lücken"),
-    QT_TRANSLATE_NOOP("Mahlberg", "Ein unausgewogener Plan"),
-};
-
 /// What the change of the weight is called, and how it is read out.
 using Aenderungsworte = std::pair<const char *, const char *>;
 
@@ -124,18 +119,11 @@ QString prozenttext(double prozent)
                : QStringLiteral("-"); // it ran over
 }
 
-constexpr const char *leererPlan = QT_TRANSLATE_NOOP("Mahlberg", "Der Plan ist leer");
-
 } // namespace
 
 std::vector<Planzeile> Planmodul::zeilen() const
 {
-    std::vector<Planzeile> ergebnis;
-    ergebnis.reserve(static_cast<std::size_t>(PlanArray.size()));
-    for (qsizetype i = 0; i < PlanArray.size(); ++i) {
-        ergebnis.push_back({lebensmittel(PlanArray[i]), mengenarray[i]});
-    }
-    return ergebnis;
+    return planzeilen(*this, Dictionary, KundenDictionary);
 }
 
 void Planmodul::datenberechnen()
@@ -249,10 +237,7 @@ void Planmodul::zeigeWertungen(const Planauswertung &auswertung)
 void Planmodul::zeigeBeurteilung(const Planauswertung &auswertung)
 {
     planbeurteilungfaceview->entscheidung(auswertung.gesicht);
-    const char *worte = PlanArray.isEmpty()
-                            ? leererPlan
-                            : gesichtsworte.at(static_cast<std::size_t>(auswertung.gesicht - 1));
-    planworte->setText(localizedString(QString::fromUtf8(worte)) + u'\n' +
+    planworte->setText(planurteil(auswertung, PlanArray.isEmpty()) + u'\n' +
                        localizedString(QStringLiteral("%1 von 21 Punkten")).arg(auswertung.punkte));
     zeigeFehlendePunkte(auswertung);
 }

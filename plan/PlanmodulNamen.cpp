@@ -75,8 +75,7 @@ Namensbefund Planmodul::namensbefund() const
 /// The former names of foods that this table has.
 void Planmodul::ladeNamenswechsel()
 {
-    m_namenswechsel = leseNamenswechsel(m_tueren.namenswechsel);
-    erase_if(m_namenswechsel, [this](const auto &paar) { return !Dictionary.contains(*paar); });
+    m_namenswechsel = leseNamenswechsel(m_tueren.namenswechsel, Dictionary);
 }
 
 /// Tells of the foods that the plan has under names of former times.

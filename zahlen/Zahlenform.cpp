@@ -2,6 +2,7 @@
 
 #include <QRegularExpression>
 
+#include <algorithm>
 #include <cmath>
 
 namespace {
@@ -32,4 +33,15 @@ QString wertText(double zahl, int nachkommastellen)
     const int stellen = -QString::number(zahl, 'e', 0).section(u'e', 1).toInt();
     return stellen <= meisteStellen ? zahlenform().toString(zahl, 'f', stellen)
                                     : zahlenform().toString(zahl, 'e', 0);
+}
+
+QString wertText(double zahl, int nachkommastellen, int bedeutsameStellen)
+{
+    constexpr int meisteStellen = 3; // more of them help nobody
+    if (bedeutsameStellen <= 0 || zahl == 0 || !std::isfinite(zahl)) {
+        return wertText(zahl, nachkommastellen);
+    }
+    const int fuehrend = static_cast<int>(std::floor(std::log10(std::fabs(zahl))));
+    return wertText(zahl, std::clamp(bedeutsameStellen - 1 - fuehrend, nachkommastellen,
+                                     std::max(nachkommastellen, meisteStellen)));
 }
