@@ -139,9 +139,12 @@ public:
     /// Puts a button for a PDF behind the one that prints.
     void nimmPdfAuf(const Druckauftrag &auftrag, const Pdftuer &alsPdf)
     {
-        const QString text = uebersetzt(QT_TRANSLATE_NOOP("Mahlberg", "Als PDF sichern …"));
-        auto *aktion = findChild<QToolBar *>()->addAction(text);
+        const QString was = uebersetzt(QT_TRANSLATE_NOOP("Mahlberg", "Als PDF sichern …"));
+        auto *leiste = findChild<QToolBar *>();
+        QAction *aktion = leiste->addAction(QStringLiteral("PDF …"));
         aktion->setObjectName(QStringLiteral("alsPdf"));
+        aktion->setToolTip(was);
+        leiste->widgetForAction(aktion)->setAccessibleName(was);
         connect(aktion, &QAction::triggered, this, [this, auftrag, alsPdf] {
             merkeSeite(); // the PDF takes it from there
             if (alsPdf(this, auftrag)) {
@@ -284,7 +287,7 @@ Drucktuer systemdrucktuer(QSettings &einstellungen, const Meldungstuer &melde,
         QObject::connect(vorschau, &QDialog::finished, vorschau,
                          [vorschau] { vorschau->merkeSeite(); });
         // In the preview's own size a page can hardly be read.
-        constexpr QSize kleinste(692, 515); // room for its buttons
+        constexpr QSize kleinste(752, 515); // room for its buttons
         vorschau->resize(fenster->size().expandedTo(kleinste));
         vorschau->show();
     };

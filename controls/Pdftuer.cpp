@@ -139,8 +139,13 @@ private:
         return !grund && legeAb(entwurf, pdf) ? Ausgang::Geschrieben : Ausgang::Misslungen;
     }
 
+    /// What is no file, such as a device, is not replaced by one.
     static bool legeAb(const QString &entwurf, const QString &pdf)
     {
+        const QFileInfo dort(pdf);
+        if (dort.exists() && !dort.isFile()) {
+            return false;
+        }
         QFile fertiges(entwurf);
         QSaveFile datei(pdf);
         if (!fertiges.open(QIODevice::ReadOnly) || !datei.open(QIODevice::WriteOnly)) {

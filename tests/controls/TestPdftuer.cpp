@@ -14,6 +14,8 @@
 #include <QTest>
 #include <QVBoxLayout>
 
+#include <sys/stat.h>
+
 using namespace Qt::StringLiterals;
 
 /// Saving a print as a PDF without any printer: where to, what becomes of what is there, and what
@@ -229,14 +231,15 @@ void TestPdftuer::whatCanNotBeWrittenIsToldAndAnotherPlaceAskedFor_data()
     QTest::addColumn<QString>("pdf");
     QTest::newRow("a folder that is not there") << u"fehlt/a.pdf"_s;
     QTest::newRow("a folder in the place of the file") << u"."_s;
-    QTest::newRow("a device that is full") << u"/dev/full"_s;
+    QTest::newRow("a pipe in the place of the file") << u"rohr"_s;
     QTest::newRow("a name that is too long") << QString(300, u'x') + u".pdf"_s;
 }
 
 void TestPdftuer::whatCanNotBeWrittenIsToldAndAnotherPlaceAskedFor()
 {
     QFETCH(QString, pdf);
-    const QString falscher = QDir::isAbsolutePath(pdf) ? pdf : pfad(pdf);
+    const QString falscher = pfad(pdf);
+    QCOMPARE(mkfifo(QFile::encodeName(pfad(u"rohr"_s)).constData(), 0600), 0);
     m_antworten = {falscher, pfad(u"b.pdf"_s)};
     QVERIFY(sichere(auftrag()));
     QCOMPARE(m_meldungen.size(), 1);
@@ -246,13 +249,14 @@ void TestPdftuer::whatCanNotBeWrittenIsToldAndAnotherPlaceAskedFor()
     QVERIFY(nimmtDateien(QFileInfo(m_fragen[1].vorschlag).path()));
     QCOMPARE(seiten(pfad(u"b.pdf"_s)), 2);
     QVERIFY(!QFile::exists(pfad(u"fehlt"_s)));
+    QVERIFY(!QFileInfo(pfad(u"rohr"_s)).isFile()); // is one still
     QVERIFY(m_streifen->hinweise()[0].text.endsWith(pfad(u"b.pdf"_s)));
 }
 
 void TestPdftuer::withoutRoomForADraftItIsTold()
 {
     const QByteArray vorher = qgetenv("TMPDIR");
-    qputenv("TMPDIR", pfad(u"fehlt"_s).toUtf8());
+    qputenv("TMPDIR", "/proc"); // nobody makes a folder there
     m_antworten = {pfad(u"a.pdf"_s)};
     QVERIFY(!sichere(auftrag()));
     vorher.isNull() ? qunsetenv("TMPDIR") : qputenv("TMPDIR", vorher);
