@@ -66,6 +66,7 @@ Oberflaeche::Oberflaeche(const Tueren &tueren)
     , hauptfenster(mitDateien(tueren, dateien))
     , rechner(anthrotueren(mitDateien(tueren, dateien)))
     , ansage(hauptfenster, tueren.datenordner, dateien)
+    , empfang(hauptfenster, tueren.datenordner, dateien, tueren.melde, tueren.frageNachDateien)
     , gedaechtnis(hauptfenster, *tueren.einstellungen)
     , verlauf(hauptfenster)
     , m_sprich(tueren.sprich)
@@ -76,6 +77,7 @@ Oberflaeche::Oberflaeche(const Tueren &tueren)
                      [this](const QString &kuerzel) { sprich(kuerzel); });
     QObject::connect(&hauptfenster, &AppController::hilfeGewuenscht, &hilfe,
                      [this](const QWidget *fenster) { hilfe.zeige(*fenster); });
+    QObject::connect(&abwurf, &Dateiabwurf::abgeworfen, &empfang, &Dateiempfang::oeffneAdressen);
     QObject::connect(&hauptfenster, &AppController::einstellungenGewuenscht, &hauptfenster,
                      [this] { zeigeEinstellungen(); });
     ansage.beachte(*tueren.einstellungen);

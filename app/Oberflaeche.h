@@ -2,7 +2,9 @@
 
 #include "AnthroController.h"
 #include "AppController.h"
+#include "Dateiabwurf.h"
 #include "Dateiansage.h"
+#include "Dateiempfang.h"
 #include "Fenstergedaechtnis.h"
 #include "Hilfe.h"
 #include "Verlauf.h"
@@ -34,6 +36,8 @@ public:
     AppController hauptfenster;
     AnthroController rechner;
     Dateiansage ansage;
+    Dateiempfang empfang;
+    Dateiabwurf abwurf;
     Fenstergedaechtnis gedaechtnis;
     Hilfe hilfe;
     Verlauf verlauf;

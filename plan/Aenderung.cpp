@@ -10,7 +10,7 @@
 namespace {
 
 /// In the order of `Aenderungsart`.
-constexpr std::array<const char *, 10> worte = {
+constexpr std::array<const char *, 11> worte = {
     QT_TRANSLATE_NOOP("Mahlberg", "„%1“ in den Plan"),
     QT_TRANSLATE_NOOP("Mahlberg", "„%1“ aus dem Plan"),
     QT_TRANSLATE_NOOP("Mahlberg", "Menge von „%1“"),
@@ -21,6 +21,7 @@ constexpr std::array<const char *, 10> worte = {
     QT_TRANSLATE_NOOP("Mahlberg", "„%1“ geändert"),
     QT_TRANSLATE_NOOP("Mahlberg", "„%1“ gelöscht"),
     QT_TRANSLATE_NOOP("Mahlberg", "früherer Stand der eigenen Lebensmittel"),
+    QT_TRANSLATE_NOOP("Mahlberg", "Lebensmittel übernommen"),
 };
 
 } // namespace

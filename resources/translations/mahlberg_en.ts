@@ -844,12 +844,32 @@ Nothing is worked out for children under 10 years; it resumes at 11 years.</tr
   <translation>%1 (own)</translation>
  </message>
  <message>
+  <source>%1 Lebensmittel, geschrieben auf %2.</source>
+  <translation>%1 foods, written on %2.</translation>
+ </message>
+ <message>
+  <source>%1, siehe unten</source>
+  <translation>%1, see below</translation>
+ </message>
+ <message>
   <source>%1: %2</source>
   <translation>%1: %2</translation>
  </message>
  <message>
+  <source>&amp;Alle ankreuzen</source>
+  <translation>Tick &amp;all</translation>
+ </message>
+ <message>
   <source>&amp;Als PDF sichern …</source>
   <translation>Save &amp;as PDF …</translation>
+ </message>
+ <message>
+  <source>&amp;Für alle so</source>
+  <translation>&amp;The same for all</translation>
+ </message>
+ <message>
+  <source>&amp;Keines ankreuzen</source>
+  <translation>Tick &amp;none</translation>
  </message>
  <message>
   <source>&amp;Löschen …</source>
@@ -884,6 +904,10 @@ Nothing is worked out for children under 10 years; it resumes at 11 years.</tr
   <translation>Recentl&amp;y chosen foods …</translation>
  </message>
  <message>
+  <source>&amp;Übernehmen</source>
+  <translation>Take &amp;over</translation>
+ </message>
+ <message>
   <source>Als PDF sichern</source>
   <translation>Save as PDF</translation>
  </message>
@@ -892,12 +916,40 @@ Nothing is worked out for children under 10 years; it resumes at 11 years.</tr
   <translation>Save as PDF …</translation>
  </message>
  <message>
+  <source>Aus „%1“ in der Liste, aber nicht gesichert: neu %2, ersetzt %3.</source>
+  <translation>From “%1” in the list, but not saved: %2 new, %3 replaced.</translation>
+ </message>
+ <message>
+  <source>Aus „%1“ übernommen: neu %2, ersetzt %3.</source>
+  <translation>Taken over from “%1”: %2 new, %3 replaced.</translation>
+ </message>
+ <message>
   <source>Bedeutung der Farben, von links: %1</source>
   <translation>Meaning of the colours, from the left: %1</translation>
  </message>
  <message>
+  <source>Bei dem gewählten Lebensmittel ist nichts zu entscheiden.</source>
+  <translation>There is nothing to decide about the chosen food.</translation>
+ </message>
+ <message>
+  <source>Beide behalten, das der Datei mit neuem Namen</source>
+  <translation>Keep both, that of the file under a new name</translation>
+ </message>
+ <message>
+  <source>Bekannt als</source>
+  <translation>Known as</translation>
+ </message>
+ <message>
   <source>Da&amp;tei öffnen …</source>
   <translation>&amp;Open file …</translation>
+ </message>
+ <message>
+  <source>Darin hält Mahlberg selbst Ihre eigenen Lebensmittel. Sie sind schon da.</source>
+  <translation>Mahlberg itself keeps your own foods in it. They are here already.</translation>
+ </message>
+ <message>
+  <source>Darin hält Mahlberg selbst Ihren Plan. Er ist schon da.</source>
+  <translation>Mahlberg itself keeps your plan in it. It is here already.</translation>
  </message>
  <message>
   <source>Das PDF ist gesichert: %1</source>
@@ -906,6 +958,34 @@ Nothing is worked out for children under 10 years; it resumes at 11 years.</tr
  <message>
   <source>Das PDF ist nicht gesichert.</source>
   <translation>The PDF was not saved.</translation>
+ </message>
+ <message>
+  <source>Das der Datei</source>
+  <translation>That of the file</translation>
+ </message>
+ <message>
+  <source>Das der Datei nehmen</source>
+  <translation>Take that of the file</translation>
+ </message>
+ <message>
+  <source>Das ist ein Ordner, keine Datei.</source>
+  <translation>That is a folder, not a file.</translation>
+ </message>
+ <message>
+  <source>Das ist keine Datei mit Lebensmitteln.</source>
+  <translation>That is no file of foods.</translation>
+ </message>
+ <message>
+  <source>Das ist keine gewöhnliche Datei.</source>
+  <translation>That is no ordinary file.</translation>
+ </message>
+ <message>
+  <source>Das lässt sich nicht öffnen.</source>
+  <translation>That cannot be opened.</translation>
+ </message>
+ <message>
+  <source>Datei öffnen</source>
+  <translation>Open file</translation>
  </message>
  <message>
   <source>Der Ordner lässt sich nicht öffnen.</source>
@@ -920,8 +1000,28 @@ Nothing is worked out for children under 10 years; it resumes at 11 years.</tr
   <translation>The line “%1” stands for no food and does not go into the plan.</translation>
  </message>
  <message>
+  <source>Diese Datei gibt es nicht.</source>
+  <translation>There is no such file.</translation>
+ </message>
+ <message>
+  <source>Doppelte Namen: %1. Es gilt jeweils der letzte Eintrag.</source>
+  <translation>Names that stand twice: %1. The last entry holds.</translation>
+ </message>
+ <message>
   <source>E&amp;instellungen …</source>
   <translation>Se&amp;ttings …</translation>
+ </message>
+ <message>
+  <source>Ein Mahlzeitenplan mit %1 Lebensmitteln, geschrieben auf %2.</source>
+  <translation>A meal plan of %1 foods, written on %2.</translation>
+ </message>
+ <message>
+  <source>Ein Plan hält nur Namen und Mengen fest, keine Nährwerte. Davon lässt sich nichts in die eigenen Lebensmittel übernehmen.</source>
+  <translation>A plan keeps only names and amounts, no nutrient values. Nothing of it can be taken over into the own foods.</translation>
+ </message>
+ <message>
+  <source>Ein eingebautes Lebensmittel heißt ebenso. Im Plan gelten dessen Werte.</source>
+  <translation>A built-in food has the same name. In the plan, the values of that one hold.</translation>
  </message>
  <message>
   <source>Einstellungen</source>
@@ -944,8 +1044,32 @@ Nothing is worked out for children under 10 years; it resumes at 11 years.</tr
   <translation>There is nothing to undo.</translation>
  </message>
  <message>
+  <source>Für eine Datei mit Lebensmitteln ist sie zu groß.</source>
+  <translation>It is too large for a file of foods.</translation>
+ </message>
+ <message>
+  <source>Geöffnet werden nur Dateien dieses Rechners.</source>
+  <translation>Only files of this computer are opened.</translation>
+ </message>
+ <message>
   <source>Hier wird erst ab 11 Jahren gerechnet.</source>
   <translation>Nothing is computed here below 11 years.</translation>
+ </message>
+ <message>
+  <source>Hinter dem Ende folgen %1 Bytes, die nichts bedeuten.</source>
+  <translation>Behind the end follow %1 bytes that mean nothing.</translation>
+ </message>
+ <message>
+  <source>Ihr Lebensmittel neben dem der Datei</source>
+  <translation>Your food beside that of the file</translation>
+ </message>
+ <message>
+  <source>Ihres</source>
+  <translation>Yours</translation>
+ </message>
+ <message>
+  <source>Ihres behalten</source>
+  <translation>Keep yours</translation>
  </message>
  <message>
   <source>In den Ordner für PDF lässt sich nichts sichern.</source>
@@ -954,6 +1078,22 @@ Nothing is worked out for children under 10 years; it resumes at 11 years.</tr
  <message>
   <source>In den Plan &amp;geben</source>
   <translation>&amp;Add to the plan</translation>
+ </message>
+ <message>
+  <source>In die eigenen Lebensmittel kommen %1: neu %2, ersetzt %3, unter neuem Namen %4. Ihres bleibt bei %5.</source>
+  <translation>To the own foods come %1: %2 new, %3 replaced, %4 under a new name. Yours stays for %5.</translation>
+ </message>
+ <message>
+  <source>Innen anders benannt: %1. Es gilt der Name, der hier steht.</source>
+  <translation>Named otherwise inside: %1. The name that stands here holds.</translation>
+ </message>
+ <message>
+  <source>Lebensmittel (*.daten);;Alle Dateien (*)</source>
+  <translation>Foods (*.daten);;All files (*)</translation>
+ </message>
+ <message>
+  <source>Lebensmittel übernommen</source>
+  <translation>foods taken over</translation>
  </message>
  <message>
   <source>Menge von „%1“</source>
@@ -972,8 +1112,28 @@ Nothing is worked out for children under 10 years; it resumes at 11 years.</tr
   <translation>By keyboard: Return appends an item. F6 goes to the toolbar and back; there Alt and the arrow keys move an item, and Del takes it out.</translation>
  </message>
  <message>
+  <source>Name vergeben: Ihres bleibt</source>
+  <translation>name taken: yours stays</translation>
+ </message>
+ <message>
+  <source>Name vergeben: beide bleiben</source>
+  <translation>name taken: both stay</translation>
+ </message>
+ <message>
+  <source>Name vergeben: bleibt draußen</source>
+  <translation>name taken: stays out</translation>
+ </message>
+ <message>
+  <source>Name vergeben: ersetzt Ihres</source>
+  <translation>name taken: replaces yours</translation>
+ </message>
+ <message>
   <source>Nächster: %1, vorheriger: %2</source>
   <translation>Next one: %1, one before: %2</translation>
+ </message>
+ <message>
+  <source>Ohne Namen: %1.</source>
+  <translation>Without a name: %1.</translation>
  </message>
  <message>
   <source>Ordner &amp;wählen …</source>
@@ -992,8 +1152,24 @@ Nothing is worked out for children under 10 years; it resumes at 11 years.</tr
   <translation>place of “%1”</translation>
  </message>
  <message>
+  <source>Sie ist beschädigt, ab Byte %1.</source>
+  <translation>It is damaged, from byte %1 on.</translation>
+ </message>
+ <message>
+  <source>Sie ist leer.</source>
+  <translation>It is empty.</translation>
+ </message>
+ <message>
+  <source>Sie lässt sich nicht lesen. Vielleicht ist sie geschützt.</source>
+  <translation>It cannot be read. Perhaps it is protected.</translation>
+ </message>
+ <message>
   <source>So ist es schon eingestellt.</source>
   <translation>This is set already.</translation>
+ </message>
+ <message>
+  <source>So kommt nichts in die eigenen Lebensmittel.</source>
+  <translation>This way nothing comes to the own foods.</translation>
  </message>
  <message>
   <source>Sprache</source>
@@ -1008,8 +1184,24 @@ Nothing is worked out for children under 10 years; it resumes at 11 years.</tr
   <translation>Divider</translation>
  </message>
  <message>
+  <source>Was daraus wird</source>
+  <translation>What becomes of it</translation>
+ </message>
+ <message>
+  <source>Was die Datei enthält</source>
+  <translation>What the file holds</translation>
+ </message>
+ <message>
   <source>Was möchten Sie als PDF sichern?</source>
   <translation>What would you like to save as a PDF?</translation>
+ </message>
+ <message>
+  <source>Welches der beiden gilt</source>
+  <translation>Which of the two holds</translation>
+ </message>
+ <message>
+  <source>Wert</source>
+  <translation>Value</translation>
  </message>
  <message>
   <source>Wie das System: D&amp;okumente</source>
@@ -1118,6 +1310,26 @@ New: %1</translation>
 4. Send it to the meal plan with %1.</translation>
  </message>
  <message>
+  <source>bleibt draußen</source>
+  <translation>stays out</translation>
+ </message>
+ <message>
+  <source>eigenes</source>
+  <translation>own</translation>
+ </message>
+ <message>
+  <source>einem Rechner alter Bauart (Big-Endian)</source>
+  <translation>a computer of the old kind (big-endian)</translation>
+ </message>
+ <message>
+  <source>einem Rechner heutiger Bauart (Little-Endian)</source>
+  <translation>a computer of today’s kind (little-endian)</translation>
+ </message>
+ <message>
+  <source>eingebaut</source>
+  <translation>built-in</translation>
+ </message>
+ <message>
   <source>früherer Stand der eigenen Lebensmittel</source>
   <translation>earlier state of your own foods</translation>
  </message>
@@ -1130,12 +1342,32 @@ New: %1</translation>
   <translation>holds from 11 years on</translation>
  </message>
  <message>
+  <source>keine Zahl</source>
+  <translation>no number</translation>
+ </message>
+ <message>
+  <source>neu</source>
+  <translation>new</translation>
+ </message>
+ <message>
   <source>neue Namen im Plan</source>
   <translation>new names in the plan</translation>
  </message>
  <message>
   <source>noch nicht eingestellt: %1</source>
   <translation>not set yet: %1</translation>
+ </message>
+ <message>
+  <source>ohne Namen: bleibt draußen</source>
+  <translation>without a name: stays out</translation>
+ </message>
+ <message>
+  <source>schon da</source>
+  <translation>here already</translation>
+ </message>
+ <message>
+  <source>und %1 weitere</source>
+  <translation>and %1 more</translation>
  </message>
  <message>
   <source>verfehlt</source>
@@ -2258,6 +2490,10 @@ New: %1</translation>
   <translation>“%1” changed</translation>
  </message>
  <message>
+  <source>„%1“ haben Sie schon, mit anderen Werten:</source>
+  <translation>You have “%1” already, with other values:</translation>
+ </message>
+ <message>
   <source>„%1“ in den Plan</source>
   <translation>“%1” into the plan</translation>
  </message>
@@ -2304,6 +2540,10 @@ New: %1</translation>
  <message>
   <source>„%1“, je 100 g</source>
   <translation>“%1”, per 100 g</translation>
+ </message>
+ <message>
+  <source>„%1“: %2</source>
+  <translation>“%1”: %2</translation>
  </message>
  <message>
   <source>… oder ziehen Sie den Standardsatz in die Symbolleiste. Was Sie aus der Leiste herausziehen, verschwindet.</source>
