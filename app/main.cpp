@@ -1,3 +1,4 @@
+#include "Befehle.h"
 #include "Einstellungen.h"
 #include "Erscheinungsbild.h"
 #include "Fensterplatz.h"
@@ -11,12 +12,12 @@
 #include "Zeichenkettentabelle.h"
 
 #include <QApplication>
-#include <QCommandLineParser>
 #include <QFile>
 #include <QFileInfo>
 #include <QLoggingCategory>
 #include <QTemporaryDir>
 
+#include <cstdio>
 #include <memory>
 
 namespace {
@@ -24,29 +25,6 @@ namespace {
 /// Lines for those who look after the program, off until QT_LOGGING_RULES turns them on
 /// ("mahlberg.debug=true"): a search may write one for every food.
 Q_LOGGING_CATEGORY(protokoll, "mahlberg", QtInfoMsg)
-
-/// What was asked for on the command line.
-struct Auftrag
-{
-    QString rundgang; ///< folder for the pictures of the tour; null: an ordinary start
-    QString sprache;  ///< "de" or "en"; null: as kept in the settings or as the desktop has it
-};
-
-Auftrag leseAuftrag(const QApplication &app)
-{
-    QCommandLineParser leser;
-    leser.addHelpOption();
-    leser.addVersionOption();
-    const QCommandLineOption rundgang(
-        QStringLiteral("tour"), QStringLiteral("Take the tour, leave its pictures in <folder>."),
-        QStringLiteral("folder"));
-    const QCommandLineOption sprache(QStringLiteral("language"),
-                                     QStringLiteral("Language of the windows: de or en."),
-                                     QStringLiteral("language"));
-    leser.addOptions({rundgang, sprache});
-    leser.process(app);
-    return {leser.value(rundgang), leser.value(sprache)};
-}
 
 /// Asks whether to go on although the program is already at work on the same files.
 bool trotzdemOeffnen()
@@ -61,19 +39,53 @@ bool trotzdemOeffnen()
                          .gefahr = true}) == 1;
 }
 
-} // namespace
-
-int main(int argc, char **argv)
+QStringList argumente(int argc, char **argv)
 {
-    // Settings and file dialogs look for the home folder by themselves: it shall be the same one.
-    qputenv("HOME", QFile::encodeName(heimatordner()));
+    QStringList texte;
+    for (int i = 0; i < argc; ++i) {
+        texte << QString::fromLocal8Bit(argv[i]);
+    }
+    return texte;
+}
+
+/// Prints an answer. False when what was asked for can't be written.
+bool drucke(const Antwort &antwort)
+{
+    if (!antwort.meldung.isNull()) {
+        std::fputs(("mahlberg: " + antwort.meldung.toUtf8() + '\n').constData(), stderr);
+    }
+    const auto anzahl = static_cast<std::size_t>(antwort.ausgabe.size());
+    return std::fwrite(antwort.ausgabe.constData(), 1, anzahl, stdout) == anzahl &&
+           std::fflush(stdout) == 0;
+}
+
+/// Answers on the terminal. There may be no display, so nothing of windows is begun.
+int antworteOhneFenster(int &argc, char **argv, const Aufruf &aufruf)
+{
+    // What Qt remarks on the locale belongs into no answer; texts are in UTF-8 all the same.
+    QLoggingCategory::setFilterRules(QStringLiteral("default.warning=false"));
+    const QCoreApplication app(argc, argv);
+    const QString &gewuenscht = aufruf.auftrag.sprache;
+    const Sprache sprache(
+        gewuenscht.isNull() ? QSettings().value(QStringLiteral("Sprache")).toString() : gewuenscht);
+    const Antwort antwort =
+        antworte(aufruf, {.eingebauteTabelle = QStringLiteral(":/DatabaseIII.daten"),
+                          .englischeNamen = QStringLiteral(":/uebersetzungen/lebensmittel_en.qm"),
+                          .namenswechsel = QStringLiteral(":/Umbenannt.csv")});
+    if (drucke(antwort)) {
+        return antwort.ausgang;
+    }
+    drucke({{},
+            localizedString(QStringLiteral("Die Ausgabe ließ sich nicht schreiben.")),
+            Misslungen});
+    return Misslungen;
+}
+
+int zeigeFenster(int &argc, char **argv, const Auftrag &auftrag, const Datenordner &eigenerOrdner)
+{
     QApplication::setStyle(new Fokusstil);
     QApplication app(argc, argv);
-    QApplication::setApplicationName(QStringLiteral("Mahlberg"));
-    QApplication::setOrganizationName(QStringLiteral("Mahlberg"));
-    QApplication::setApplicationVersion(QStringLiteral(MAHLBERG_VERSION));
     QApplication::setWindowIcon(QIcon(QStringLiteral(":/bilder/Mahlberg.svg")));
-    const Auftrag auftrag = leseAuftrag(app);
     const Fensterplatz::Schirmwaechter schirmwaechter;
 
     // The tour leaves the user's own foods and settings alone: it has a home of its own.
@@ -93,7 +105,7 @@ int main(int argc, char **argv)
     Schreibtisch schreibtisch;
     folgeSchreibtisch(schreibtisch);
 
-    const Datenordner datenordner = eigenesHeim ? Datenordner(eigenesHeim->path()) : Datenordner();
+    const Datenordner datenordner = eigenesHeim ? Datenordner(eigenesHeim->path()) : eigenerOrdner;
     Startsperre sperre(
         QFileInfo(datenordner.pathForDataFile(QStringLiteral("customdaten"))).path());
     if (sperre.besetzt() && !trotzdemOeffnen()) {
@@ -130,4 +142,22 @@ int main(int argc, char **argv)
     QObject::connect(&oberflaeche.hauptfenster, &AppController::beendet, &app, &QApplication::quit);
     oberflaeche.hauptfenster.Hauptfenster->show();
     return QApplication::exec();
+}
+
+} // namespace
+
+int main(int argc, char **argv)
+{
+    // Settings and file dialogs look for the home folder by themselves: it shall be the same one.
+    qputenv("HOME", QFile::encodeName(heimatordner()));
+    QCoreApplication::setApplicationName(QStringLiteral("Mahlberg"));
+    QCoreApplication::setOrganizationName(QStringLiteral("Mahlberg"));
+    QCoreApplication::setApplicationVersion(QStringLiteral(MAHLBERG_VERSION));
+    const Aufruf aufruf = leseAufruf(argumente(argc, argv));
+    if (aufruf.fehler || aufruf.auftrag.befehl != Befehl::Fenster) {
+        return antworteOhneFenster(argc, argv, aufruf);
+    }
+    const std::optional<Datenordner> datenordner = datenordnerVon(aufruf.auftrag);
+    return datenordner ? zeigeFenster(argc, argv, aufruf.auftrag, *datenordner)
+                       : antworteOhneFenster(argc, argv, aufruf);
 }

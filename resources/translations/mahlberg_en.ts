@@ -848,6 +848,10 @@ Nothing is worked out for children under 10 years; it resumes at 11 years.</tr
   <translation>%1 foods, written on %2.</translation>
  </message>
  <message>
+  <source>%1 zu viel</source>
+  <translation>%1 too much</translation>
+ </message>
+ <message>
   <source>%1, siehe unten</source>
   <translation>%1, see below</translation>
  </message>
@@ -908,6 +912,22 @@ Nothing is worked out for children under 10 years; it resumes at 11 years.</tr
   <translation>Take &amp;over</translation>
  </message>
  <message>
+  <source>(eigenes Lebensmittel)</source>
+  <translation>(own food)</translation>
+ </message>
+ <message>
+  <source>--data-dir ORDNER</source>
+  <translation>--data-dir FOLDER</translation>
+ </message>
+ <message>
+  <source>--tour ORDNER</source>
+  <translation>--tour FOLDER</translation>
+ </message>
+ <message>
+  <source>1 Punkt</source>
+  <translation>1 point</translation>
+ </message>
+ <message>
   <source>Als PDF sichern</source>
   <translation>Save as PDF</translation>
  </message>
@@ -916,12 +936,32 @@ Nothing is worked out for children under 10 years; it resumes at 11 years.</tr
   <translation>Save as PDF …</translation>
  </message>
  <message>
+  <source>Anteile am Tagesbedarf</source>
+  <translation>Shares of daily need</translation>
+ </message>
+ <message>
+  <source>Anteile an der Energie</source>
+  <translation>Shares of the energy</translation>
+ </message>
+ <message>
+  <source>Auch ein eigenes Lebensmittel heißt „%1“; „--own“ zeigt dieses.</source>
+  <translation>An own food is called “%1” as well; “--own” shows that one.</translation>
+ </message>
+ <message>
+  <source>Aufruf:</source>
+  <translation>Usage:</translation>
+ </message>
+ <message>
   <source>Aus „%1“ in der Liste, aber nicht gesichert: neu %2, ersetzt %3.</source>
   <translation>From “%1” in the list, but not saved: %2 new, %3 replaced.</translation>
  </message>
  <message>
   <source>Aus „%1“ übernommen: neu %2, ersetzt %3.</source>
   <translation>Taken over from “%1”: %2 new, %3 replaced.</translation>
+ </message>
+ <message>
+  <source>BE und Relationen</source>
+  <translation>BE and ratios</translation>
  </message>
  <message>
   <source>Bedeutung der Farben, von links: %1</source>
@@ -936,8 +976,24 @@ Nothing is worked out for children under 10 years; it resumes at 11 years.</tr
   <translation>Keep both, that of the file under a new name</translation>
  </message>
  <message>
+  <source>Beispiel</source>
+  <translation>Example</translation>
+ </message>
+ <message>
   <source>Bekannt als</source>
   <translation>Known as</translation>
+ </message>
+ <message>
+  <source>Beurteilung</source>
+  <translation>Judgement</translation>
+ </message>
+ <message>
+  <source>Bewertungen</source>
+  <translation>Ratings</translation>
+ </message>
+ <message>
+  <source>Broteinheiten</source>
+  <translation>Bread units</translation>
  </message>
  <message>
   <source>Da&amp;tei öffnen …</source>
@@ -988,8 +1044,72 @@ Nothing is worked out for children under 10 years; it resumes at 11 years.</tr
   <translation>Open file</translation>
  </message>
  <message>
+  <source>Den Befehl „%1“ gibt es nicht.</source>
+  <translation>There is no command “%1”.</translation>
+ </message>
+ <message>
   <source>Der Ordner lässt sich nicht öffnen.</source>
   <translation>The folder cannot be opened.</translation>
+ </message>
+ <message>
+  <source>Der Ordner „%1“ für „--data-dir“ ist keiner oder lässt sich nicht anlegen.</source>
+  <translation>“%1” for “--data-dir” is no folder or cannot be made.</translation>
+ </message>
+ <message>
+  <source>Die Angabe „%1“ ist zu viel.</source>
+  <translation>The argument “%1” is one too many.</translation>
+ </message>
+ <message>
+  <source>Die Ausgabe ließ sich nicht schreiben.</source>
+  <translation>The output could not be written.</translation>
+ </message>
+ <message>
+  <source>Die Datei „%1“ enthält Lebensmittel und keinen Plan.</source>
+  <translation>The file “%1” holds foods and no plan.</translation>
+ </message>
+ <message>
+  <source>Die Datei „%1“ gibt es nicht.</source>
+  <translation>There is no file “%1”.</translation>
+ </message>
+ <message>
+  <source>Die Datei „%1“ ist beschädigt oder keine von Mahlberg (Byte %2: %3).</source>
+  <translation>The file “%1” is damaged or none of Mahlberg (byte %2: %3).</translation>
+ </message>
+ <message>
+  <source>Die Datei „%1“ lässt sich nicht lesen (%2).</source>
+  <translation>The file “%1” cannot be read (%2).</translation>
+ </message>
+ <message>
+  <source>Die Energie ist aus Protein, Kohlenhydraten und Fett errechnet; nach der Tabelle sind es %1.</source>
+  <translation>The energy is worked out from protein, carbohydrate and fat; by the table it is %1.</translation>
+ </message>
+ <message>
+  <source>Die Menge „%1“ ist keine Zahl von Gramm ab 0.</source>
+  <translation>The amount “%1” is no number of grams from 0 on.</translation>
+ </message>
+ <message>
+  <source>Die Option „%1“ gibt es nicht.</source>
+  <translation>There is no option “%1”.</translation>
+ </message>
+ <message>
+  <source>Die Option „%1“ passt nicht zu diesem Aufruf.</source>
+  <translation>The option “%1” does not go with this call.</translation>
+ </message>
+ <message>
+  <source>Die Option „--data-dir“ verlangt einen Ordner.</source>
+  <translation>The option “--data-dir” needs a folder.</translation>
+ </message>
+ <message>
+  <source>Die Option „--energy“ verlangt ganze kcal über 0, nicht „%1“.</source>
+  <translation>The option “--energy” needs whole kcal above 0, not “%1”.</translation>
+ </message>
+ <message>
+  <source>Die Option „--format“ kennt „text“, „csv“ und „json“, nicht „%1“.</source>
+  <translation>The option “--format” knows “text”, “csv” and “json”, not “%1”.</translation>
+ </message>
+ <message>
+  <source>Die Option „--language“ kennt „de“ und „en“, nicht „%1“.</source>
+  <translation>The option “--language” knows “de” and “en”, not “%1”.</translation>
  </message>
  <message>
   <source>Die Pfeiltasten verschieben die Trennlinie, die Eingabetaste beendet.</source>
@@ -1012,6 +1132,10 @@ Nothing is worked out for children under 10 years; it resumes at 11 years.</tr
   <translation>Se&amp;ttings …</translation>
  </message>
  <message>
+  <source>Ein Lebensmittel „%1“ gibt es nicht.</source>
+  <translation>There is no food “%1”.</translation>
+ </message>
+ <message>
   <source>Ein Mahlzeitenplan mit %1 Lebensmitteln, geschrieben auf %2.</source>
   <translation>A meal plan of %1 foods, written on %2.</translation>
  </message>
@@ -1026,6 +1150,14 @@ Nothing is worked out for children under 10 years; it resumes at 11 years.</tr
  <message>
   <source>Einstellungen</source>
   <translation>Settings</translation>
+ </message>
+ <message>
+  <source>Energie in Kilojoule</source>
+  <translation>Energy in kilojoules</translation>
+ </message>
+ <message>
+  <source>Energiebedarf am Tag, an dem „evaluate“ den Plan misst</source>
+  <translation>energy need of a day, by which “evaluate” measures the plan</translation>
  </message>
  <message>
   <source>Erscheinungsbild</source>
@@ -1044,8 +1176,16 @@ Nothing is worked out for children under 10 years; it resumes at 11 years.</tr
   <translation>There is nothing to undo.</translation>
  </message>
  <message>
+  <source>Form der Ausgabe von „evaluate“ und „food“</source>
+  <translation>form in which “evaluate” and “food” print</translation>
+ </message>
+ <message>
   <source>Für eine Datei mit Lebensmitteln ist sie zu groß.</source>
   <translation>It is too large for a file of foods.</translation>
+ </message>
+ <message>
+  <source>Gesamtbeurteilung: mittlere Deckung des Tagesbedarfs je 100 kcal, in %</source>
+  <translation>Overall judgement: mean coverage of the daily need per 100 kcal, in %</translation>
  </message>
  <message>
   <source>Geöffnet werden nur Dateien dieses Rechners.</source>
@@ -1058,6 +1198,18 @@ Nothing is worked out for children under 10 years; it resumes at 11 years.</tr
  <message>
   <source>Hinter dem Ende folgen %1 Bytes, die nichts bedeuten.</source>
   <translation>Behind the end follow %1 bytes that mean nothing.</translation>
+ </message>
+ <message>
+  <source>Hinter der Option „%1“ fehlt eine Angabe.</source>
+  <translation>The option “%1” lacks its value.</translation>
+ </message>
+ <message>
+  <source>Hinter „%1“ fehlt der Name eines Lebensmittels.</source>
+  <translation>“%1” lacks the name of a food.</translation>
+ </message>
+ <message>
+  <source>Hinter „%1“ fehlt die Datei eines Plans.</source>
+  <translation>“%1” lacks the file of a plan.</translation>
  </message>
  <message>
   <source>Ihr Lebensmittel neben dem der Datei</source>
@@ -1084,8 +1236,16 @@ Nothing is worked out for children under 10 years; it resumes at 11 years.</tr
   <translation>To the own foods come %1: %2 new, %3 replaced, %4 under a new name. Yours stays for %5.</translation>
  </message>
  <message>
+  <source>Inhaltsstoffe, Anteil am Tagesbedarf</source>
+  <translation>Nutrients, share of daily need</translation>
+ </message>
+ <message>
   <source>Innen anders benannt: %1. Es gilt der Name, der hier steht.</source>
   <translation>Named otherwise inside: %1. The name that stands here holds.</translation>
+ </message>
+ <message>
+  <source>Kohlenhydrateinheiten</source>
+  <translation>Carbohydrate units</translation>
  </message>
  <message>
   <source>Lebensmittel (*.daten);;Alle Dateien (*)</source>
@@ -1094,6 +1254,18 @@ Nothing is worked out for children under 10 years; it resumes at 11 years.</tr
  <message>
   <source>Lebensmittel übernommen</source>
   <translation>foods taken over</translation>
+ </message>
+ <message>
+  <source>Magnesium zu Calcium</source>
+  <translation>Magnesium to calcium</translation>
+ </message>
+ <message>
+  <source>Mehr sagt „mahlberg --help“.</source>
+  <translation>“mahlberg --help” tells more.</translation>
+ </message>
+ <message>
+  <source>Mehrere Lebensmittel heißen so: %1.</source>
+  <translation>Several foods have this name: %1.</translation>
  </message>
  <message>
   <source>Menge von „%1“</source>
@@ -1128,16 +1300,32 @@ Nothing is worked out for children under 10 years; it resumes at 11 years.</tr
   <translation>name taken: replaces yours</translation>
  </message>
  <message>
+  <source>Natrium zu Kalium</source>
+  <translation>Sodium to potassium</translation>
+ </message>
+ <message>
   <source>Nächster: %1, vorheriger: %2</source>
   <translation>Next one: %1, one before: %2</translation>
+ </message>
+ <message>
+  <source>Ohne Energiebedarf (--energy) zählen Energie, Protein, Fett und Kohlenhydrate keine Punkte.</source>
+  <translation>Without an energy need (--energy), energy, protein, fat and carbohydrate earn no points.</translation>
  </message>
  <message>
   <source>Ohne Namen: %1.</source>
   <translation>Without a name: %1.</translation>
  </message>
  <message>
+  <source>Optionen, vor oder hinter dem Befehl:</source>
+  <translation>Options, before or after the command:</translation>
+ </message>
+ <message>
   <source>Ordner &amp;wählen …</source>
   <translation>&amp;Choose folder …</translation>
+ </message>
+ <message>
+  <source>Ordner der eigenen Lebensmittel und des Plans; fehlt er, wird er angelegt</source>
+  <translation>folder of own foods and plan; made where there is none</translation>
  </message>
  <message>
   <source>Ordner für PDF</source>
@@ -1150,6 +1338,10 @@ Nothing is worked out for children under 10 years; it resumes at 11 years.</tr
  <message>
   <source>Platz von „%1“</source>
   <translation>place of “%1”</translation>
+ </message>
+ <message>
+  <source>Rückgabewert: 0 erledigt, 1 nicht gelungen, 2 falscher Aufruf.</source>
+  <translation>Exit status: 0 done, 1 failed, 2 wrong call.</translation>
  </message>
  <message>
   <source>Sie ist beschädigt, ab Byte %1.</source>
@@ -1174,6 +1366,10 @@ Nothing is worked out for children under 10 years; it resumes at 11 years.</tr
  <message>
   <source>Sprache</source>
   <translation>Language</translation>
+ </message>
+ <message>
+  <source>Sprache der Fenster und Texte</source>
+  <translation>language of windows and texts</translation>
  </message>
  <message>
   <source>Treffer %1 von %2</source>
@@ -1222,6 +1418,10 @@ Nothing is worked out for children under 10 years; it resumes at 11 years.</tr
  <message>
   <source>Wählen Sie zuerst eine Sportart.</source>
   <translation>First choose a sport.</translation>
+ </message>
+ <message>
+  <source>Zu der Option in „%1“ gehört keine Angabe.</source>
+  <translation>The option in “%1” takes no value.</translation>
  </message>
  <message>
   <source>Zurückgenommen: %1.</source>
@@ -1318,6 +1518,10 @@ New: %1</translation>
   <translation>own</translation>
  </message>
  <message>
+  <source>eigenes Lebensmittel</source>
+  <translation>own food</translation>
+ </message>
+ <message>
   <source>einem Rechner alter Bauart (Big-Endian)</source>
   <translation>a computer of the old kind (big-endian)</translation>
  </message>
@@ -1338,12 +1542,64 @@ New: %1</translation>
   <translation>earlier state of the plan</translation>
  </message>
  <message>
+  <source>gering</source>
+  <translation>low</translation>
+ </message>
+ <message>
   <source>gilt erst ab 11 Jahren</source>
   <translation>holds from 11 years on</translation>
  </message>
  <message>
+  <source>gut</source>
+  <translation>good</translation>
+ </message>
+ <message>
+  <source>günstig</source>
+  <translation>favourable</translation>
+ </message>
+ <message>
+  <source>heißt jetzt „%1“ und zählt nicht mit</source>
+  <translation>is now called “%1” and does not count</translation>
+ </message>
+ <message>
   <source>keine Zahl</source>
   <translation>no number</translation>
+ </message>
+ <message>
+  <source>macht einen Rundgang durch die Fenster und legt Bilder davon ab; eigene Dateien bleiben unberührt</source>
+  <translation>takes a tour through the windows and leaves pictures of it; your own files stay untouched</translation>
+ </message>
+ <message>
+  <source>mahlberg --data-dir ~/Praxis</source>
+  <translation>mahlberg --data-dir ~/Practice</translation>
+ </message>
+ <message>
+  <source>mahlberg --tour /tmp/Rundgang</source>
+  <translation>mahlberg --tour /tmp/tour</translation>
+ </message>
+ <message>
+  <source>mahlberg evaluate [OPTION …] PLAN.daten</source>
+  <translation>mahlberg evaluate [OPTION …] PLAN.daten</translation>
+ </message>
+ <message>
+  <source>mahlberg food --format json Butter</source>
+  <translation>mahlberg food --format json Butter</translation>
+ </message>
+ <message>
+  <source>mahlberg food --own Müsli</source>
+  <translation>mahlberg food --own Muesli</translation>
+ </message>
+ <message>
+  <source>mahlberg food Haferflocken 50</source>
+  <translation>mahlberg food "Wheat germ" 50</translation>
+ </message>
+ <message>
+  <source>mahlberg food [OPTION …] NAME [GRAMM]</source>
+  <translation>mahlberg food [OPTION …] NAME [GRAMS]</translation>
+ </message>
+ <message>
+  <source>mittel</source>
+  <translation>medium</translation>
  </message>
  <message>
   <source>neu</source>
@@ -1352,6 +1608,10 @@ New: %1</translation>
  <message>
   <source>neue Namen im Plan</source>
   <translation>new names in the plan</translation>
+ </message>
+ <message>
+  <source>noch %1</source>
+  <translation>%1 left</translation>
  </message>
  <message>
   <source>noch nicht eingestellt: %1</source>
@@ -1366,8 +1626,20 @@ New: %1</translation>
   <translation>here already</translation>
  </message>
  <message>
+  <source>steht in keiner Tabelle und zählt nicht mit</source>
+  <translation>stands in no table and does not count</translation>
+ </message>
+ <message>
   <source>und %1 weitere</source>
   <translation>and %1 more</translation>
+ </message>
+ <message>
+  <source>ungünstig</source>
+  <translation>unfavourable</translation>
+ </message>
+ <message>
+  <source>unter 100 kcal sagt die 0 nichts aus</source>
+  <translation>below 100 kcal the 0 says nothing</translation>
  </message>
  <message>
   <source>verfehlt</source>
@@ -2378,6 +2650,26 @@ New: %1</translation>
   <translation>Gain of weight in this period</translation>
  </message>
  <message>
+  <source>von %1</source>
+  <translation>of %1</translation>
+ </message>
+ <message>
+  <source>wertet den Mahlzeitenplan einer Datei aus</source>
+  <translation>evaluates the meal plan of a file</translation>
+ </message>
+ <message>
+  <source>zeigt die Version</source>
+  <translation>shows the version</translation>
+ </message>
+ <message>
+  <source>zeigt die Werte eines Lebensmittels, ohne Menge für 100 g</source>
+  <translation>shows the values of a food, of 100 g where no amount is given</translation>
+ </message>
+ <message>
+  <source>zeigt diese Hilfe</source>
+  <translation>shows this help</translation>
+ </message>
+ <message>
   <source>zusätzlich: %1</source>
   <translation>in addition: %1</translation>
  </message>
@@ -2450,6 +2742,10 @@ New: %1</translation>
   <translation>far outside the favourable range</translation>
  </message>
  <message>
+  <source>Ähnlich heißen: %1.</source>
+  <translation>Similar names: %1.</translation>
+ </message>
+ <message>
   <source>Änderung</source>
   <translation>Change</translation>
  </message>
@@ -2468,6 +2764,10 @@ New: %1</translation>
  <message>
   <source>Übergewicht</source>
   <translation>Overweight</translation>
+ </message>
+ <message>
+  <source>öffnet die Fenster</source>
+  <translation>opens the windows</translation>
  </message>
  <message>
   <source>„%1“</source>
@@ -2544,6 +2844,10 @@ New: %1</translation>
  <message>
   <source>„%1“: %2</source>
   <translation>“%1”: %2</translation>
+ </message>
+ <message>
+  <source>„food“ sucht nur unter den eigenen Lebensmitteln</source>
+  <translation>“food” looks among own foods only</translation>
  </message>
  <message>
   <source>… oder ziehen Sie den Standardsatz in die Symbolleiste. Was Sie aus der Leiste herausziehen, verschwindet.</source>
