@@ -5,6 +5,7 @@
 #include "Fokusstil.h"
 #include "Oberflaeche.h"
 #include "Pdftuer.h"
+#include "Postfach.h"
 #include "Rundgang.h"
 #include "Schreibtisch.h"
 #include "Sprache.h"
@@ -25,6 +26,19 @@ namespace {
 /// Lines for those who look after the program, off until QT_LOGGING_RULES turns them on
 /// ("mahlberg.debug=true"): a search may write one for every food.
 Q_LOGGING_CATEGORY(protokoll, "mahlberg", QtInfoMsg)
+
+/// How long the program that is at work may take to notice a file, in milliseconds.
+constexpr int wartezeit = 5000;
+
+/// Lets files be seen in the window that is there already, whichever is in front.
+void oeffne(Oberflaeche &oberflaeche, const QStringList &dateien)
+{
+    QMainWindow *haupt = oberflaeche.hauptfenster.Hauptfenster;
+    haupt->setWindowState(haupt->windowState() & ~Qt::WindowMinimized);
+    haupt->raise();
+    haupt->activateWindow();
+    oberflaeche.empfang.oeffne(dateien);
+}
 
 /// Asks whether to go on although the program is already at work on the same files.
 bool trotzdemOeffnen()
@@ -106,9 +120,12 @@ int zeigeFenster(int &argc, char **argv, const Auftrag &auftrag, const Datenordn
     folgeSchreibtisch(schreibtisch);
 
     const Datenordner datenordner = eigenesHeim ? Datenordner(eigenesHeim->path()) : eigenerOrdner;
-    Startsperre sperre(
-        QFileInfo(datenordner.pathForDataFile(QStringLiteral("customdaten"))).path());
-    if (sperre.besetzt() && !trotzdemOeffnen()) {
+    const QString dateiordner =
+        QFileInfo(datenordner.pathForDataFile(QStringLiteral("customdaten"))).path();
+    Startsperre sperre(dateiordner);
+    const bool uebergeben = sperre.besetzt() && !auftrag.dateien.isEmpty() &&
+                            Postfach::gibAb(dateiordner, auftrag.dateien, wartezeit);
+    if (uebergeben || (sperre.besetzt() && !trotzdemOeffnen())) {
         return 0;
     }
 
@@ -141,6 +158,17 @@ int zeigeFenster(int &argc, char **argv, const Auftrag &auftrag, const Datenordn
     schreibtisch.frage(Schreibtisch::sitzungsbus());
     QObject::connect(&oberflaeche.hauptfenster, &AppController::beendet, &app, &QApplication::quit);
     oberflaeche.hauptfenster.Hauptfenster->show();
+    std::optional<Postfach> postfach;
+    if (!sperre.besetzt()) { // else it is the other one's
+        postfach.emplace(dateiordner);
+        QObject::connect(
+            &*postfach, &Postfach::eingetroffen, &app,
+            [&oberflaeche](const QStringList &dateien) { oeffne(oberflaeche, dateien); });
+    }
+    QMetaObject::invokeMethod(
+        &oberflaeche.empfang,
+        [&oberflaeche, &auftrag] { oberflaeche.empfang.oeffne(auftrag.dateien); },
+        Qt::QueuedConnection);
     return QApplication::exec();
 }
 

@@ -170,6 +170,7 @@ QWidget *Dateifenster::lebensmitteltafel(const Lebensmittelbestand &eigene,
     m_tabelle = new QTableView;
     m_tabelle->setModel(m_modell);
     richteEin(*m_tabelle, "lebensmittel");
+    m_tabelle->horizontalHeader()->resizeSections(QHeaderView::ResizeToContents);
     m_tabelle->setColumnWidth(Uebernahmetabelle::spalteName, namensbreite);
     m_tabelle->setColumnWidth(Uebernahmetabelle::spalteLage, namensbreite);
     auto *oben = new QWidget;
@@ -242,7 +243,7 @@ QWidget *Dateifenster::unterteil()
 void Dateifenster::zeigeZeile()
 {
     const QModelIndex hier = m_tabelle->currentIndex();
-    m_erklaerung->setText(hier.data(Qt::ToolTipRole).toString());
+    m_erklaerung->setText(hier.isValid() ? m_modell->erklaerung(hier.row()) : QString());
     if (m_vergleich == nullptr) {
         return;
     }

@@ -6,6 +6,7 @@
 #include "Zweifelworte.h"
 
 #include <QStringList>
+#include <QTextDocument>
 
 #include <cmath>
 
@@ -104,17 +105,17 @@ QString Uebernahmetabelle::lagewort(const Zeile &zeile) const
     return localizedString(QStringLiteral("Name vergeben: Ihres bleibt"));
 }
 
-/// What should be known about a food before it is taken along; empty when nothing.
-QString Uebernahmetabelle::erklaerung(const Zeile &zeile) const
+QString Uebernahmetabelle::erklaerung(int zeile) const
 {
+    const Zeile &eine = m_zeilen[zeile];
     QStringList saetze;
-    if (zeile.wieEingebautes) {
+    if (eine.wieEingebautes) {
         saetze << localizedString(
             QStringLiteral("Ein eingebautes Lebensmittel heißt ebenso. Im Plan gelten dessen "
                            "Werte."));
     }
-    if (!zeile.zweifel.isEmpty()) {
-        saetze << zeile.zweifel;
+    if (!eine.zweifel.isEmpty()) {
+        saetze << eine.zweifel;
     }
     return saetze.join(u' ');
 }
@@ -128,7 +129,7 @@ QString Uebernahmetabelle::text(int zeile, int spalte) const
     }
     if (spalte == spalteLage) {
         const QString wort = lagewort(eine);
-        return erklaerung(eine).isEmpty()
+        return erklaerung(zeile).isEmpty()
                    ? wort
                    : localizedString(QStringLiteral("%1, siehe unten")).arg(wort);
     }
@@ -158,9 +159,12 @@ QVariant Uebernahmetabelle::data(const QModelIndex &index, int role) const
         return index.column() == spalteName && waehlbar(zeile.lage)
                    ? QVariant(zeile.gewaehlt ? Qt::Checked : Qt::Unchecked)
                    : QVariant();
-    case Qt::ToolTipRole:
+    case Qt::ToolTipRole: // a long name is cut off in its cell
+        return index.column() == spalteName
+                   ? QVariant(Qt::convertFromPlainText(text(index.row(), spalteName)))
+                   : QVariant();
     case Qt::AccessibleDescriptionRole:
-        return index.column() <= spalteLage ? QVariant(erklaerung(zeile)) : QVariant();
+        return index.column() <= spalteLage ? QVariant(erklaerung(index.row())) : QVariant();
     default:
         return {};
     }

@@ -36,6 +36,8 @@ public:
 
     Lage lage(int zeile) const { return m_zeilen[zeile].lage; }
     const Datenmodul &lebensmittel(int zeile) const { return m_zeilen[zeile].lebensmittel; }
+    /// What should be known about a food before it is taken along; empty when nothing.
+    QString erklaerung(int zeile) const;
     /// The own food of this row's name; null when there is none.
     const Datenmodul *eigenes(int zeile) const;
     /// The first row whose name is taken by another own food; −1 when there is none.
@@ -71,7 +73,6 @@ private:
 
     Zeile zeileFuer(const Datenmodul &eines, const Lebensmittelverzeichnis &eingebaute) const;
     QString lagewort(const Zeile &zeile) const;
-    QString erklaerung(const Zeile &zeile) const;
     QString text(int zeile, int spalte) const;
     void rechneNeu();
 

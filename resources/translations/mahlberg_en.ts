@@ -1578,6 +1578,10 @@ New: %1</translation>
   <translation>mahlberg --tour /tmp/tour</translation>
  </message>
  <message>
+  <source>mahlberg [OPTION …] DATEI.daten …</source>
+  <translation>mahlberg [OPTION …] FILE.daten …</translation>
+ </message>
+ <message>
   <source>mahlberg evaluate [OPTION …] PLAN.daten</source>
   <translation>mahlberg evaluate [OPTION …] PLAN.daten</translation>
  </message>
@@ -2668,6 +2672,10 @@ New: %1</translation>
  <message>
   <source>zeigt diese Hilfe</source>
   <translation>shows this help</translation>
+ </message>
+ <message>
+  <source>zeigt in den Fenstern, was Dateien enthalten, und übernimmt auf Wunsch ihre Lebensmittel</source>
+  <translation>shows in the windows what files hold, and takes their foods over if wanted</translation>
  </message>
  <message>
   <source>zusätzlich: %1</source>

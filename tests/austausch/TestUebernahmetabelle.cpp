@@ -24,6 +24,7 @@ private Q_SLOTS:
     void aDecisionForAllHoldsForAll();
     void valuesStandUnderTheirUnits();
     void whatShouldBeKnownIsExplained();
+    void aLongNameCanBeReadWhole();
     void anEmptyFile();
 
 private:
@@ -176,19 +177,29 @@ void TestUebernahmetabelle::valuesStandUnderTheirUnits()
 
 void TestUebernahmetabelle::whatShouldBeKnownIsExplained()
 {
-    const auto fahne = [this](int zeile) {
-        return m_tabelle->index(zeile, 0).data(Qt::ToolTipRole).toString();
+    const auto vorgelesen = [this](int zeile) {
+        return m_tabelle->index(zeile, 0).data(Qt::AccessibleDescriptionRole).toString();
     };
-    QCOMPARE(fahne(neues),
+    QCOMPARE(m_tabelle->erklaerung(neues), vorgelesen(neues));
+    QCOMPARE(vorgelesen(neues),
              u"Ein eingebautes Lebensmittel heißt ebenso. Im Plan gelten dessen Werte."_s);
-    QCOMPARE(fahne(vergebenes), QString());
+    QCOMPARE(vorgelesen(vergebenes), QString());
     Datenmodul schwer = speise(u"Blei"_s, 100);
     schwer.setprotein(80);
     schwer.setkh(80);
     m_tabelle = std::make_unique<Uebernahmetabelle>(QList{schwer}, Lebensmittelbestand(),
                                                     Lebensmittelverzeichnis());
-    QVERIFY2(fahne(0).contains(u"160,0 g in 100 g"_s), qPrintable(fahne(0)));
+    QVERIFY2(vorgelesen(0).contains(u"160,0 g in 100 g"_s), qPrintable(vorgelesen(0)));
     QVERIFY(text(0, 1).endsWith(u"siehe unten"_s));
+}
+
+/// As it is written: a tooltip would else take "<b>" for bold type.
+void TestUebernahmetabelle::aLongNameCanBeReadWhole()
+{
+    m_tabelle =
+        std::make_unique<Uebernahmetabelle>(QList<Datenmodul>{speise(u"<b>Brot"_s, 1)},
+                                            Lebensmittelbestand(), Lebensmittelverzeichnis());
+    QCOMPARE(m_tabelle->index(0, 0).data(Qt::ToolTipRole).toString(), u"<p>&lt;b&gt;Brot</p>"_s);
 }
 
 void TestUebernahmetabelle::anEmptyFile()
