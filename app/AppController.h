@@ -104,6 +104,7 @@ public:
     void zeigeTreffer();
     void zeigeTrefferInListe();
     void drucken();
+    void alsPdfSichern();
     void zeigeAnsicht(const QString &kennung);
     void Fenster();
     void Fensterschliessen();
@@ -160,6 +161,10 @@ Q_SIGNALS:
     void ausgebenGewuenscht();
     /// The list in which the keyboard is is to be put on the clipboard as a table.
     void tabelleKopierenGewuenscht();
+    /// A file of foods is to be opened.
+    void dateiGewuenscht();
+    /// The window of the settings is to be shown.
+    void einstellungenGewuenscht();
     /// The copies of own foods and plan are to be shown.
     void fruehereStaendeGewuenscht();
     /// The own foods were changed and saved. It is not sent for what `uebernimmEigene` does.
@@ -223,8 +228,11 @@ private:
     void zeigeLeeres();
     QString leereSuche() const;
     void zeigeErsteSchritte();
-    QList<Papierwertung> papierwertungen() const;
     void begruendeSperren();
+
+    // What is on display, on paper
+    std::optional<Druckauftrag> druckauftrag() const;
+    QList<Papierwertung> papierwertungen() const;
 
     // The meal plan
     Planmodul &holePlan();

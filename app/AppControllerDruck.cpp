@@ -7,9 +7,25 @@
 #include "Rollbereich.h"
 #include "Zeichenkettentabelle.h"
 
-/// Prints the view in front as it looks, with the food, its amount and its ratings above it. The
-/// calculator's views are about no food.
 void AppController::drucken()
+{
+    const std::optional<Druckauftrag> auftrag = druckauftrag();
+    if (auftrag && m_tueren.drucke) {
+        m_tueren.drucke(Hauptfenster, *auftrag);
+    }
+}
+
+void AppController::alsPdfSichern()
+{
+    const std::optional<Druckauftrag> auftrag = druckauftrag();
+    if (auftrag && m_tueren.alsPdf) {
+        m_tueren.alsPdf(Hauptfenster, *auftrag);
+    }
+}
+
+/// The view in front as it looks, with the food, its amount and its ratings above it. The
+/// calculator's views are about no food. Nothing is on display: that is said.
+std::optional<Druckauftrag> AppController::druckauftrag() const
 {
     if (DatenAnsicht->isHidden()) {
         m_tueren.melde(Hauptfenster,
@@ -17,7 +33,7 @@ void AppController::drucken()
                                                        "werden könnte.")),
                         {},
                         {localizedString(QStringLiteral("ok"))}});
-        return;
+        return {};
     }
     QWidget *ansicht = DatenAnsicht->currentWidget();
     // Of a view that rolls only a part may be seen; it is printed whole.
@@ -32,9 +48,7 @@ void AppController::drucken()
                                              seite, papierwertungen())
                                : bildauftrag({reiter}, seite);
     auftrag.form = vomLebensmittel ? reiter : QString();
-    if (m_tueren.drucke) {
-        m_tueren.drucke(Hauptfenster, mitFuss(auftrag));
-    }
+    return mitFuss(auftrag);
 }
 
 /// The ratings of the food on display, as they stand above its print.

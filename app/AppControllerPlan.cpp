@@ -15,6 +15,7 @@ Planmodul &AppController::holePlan()
                                    .datenordner = m_tueren.datenordner,
                                    .melde = m_tueren.melde,
                                    .drucke = m_tueren.drucke,
+                                   .alsPdf = m_tueren.alsPdf,
                                    .dateien = m_tueren.dateien,
                                    .einstellungen = m_tueren.einstellungen});
         connect(planmodul, &Planmodul::hilfeGewuenscht, this,

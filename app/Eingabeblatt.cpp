@@ -2,7 +2,6 @@
 
 #include "Bedenkenworte.h"
 #include "Skalierung.h"
-#include "Zeichenkettentabelle.h"
 
 #include <cmath>
 

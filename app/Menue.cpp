@@ -64,6 +64,9 @@ void baueAblage(AppController &controller)
     eintrag(ablage, QT_TRANSLATE_NOOP("Mahlberg", "Eigenes Lebensmittel &löschen …"), {},
             [&controller] { controller.LoescheneigeneLM(); });
     ablage.addSeparator();
+    eintrag(ablage, QT_TRANSLATE_NOOP("Mahlberg", "Da&tei öffnen …"), QKeySequence::Open,
+            [&controller] { Q_EMIT controller.dateiGewuenscht(); });
+    ablage.addSeparator();
     eintrag(ablage, QT_TRANSLATE_NOOP("Mahlberg", "In den Plan &geben"),
             QKeySequence(QStringLiteral("Ctrl+Return")), [&controller] { controller.gibInPlan(); });
     eintrag(ablage, QT_TRANSLATE_NOOP("Mahlberg", "In den Mahlzeiten&plan"), {},
@@ -78,6 +81,10 @@ void baueAblage(AppController &controller)
     ablage.addSeparator();
     eintrag(ablage, QT_TRANSLATE_NOOP("Mahlberg", "&Drucken …"),
             QKeySequence(QStringLiteral("Ctrl+P")), [&controller] { controller.drucken(); });
+    eintrag(ablage, QT_TRANSLATE_NOOP("Mahlberg", "&Als PDF sichern …"),
+            QKeySequence(QStringLiteral("Ctrl+Shift+P")),
+            [&controller] { controller.alsPdfSichern(); });
+    ablage.addSeparator();
     eintrag(ablage, QT_TRANSLATE_NOOP("Mahlberg", "&Frühere Stände …"), {},
             [&controller] { Q_EMIT controller.fruehereStaendeGewuenscht(); });
     ablage.addSeparator();
@@ -146,12 +153,17 @@ void baueBearbeiten(AppController &controller)
             [&controller] { controller.profilaufzu->toggle(); });
     eintrag(bearbeiten, QT_TRANSLATE_NOOP("Mahlberg", "&Zuletzt gewählte Lebensmittel …"),
             QKeySequence(QStringLiteral("Ctrl+L")), [&controller] { controller.zeigeZuletzt(); });
+    bearbeiten.addSeparator();
+    eintrag(bearbeiten, QT_TRANSLATE_NOOP("Mahlberg", "E&instellungen …"),
+            QKeySequence(QStringLiteral("Ctrl+,")),
+            [&controller] { Q_EMIT controller.einstellungenGewuenscht(); });
 }
 
 void baueErscheinungsbild(QMenu &darstellung, AppController &controller)
 {
     QMenu &auswahl = *darstellung.addMenu(localizedString(QStringLiteral("E&rscheinungsbild")));
     auto *gruppe = new QActionGroup(&auswahl);
+    gruppe->setObjectName(QStringLiteral("erscheinungsbilder"));
     const std::pair<const char *, Erscheinungsbild> zeilen[] = {
         {QT_TRANSLATE_NOOP("Mahlberg", "Wie das &System"), Erscheinungsbild::System},
         {QT_TRANSLATE_NOOP("Mahlberg", "&Hell"), Erscheinungsbild::Hell},
@@ -171,6 +183,7 @@ void baueSprache(QMenu &darstellung, AppController &controller)
 {
     QMenu &auswahl = *darstellung.addMenu(localizedString(QStringLiteral("S&prache")));
     auto *gruppe = new QActionGroup(&auswahl);
+    gruppe->setObjectName(QStringLiteral("sprachen"));
     const std::pair<const char *, const char *> zeilen[] = {{"Deutsch", "de"}, {"English", "en"}};
     for (const auto &[text, sprache] : zeilen) {
         const QString kuerzel = QLatin1String(sprache);

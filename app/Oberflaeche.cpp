@@ -2,9 +2,13 @@
 
 #include "Dateihueter.h"
 #include "Einstellungen.h"
+#include "Einstellungsfenster.h"
+#include "Einstellungsgruppen.h"
 #include "Rollbereich.h"
 #include "Textwechsel.h"
+#include "Zeichenkettentabelle.h"
 
+#include <QActionGroup>
 #include <QApplication>
 #include <QLocale>
 #include <QTabBar>
@@ -41,6 +45,7 @@ Anthrotueren anthrotueren(const Tueren &tueren)
                     .datenordner = tueren.datenordner,
                     .melde = tueren.melde,
                     .drucke = tueren.drucke,
+                    .alsPdf = tueren.alsPdf,
                     .dateien = tueren.dateien,
                     .einstellungen = tueren.einstellungen,
                 });
@@ -61,15 +66,21 @@ Oberflaeche::Oberflaeche(const Tueren &tueren)
     , hauptfenster(mitDateien(tueren, dateien))
     , rechner(anthrotueren(mitDateien(tueren, dateien)))
     , ansage(hauptfenster, tueren.datenordner, dateien)
+    , empfang(hauptfenster, tueren.datenordner, dateien, tueren.melde, tueren.frageNachDateien)
     , gedaechtnis(hauptfenster, *tueren.einstellungen)
     , verlauf(hauptfenster)
     , austausch(hauptfenster, mitDateien(tueren, dateien))
     , m_sprich(tueren.sprich)
+    , m_einstellungen(*tueren.einstellungen)
+    , m_frageNachDateien(tueren.frageNachDateien)
 {
     QObject::connect(&hauptfenster, &AppController::spracheGewaehlt, &hauptfenster,
                      [this](const QString &kuerzel) { sprich(kuerzel); });
     QObject::connect(&hauptfenster, &AppController::hilfeGewuenscht, &hilfe,
                      [this](const QWidget *fenster) { hilfe.zeige(*fenster); });
+    QObject::connect(&abwurf, &Dateiabwurf::abgeworfen, &empfang, &Dateiempfang::oeffneAdressen);
+    QObject::connect(&hauptfenster, &AppController::einstellungenGewuenscht, &hauptfenster,
+                     [this] { zeigeEinstellungen(); });
     ansage.beachte(*tueren.einstellungen);
     Rollbereich::fuelle(*hauptfenster.tabVier, rechner.koerperseite);
     Rollbereich::fuelle(*hauptfenster.tabFuenf, rechner.lebensweiseseite);
@@ -85,6 +96,26 @@ void Oberflaeche::awakeFromNib()
     ansage.beginne();
     gedaechtnis.beginne();
     verlauf.beginne();
+}
+
+void Oberflaeche::zeigeEinstellungen()
+{
+    QMainWindow *haupt = hauptfenster.Hauptfenster;
+    if (auto *offen = haupt->findChild<Einstellungsfenster *>()) {
+        offen->activateWindow();
+        return;
+    }
+    const auto eintraege = [haupt](const char *name) -> QWidget * {
+        return menuewahl(*haupt->findChild<QActionGroup *>(QLatin1String(name)));
+    };
+    auto *fenster = new Einstellungsfenster(haupt);
+    fenster->nimmAuf(localizedString(QStringLiteral("Sprache")), eintraege("sprachen"));
+    fenster->nimmAuf(localizedString(QStringLiteral("Erscheinungsbild")),
+                     eintraege("erscheinungsbilder"));
+    fenster->nimmAuf(localizedString(QStringLiteral("Ordner für PDF")),
+                     new Pdfordnerwahl(m_einstellungen, m_frageNachDateien));
+    fenster->setAttribute(Qt::WA_DeleteOnClose);
+    fenster->open();
 }
 
 void Oberflaeche::sprich(const QString &kuerzel)

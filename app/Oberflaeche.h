@@ -2,7 +2,9 @@
 
 #include "AnthroController.h"
 #include "AppController.h"
+#include "Dateiabwurf.h"
 #include "Dateiansage.h"
+#include "Dateiempfang.h"
 #include "Fenstergedaechtnis.h"
 #include "Hilfe.h"
 #include "Tabellenaustausch.h"
@@ -27,11 +29,16 @@ public:
     /// Speaks another language, "de" or "en", in all windows that are open.
     void sprich(const QString &kuerzel);
 
+    /// Opens the window of the settings, over the main window.
+    void zeigeEinstellungen();
+
     /// The keeper of the user's files, which all windows share.
     std::shared_ptr<Dateihueter> dateien;
     AppController hauptfenster;
     AnthroController rechner;
     Dateiansage ansage;
+    Dateiempfang empfang;
+    Dateiabwurf abwurf;
     Fenstergedaechtnis gedaechtnis;
     Hilfe hilfe;
     Verlauf verlauf;
@@ -41,4 +48,6 @@ private:
     static void folgeSprache(Planmodul *plan);
 
     std::function<void(const QString &)> m_sprich;
+    Einstellungen &m_einstellungen;
+    Dateituer m_frageNachDateien;
 };

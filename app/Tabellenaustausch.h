@@ -50,6 +50,7 @@ private:
 
     void bereitePlan();
     Hinweisstreifen &streifenVon(const QWidget *fenster) const;
+    QString frageNachDatei(QWidget *fenster, const Dateifrage &frage) const;
     QString ordner() const;
     void merkeOrdner(const QString &path);
 

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "Dateituer.h"
+#include "Dateifrage.h"
 #include "Datenordner.h"
 #include "Drucktuer.h"
 #include "Meldung.h"
@@ -26,11 +26,13 @@ struct Tueren
     /// resource; while it is empty, no rating of theirs is explained.
     QString wertungstabelle = {};
     Drucktuer drucke = {}; ///< prints; while it is absent, nothing does
+    Pdftuer alsPdf = {};   ///< saves a print as a PDF; while it is absent, nothing does
+    /// Asks for files or a folder; while it is absent, nobody chooses any.
+    Dateituer frageNachDateien = {};
     /// Reads and writes the user's files, for all windows of the program; a controller that gets
     /// none makes one of its own.
     std::shared_ptr<Dateihueter> dateien = {};
     /// Speaks another language ("de" or "en") from now on; while it is absent, the one of the start
     /// stays.
     std::function<void(const QString &)> sprich = {};
-    Dateituer waehleDatei = {}; ///< asks for a file; while it is absent, no list goes out or comes in
 };

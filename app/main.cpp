@@ -4,6 +4,8 @@
 #include "Fensterplatz.h"
 #include "Fokusstil.h"
 #include "Oberflaeche.h"
+#include "Pdftuer.h"
+#include "Postfach.h"
 #include "Rundgang.h"
 #include "Schreibtisch.h"
 #include "Sprache.h"
@@ -24,6 +26,19 @@ namespace {
 /// Lines for those who look after the program, off until QT_LOGGING_RULES turns them on
 /// ("mahlberg.debug=true"): a search may write one for every food.
 Q_LOGGING_CATEGORY(protokoll, "mahlberg", QtInfoMsg)
+
+/// How long the program that is at work may take to notice a file, in milliseconds.
+constexpr int wartezeit = 5000;
+
+/// Lets files be seen in the window that is there already, whichever is in front.
+void oeffne(Oberflaeche &oberflaeche, const QStringList &dateien)
+{
+    QMainWindow *haupt = oberflaeche.hauptfenster.Hauptfenster;
+    haupt->setWindowState(haupt->windowState() & ~Qt::WindowMinimized);
+    haupt->raise();
+    haupt->activateWindow();
+    oberflaeche.empfang.oeffne(dateien);
+}
 
 /// Asks whether to go on although the program is already at work on the same files.
 bool trotzdemOeffnen()
@@ -107,9 +122,12 @@ int zeigeFenster(int &argc, char **argv, const Auftrag &auftrag, const Datenordn
     folgeSchreibtisch(schreibtisch);
 
     const Datenordner datenordner = eigenesHeim ? Datenordner(eigenesHeim->path()) : eigenerOrdner;
-    Startsperre sperre(
-        QFileInfo(datenordner.pathForDataFile(QStringLiteral("customdaten"))).path());
-    if (sperre.besetzt() && !trotzdemOeffnen()) {
+    const QString dateiordner =
+        QFileInfo(datenordner.pathForDataFile(QStringLiteral("customdaten"))).path();
+    Startsperre sperre(dateiordner);
+    const bool uebergeben = sperre.besetzt() && !auftrag.dateien.isEmpty() &&
+                            Postfach::gibAb(dateiordner, auftrag.dateien, wartezeit);
+    if (uebergeben || (sperre.besetzt() && !trotzdemOeffnen())) {
         return 0;
     }
 
@@ -121,6 +139,7 @@ int zeigeFenster(int &argc, char **argv, const Auftrag &auftrag, const Datenordn
         return 0;
     };
 
+    const Pdftuer alsPdf = systempdftuer(*einstellungen, zeigeMeldung, frageNachDateien);
     Oberflaeche oberflaeche({
         .eingebauteTabelle = QStringLiteral(":/DatabaseIII.daten"),
         .datenordner = datenordner,
@@ -128,10 +147,11 @@ int zeigeFenster(int &argc, char **argv, const Auftrag &auftrag, const Datenordn
         .protokolliere = [](const QString &zeile) { qCDebug(protokoll).noquote() << zeile; },
         .einstellungen = einstellungen.get(),
         .wertungstabelle = QStringLiteral(":/Lebensmittel.csv"),
-        .drucke = eigenesHeim ? Drucktuer() : systemdrucktuer(*einstellungen, zeigeMeldung),
+        .drucke = eigenesHeim ? Drucktuer() : systemdrucktuer(*einstellungen, zeigeMeldung, alsPdf),
+        .alsPdf = eigenesHeim ? Pdftuer() : alsPdf,
+        .frageNachDateien = eigenesHeim ? Dateituer() : frageNachDateien,
         .dateien = {},
         .sprich = [&sprache](const QString &kuerzel) { sprache.sprich(kuerzel); },
-        .waehleDatei = eigenesHeim ? Dateituer() : Dateituer(frageNachDatei),
     });
     oberflaeche.awakeFromNib();
     if (!auftrag.rundgang.isNull()) {
@@ -140,6 +160,17 @@ int zeigeFenster(int &argc, char **argv, const Auftrag &auftrag, const Datenordn
     schreibtisch.frage(Schreibtisch::sitzungsbus());
     QObject::connect(&oberflaeche.hauptfenster, &AppController::beendet, &app, &QApplication::quit);
     oberflaeche.hauptfenster.Hauptfenster->show();
+    std::optional<Postfach> postfach;
+    if (!sperre.besetzt()) { // else it is the other one's
+        postfach.emplace(dateiordner);
+        QObject::connect(
+            &*postfach, &Postfach::eingetroffen, &app,
+            [&oberflaeche](const QStringList &dateien) { oeffne(oberflaeche, dateien); });
+    }
+    QMetaObject::invokeMethod(
+        &oberflaeche.empfang,
+        [&oberflaeche, &auftrag] { oberflaeche.empfang.oeffne(auftrag.dateien); },
+        Qt::QueuedConnection);
     return QApplication::exec();
 }
 

@@ -1,7 +1,9 @@
 #include "Aufruf.h"
 
 #include <QCommandLineParser>
+#include <QFileInfo>
 #include <QLocale>
+#include <QUrl>
 
 #include <algorithm>
 #include <array>
@@ -93,6 +95,7 @@ private:
     Befund leseFuerAlle();
     Befund leseBefehl();
     Befund leseFuerBefehl(const Befehlsform &form);
+    Befund leseDateien(const QStringList &worte);
     Befund leseForm();
     Befund leseEnergie();
     Befund leseMenge(const QString &text);
@@ -106,6 +109,23 @@ private:
     bool m_verstanden;
     Auftrag m_auftrag;
 };
+
+bool istDateiadresse(const QString &wort)
+{
+    return wort.startsWith(QLatin1String("file:"), Qt::CaseInsensitive);
+}
+
+bool siehtWieDateiAus(const QString &wort)
+{
+    return wort.endsWith(QLatin1String(".daten"), Qt::CaseInsensitive) || wort.contains(u'/') ||
+           istDateiadresse(wort);
+}
+
+/// The path means the same wherever the program that opens it was started.
+QString ganzerPfad(const QString &wort)
+{
+    return QFileInfo(istDateiadresse(wort) ? QUrl(wort).toLocalFile() : wort).absoluteFilePath();
+}
 
 /// The option's name without its dashes and what is behind "=".
 QString optionsname(const QString &argument)
@@ -223,8 +243,22 @@ Aufrufleser::Befund Aufrufleser::leseBefehl()
     const auto *form = std::find_if(befehle.begin(), befehle.end(), [&worte](const auto &eine) {
         return worte.constFirst() == QLatin1String(eine.wort);
     });
-    return form != befehle.end() ? leseFuerBefehl(*form)
-                                 : Aufruffehler{Fehlerart::BefehlUnbekannt, worte.constFirst()};
+    return form != befehle.end() ? leseFuerBefehl(*form) : leseDateien(worte);
+}
+
+/// A file manager gives whole paths or addresses. On the tour nobody is there to look at a file.
+Aufrufleser::Befund Aufrufleser::leseDateien(const QStringList &worte)
+{
+    if (!siehtWieDateiAus(worte.constFirst())) {
+        return Aufruffehler{Fehlerart::BefehlUnbekannt, worte.constFirst()};
+    }
+    if (gesetzt("tour")) {
+        return Aufruffehler{Fehlerart::ArgumentZuviel, worte.constFirst()};
+    }
+    for (const QString &wort : worte) {
+        m_auftrag.dateien << ganzerPfad(wort);
+    }
+    return pruefeZugehoerigkeit(fuerFenster);
 }
 
 Aufrufleser::Befund Aufrufleser::leseFuerBefehl(const Befehlsform &form)

@@ -29,6 +29,7 @@ struct Auftrag
     QString rundgang;    ///< folder for the pictures of the tour; null: an ordinary start
     QString sprache;     ///< "de" or "en"; null: as kept in the settings or as the desktop has it
     QString datenordner; ///< folder of the user's files; null: the usual one
+    QStringList dateien = {}; ///< files to be opened in the windows, by their whole paths
     Ausgabeform form = Ausgabeform::Text;
     QString name;                   ///< file of the plan or name of the food that is asked for
     float gramm = 100;              ///< of the food; finite, not negative
@@ -67,7 +68,9 @@ struct Aufruf
     std::optional<Aufruffehler> fehler;
 };
 
-/// Reads a command line, the program's own name first. Options may stand before and behind the
+/// Reads a command line, the program's own name first. What is no command is taken for files to be
+/// opened when it looks like one: with the ending ".daten", with a "/" in it, or as the address of
+/// a file. Options may stand before and behind the
 /// command, behind "--" nothing is one. Those by which Qt is told about display and style are
 /// passed over: Qt reads them itself.
 Aufruf leseAufruf(const QStringList &argumente);

@@ -34,8 +34,12 @@ struct Hilfszeile
     const char *beispiel;
 };
 
-constexpr std::array<Hilfszeile, 3> aufrufe = {{
+constexpr std::array<Hilfszeile, 4> aufrufe = {{
     {"mahlberg [OPTION …]", QT_TRANSLATE_NOOP("Mahlberg", "öffnet die Fenster"), "mahlberg"},
+    {QT_TRANSLATE_NOOP("Mahlberg", "mahlberg [OPTION …] DATEI.daten …"),
+     QT_TRANSLATE_NOOP("Mahlberg", "zeigt in den Fenstern, was Dateien enthalten, und übernimmt "
+                                   "auf Wunsch ihre Lebensmittel"),
+     "mahlberg alt.daten"},
     {QT_TRANSLATE_NOOP("Mahlberg", "mahlberg evaluate [OPTION …] PLAN.daten"),
      QT_TRANSLATE_NOOP("Mahlberg", "wertet den Mahlzeitenplan einer Datei aus"),
      "mahlberg evaluate MahlbergPlanmod.daten"},

@@ -1,6 +1,8 @@
 #include "Drucktuer.h"
 
 #include "Druckname.h"
+#include "Pdftuer.h"
+#include "Seitenanzeige.h"
 #include "Seiteneinrichtung.h"
 
 #include <QCoreApplication>
@@ -13,8 +15,8 @@
 #include <QPrintDialog>
 #include <QPrintPreviewDialog>
 #include <QPrinter>
-#include <QProgressDialog>
 #include <QSettings>
+#include <QToolBar>
 
 #include <algorithm>
 
@@ -109,36 +111,6 @@ void raeumeAuf(QPrinter &drucker)
     }
 }
 
-/// Says over the preview how many pages are done, when they take long enough to ask.
-class Seitenanzeige
-{
-public:
-    Seitenanzeige(const QString &titel, QWidget *worueber)
-        : m_fenster(QString(), uebersetzt(QT_TRANSLATE_NOOP("Mahlberg", "Abbrechen")), 0, 0,
-                    worueber)
-    {
-        constexpr int geduld = 500; // milliseconds
-        m_fenster.setWindowTitle(titel);
-        m_fenster.setWindowModality(Qt::ApplicationModal);
-        m_fenster.setMinimumDuration(geduld);
-    }
-
-    bool abgebrochen() const { return m_fenster.wasCanceled(); }
-
-    bool zeige(int fertig, int gesamt)
-    {
-        m_fenster.setMaximum(gesamt);
-        m_fenster.setLabelText(uebersetzt(QT_TRANSLATE_NOOP("Mahlberg", "Seite %1 von %2"))
-                                   .arg(qMin(fertig + 1, gesamt))
-                                   .arg(gesamt));
-        m_fenster.setValue(fertig); // lets the user cancel
-        return !abgebrochen();
-    }
-
-private:
-    QProgressDialog m_fenster;
-};
-
 /// The preview needs its printer from its first to its last moment.
 struct Druckerhalter
 {
@@ -148,9 +120,11 @@ struct Druckerhalter
 class Druckvorschau : private Druckerhalter, public QPrintPreviewDialog
 {
 public:
-    Druckvorschau(const QPageLayout &seite, const Druckauftrag &auftrag, const Meldungstuer &melde,
+    Druckvorschau(QSettings &einstellungen, const Druckauftrag &auftrag, const Meldungstuer &melde,
                   QWidget *fenster)
-        : QPrintPreviewDialog(eingerichtet(drucker, seite, auftrag.titel), fenster)
+        : QPrintPreviewDialog(eingerichtet(drucker, gemerkteSeite(einstellungen), auftrag.titel),
+                              fenster)
+        , m_einstellungen(einstellungen)
         , m_name(druckname(auftrag))
     {
         setObjectName(QStringLiteral("druckvorschau"));
@@ -160,7 +134,24 @@ public:
                 [this, auftrag, melde](QPrinter *geraet) { male(*geraet, auftrag, melde); });
     }
 
-    QPageLayout seite() const { return drucker.pageLayout(); }
+    void merkeSeite() { ::merkeSeite(m_einstellungen, drucker.pageLayout()); }
+
+    /// Puts a button for a PDF behind the one that prints.
+    void nimmPdfAuf(const Druckauftrag &auftrag, const Pdftuer &alsPdf)
+    {
+        const QString was = uebersetzt(QT_TRANSLATE_NOOP("Mahlberg", "Als PDF sichern …"));
+        auto *leiste = findChild<QToolBar *>();
+        QAction *aktion = leiste->addAction(QStringLiteral("PDF …"));
+        aktion->setObjectName(QStringLiteral("alsPdf"));
+        aktion->setToolTip(was);
+        leiste->widgetForAction(aktion)->setAccessibleName(was);
+        connect(aktion, &QAction::triggered, this, [this, auftrag, alsPdf] {
+            merkeSeite(); // the PDF takes it from there
+            if (alsPdf(this, auftrag)) {
+                reject();
+            }
+        });
+    }
 
 protected:
     /// The print dialog has messages of its own, with the name of the file in them, and proposes
@@ -181,7 +172,8 @@ private:
     void schlageDateiVor(const QPrintDialog &frage) const
     {
         if (auto *zeile = frage.findChild<QLineEdit *>(QStringLiteral("filename"))) {
-            zeile->setText(freiesPdf(dokumentenordner(), m_name));
+            const QString ordner = pdfordner(m_einstellungen);
+            zeile->setText(freiesPdf(nimmtDateien(ordner) ? ordner : dokumentenordner(), m_name));
         }
     }
 
@@ -214,6 +206,7 @@ private:
         return &geraet;
     }
 
+    QSettings &m_einstellungen;
     QString m_name;
 };
 
@@ -281,17 +274,20 @@ std::optional<QString> drucke(QPrinter &drucker, const Druckauftrag &auftrag,
     return {};
 }
 
-Drucktuer systemdrucktuer(QSettings &einstellungen, const Meldungstuer &melde)
+Drucktuer systemdrucktuer(QSettings &einstellungen, const Meldungstuer &melde,
+                          const Pdftuer &alsPdf)
 {
-    return [&einstellungen, melde](QWidget *fenster, const Druckauftrag &auftrag) {
-        auto *vorschau = new Druckvorschau(gemerkteSeite(einstellungen), auftrag, melde, fenster);
+    return [&einstellungen, melde, alsPdf](QWidget *fenster, const Druckauftrag &auftrag) {
+        auto *vorschau = new Druckvorschau(einstellungen, auftrag, melde, fenster);
+        if (alsPdf) {
+            vorschau->nimmPdfAuf(auftrag, alsPdf);
+        }
         vorschau->setAttribute(Qt::WA_DeleteOnClose);
         vorschau->setWindowModality(Qt::ApplicationModal); // what is printed stays as it is
-        QObject::connect(vorschau, &QDialog::finished, vorschau, [vorschau, &einstellungen] {
-            merkeSeite(einstellungen, vorschau->seite());
-        });
+        QObject::connect(vorschau, &QDialog::finished, vorschau,
+                         [vorschau] { vorschau->merkeSeite(); });
         // In the preview's own size a page can hardly be read.
-        constexpr QSize kleinste(692, 515); // room for its buttons
+        constexpr QSize kleinste(752, 515); // room for its buttons
         vorschau->resize(fenster->size().expandedTo(kleinste));
         vorschau->show();
     };

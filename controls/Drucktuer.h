@@ -37,13 +37,19 @@ struct Druckauftrag
 /// file without being asked.
 using Drucktuer = std::function<void(QWidget *fenster, const Druckauftrag &auftrag)>;
 
+/// Saves a print as a PDF over a window, after asking the user where. True when it is there now.
+/// Made in `main` as well; see Pdftuer.h for the one of the program.
+using Pdftuer = std::function<bool(QWidget *fenster, const Druckauftrag &auftrag)>;
+
 /// The door that shows a preview with the page setup, and from there the system's print dialog or,
-/// without a printer, the question for a PDF. For a PDF a new name in the documents folder is
-/// proposed. Many pages show how far they have come and can be
+/// without a printer, the question for a PDF. For a PDF a new name in the folder for PDFs is
+/// proposed. The preview saves a PDF through `alsPdf` too, on the paper that it shows; without that
+/// door it has no button for it. Many pages show how far they have come and can be
 /// cancelled, for the preview as well as for the print; either way the preview closes. Paper,
 /// orientation and margins come from the settings and go back there. Printing that fails is told
 /// through `melde`; cancelling does nothing. The settings outlive the door.
-Drucktuer systemdrucktuer(QSettings &einstellungen, const Meldungstuer &melde);
+Drucktuer systemdrucktuer(QSettings &einstellungen, const Meldungstuer &melde,
+                          const Pdftuer &alsPdf = {});
 
 /// Told how many pages are done and how many there will be, first with none and then after each.
 /// Answers whether to go on.

@@ -163,6 +163,7 @@ void Planmodul::verbinde()
     connect(aktionWiederholen, &QAction::triggered, this, &Planmodul::wiederholenGewuenscht);
     connect(druckknopf, &QPushButton::clicked, this, &Planmodul::druckenentscheidung);
     connect(aktionDrucken, &QAction::triggered, druckknopf, &QPushButton::click);
+    connect(aktionPdf, &QAction::triggered, this, &Planmodul::alsPdfSichern);
     connect(aktionHandbuch, &QAction::triggered, this, &Planmodul::hilfeGewuenscht);
     connect(aktionSchliessen, &QAction::triggered, m_fenster, &QWidget::close);
     connect(tabellengroesse, &Schieber::betaetigt, this,

@@ -32,6 +32,7 @@ struct Plantueren
     Datenordner datenordner;   ///< the user's data folder
     Meldungstuer melde;        ///< shows a message and waits for its answer
     Drucktuer drucke = {};     ///< prints; while it is absent, nothing does
+    Pdftuer alsPdf = {};       ///< saves a print as a PDF; while it is absent, nothing does
     /// Reads and writes the user's files, for all windows of the program; a plan that gets none
     /// makes one of its own.
     std::shared_ptr<Dateihueter> dateien = {};
@@ -126,6 +127,8 @@ public:
     // Printing
     /// Asks which of the three forms is wanted, and prints it.
     void druckenentscheidung();
+    /// Asks which of the three forms is wanted, and saves it as a PDF.
+    void alsPdfSichern();
     /// Prints the simple list: foods, grams and kilocalories, and the day's requirement.
     void drucken();
     /// Prints the evaluation as the window shows it.
@@ -213,6 +216,11 @@ private:
     void stelleZeichenDazu();
     void zeigeVerlauf(bool sichtbar);
 
+    // The three forms on paper
+    int frageNachForm(const QString &text, const QString &erklaerung) const;
+    Druckauftrag einfacheListe();
+    Druckauftrag detaillierteListe();
+    Druckauftrag grafischeDarstellung();
     void drucke(const Druckauftrag &auftrag);
 
     Plantueren m_tueren;

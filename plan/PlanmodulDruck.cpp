@@ -63,37 +63,71 @@ void frischeAuf(std::optional<Liste> &kopie, const Liste &jetzt)
 
 } // namespace
 
+/// The form that the user wants, counted from 0 as the buttons stand; below 0 when it is none.
+int Planmodul::frageNachForm(const QString &text, const QString &erklaerung) const
+{
+    return m_tueren.melde(m_fenster,
+                          {.text = text,
+                           .erklaerung = erklaerung,
+                           .knoepfe = {localizedString(QStringLiteral("Einfache Liste")),
+                                       localizedString(QStringLiteral("Detaillierte Liste")),
+                                       localizedString(QStringLiteral("Grafische Darstellung"))},
+                           .verwerfbar = true});
+}
+
 void Planmodul::druckenentscheidung()
 {
     void (Planmodul::*const formen[])() = {&Planmodul::drucken, &Planmodul::drucken3,
                                            &Planmodul::drucken2};
-    const int wahl = m_tueren.melde(
-        m_fenster, {.text = localizedString(QStringLiteral("Drucken")),
-                    .erklaerung = localizedString(QStringLiteral("Was moechten Sie drucken ? ")),
-                    .knoepfe = {localizedString(QStringLiteral("Einfache Liste")),
-                                localizedString(QStringLiteral("Detaillierte Liste")),
-                                localizedString(QStringLiteral("Grafische Darstellung"))},
-                    .verwerfbar = true});
+    const int wahl = frageNachForm(localizedString(QStringLiteral("Drucken")),
+                                   localizedString(QStringLiteral("Was moechten Sie drucken ? ")));
     if (wahl >= 0 && wahl < std::ssize(formen)) {
         (this->*formen[wahl])();
     }
 }
 
+void Planmodul::alsPdfSichern()
+{
+    Druckauftrag (Planmodul::*const formen[])() = {
+        &Planmodul::einfacheListe, &Planmodul::detaillierteListe, &Planmodul::grafischeDarstellung};
+    const int wahl =
+        frageNachForm(localizedString(QStringLiteral("Als PDF sichern")),
+                      localizedString(QStringLiteral("Was möchten Sie als PDF sichern?")));
+    if (wahl >= 0 && wahl < std::ssize(formen) && m_tueren.alsPdf) {
+        m_tueren.alsPdf(m_fenster, mitFuss((this->*formen[wahl])()));
+    }
+}
+
 void Planmodul::drucken()
+{
+    drucke(einfacheListe());
+}
+
+void Planmodul::drucken2()
+{
+    drucke(grafischeDarstellung());
+}
+
+void Planmodul::drucken3()
+{
+    drucke(detaillierteListe());
+}
+
+Druckauftrag Planmodul::einfacheListe()
 {
     kalorienuebergabe = druckwerte(zeilen(), Naehrwert::kal);
     frischeAuf(plancopy, PlanArray);
     frischeAuf(mengencopy, mengenarray);
     frischeAuf(kaloriencopy, kalorienuebergabe);
-    drucke(listenauftrag(localizedString(QStringLiteral("Liste")),
+    return listenauftrag(localizedString(QStringLiteral("Liste")),
                          [namen = PlanArray, mengen = mengenarray, kals = kalorienuebergabe,
                           soll = klient.bedarf](const QPageLayout &seite) {
                              return Planmodulprint::initWithPeople(namen, mengen, kals, soll,
                                                                    seite);
-                         }));
+                         });
 }
 
-void Planmodul::drucken2()
+Druckauftrag Planmodul::grafischeDarstellung()
 {
     window();                 // makes what is to be printed
     QList<Papierbild> bilder; // for paper across and upright
@@ -104,10 +138,10 @@ void Planmodul::drucken2()
     m_spaltenumbruch->ordne();
     Druckauftrag auftrag = bildauftrag({planname()}, bilder);
     auftrag.form = localizedString(QStringLiteral("Auswertung"));
-    drucke(auftrag);
+    return auftrag;
 }
 
-void Planmodul::drucken3()
+Druckauftrag Planmodul::detaillierteListe()
 {
     const std::vector<Planzeile> reihe = zeilen();
     for (const auto &zeile : naehrwerte) {
@@ -122,12 +156,12 @@ void Planmodul::drucken3()
     std::array<QStringList, anzahlWertungen> urteile;
     std::transform(wertungsuebergaben.begin(), wertungsuebergaben.end(), urteile.begin(),
                    [this](auto liste) { return this->*liste; });
-    drucke(listenauftrag(localizedString(QStringLiteral("Liste mit Nährstoffen")),
+    return listenauftrag(localizedString(QStringLiteral("Liste mit Nährstoffen")),
                          [namen = PlanArray, mengen = mengenarray, kals = kalorienuebergabe,
                           soll = klient.bedarf, naehrstoffe, urteile](const QPageLayout &seite) {
                              return Planmodulprint::initWithPeople2(namen, mengen, kals, soll,
                                                                     naehrstoffe, urteile, seite);
-                         }));
+                         });
 }
 
 void Planmodul::drucke(const Druckauftrag &auftrag)

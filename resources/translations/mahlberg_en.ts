@@ -860,8 +860,16 @@ Nothing is worked out for children under 10 years; it resumes at 11 years.</tr
   <translation>%1 foods are imported.</translation>
  </message>
  <message>
+  <source>%1 Lebensmittel, geschrieben auf %2.</source>
+  <translation>%1 foods, written on %2.</translation>
+ </message>
+ <message>
   <source>%1 zu viel</source>
   <translation>%1 too much</translation>
+ </message>
+ <message>
+  <source>%1, siehe unten</source>
+  <translation>%1, see below</translation>
  </message>
  <message>
   <source>%1: %2</source>
@@ -888,6 +896,14 @@ Nothing is worked out for children under 10 years; it resumes at 11 years.</tr
   <translation>%1: “%2” is too large or too small.</translation>
  </message>
  <message>
+  <source>&amp;Alle ankreuzen</source>
+  <translation>Tick &amp;all</translation>
+ </message>
+ <message>
+  <source>&amp;Als PDF sichern …</source>
+  <translation>Save &amp;as PDF …</translation>
+ </message>
+ <message>
   <source>&amp;Dezimalzeichen:</source>
   <translation>&amp;Decimal mark:</translation>
  </message>
@@ -904,8 +920,16 @@ Nothing is worked out for children under 10 years; it resumes at 11 years.</tr
   <translation>&amp;Form:</translation>
  </message>
  <message>
+  <source>&amp;Für alle so</source>
+  <translation>&amp;The same for all</translation>
+ </message>
+ <message>
   <source>&amp;Gewicht der Portion:</source>
   <translation>Weight of the &amp;portion:</translation>
+ </message>
+ <message>
+  <source>&amp;Keines ankreuzen</source>
+  <translation>Tick &amp;none</translation>
  </message>
  <message>
   <source>&amp;Liste:</source>
@@ -956,6 +980,10 @@ Nothing is worked out for children under 10 years; it resumes at 11 years.</tr
   <translation>Recentl&amp;y chosen foods …</translation>
  </message>
  <message>
+  <source>&amp;Übernehmen</source>
+  <translation>Take &amp;over</translation>
+ </message>
+ <message>
   <source>(eigenes Lebensmittel)</source>
   <translation>(own food)</translation>
  </message>
@@ -1000,6 +1028,14 @@ Nothing is worked out for children under 10 years; it resumes at 11 years.</tr
   <translation>Save as &amp;table …</translation>
  </message>
  <message>
+  <source>Als PDF sichern</source>
+  <translation>Save as PDF</translation>
+ </message>
+ <message>
+  <source>Als PDF sichern …</source>
+  <translation>Save as PDF …</translation>
+ </message>
+ <message>
   <source>Als Tabelle kopiert: %1 Zeilen.</source>
   <translation>Copied as a table: %1 rows.</translation>
  </message>
@@ -1036,6 +1072,14 @@ Nothing is worked out for children under 10 years; it resumes at 11 years.</tr
   <translation>Usage:</translation>
  </message>
  <message>
+  <source>Aus „%1“ in der Liste, aber nicht gesichert: neu %2, ersetzt %3.</source>
+  <translation>From “%1” in the list, but not saved: %2 new, %3 replaced.</translation>
+ </message>
+ <message>
+  <source>Aus „%1“ übernommen: neu %2, ersetzt %3.</source>
+  <translation>Taken over from “%1”: %2 new, %3 replaced.</translation>
+ </message>
+ <message>
   <source>BE und Relationen</source>
   <translation>BE and ratios</translation>
  </message>
@@ -1048,8 +1092,20 @@ Nothing is worked out for children under 10 years; it resumes at 11 years.</tr
   <translation>Meaning of the column “%1”</translation>
  </message>
  <message>
+  <source>Bei dem gewählten Lebensmittel ist nichts zu entscheiden.</source>
+  <translation>There is nothing to decide about the chosen food.</translation>
+ </message>
+ <message>
+  <source>Beide behalten, das der Datei mit neuem Namen</source>
+  <translation>Keep both, that of the file under a new name</translation>
+ </message>
+ <message>
   <source>Beispiel</source>
   <translation>Example</translation>
+ </message>
+ <message>
+  <source>Bekannt als</source>
+  <translation>Known as</translation>
  </message>
  <message>
   <source>Beurteilung</source>
@@ -1064,16 +1120,64 @@ Nothing is worked out for children under 10 years; it resumes at 11 years.</tr
   <translation>Bread units</translation>
  </message>
  <message>
+  <source>Da&amp;tei öffnen …</source>
+  <translation>&amp;Open file …</translation>
+ </message>
+ <message>
   <source>Daran erkennen Tabellenprogramme die Umlaute; manche andere Programme stört sie.</source>
   <translation>By it spreadsheets recognise letters with accents; it disturbs some other programs.</translation>
+ </message>
+ <message>
+  <source>Darin hält Mahlberg selbst Ihre eigenen Lebensmittel. Sie sind schon da.</source>
+  <translation>Mahlberg itself keeps your own foods in it. They are here already.</translation>
+ </message>
+ <message>
+  <source>Darin hält Mahlberg selbst Ihren Plan. Er ist schon da.</source>
+  <translation>Mahlberg itself keeps your plan in it. It is here already.</translation>
  </message>
  <message>
   <source>Das Gewicht der Portion fehlt.</source>
   <translation>The weight of the portion is missing.</translation>
  </message>
  <message>
+  <source>Das PDF ist gesichert: %1</source>
+  <translation>The PDF is saved: %1</translation>
+ </message>
+ <message>
+  <source>Das PDF ist nicht gesichert.</source>
+  <translation>The PDF was not saved.</translation>
+ </message>
+ <message>
   <source>Das Tabellenprogramm hat seine eigenen Zeichen. Für andere wählen Sie bei der Form „Selbst gewählt“.</source>
   <translation>The spreadsheet has signs of its own. For others choose “Own choice” as the form.</translation>
+ </message>
+ <message>
+  <source>Das der Datei</source>
+  <translation>That of the file</translation>
+ </message>
+ <message>
+  <source>Das der Datei nehmen</source>
+  <translation>Take that of the file</translation>
+ </message>
+ <message>
+  <source>Das ist ein Ordner, keine Datei.</source>
+  <translation>That is a folder, not a file.</translation>
+ </message>
+ <message>
+  <source>Das ist keine Datei mit Lebensmitteln.</source>
+  <translation>That is no file of foods.</translation>
+ </message>
+ <message>
+  <source>Das ist keine gewöhnliche Datei.</source>
+  <translation>That is no ordinary file.</translation>
+ </message>
+ <message>
+  <source>Das lässt sich nicht öffnen.</source>
+  <translation>That cannot be opened.</translation>
+ </message>
+ <message>
+  <source>Datei öffnen</source>
+  <translation>Open file</translation>
  </message>
  <message>
   <source>Den Befehl „%1“ gibt es nicht.</source>
@@ -1086,6 +1190,10 @@ Nothing is worked out for children under 10 years; it resumes at 11 years.</tr
  <message>
   <source>Der Name „%1“ steht schon in Zeile %2.</source>
   <translation>The name “%1” already stands in line %2.</translation>
+ </message>
+ <message>
+  <source>Der Ordner lässt sich nicht öffnen.</source>
+  <translation>The folder cannot be opened.</translation>
  </message>
  <message>
   <source>Der Ordner „%1“ für „--data-dir“ ist keiner oder lässt sich nicht anlegen.</source>
@@ -1176,12 +1284,40 @@ Nothing is worked out for children under 10 years; it resumes at 11 years.</tr
   <translation>The first lines as they are read</translation>
  </message>
  <message>
+  <source>Diese Datei gibt es nicht.</source>
+  <translation>There is no such file.</translation>
+ </message>
+ <message>
+  <source>Doppelte Namen: %1. Es gilt jeweils der letzte Eintrag.</source>
+  <translation>Names that stand twice: %1. The last entry holds.</translation>
+ </message>
+ <message>
+  <source>E&amp;instellungen …</source>
+  <translation>Se&amp;ttings …</translation>
+ </message>
+ <message>
   <source>Ein Lebensmittel „%1“ gibt es nicht.</source>
   <translation>There is no food “%1”.</translation>
  </message>
  <message>
+  <source>Ein Mahlzeitenplan mit %1 Lebensmitteln, geschrieben auf %2.</source>
+  <translation>A meal plan of %1 foods, written on %2.</translation>
+ </message>
+ <message>
+  <source>Ein Plan hält nur Namen und Mengen fest, keine Nährwerte. Davon lässt sich nichts in die eigenen Lebensmittel übernehmen.</source>
+  <translation>A plan keeps only names and amounts, no nutrient values. Nothing of it can be taken over into the own foods.</translation>
+ </message>
+ <message>
+  <source>Ein eingebautes Lebensmittel heißt ebenso. Im Plan gelten dessen Werte.</source>
+  <translation>A built-in food has the same name. In the plan, the values of that one hold.</translation>
+ </message>
+ <message>
   <source>Eingebaute Lebensmittel</source>
   <translation>Built-in foods</translation>
+ </message>
+ <message>
+  <source>Einstellungen</source>
+  <translation>Settings</translation>
  </message>
  <message>
   <source>Energie in Kilojoule</source>
@@ -1190,6 +1326,10 @@ Nothing is worked out for children under 10 years; it resumes at 11 years.</tr
  <message>
   <source>Energiebedarf am Tag, an dem „evaluate“ den Plan misst</source>
   <translation>energy need of a day, by which “evaluate” measures the plan</translation>
+ </message>
+ <message>
+  <source>Erscheinungsbild</source>
+  <translation>Appearance</translation>
  </message>
  <message>
   <source>Es gibt keinen Stand, der zurückgeholt werden kann.</source>
@@ -1216,6 +1356,10 @@ Nothing is worked out for children under 10 years; it resumes at 11 years.</tr
   <translation>form in which “evaluate” and “food” print</translation>
  </message>
  <message>
+  <source>Für eine Datei mit Lebensmitteln ist sie zu groß.</source>
+  <translation>It is too large for a file of foods.</translation>
+ </message>
+ <message>
   <source>Gesamtbeurteilung: mittlere Deckung des Tagesbedarfs je 100 kcal, in %</source>
   <translation>Overall judgement: mean coverage of the daily need per 100 kcal, in %</translation>
  </message>
@@ -1224,8 +1368,16 @@ Nothing is worked out for children under 10 years; it resumes at 11 years.</tr
   <translation>Weight of the portion (g)</translation>
  </message>
  <message>
+  <source>Geöffnet werden nur Dateien dieses Rechners.</source>
+  <translation>Only files of this computer are opened.</translation>
+ </message>
+ <message>
   <source>Hier wird erst ab 11 Jahren gerechnet.</source>
   <translation>Nothing is computed here below 11 years.</translation>
+ </message>
+ <message>
+  <source>Hinter dem Ende folgen %1 Bytes, die nichts bedeuten.</source>
+  <translation>Behind the end follow %1 bytes that mean nothing.</translation>
  </message>
  <message>
   <source>Hinter der Option „%1“ fehlt eine Angabe.</source>
@@ -1240,12 +1392,32 @@ Nothing is worked out for children under 10 years; it resumes at 11 years.</tr
   <translation>“%1” lacks the file of a plan.</translation>
  </message>
  <message>
+  <source>Ihr Lebensmittel neben dem der Datei</source>
+  <translation>Your food beside that of the file</translation>
+ </message>
+ <message>
+  <source>Ihres</source>
+  <translation>Yours</translation>
+ </message>
+ <message>
+  <source>Ihres behalten</source>
+  <translation>Keep yours</translation>
+ </message>
+ <message>
   <source>In Zeile %1 beginnt ein Anführungszeichen, das nicht endet.</source>
   <translation>In line %1 a quotation mark begins that does not end.</translation>
  </message>
  <message>
+  <source>In den Ordner für PDF lässt sich nichts sichern.</source>
+  <translation>Nothing can be saved in the folder for PDFs.</translation>
+ </message>
+ <message>
   <source>In den Plan &amp;geben</source>
   <translation>&amp;Add to the plan</translation>
+ </message>
+ <message>
+  <source>In die eigenen Lebensmittel kommen %1: neu %2, ersetzt %3, unter neuem Namen %4. Ihres bleibt bei %5.</source>
+  <translation>To the own foods come %1: %2 new, %3 replaced, %4 under a new name. Yours stays for %5.</translation>
  </message>
  <message>
   <source>In dieser Liste steht nichts zum Kopieren.</source>
@@ -1254,6 +1426,10 @@ Nothing is worked out for children under 10 years; it resumes at 11 years.</tr
  <message>
   <source>Inhaltsstoffe, Anteil am Tagesbedarf</source>
   <translation>Nutrients, share of daily need</translation>
+ </message>
+ <message>
+  <source>Innen anders benannt: %1. Es gilt der Name, der hier steht.</source>
+  <translation>Named otherwise inside: %1. The name that stands here holds.</translation>
  </message>
  <message>
   <source>Keine Spalte ist als Nährwert gewählt.</source>
@@ -1276,8 +1452,16 @@ Nothing is worked out for children under 10 years; it resumes at 11 years.</tr
   <translation>&amp;Import foods …</translation>
  </message>
  <message>
+  <source>Lebensmittel (*.daten);;Alle Dateien (*)</source>
+  <translation>Foods (*.daten);;All files (*)</translation>
+ </message>
+ <message>
   <source>Lebensmittel einlesen</source>
   <translation>Import foods</translation>
+ </message>
+ <message>
+  <source>Lebensmittel übernommen</source>
+  <translation>foods taken over</translation>
  </message>
  <message>
   <source>Magnesium zu Calcium</source>
@@ -1312,6 +1496,22 @@ Nothing is worked out for children under 10 years; it resumes at 11 years.</tr
   <translation>By keyboard: Return appends an item. F6 goes to the toolbar and back; there Alt and the arrow keys move an item, and Del takes it out.</translation>
  </message>
  <message>
+  <source>Name vergeben: Ihres bleibt</source>
+  <translation>name taken: yours stays</translation>
+ </message>
+ <message>
+  <source>Name vergeben: beide bleiben</source>
+  <translation>name taken: both stay</translation>
+ </message>
+ <message>
+  <source>Name vergeben: bleibt draußen</source>
+  <translation>name taken: stays out</translation>
+ </message>
+ <message>
+  <source>Name vergeben: ersetzt Ihres</source>
+  <translation>name taken: replaces yours</translation>
+ </message>
+ <message>
   <source>Natrium zu Kalium</source>
   <translation>Sodium to potassium</translation>
  </message>
@@ -1336,12 +1536,28 @@ Nothing is worked out for children under 10 years; it resumes at 11 years.</tr
   <translation>Without an energy need (--energy), energy, protein, fat and carbohydrate earn no points.</translation>
  </message>
  <message>
+  <source>Ohne Namen: %1.</source>
+  <translation>Without a name: %1.</translation>
+ </message>
+ <message>
   <source>Optionen, vor oder hinter dem Befehl:</source>
   <translation>Options, before or after the command:</translation>
  </message>
  <message>
+  <source>Ordner &amp;wählen …</source>
+  <translation>&amp;Choose folder …</translation>
+ </message>
+ <message>
   <source>Ordner der eigenen Lebensmittel und des Plans; fehlt er, wird er angelegt</source>
   <translation>folder of own foods and plan; made where there is none</translation>
+ </message>
+ <message>
+  <source>Ordner für PDF</source>
+  <translation>Folder for PDFs</translation>
+ </message>
+ <message>
+  <source>Ordner öffnen</source>
+  <translation>Open folder</translation>
  </message>
  <message>
   <source>Platz von „%1“</source>
@@ -1368,6 +1584,10 @@ Nothing is worked out for children under 10 years; it resumes at 11 years.</tr
   <translation>Vertical bar |</translation>
  </message>
  <message>
+  <source>Sie ist beschädigt, ab Byte %1.</source>
+  <translation>It is damaged, from byte %1 on.</translation>
+ </message>
+ <message>
   <source>Sie ist größer als 50 MB.</source>
   <translation>It is larger than 50 MB.</translation>
  </message>
@@ -1380,12 +1600,28 @@ Nothing is worked out for children under 10 years; it resumes at 11 years.</tr
   <translation>It is empty.</translation>
  </message>
  <message>
+  <source>Sie lässt sich nicht lesen. Vielleicht ist sie geschützt.</source>
+  <translation>It cannot be read. Perhaps it is protected.</translation>
+ </message>
+ <message>
+  <source>So ist es schon eingestellt.</source>
+  <translation>This is set already.</translation>
+ </message>
+ <message>
+  <source>So kommt nichts in die eigenen Lebensmittel.</source>
+  <translation>This way nothing comes to the own foods.</translation>
+ </message>
+ <message>
   <source>Spalte %1</source>
   <translation>Column %1</translation>
  </message>
  <message>
   <source>Spalte „%1“: „%2“ ist als %3 gelesen.</source>
   <translation>Column “%1”: “%2” is read as %3.</translation>
+ </message>
+ <message>
+  <source>Sprache</source>
+  <translation>Language</translation>
  </message>
  <message>
   <source>Sprache der Fenster und Texte</source>
@@ -1424,8 +1660,32 @@ Nothing is worked out for children under 10 years; it resumes at 11 years.</tr
   <translation>Nothing stands below the headings.</translation>
  </message>
  <message>
+  <source>Was daraus wird</source>
+  <translation>What becomes of it</translation>
+ </message>
+ <message>
+  <source>Was die Datei enthält</source>
+  <translation>What the file holds</translation>
+ </message>
+ <message>
+  <source>Was möchten Sie als PDF sichern?</source>
+  <translation>What would you like to save as a PDF?</translation>
+ </message>
+ <message>
   <source>Was zu dieser Datei zu sagen ist</source>
   <translation>What there is to say about this file</translation>
+ </message>
+ <message>
+  <source>Welches der beiden gilt</source>
+  <translation>Which of the two holds</translation>
+ </message>
+ <message>
+  <source>Wert</source>
+  <translation>Value</translation>
+ </message>
+ <message>
+  <source>Wie das System: D&amp;okumente</source>
+  <translation>Like the system: D&amp;ocuments</translation>
  </message>
  <message>
   <source>Wie das Tabellenprogramm</source>
@@ -1542,6 +1802,10 @@ New: %1</translation>
 4. Send it to the meal plan with %1.</translation>
  </message>
  <message>
+  <source>bleibt draußen</source>
+  <translation>stays out</translation>
+ </message>
+ <message>
   <source>bleibt weg</source>
   <translation>is left out</translation>
  </message>
@@ -1550,12 +1814,28 @@ New: %1</translation>
   <translation>replace own</translation>
  </message>
  <message>
+  <source>eigenes</source>
+  <translation>own</translation>
+ </message>
+ <message>
   <source>eigenes Lebensmittel</source>
   <translation>own food</translation>
  </message>
  <message>
   <source>eine Portion</source>
   <translation>a portion</translation>
+ </message>
+ <message>
+  <source>einem Rechner alter Bauart (Big-Endian)</source>
+  <translation>a computer of the old kind (big-endian)</translation>
+ </message>
+ <message>
+  <source>einem Rechner heutiger Bauart (Little-Endian)</source>
+  <translation>a computer of today’s kind (little-endian)</translation>
+ </message>
+ <message>
+  <source>eingebaut</source>
+  <translation>built-in</translation>
  </message>
  <message>
   <source>eingelesene Lebensmittel</source>
@@ -1594,6 +1874,10 @@ New: %1</translation>
   <translation>found out for each column</translation>
  </message>
  <message>
+  <source>keine Zahl</source>
+  <translation>no number</translation>
+ </message>
+ <message>
   <source>macht einen Rundgang durch die Fenster und legt Bilder davon ab; eigene Dateien bleiben unberührt</source>
   <translation>takes a tour through the windows and leaves pictures of it; your own files stay untouched</translation>
  </message>
@@ -1604,6 +1888,10 @@ New: %1</translation>
  <message>
   <source>mahlberg --tour /tmp/Rundgang</source>
   <translation>mahlberg --tour /tmp/tour</translation>
+ </message>
+ <message>
+  <source>mahlberg [OPTION …] DATEI.daten …</source>
+  <translation>mahlberg [OPTION …] FILE.daten …</translation>
  </message>
  <message>
   <source>mahlberg evaluate [OPTION …] PLAN.daten</source>
@@ -1630,6 +1918,10 @@ New: %1</translation>
   <translation>medium</translation>
  </message>
  <message>
+  <source>neu</source>
+  <translation>new</translation>
+ </message>
+ <message>
   <source>neue Namen im Plan</source>
   <translation>new names in the plan</translation>
  </message>
@@ -1642,8 +1934,20 @@ New: %1</translation>
   <translation>not set yet: %1</translation>
  </message>
  <message>
+  <source>ohne Namen: bleibt draußen</source>
+  <translation>without a name: stays out</translation>
+ </message>
+ <message>
+  <source>schon da</source>
+  <translation>here already</translation>
+ </message>
+ <message>
   <source>steht in keiner Tabelle und zählt nicht mit</source>
   <translation>stands in no table and does not count</translation>
+ </message>
+ <message>
+  <source>und %1 weitere</source>
+  <translation>and %1 more</translation>
  </message>
  <message>
   <source>ungünstig</source>
@@ -2686,6 +2990,10 @@ New: %1</translation>
   <translation>shows this help</translation>
  </message>
  <message>
+  <source>zeigt in den Fenstern, was Dateien enthalten, und übernimmt auf Wunsch ihre Lebensmittel</source>
+  <translation>shows in the windows what files hold, and takes their foods over if wanted</translation>
+ </message>
+ <message>
   <source>zusätzlich: %1</source>
   <translation>in addition: %1</translation>
  </message>
@@ -2810,6 +3118,10 @@ New: %1</translation>
   <translation>“%1” changed</translation>
  </message>
  <message>
+  <source>„%1“ haben Sie schon, mit anderen Werten:</source>
+  <translation>You have “%1” already, with other values:</translation>
+ </message>
+ <message>
   <source>„%1“ heißt wie ein eingebautes Lebensmittel; im Plan zählt das eingebaute.</source>
   <translation>“%1” is called like a built-in food; in the plan the built-in one counts.</translation>
  </message>
@@ -2842,6 +3154,10 @@ New: %1</translation>
   <translation>“%1” is in the plan with %2 g.</translation>
  </message>
  <message>
+  <source>„%1“ ist nicht da oder geschützt. Wählen Sie einen anderen Ordner. Welcher vorgeschlagen wird, steht in den Einstellungen.</source>
+  <translation>“%1” is missing or protected. Choose another folder. The settings say which one is proposed.</translation>
+ </message>
+ <message>
   <source>„%1“ lässt sich nicht einlesen. %2</source>
   <translation>“%1” can’t be imported. %2</translation>
  </message>
@@ -2864,6 +3180,10 @@ New: %1</translation>
  <message>
   <source>„%1“, je 100 g</source>
   <translation>“%1”, per 100 g</translation>
+ </message>
+ <message>
+  <source>„%1“: %2</source>
+  <translation>“%1”: %2</translation>
  </message>
  <message>
   <source>„food“ sucht nur unter den eigenen Lebensmitteln</source>
@@ -2915,6 +3235,10 @@ New: %1</translation>
  <message>
   <source>&amp;Ablage</source>
   <translation>&amp;File</translation>
+ </message>
+ <message>
+  <source>&amp;Als PDF sichern …</source>
+  <translation>Save &amp;as PDF …</translation>
  </message>
  <message>
   <source>&amp;Bearbeiten</source>

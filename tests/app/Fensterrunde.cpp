@@ -1,5 +1,6 @@
 #include "Fensterrunde.h"
 
+#include "Archivdatei.h"
 #include "Ueber.h"
 
 #include <QApplication>
@@ -75,6 +76,16 @@ void Fensterrunde::gehe(const Besuch &besuch)
     oeffne(
         "Sicherungsfenster", QStringLiteral("states"),
         [&] { Q_EMIT controller.fruehereStaendeGewuenscht(); }, besuch);
+    oeffne(
+        "Einstellungsfenster", QStringLiteral("settings"),
+        [&] { Q_EMIT controller.einstellungenGewuenscht(); }, besuch);
+    const QString datei = m_heim.pfad(QStringLiteral("alt.daten"));
+    QVERIFY(Archivdatei::schreiben(
+        datei, verzeichnis({lebensmittel(QStringLiteral("Eigenes"), {{Naehrwert::kal, 5}}),
+                            lebensmittel(QStringLiteral("Neues"))})));
+    oeffne(
+        "Dateifenster", QStringLiteral("opened file"),
+        [&] { m_fenster->oberflaeche().empfang.oeffne({datei}); }, besuch);
     oeffne(
         "Anpassungspalette", QStringLiteral("palette"), [&] { controller.Leisteanpassen(); },
         besuch);

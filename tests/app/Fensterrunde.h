@@ -7,8 +7,8 @@
 
 /// All windows of the program, one after the other, in one language: the main window with each of
 /// its tabs, with the box for saving and with the profile, the sheet for own foods, the plan, the
-/// former states, the palette of the toolbar, the question before a print, and the one about the
-/// program.
+/// former states, the settings, a file that is opened, the palette of the toolbar, the question
+/// before a print, and the one about the program.
 class Fensterrunde
 {
 public:

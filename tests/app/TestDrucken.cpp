@@ -34,6 +34,10 @@ private Q_SLOTS:
     void theWindowLooksAsBefore();
     void itPrintsInEnglish();
     void withoutADoorNothingHappens();
+    void thePanelInFrontIsSavedAsAPdf_data();
+    void thePanelInFrontIsSavedAsAPdf();
+    void nothingOnDisplayIsNotSaved();
+    void theCalculatorsPlanSavesItsFormsToo();
 
 private:
     void oeffne() { m_fenster = std::make_unique<Probefenster>(*m_heim); }
@@ -286,6 +290,74 @@ void TestDrucken::withoutADoorNothingHappens()
     (*m_fenster)->drucken();
     QVERIFY(m_heim->meldungen.isEmpty());
     QVERIFY((*m_fenster)->Hauptfenster->isVisible());
+}
+
+void TestDrucken::thePanelInFrontIsSavedAsAPdf_data()
+{
+    QTest::addColumn<int>("reiter");
+    QTest::addColumn<QString>("titel");
+    QTest::addColumn<QString>("form");
+    QTest::newRow("nutrients") << 0 << u"Äpfel, roh"_s << u"Nährstoffe"_s;
+    QTest::newRow("daily need") << 1 << u"Äpfel, roh"_s << u"Tagesbedarf"_s;
+    QTest::newRow("bread units") << 2 << u"Äpfel, roh"_s << u"BE und Relationen"_s;
+    QTest::newRow("body") << 3 << u"Körper und Energie"_s << QString();
+    QTest::newRow("alcohol and sport") << 4 << u"Alkohol und Sport"_s << QString();
+}
+
+/// What a print would be becomes a PDF, and no printer is asked for.
+void TestDrucken::thePanelInFrontIsSavedAsAPdf()
+{
+    QFETCH(int, reiter);
+    int gedruckt = 0;
+    m_heim->drucke = [&gedruckt](QWidget *, const Druckauftrag &) {
+        ++gedruckt;
+    };
+    QString form;
+    m_heim->alsPdf = [this, &form](QWidget *fenster, const Druckauftrag &auftrag) {
+        form = auftrag.form;
+        m_druck->tuer()(fenster, auftrag);
+        return true;
+    };
+    oeffne();
+    (*m_fenster)->DatenAnsicht->setCurrentIndex(reiter);
+    QTest::keyClick((*m_fenster)->Hauptfenster, Qt::Key_P, Qt::ControlModifier | Qt::ShiftModifier);
+    QCOMPARE(m_druck->auftraege, 1);
+    QCOMPARE(gedruckt, 0);
+    QCOMPARE(m_druck->fenster, (*m_fenster)->Hauptfenster);
+    QTEST(m_druck->titel, "titel");
+    QTEST(form, "form");
+    QVERIFY(this->gedruckt().endsWith(u"Seite 1 von 1 Mahlberg"_s));
+}
+
+void TestDrucken::nothingOnDisplayIsNotSaved()
+{
+    int gesichert = 0;
+    m_heim->alsPdf = [&gesichert](QWidget *, const Druckauftrag &) {
+        return ++gesichert > 0;
+    };
+    oeffne();
+    (*m_fenster)->DatenAnsicht->hide();
+    (*m_fenster)->alsPdfSichern();
+    QCOMPARE(gesichert, 0);
+    QCOMPARE(m_heim->meldungen.size(), 1);
+    (*m_fenster)->DatenAnsicht->show();
+    (*m_fenster)->alsPdfSichern();
+    QCOMPARE(gesichert, 1);
+}
+
+void TestDrucken::theCalculatorsPlanSavesItsFormsToo()
+{
+    QStringList formen;
+    m_heim->alsPdf = [&formen](QWidget *, const Druckauftrag &auftrag) {
+        formen << auftrag.form;
+        return true;
+    };
+    oeffne();
+    m_heim->antworten = {0, 2};
+    (*m_fenster)->Planmoduloeffnen();
+    (*m_fenster)->planmodul->alsPdfSichern();
+    m_fenster->rechner().plan->alsPdfSichern();
+    QCOMPARE(formen, (QStringList{u"Liste"_s, u"Auswertung"_s}));
 }
 
 QTEST_MAIN(TestDrucken)

@@ -1,3 +1,5 @@
+#include "Programmprobe.h"
+
 #include <QDir>
 #include <QDirIterator>
 #include <QFile>
@@ -39,71 +41,6 @@ private:
 };
 
 namespace {
-
-const QString zeichen = u"Library/Application Support/Mahlberg/Mahlberg.lock"_s;
-const QString frage = u"message: Mahlberg ist schon geöffnet. | Zweimal zugleich geöffnet, "
-                      "überschreibt das eine die Lebensmittel und den Plan des anderen. | "
-                      "Beenden | Trotzdem öffnen"_s;
-const QString fenster = u"window: Mahlberg"_s;
-
-/// The program while it runs.
-class Programm
-{
-public:
-    explicit Programm(const QString &heim,
-                      const QStringList &argumente = {u"--language"_s, u"de"_s})
-    {
-        QProcessEnvironment umgebung = QProcessEnvironment::systemEnvironment();
-        umgebung.insert(u"HOME"_s, heim);
-        umgebung.remove(u"XDG_CONFIG_HOME"_s);
-        umgebung.insert(u"QT_PLUGIN_PATH"_s, QStringLiteral(BEDIENHAND));
-        umgebung.insert(u"QT_QPA_GENERIC_PLUGINS"_s, u"bedienhand"_s);
-        m_prozess.setProcessEnvironment(umgebung);
-        m_prozess.setProcessChannelMode(QProcess::ForwardedErrorChannel);
-        m_prozess.start(QStringLiteral(MAHLBERG), argumente);
-    }
-    ~Programm()
-    {
-        m_prozess.kill();
-        m_prozess.waitForFinished();
-    }
-    Programm(const Programm &) = delete;
-    Programm &operator=(const Programm &) = delete;
-
-    /// What appears next, or a null text when nothing does.
-    QString naechstes()
-    {
-        while (!m_prozess.canReadLine()) {
-            if (!m_prozess.waitForReadyRead()) {
-                return {};
-            }
-        }
-        return QString::fromUtf8(m_prozess.readLine()).trimmed();
-    }
-
-    void tue(const QString &tat)
-    {
-        m_prozess.write(tat.toUtf8() + '\n');
-        m_prozess.waitForBytesWritten();
-    }
-
-    /// The exit status, or −1 when the program goes on or was killed.
-    int ende()
-    {
-        const bool zuEnde =
-            m_prozess.state() == QProcess::NotRunning || m_prozess.waitForFinished();
-        return zuEnde && m_prozess.exitStatus() == QProcess::NormalExit ? m_prozess.exitCode() : -1;
-    }
-
-    void toete()
-    {
-        m_prozess.kill();
-        m_prozess.waitForFinished();
-    }
-
-private:
-    QProcess m_prozess;
-};
 
 /// The permissions of a file or folder as the shell writes them, in octal digits.
 QString rechte(const QString &pfad)

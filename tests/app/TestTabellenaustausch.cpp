@@ -130,7 +130,8 @@ const QByteArray zweiSpeisen =
 void TestTabellenaustausch::init()
 {
     m_heim = std::make_unique<Probeheim>();
-    m_heim->waehleDatei = [](QWidget *, const Dateifrage &, const auto &) {
+    m_heim->frageNachDateien = [](QWidget *, const Dateifrage &) {
+        return QStringList();
     };
     m_heim->schreibeTabelle(verzeichnis({lebensmittel(u"Apfel"_s, {{kal, 52}, {ka, 0.1F}}),
                                          lebensmittel(u"Birne"_s, {{kal, 58}})}));
@@ -164,9 +165,8 @@ void TestTabellenaustausch::oeffne()
 Einlesefenster *TestTabellenaustausch::lies(const QByteArray &bytes)
 {
     const QString path = datei(bytes);
-    m_heim->waehleDatei = [path](QWidget *, const Dateifrage &frage, const auto &antwort) {
-        QVERIFY(!frage.zumSchreiben);
-        antwort(path);
+    m_heim->frageNachDateien = [path](QWidget *, const Dateifrage &frage) {
+        return frage.art == Dateifrage::Art::Oeffnen ? QStringList{path} : QStringList();
     };
     if (m_fenster == nullptr) {
         oeffne();
@@ -178,9 +178,8 @@ Einlesefenster *TestTabellenaustausch::lies(const QByteArray &bytes)
 /// Saves the list of this place of the chooser.
 void TestTabellenaustausch::gibAus(int liste, const QString &path)
 {
-    m_heim->waehleDatei = [path](QWidget *, const Dateifrage &frage, const auto &antwort) {
-        QVERIFY(frage.zumSchreiben);
-        antwort(path);
+    m_heim->frageNachDateien = [path](QWidget *, const Dateifrage &frage) {
+        return frage.art == Dateifrage::Art::Sichern ? QStringList{path} : QStringList();
     };
     if (m_fenster == nullptr) {
         oeffne();
@@ -467,9 +466,9 @@ void TestTabellenaustausch::eachListGoesOut()
 void TestTabellenaustausch::theFormIsChosenAndKept()
 {
     QString vorschlag;
-    m_heim->waehleDatei = [&](QWidget *, const Dateifrage &frage, const auto &antwort) {
+    m_heim->frageNachDateien = [&](QWidget *, const Dateifrage &frage) {
         vorschlag = frage.vorschlag;
-        antwort(m_heim->pfad(u"form.csv"_s));
+        return QStringList{m_heim->pfad(u"form.csv"_s)};
     };
     oeffne();
     for (const bool erstes : {true, false}) {
@@ -507,7 +506,7 @@ void TestTabellenaustausch::aTableThatIsNotWrittenIsTold()
 
 void TestTabellenaustausch::withoutADoorNothingHappens()
 {
-    m_heim->waehleDatei = {};
+    m_heim->frageNachDateien = {};
     oeffne();
     menueeintrag(*controller().Hauptfenster, u"Lebensmittel einlesen"_s)->trigger();
     menueeintrag(*controller().Hauptfenster, u"Als Tabelle sichern"_s)->trigger();

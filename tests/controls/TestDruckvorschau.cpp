@@ -1,4 +1,5 @@
 #include "Druckprobe.h"
+#include "Pdftuer.h"
 #include "Seiteneinrichtung.h"
 
 #include <QAction>
@@ -21,6 +22,8 @@
 #include <QSettings>
 #include <QTest>
 #include <QTimer>
+#include <QToolBar>
+#include <QToolButton>
 
 #include <functional>
 
@@ -48,9 +51,13 @@ private Q_SLOTS:
     void theQuestionAboutAnExistingPdfIsShownAsItIsWritten();
     void cancellingGoesBackToThePreview();
     void aPdfThatFailsIsToldAndTheProgramGoesOn();
+    void theChosenFolderIsProposedForAPdf();
+    void itsButtonSavesAPdf_data();
+    void itsButtonSavesAPdf();
+    void withoutTheDoorThereIsNoButton();
 
 private:
-    QPrintPreviewDialog *oeffne(const Druckauftrag &auftrag);
+    QPrintPreviewDialog *oeffne(const Druckauftrag &auftrag, const Pdftuer &alsPdf = {});
 
     QTemporaryDir m_ordner;
     std::unique_ptr<QSettings> m_einstellungen;
@@ -134,12 +141,15 @@ void TestDruckvorschau::init()
     m_fenster.show();
 }
 
-QPrintPreviewDialog *TestDruckvorschau::oeffne(const Druckauftrag &auftrag)
+QPrintPreviewDialog *TestDruckvorschau::oeffne(const Druckauftrag &auftrag, const Pdftuer &alsPdf)
 {
-    const Drucktuer tuer = systemdrucktuer(*m_einstellungen, [this](QWidget *, const Meldung &m) {
-        m_meldungen << m;
-        return 0;
-    });
+    const Drucktuer tuer = systemdrucktuer(
+        *m_einstellungen,
+        [this](QWidget *, const Meldung &m) {
+            m_meldungen << m;
+            return 0;
+        },
+        alsPdf);
     tuer(&m_fenster, auftrag);
     const QPointer<QPrintPreviewDialog> vorschau = m_fenster.findChild<QPrintPreviewDialog *>();
     // A machine with printers asks for one of them; these tests are about files.
@@ -310,7 +320,7 @@ void TestDruckvorschau::thePreviewIsAsLargeAsItsWindow()
     m_fenster.resize(100, 50); // but never too small for its buttons
     vorschau = oeffne(beziffert(1));
     QVERIFY(vorschau);
-    QCOMPARE(vorschau->size(), QSize(692, 515));
+    QCOMPARE(vorschau->size(), QSize(752, 515));
     vorschau->close();
     QTRY_VERIFY(m_fenster.findChild<QPrintPreviewDialog *>() == nullptr);
 }
@@ -423,6 +433,72 @@ void TestDruckvorschau::aPdfThatFailsIsToldAndTheProgramGoesOn()
     Druckprobe probe(Druckprobe::papier(QPageSize::A4, QPageLayout::Portrait));
     probe.drucke(beziffert(1));
     QCOMPARE(probe.seiten(), 1);
+}
+
+void TestDruckvorschau::theChosenFolderIsProposedForAPdf()
+{
+    Druckauftrag auftrag = beziffert(1);
+    auftrag.tag = QDate(2026, 11, 22);
+    merkePdfordner(*m_einstellungen, m_ordner.path());
+    for (const bool da : {true, false}) {
+        if (!da) {
+            merkePdfordner(*m_einstellungen, m_ordner.filePath(QStringLiteral("fehlt")));
+        }
+        QPrintPreviewDialog *vorschau = oeffne(auftrag);
+        QVERIFY(vorschau);
+        QString vorschlag;
+        lies(vorschlag);
+        aktion(*vorschau, "Print")->trigger();
+        QVERIFY(vorschlag.endsWith(QLatin1String("/Probe 2026-11-22.pdf")));
+        QCOMPARE(vorschlag.startsWith(m_ordner.path()), da);
+        vorschau->close();
+        QTRY_VERIFY(m_fenster.findChild<QPrintPreviewDialog *>() == nullptr);
+    }
+}
+
+void TestDruckvorschau::itsButtonSavesAPdf_data()
+{
+    QTest::addColumn<bool>("gesichert");
+    QTest::newRow("saved: the preview has done its work") << true;
+    QTest::newRow("cancelled: the user may look on") << false;
+}
+
+void TestDruckvorschau::itsButtonSavesAPdf()
+{
+    QFETCH(bool, gesichert);
+    QString titel;
+    QWidget *worueber = nullptr;
+    QPageLayout::Orientation lage = QPageLayout::Portrait;
+    QPrintPreviewDialog *vorschau =
+        oeffne(beziffert(2), [&](QWidget *fenster, const Druckauftrag &auftrag) {
+            worueber = fenster;
+            titel = auftrag.titel;
+            lage = gemerkteSeite(*m_einstellungen).orientation();
+            return gesichert;
+        });
+    QVERIFY(vorschau);
+    vorschau->findChild<QPrintPreviewWidget *>()->setLandscapeOrientation();
+    auto *knopf = vorschau->findChild<QToolBar *>()->widgetForAction(
+        vorschau->findChild<QAction *>(QStringLiteral("alsPdf")));
+    QVERIFY(knopf->isVisible());
+    QCOMPARE(qobject_cast<QToolButton *>(knopf)->text(), QStringLiteral("PDF …"));
+    QCOMPARE(knopf->toolTip(), QStringLiteral("Als PDF sichern …"));
+    QTest::mouseClick(knopf, Qt::LeftButton);
+    QCOMPARE(titel, QStringLiteral("Probe"));
+    QCOMPARE(worueber, vorschau);
+    QCOMPARE(lage, QPageLayout::Landscape); // as it is shown
+    QCOMPARE(vorschau->isVisible(), !gesichert);
+    vorschau->close();
+    QTRY_VERIFY(m_fenster.findChild<QPrintPreviewDialog *>() == nullptr);
+}
+
+void TestDruckvorschau::withoutTheDoorThereIsNoButton()
+{
+    QPrintPreviewDialog *vorschau = oeffne(beziffert(1));
+    QVERIFY(vorschau);
+    QVERIFY(vorschau->findChild<QAction *>(QStringLiteral("alsPdf")) == nullptr);
+    vorschau->close();
+    QTRY_VERIFY(m_fenster.findChild<QPrintPreviewDialog *>() == nullptr);
 }
 
 QTEST_MAIN(TestDruckvorschau)

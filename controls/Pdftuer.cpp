@@ -1,0 +1,228 @@
+#include "Pdftuer.h"
+
+#include "Druckname.h"
+#include "Hinweisstreifen.h"
+#include "Seitenanzeige.h"
+#include "Seiteneinrichtung.h"
+
+#include <QCoreApplication>
+#include <QDesktopServices>
+#include <QDir>
+#include <QFile>
+#include <QFileInfo>
+#include <QPrinter>
+#include <QSaveFile>
+#include <QSettings>
+#include <QTemporaryDir>
+#include <QUrl>
+
+namespace {
+
+const QString schluessel = QStringLiteral("PdfOrdner");
+
+QString uebersetzt(const char *text)
+{
+    return QCoreApplication::translate("Mahlberg", text);
+}
+
+/// The strip of the window, or of the one that it lies above.
+Hinweisstreifen *streifenVon(QWidget *fenster)
+{
+    for (; fenster != nullptr; fenster = fenster->parentWidget()) {
+        if (auto *streifen = fenster->findChild<Hinweisstreifen *>()) {
+            return streifen;
+        }
+    }
+    return nullptr;
+}
+
+/// Saves one print.
+class Pdfablage
+{
+public:
+    Pdfablage(QSettings &einstellungen, Meldungstuer melde, Dateituer frage, Ordnertuer oeffne)
+        : m_einstellungen(einstellungen)
+        , m_melde(std::move(melde))
+        , m_frage(std::move(frage))
+        , m_oeffne(std::move(oeffne))
+    {
+    }
+
+    bool sichere(QWidget *fenster, const Druckauftrag &auftrag) const
+    {
+        QString ordner = brauchbarerOrdner(fenster);
+        for (;;) {
+            const QString pdf = frageNachName(fenster, freiesPdf(ordner, druckname(auftrag)));
+            if (pdf.isEmpty()) {
+                return false;
+            }
+            switch (schreibe(fenster, auftrag, pdf)) {
+            case Ausgang::Geschrieben:
+                sageWo(fenster, pdf);
+                return true;
+            case Ausgang::Abgebrochen:
+                return false;
+            case Ausgang::Misslungen:
+                break;
+            }
+            m_melde(fenster,
+                    {uebersetzt(QT_TRANSLATE_NOOP("Mahlberg", "Das PDF ist nicht gesichert.")),
+                     uebersetzt(QT_TRANSLATE_NOOP("Mahlberg",
+                                                  "Die Datei „%1“ lässt sich nicht schreiben. "
+                                                  "Vielleicht ist der Ordner geschützt oder kein "
+                                                  "Platz mehr frei."))
+                         .arg(pdf),
+                     {uebersetzt("ok")}});
+            ordner = QFileInfo(pdf).path();
+            if (!nimmtDateien(ordner)) {
+                ordner = dokumentenordner();
+            }
+        }
+    }
+
+private:
+    enum class Ausgang { Geschrieben, Abgebrochen, Misslungen };
+
+    /// The folder to begin with. That the chosen one can't be used is said; it stays chosen, since
+    /// it may lie on a stick that is plugged in again.
+    QString brauchbarerOrdner(QWidget *fenster) const
+    {
+        const QString ordner = pdfordner(m_einstellungen);
+        if (nimmtDateien(ordner)) {
+            return ordner;
+        }
+        m_melde(fenster,
+                {uebersetzt(QT_TRANSLATE_NOOP("Mahlberg",
+                                              "In den Ordner für PDF lässt sich nichts sichern.")),
+                 uebersetzt(QT_TRANSLATE_NOOP(
+                                "Mahlberg", "„%1“ ist nicht da oder geschützt. Wählen Sie einen "
+                                            "anderen Ordner. Welcher vorgeschlagen wird, steht in "
+                                            "den Einstellungen."))
+                     .arg(QDir::toNativeSeparators(ordner)),
+                 {uebersetzt("ok")}});
+        return dokumentenordner();
+    }
+
+    QString frageNachName(QWidget *fenster, const QString &vorschlag) const
+    {
+        return m_frage(fenster,
+                       {.art = Dateifrage::Art::Sichern,
+                        .titel = uebersetzt(QT_TRANSLATE_NOOP("Mahlberg", "Als PDF sichern")),
+                        .vorschlag = vorschlag,
+                        .filter = QStringLiteral("PDF (*.pdf)"),
+                        .endung = QStringLiteral("pdf")})
+            .value(0);
+    }
+
+    /// Prints beside everything and takes only what is whole to its place.
+    Ausgang schreibe(QWidget *fenster, const Druckauftrag &auftrag, const QString &pdf) const
+    {
+        const QTemporaryDir werkstatt;
+        if (!werkstatt.isValid()) {
+            return Ausgang::Misslungen;
+        }
+        const QString entwurf = werkstatt.filePath(QStringLiteral("entwurf.pdf"));
+        QPrinter drucker(QPrinter::HighResolution);
+        drucker.setOutputFormat(QPrinter::PdfFormat);
+        QPageLayout seite = gemerkteSeite(m_einstellungen);
+        seite.setMode(QPageLayout::FullPageMode); // takes any margins
+        drucker.setPageLayout(seite);
+        drucker.setDocName(druckname(auftrag));
+        drucker.setOutputFileName(entwurf);
+        Seitenanzeige anzeige(auftrag.titel, fenster);
+        const auto grund = drucke(drucker, auftrag, [&anzeige](int fertig, int gesamt) {
+            return anzeige.zeige(fertig, gesamt);
+        });
+        if (anzeige.abgebrochen()) {
+            return Ausgang::Abgebrochen;
+        }
+        return !grund && legeAb(entwurf, pdf) ? Ausgang::Geschrieben : Ausgang::Misslungen;
+    }
+
+    /// What is no file, such as a device, is not replaced by one.
+    static bool legeAb(const QString &entwurf, const QString &pdf)
+    {
+        const QFileInfo dort(pdf);
+        if (dort.exists() && !dort.isFile()) {
+            return false;
+        }
+        QFile fertiges(entwurf);
+        QSaveFile datei(pdf);
+        if (!fertiges.open(QIODevice::ReadOnly) || !datei.open(QIODevice::WriteOnly)) {
+            return false;
+        }
+        const QByteArray bytes = fertiges.readAll();
+        return !bytes.isEmpty() && datei.write(bytes) == bytes.size() && datei.commit();
+    }
+
+    void sageWo(QWidget *fenster, const QString &pdf) const
+    {
+        const QString satz = uebersetzt(QT_TRANSLATE_NOOP("Mahlberg", "Das PDF ist gesichert: %1"))
+                                 .arg(QDir::toNativeSeparators(pdf));
+        Hinweisstreifen *streifen = streifenVon(fenster);
+        if (streifen == nullptr) {
+            m_melde(fenster, {satz, {}, {uebersetzt("ok")}});
+            return;
+        }
+        streifen->zeige({.kennung = QStringLiteral("pdf"),
+                         .text = satz,
+                         .knopf = uebersetzt(QT_TRANSLATE_NOOP("Mahlberg", "Ordner öffnen")),
+                         .aktion = [melde = m_melde, oeffne = m_oeffne,
+                                    fenster = streifen->window(), ordner = QFileInfo(pdf).path()] {
+                             if (!oeffne(ordner)) {
+                                 melde(fenster,
+                                       {uebersetzt(QT_TRANSLATE_NOOP(
+                                            "Mahlberg", "Der Ordner lässt sich nicht öffnen.")),
+                                        QDir::toNativeSeparators(ordner),
+                                        {uebersetzt("ok")}});
+                             }
+                         }});
+    }
+
+    QSettings &m_einstellungen;
+    Meldungstuer m_melde;
+    Dateituer m_frage;
+    Ordnertuer m_oeffne;
+};
+
+} // namespace
+
+QString gewaehlterPdfordner(const QSettings &einstellungen)
+{
+    return einstellungen.value(schluessel).toString();
+}
+
+QString pdfordner(const QSettings &einstellungen)
+{
+    const QString gewaehlter = gewaehlterPdfordner(einstellungen);
+    return gewaehlter.isEmpty() ? dokumentenordner() : gewaehlter;
+}
+
+void merkePdfordner(QSettings &einstellungen, const QString &ordner)
+{
+    if (ordner.isEmpty()) {
+        einstellungen.remove(schluessel);
+    } else {
+        einstellungen.setValue(schluessel, ordner);
+    }
+}
+
+bool nimmtDateien(const QString &ordner)
+{
+    const QFileInfo info(ordner);
+    return info.isDir() && info.isWritable() && info.isExecutable();
+}
+
+bool zeigeOrdner(const QString &ordner)
+{
+    return QDesktopServices::openUrl(QUrl::fromLocalFile(ordner));
+}
+
+Pdftuer systempdftuer(QSettings &einstellungen, const Meldungstuer &melde, const Dateituer &frage,
+                      const Ordnertuer &oeffne)
+{
+    return [ablage = Pdfablage(einstellungen, melde, frage, oeffne)](QWidget *fenster,
+                                                                     const Druckauftrag &auftrag) {
+        return ablage.sichere(fenster, auftrag);
+    };
+}
