@@ -1838,10 +1838,6 @@ New: %1</translation>
   <translation>built-in</translation>
  </message>
  <message>
-  <source>eingelesene Lebensmittel</source>
-  <translation>imported foods</translation>
- </message>
- <message>
   <source>früherer Stand der eigenen Lebensmittel</source>
   <translation>earlier state of your own foods</translation>
  </message>

@@ -214,7 +214,7 @@ void TestTabellenaustausch::foodsComeInAtOnceAndGoAtOnce()
     controller().hinweise->hinweise().first().aktion();
     QCOMPARE(controller().KundenArray, QStringList({u"=Mus"_s, u"Brot"_s}));
     QCOMPARE(aufDerPlatte().keys(), QStringList({u"=Mus"_s, u"Brot"_s}));
-    QCOMPARE(hinweis(), u"Zurückgenommen: eingelesene Lebensmittel."_s);
+    QCOMPARE(hinweis(), u"Zurückgenommen: Lebensmittel übernommen."_s);
     menueeintrag(*controller().Hauptfenster, u"Wiederholen"_s)->trigger();
     QCOMPARE(aufDerPlatte().size(), 4);
 }
