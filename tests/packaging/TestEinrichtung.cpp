@@ -24,10 +24,9 @@ private Q_SLOTS:
     void theProgramsCanBeStartedAndTheRestCant();
     void theIconHasItsSizes_data();
     void theIconHasItsSizes();
-    void theMovedProgramShowsItsFoods_data();
     void theMovedProgramShowsItsFoods();
-    void theMovedToolsWork_data();
-    void theMovedToolsWork();
+    void theMovedProgramsAnswer_data();
+    void theMovedProgramsAnswer();
     void theFilesOfTheProgramAreKnown_data();
     void theFilesOfTheProgramAreKnown();
 
@@ -131,33 +130,21 @@ void TestEinrichtung::theIconHasItsSizes()
     QVERIFY2(apfel.alpha() == 255 && apfel.red() > 2 * apfel.green(), qPrintable(apfel.name()));
 }
 
-void TestEinrichtung::theMovedProgramShowsItsFoods_data()
-{
-    QTest::addColumn<QString>("sprache");
-    QTest::addColumn<QStringList>("texte");
-    QTest::newRow("German") << u"de"_s
-                            << QStringList{u"1016 rows"_s, u"Herz und Kreislauf"_s, u", roh"_s};
-    QTest::newRow("English") << u"en"_s
-                             << QStringList{u"1016 rows"_s, u"Heart and circulation"_s, u"Chickpeas"_s};
-}
-
+/// The windows, in German.
 void TestEinrichtung::theMovedProgramShowsItsFoods()
 {
-    QFETCH(QString, sprache);
-    QFETCH(QStringList, texte);
     const QTemporaryDir ordner;
     const Lauf lauf = starten(qPrintable(programm(u"mahlberg"_s)),
-                              {u"--language"_s, sprache, u"--tour"_s, ordner.path()});
+                              {u"--language"_s, u"de"_s, u"--tour"_s, ordner.path()});
     QVERIFY2(lauf.ausgang == 0, qPrintable(lauf.fehler));
-    const QStringList seiten = QDir(ordner.path()).entryList({u"*.txt"_s});
-    QCOMPARE(seiten.size(), 1);
-    const QString text = QString::fromUtf8(lies(ordner.filePath(seiten.first())));
-    for (const QString &eines : texte) {
+    QVERIFY(QDir(ordner.path()).entryList({u"*.png"_s}).size() > 10);
+    const QString text = QString::fromUtf8(lies(ordner.filePath(u"summary.txt"_s)));
+    for (const QString &eines : {u"1016 rows"_s, u"Herz und Kreislauf"_s, u", roh"_s}) {
         QVERIFY2(text.contains(eines), qPrintable(eines));
     }
 }
 
-void TestEinrichtung::theMovedToolsWork_data()
+void TestEinrichtung::theMovedProgramsAnswer_data()
 {
     QTest::addColumn<QString>("name");
     QTest::addColumn<QStringList>("argumente");
@@ -165,20 +152,27 @@ void TestEinrichtung::theMovedToolsWork_data()
     QTest::addColumn<QString>("text");
     QTest::newRow("the version") << u"mahlberg"_s << QStringList{u"--version"_s} << 0
                                  << QStringLiteral("Mahlberg " MAHLBERG_VERSION "\n");
-    QTest::newRow("a rating explained") << u"wertung-erklaeren"_s << QStringList{u"Einhorn"_s} << 1
-                                        << u"There is no food \"Einhorn\".\n"_s;
+    QTest::newRow("a food in English")
+        << u"mahlberg"_s << QStringList{u"--language"_s, u"en"_s, u"food"_s, u"Haferflocken"_s} << 0
+        << u"Oats (rolled oats, porridge oats, oat flakes), 100 g\n"_s;
+    QTest::newRow("a rating explained")
+        << u"wertung-erklaeren"_s << QStringList{u"Haferflocken"_s} << 0
+        << u"Haferflocken (Oats (rolled oats, porridge oats, oat flakes))\n"_s;
+    QTest::newRow("no rating to explain") << u"wertung-erklaeren"_s << QStringList{u"Einhorn"_s}
+                                          << 1 << u"There is no food \"Einhorn\".\n"_s;
     QTest::newRow("no file") << u"datenlesen"_s << QStringList{u"/nowhere.daten"_s} << 1
                              << u"datenlesen: /nowhere.daten: there is no such file\n"_s;
 }
 
-void TestEinrichtung::theMovedToolsWork()
+void TestEinrichtung::theMovedProgramsAnswer()
 {
     QFETCH(QString, name);
     QFETCH(QStringList, argumente);
     QFETCH(int, ausgang);
     QFETCH(QString, text);
     const Lauf lauf = starten(qPrintable(programm(name)), argumente);
-    QCOMPARE(ausgang == 0 ? lauf.ausgabe : lauf.fehler, text);
+    const QString antwort = ausgang == 0 ? lauf.ausgabe : lauf.fehler;
+    QVERIFY2(antwort.startsWith(text), qPrintable(antwort));
     QCOMPARE(lauf.ausgang, ausgang);
 }
 
