@@ -77,6 +77,7 @@ private:
     QHash<QString, int> m_namen; ///< the line in which a name stands first
     Lesezeile m_zeile;           ///< the one that is being read
     double m_portion = 100;      ///< grams that its values are for
+    bool m_hatEnergie = false;   ///< else that it is missing is said once, not in each line
 };
 
 bool Leser::hat(Art art) const
@@ -166,6 +167,15 @@ void Leser::pruefeSpalten()
         wende(Schwere::Hinweis,
               satz(QT_TRANSLATE_NOOP("Mahlberg", "Nicht übernommene Spalten: %1."))
                   .arg(fremde.join(QStringLiteral(", "))));
+    }
+    m_hatEnergie = std::any_of(m_auftrag.spalten.begin(), m_auftrag.spalten.end(),
+                               [](const Spaltensinn &eine) {
+                                   return eine.art == Art::Wert && eine.wert == Naehrwert::kal;
+                               });
+    if (!m_hatEnergie) {
+        wende(Schwere::Hinweis,
+              satz(QT_TRANSLATE_NOOP("Mahlberg",
+                                     "Keine Spalte ist als Energie gewählt; sie gilt als 0.")));
     }
     if (m_auftrag.jePortion && !hat(Art::Portion) && !(m_auftrag.portion > 0)) {
         wende(Schwere::Fehler,
@@ -289,7 +299,9 @@ void Leser::pruefeLebensmittel()
         return;
     }
     for (const Bedenken &bedenken : bezweifeln(m_zeile.lebensmittel)) {
-        wende(Schwere::Warnung, inWorten(bedenken));
+        if (m_hatEnergie || bedenken.zweifel != Zweifel::EnergieZuKlein) {
+            wende(Schwere::Warnung, inWorten(bedenken));
+        }
     }
 }
 

@@ -1432,6 +1432,10 @@ Nothing is worked out for children under 10 years; it resumes at 11 years.</tr
   <translation>Named otherwise inside: %1. The name that stands here holds.</translation>
  </message>
  <message>
+  <source>Keine Spalte ist als Energie gewählt; sie gilt als 0.</source>
+  <translation>No column is chosen as energy; it counts as 0.</translation>
+ </message>
+ <message>
   <source>Keine Spalte ist als Nährwert gewählt.</source>
   <translation>No column is chosen as a nutrient.</translation>
  </message>

@@ -2,6 +2,7 @@
 #include "Bestandsvergleich.h"
 #include "Einlesefenster.h"
 #include "Einwandliste.h"
+#include "Hindernisse.h"
 #include "Probefenster.h"
 #include "Vorschautabelle.h"
 
@@ -49,6 +50,7 @@ private Q_SLOTS:
     void eachListGoesOut_data();
     void eachListGoesOut();
     void theFormIsChosenAndKept();
+    void aTableThatIsNotWrittenIsTold_data();
     void aTableThatIsNotWrittenIsTold();
     void withoutADoorNothingHappens();
     void aListIsCopied_data();
@@ -231,20 +233,20 @@ void TestTabellenaustausch::nothingChangesBeforeItIsConfirmed()
 
 void TestTabellenaustausch::aMistakeStopsEverything()
 {
-    const Einlesefenster *fenster = lies("Name;Fett\nQuark;x\nSenf;1,5\n");
+    const Einlesefenster *fenster = lies("Name;kcal\nQuark;x\nSenf;1,5\n");
     QVERIFY(!knopf(*fenster)->isEnabled());
     QVERIFY(knopf(*fenster)->toolTip().startsWith(u"Fehler: 1."_s));
-    QVERIFY(eintraege(*fenster).contains(u"Zeile 2: Fett (g): „x“ ist keine Zahl."_s));
+    QVERIFY(eintraege(*fenster).contains(u"Zeile 2: Energie (kcal): „x“ ist keine Zahl."_s));
     const auto *vorschau = fenster->findChild<Vorschautabelle *>();
     QCOMPARE(vorschau->item(1, 1)->text(), u"x"_s);
     QVERIFY(!vorschau->item(1, 1)->icon().isNull());
-    QCOMPARE(vorschau->item(2, 1)->text(), u"1,5\u00A0g"_s);
+    QCOMPARE(vorschau->item(2, 1)->text(), u"1,5\u00A0kcal"_s);
     QCOMPARE(vorschau->verticalHeaderItem(1)->text(), u"2"_s);
 }
 
 void TestTabellenaustausch::aLineIsLeftOutAndComesBack()
 {
-    const Einlesefenster *fenster = lies("Name;Fett\nQuark;x\nSenf;1,5\n");
+    const Einlesefenster *fenster = lies("Name;kcal\nQuark;x\nSenf;1,5\n");
     kreuzeAn(*fenster, 0, true);
     QCOMPARE(eintraege(*fenster), QStringList{u"Zeile 2: bleibt weg"_s});
     QCOMPARE(knopf(*fenster)->text(), u"1 Lebensmittel &übernehmen"_s);
@@ -260,7 +262,7 @@ void TestTabellenaustausch::aLineIsLeftOutAndComesBack()
 
 void TestTabellenaustausch::allWrongLinesAreLeftOutAtOnce()
 {
-    const Einlesefenster *fenster = lies("Name;Fett\nQuark;x\nSenf;1,5\nSenf;2\n;3\n");
+    const Einlesefenster *fenster = lies("Name;kcal\nQuark;x\nSenf;1,5\nSenf;2\n;3\n");
     klicke(kind<QPushButton>(*fenster, "weglassen"));
     QCOMPARE(eintraege(*fenster).size(), 3);
     QVERIFY(!kind<QPushButton>(*fenster, "weglassen")->isEnabled());
@@ -404,13 +406,14 @@ void TestTabellenaustausch::aQuoteThatStaysOpenStopsEverything()
     QVERIFY(!knopf(*fenster)->isEnabled());
 }
 
-/// A folder in the file's place can't be written over.
 void TestTabellenaustausch::aFileThatIsNotWrittenIsTold()
 {
     const Einlesefenster *fenster = lies(zweiSpeisen);
-    QVERIFY(QFile::remove(m_heim->eigeneDatei()));
-    QVERIFY(QDir().mkpath(m_heim->eigeneDatei() + u"/x"_s));
-    klicke(knopf(*fenster));
+    {
+        const VolleFestplatte voll(0);
+        klicke(knopf(*fenster));
+    }
+    QCOMPARE(aufDerPlatte().size(), 2);
     QCOMPARE(controller().KundenArray.size(), 4);
     QCOMPARE(controller().hinweise->hinweise().size(), 2);
     QVERIFY(controller().hinweise->hinweise()[1].warnung);
@@ -440,7 +443,7 @@ void TestTabellenaustausch::eachListGoesOut_data()
     QTest::addColumn<QStringList>("anfaenge");
     QTest::newRow("own") << 0 << QStringList{u"'=Mus;"_s, u"Brot;240;"_s};
     QTest::newRow("built-in") << 1 << QStringList{u"Apfel;52;"_s, u"Birne;58;"_s};
-    QTest::newRow("results") << 2 << QStringList{u"Birne;58;"_s, u"Brot;240;"_s};
+    QTest::newRow("results") << 2 << QStringList{u"Brot;240;"_s, u"Birne;58;"_s};
     QTest::newRow("plan") << 3 << QStringList{u"Brot;50;120;"_s};
 }
 
@@ -481,7 +484,7 @@ void TestTabellenaustausch::theFormIsChosenAndKept()
             kind<QComboBox>(*fenster, "form")->setCurrentIndex(1);
             trennung->setCurrentIndex(1);
             kind<QComboBox>(*fenster, "dezimal")->setCurrentIndex(1);
-            klicke(kind<QCheckBox>(*fenster, "marke"));
+            kind<QCheckBox>(*fenster, "marke")->click();
         }
         QCOMPARE(trennung->currentText(), u"Komma ,"_s);
         QVERIFY(trennung->isEnabled());
@@ -497,9 +500,24 @@ void TestTabellenaustausch::theFormIsChosenAndKept()
     }
 }
 
+void TestTabellenaustausch::aTableThatIsNotWrittenIsTold_data()
+{
+    QTest::addColumn<bool>("voll");
+    QTest::newRow("no folder") << false;
+    QTest::newRow("no room") << true;
+}
+
 void TestTabellenaustausch::aTableThatIsNotWrittenIsTold()
 {
-    gibAus(0, m_heim->pfad(u"fehlt/liste.csv"_s));
+    QFETCH(bool, voll);
+    std::optional<VolleFestplatte> festplatte;
+    if (voll) {
+        festplatte.emplace(0);
+    }
+    const QString path = m_heim->pfad(voll ? u"liste.csv"_s : u"fehlt/liste.csv"_s);
+    gibAus(0, path);
+    festplatte.reset();
+    QVERIFY(!QFile::exists(path));
     QVERIFY(hinweis().startsWith(u"Die Tabelle ist nicht gesichert: "_s));
     QVERIFY(controller().hinweise->hinweise().first().warnung);
 }
@@ -519,7 +537,7 @@ void TestTabellenaustausch::aListIsCopied_data()
     QTest::addColumn<QStringList>("anfaenge");
     QTest::newRow("built-in") << inName << QStringList{u"Apfel\t52\t"_s, u"Birne\t58\t"_s};
     QTest::newRow("own") << inEigen << QStringList{u"'=Mus\t0,33333334\t"_s, u"Brot\t240\t"_s};
-    QTest::newRow("results") << inSuch << QStringList{u"Birne\t58\t"_s, u"Brot\t240\t"_s};
+    QTest::newRow("results") << inSuch << QStringList{u"Brot\t240\t"_s, u"Birne\t58\t"_s};
 }
 
 void TestTabellenaustausch::aListIsCopied()

@@ -135,6 +135,11 @@ void TestEinlesung::whatIsUnlikelyIsTold_data()
     QTest::newRow("energy")
         << u"Name;kcal;Fett\nÖl;90;100"_s
         << u"2: Energie prüfen: angegeben 90 kcal, aus den Nährstoffen 900 kcal."_s;
+    QTest::newRow("no energy at all") << u"Name;Fett\nÖl;100"_s << QString();
+    QTest::newRow("too much energy")
+        << u"Name;kcal;kh\nZucker;4000;100"_s
+        << u"2: Energie prüfen: angegeben 4000 kcal, aus den Nährstoffen "
+           u"400 kcal. Fehlt ein Nährstoff, oder ist Alkohol darin?"_s;
     QTest::newRow("a field missing")
         << u"Name;Kalium;Calcium\nQuark;1"_s << u"2: Nur 2 von 3 Feldern; die anderen sind leer."_s;
     QTest::newRow("the name of a built-in food")
@@ -184,10 +189,10 @@ void TestEinlesung::aLineThatIsLeftOutIsNoHindrance()
 
 void TestEinlesung::anAmbiguousNumberIsShownAsRead()
 {
-    const Probe tausend = lies(u"Name;Kalium\nA;1.234\nB;5,5\nC;2.345\n"_s);
+    const Probe tausend = lies(u"Name;Kalium;kcal\nA;1.234;1\nB;5,5;1\nC;2.345;1\n"_s);
     QCOMPARE(tausend.hinweise, QStringList{u"0: Spalte „Kalium“: „1.234“ ist als 1234 gelesen."_s});
     QCOMPARE(tausend.einlesung.lebensmittel().first().ka(), 1234.0F);
-    const Probe eins = lies(u"Name;Kalium\nA;1.234\nB;5.5\n"_s);
+    const Probe eins = lies(u"Name;Kalium;kcal\nA;1.234;1\nB;5.5;1\n"_s);
     QCOMPARE(eins.hinweise, QStringList{u"0: Spalte „Kalium“: „1.234“ ist als 1,234 gelesen."_s});
     QCOMPARE(eins.einlesung.lebensmittel().first().ka(), 1.234F);
 }
@@ -244,12 +249,14 @@ void TestEinlesung::aFileWithoutHeadingsIsRead()
     QCOMPARE(probe.fehler, QStringList());
     QCOMPARE(probe.einlesung.lebensmittel().size(), 2);
     QCOMPARE(probe.einlesung.zeilen.first().zeile, 1);
-    QCOMPARE(probe.hinweise, QStringList{u"0: Nicht übernommene Spalten: 3."_s});
+    QCOMPARE(probe.hinweise,
+             QStringList({u"0: Nicht übernommene Spalten: 3."_s,
+                          u"0: Keine Spalte ist als Energie gewählt; sie gilt als 0."_s}));
 }
 
 void TestEinlesung::unknownColumnsAreNamed()
 {
-    QCOMPARE(lies(u"Name;Preis;Fett;Farbe\nA;1;2;3\n"_s).hinweise,
+    QCOMPARE(lies(u"Name;Preis;kcal;Farbe\nA;1;2;3\n"_s).hinweise,
              QStringList{u"0: Nicht übernommene Spalten: Preis, Farbe."_s});
     Leseauftrag doppelt;
     doppelt.spalten = {{.art = Art::Name},
