@@ -130,6 +130,8 @@ private:
             waehle(woran);
         } else if (tat == QLatin1String("close")) {
             schliesse(woran);
+        } else if (tat == QLatin1String("desktop")) {
+            sage(QGuiApplication::desktopFileName() + u' ' + QCoreApplication::applicationName());
         }
     }
 
