@@ -184,7 +184,7 @@ Aufrufleser::Befund Aufrufleser::pruefeOptionen() const
                             getippt(m_argumente, unbekannte.constFirst())};
     }
     const QString letztes = m_argumente.constLast();
-    if (letztes.startsWith(u'-') && !letztes.contains(u'=')) {
+    if (letztes.startsWith(u'-') && !letztes.contains(u'=') && !stehtAllein(optionsname(letztes))) {
         return Aufruffehler{Fehlerart::AngabeFehlt, letztes};
     }
     const auto zuviel =
