@@ -293,11 +293,9 @@ Aufrufleser::Befund Aufrufleser::leseEnergie()
 /// Comma and point both stand before the decimals, as everywhere in the program.
 Aufrufleser::Befund Aufrufleser::leseMenge(const QString &text)
 {
-    QLocale ohneTausender = QLocale::c();
-    ohneTausender.setNumberOptions(QLocale::RejectGroupSeparator);
     bool istZahl = false;
     QString mitPunkt = text;
-    m_auftrag.gramm = ohneTausender.toFloat(mitPunkt.replace(u',', u'.'), &istZahl);
+    m_auftrag.gramm = QLocale::c().toFloat(mitPunkt.replace(u',', u'.'), &istZahl);
     return istZahl && std::isfinite(m_auftrag.gramm) && m_auftrag.gramm >= 0
                ? Befund()
                : Aufruffehler{Fehlerart::MengeUngueltig, text};
