@@ -204,7 +204,7 @@ Aufrufleser::Befund Aufrufleser::pruefeOptionen() const
                             getippt(m_argumente, unbekannte.constFirst())};
     }
     const QString letztes = m_argumente.constLast();
-    if (letztes.startsWith(u'-') && !letztes.contains(u'=')) {
+    if (letztes.startsWith(u'-') && !letztes.contains(u'=') && !stehtAllein(optionsname(letztes))) {
         return Aufruffehler{Fehlerart::AngabeFehlt, letztes};
     }
     const auto zuviel =
@@ -327,11 +327,9 @@ Aufrufleser::Befund Aufrufleser::leseEnergie()
 /// Comma and point both stand before the decimals, as everywhere in the program.
 Aufrufleser::Befund Aufrufleser::leseMenge(const QString &text)
 {
-    QLocale ohneTausender = QLocale::c();
-    ohneTausender.setNumberOptions(QLocale::RejectGroupSeparator);
     bool istZahl = false;
     QString mitPunkt = text;
-    m_auftrag.gramm = ohneTausender.toFloat(mitPunkt.replace(u',', u'.'), &istZahl);
+    m_auftrag.gramm = QLocale::c().toFloat(mitPunkt.replace(u',', u'.'), &istZahl);
     return istZahl && std::isfinite(m_auftrag.gramm) && m_auftrag.gramm >= 0
                ? Befund()
                : Aufruffehler{Fehlerart::MengeUngueltig, text};

@@ -28,6 +28,7 @@ private Q_SLOTS:
     void severalFoodsOfOneName();
     void noSuchFood_data();
     void noSuchFood();
+    void noOwnFoodsAreNoFault();
     void aFoodAsText();
     void numbersInEnglish();
     void oddValuesOfAFood();
@@ -218,6 +219,9 @@ void TestBefehle::noSuchFood_data()
         << anfang.arg(u"Nuss"_s) +
                u" Ähnlich heißen: „Nuss 1“, „Nuss 2“, „Nuss 3“, „Nuss 4“, „Nuss 5“."_s;
     QTest::newRow("nothing like it") << u"Xylophon"_s << false << anfang.arg(u"Xylophon"_s);
+    QTest::newRow("three letters are enough")
+        << u"Brozz"_s << false << anfang.arg(u"Brozz"_s) + u" Ähnlich heißen: „Brot“."_s;
+    QTest::newRow("two are in too many names") << u"Brz"_s << false << anfang.arg(u"Brz"_s);
     QTest::newRow("no name at all") << u""_s << false << anfang.arg(u""_s);
     QTest::newRow("a built-in one among own ones only")
         << u"Brot"_s << true << anfang.arg(u"Brot"_s);
@@ -239,6 +243,13 @@ void TestBefehle::noSuchFood()
     QCOMPARE(antwort.ausgang, 1);
     QCOMPARE(antwort.meldung, satz);
     QVERIFY(antwort.ausgabe.isEmpty());
+}
+
+void TestBefehle::noOwnFoodsAreNoFault()
+{
+    QCOMPARE(schlageNach(u"Xylophon"_s).meldung, u"Ein Lebensmittel „Xylophon“ gibt es nicht."_s);
+    schreibePlan({{u"Weg"_s, 100}});
+    QCOMPARE(werteAus(Ausgabeform::Json).ausgang, 0);
 }
 
 void TestBefehle::aFoodAsText()
@@ -432,7 +443,7 @@ void TestBefehle::anEmptyPlan()
 void TestBefehle::foodsOfAPlan()
 {
     schreibe(u"Eigenes/MahlbergCustomnutr.daten"_s, {speise(u"Müsli"_s), speise(u"Brot"_s)});
-    schreibeRoh(u"Umbenannt.csv"_s, "Toast;Brot\nSemmel;Kaiserbrot\n");
+    schreibeRoh(u"Umbenannt.csv"_s, "Toast;Brot\nSemmel;Kaiserbrot\nMüsli;Brot\n");
     schreibePlan({{u"Brot"_s, 100},
                   {u"=Müsli"_s, 0},
                   {u"Müsli"_s, 50.7F},

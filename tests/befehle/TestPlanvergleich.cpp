@@ -1,6 +1,7 @@
 // What the command prints of a plan against what the plan's window shows of it, for a thousand
 // plans made at random.
 
+#include "Archivdatei.h"
 #include "Befehle.h"
 #include "Planprobe.h"
 #include "Planzahlen.h"
@@ -8,6 +9,7 @@
 #include <QJsonArray>
 #include <QJsonDocument>
 #include <QJsonObject>
+#include <QProcess>
 #include <QRandomGenerator>
 #include <QTest>
 
@@ -100,12 +102,13 @@ private Q_SLOTS:
     void initTestCase();
     void aThousandPlans();
     void plansInWindowsOfTheirOwn();
+    void whatTheProgramItselfPrints();
 
 private:
     void macheLebensmittel();
     Datenmodul einLebensmittel(const QString &name);
     float eineMenge();
-    void schreibeEinenPlan();
+    void schreibeEinenPlan(const Planheim &heim, const QStringList &namen);
     Plantueren ohneOrdner() const;
     QJsonObject frageBefehl(std::int32_t bedarf) const;
 
@@ -176,14 +179,14 @@ float TestPlanvergleich::eineMenge()
                                     : static_cast<float>(m_zufall.bounded(600));
 }
 
-void TestPlanvergleich::schreibeEinenPlan()
+void TestPlanvergleich::schreibeEinenPlan(const Planheim &heim, const QStringList &namen)
 {
     QList<std::pair<QString, float>> zeilen;
     const int anzahl = m_zufall.bounded(13);
     for (int i = 0; i < anzahl; ++i) {
-        zeilen.emplace_back(m_namen[m_zufall.bounded(m_namen.size())], eineMenge());
+        zeilen.emplace_back(namen[m_zufall.bounded(namen.size())], eineMenge());
     }
-    m_heim.schreibePlan(zeilen);
+    heim.schreibePlan(zeilen);
 }
 
 /// The doors of a window that can't write what it shows: that would take most of the time.
@@ -363,7 +366,7 @@ void TestPlanvergleich::aThousandPlans()
     }
     fenster->uebernimmEigene(eigene);
     for (int i = 0; i < plaene && !QTest::currentTestFailed(); ++i) {
-        schreibeEinenPlan();
+        schreibeEinenPlan(m_heim, m_namen);
         const std::int32_t bedarf = bedarfe[m_zufall.bounded(bedarfe.size())];
         const auto vorher = balkenbilder(fenster);
         fenster->anthrouebergabe(bedarf);
@@ -380,12 +383,43 @@ void TestPlanvergleich::aThousandPlans()
 void TestPlanvergleich::plansInWindowsOfTheirOwn()
 {
     for (int i = 0; i < 10 && !QTest::currentTestFailed(); ++i) {
-        schreibeEinenPlan();
+        schreibeEinenPlan(m_heim, m_namen);
         Planmodul::klient = {.bedarf = 2000, .unbereinigt = 2000};
         const Planfenster fenster(m_heim);
         std::array<Balkenbild, anzahlNaehrwerte> vorher;
         vorher.fill({Qt::blue, 0}); // as a bar is made
         vergleiche(fenster, frageBefehl(2000), vorher);
+    }
+}
+
+/// The shipped program with the shipped table, where there is no display.
+void TestPlanvergleich::whatTheProgramItselfPrints()
+{
+    const Planheim heim;
+    const Lebensmittelverzeichnis ausgeliefert =
+        Archivdatei::lesen(u":/DatabaseIII.daten"_s).archiv.verzeichnis;
+    QVERIFY(ausgeliefert.size() > 1000);
+    heim.schreibeTabelle(ausgeliefert.values());
+    heim.schreibeEigene(m_eigene);
+    QProcessEnvironment umgebung = QProcessEnvironment::systemEnvironment();
+    umgebung.insert(u"QT_QPA_PLATFORM"_s, u"keine"_s);
+    umgebung.remove(u"DISPLAY"_s);
+    umgebung.remove(u"WAYLAND_DISPLAY"_s);
+    for (int i = 0; i < 5 && !QTest::currentTestFailed(); ++i) {
+        schreibeEinenPlan(heim, ausgeliefert.keys() + m_namen);
+        QProcess programm;
+        programm.setProcessEnvironment(umgebung);
+        programm.start(QStringLiteral(MAHLBERG),
+                       {u"evaluate"_s, u"--format"_s, u"json"_s, u"--energy"_s, u"1900"_s,
+                        u"--data-dir"_s, QFileInfo(heim.eigeneDatei()).path(), heim.plandatei()});
+        QVERIFY(programm.waitForFinished());
+        QCOMPARE(programm.exitCode(), 0);
+        Planmodul::klient = {.bedarf = 1900, .unbereinigt = 1900};
+        const Planfenster fenster(heim);
+        std::array<Balkenbild, anzahlNaehrwerte> vorher;
+        vorher.fill({Qt::blue, 0});
+        vergleiche(fenster, QJsonDocument::fromJson(programm.readAllStandardOutput()).object(),
+                   vorher);
     }
 }
 

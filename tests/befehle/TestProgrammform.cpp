@@ -23,7 +23,9 @@ namespace {
 
 QList<Programmform::Abschnitt> beispiel()
 {
-    return {{u"food"_s, {{u"name"_s, {{u"value"_s, u"=Äpfel, \"roh\""_s}}}}},
+    return {{u"food"_s,
+             {{u"name"_s, {{u"value"_s, u"=Äpfel, \"roh\""_s}}},
+              {u"salt"_s, {{u"value"_s, 2}, {u"unit"_s, u"g"_s}}}}},
             {u"rows"_s,
              {{u"Ei"_s, {{u"grams"_s, 1.5}, {u"known"_s, true}}},
               {u"Brot"_s, {{u"grams"_s, QJsonValue()}, {u"known"_s, false}}}},
@@ -36,7 +38,11 @@ void TestProgrammform::json()
 {
     QCOMPARE(QString::fromUtf8(Programmform::alsJson(beispiel())), uR"({
     "food": {
-        "name": "=Äpfel, \"roh\""
+        "name": "=Äpfel, \"roh\"",
+        "salt": {
+            "unit": "g",
+            "value": 2
+        }
     },
     "rows": [
         {
@@ -60,6 +66,7 @@ void TestProgrammform::csv()
         QString::fromUtf8(Programmform::alsCsv(beispiel(), {u"value"_s, u"grams"_s, u"known"_s})),
         u"section,item,value,grams,known\n"
         "food,name,\"'=Äpfel, \"\"roh\"\"\",,\n"
+        "food,salt,2,,\n"
         "rows,Ei,,1.5,true\n"
         "rows,Brot,,,false\n"_s);
 }
