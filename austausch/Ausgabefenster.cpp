@@ -5,8 +5,8 @@
 
 #include <QCheckBox>
 #include <QComboBox>
-#include <QDialogButtonBox>
 #include <QFormLayout>
+#include <QHBoxLayout>
 #include <QPushButton>
 #include <QSettings>
 #include <QStandardItemModel>
@@ -72,14 +72,17 @@ Ausgabefenster::Ausgabefenster(const QList<Ausgabeliste> &listen, QSettings &ein
     fuelleListen();
     zeilen->addRow(localizedString(QStringLiteral("&Liste:")), m_liste);
     fuelleForm(*zeilen);
-    auto *knoepfe = new QDialogButtonBox(QDialogButtonBox::Cancel);
-    QPushButton *weiter = knoepfe->addButton(localizedString(QStringLiteral("&Sichern …")),
-                                             QDialogButtonBox::AcceptRole);
-    weiter->setObjectName(QStringLiteral("sichern"));
-    weiter->setDefault(true);
+    auto *abbrechen = new QPushButton(localizedString(QStringLiteral("Abbrechen")));
+    auto *sichern = new QPushButton(localizedString(QStringLiteral("&Sichern …")));
+    sichern->setObjectName(QStringLiteral("sichern"));
+    sichern->setDefault(true);
+    auto *knoepfe = new QHBoxLayout;
+    knoepfe->addStretch();
+    knoepfe->addWidget(abbrechen);
+    knoepfe->addWidget(sichern);
     zeilen->addRow(knoepfe);
-    connect(knoepfe, &QDialogButtonBox::accepted, this, &Ausgabefenster::waehle);
-    connect(knoepfe, &QDialogButtonBox::rejected, this, &QDialog::reject);
+    connect(sichern, &QPushButton::clicked, this, &Ausgabefenster::waehle);
+    connect(abbrechen, &QPushButton::clicked, this, &QDialog::reject);
     stelleWiederHer();
 }
 

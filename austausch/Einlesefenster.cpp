@@ -2,13 +2,13 @@
 
 #include "Einwandliste.h"
 #include "Rollbereich.h"
+#include "Sperrgrund.h"
 #include "Tabellenkopie.h"
 #include "Vorschautabelle.h"
 #include "Zeichenkettentabelle.h"
 
 #include <QCheckBox>
 #include <QComboBox>
-#include <QDialogButtonBox>
 #include <QDoubleSpinBox>
 #include <QHBoxLayout>
 #include <QLabel>
@@ -138,6 +138,9 @@ void Einlesefenster::fuelleForm(QBoxLayout &erste, QBoxLayout &zweite)
     erste.addWidget(m_ueberschriften);
     stelle(zweite, satz(QT_TRANSLATE_NOOP("Mahlberg", "&Werte gelten für:")), m_bezug);
     stelle(zweite, satz(QT_TRANSLATE_NOOP("Mahlberg", "&Gewicht der Portion:")), m_portion);
+    new Sperrgrund(m_portion,
+                   satz(QT_TRANSLATE_NOOP("Mahlberg", "Nur für Werte einer Portion, deren Gewicht "
+                                                      "in keiner Spalte steht.")));
 }
 
 QWidget *Einlesefenster::unterteil()
@@ -168,18 +171,28 @@ QWidget *Einlesefenster::unterteil()
     m_einwaende = new Einwandliste;
     m_einwaende->setMinimumHeight(einwandhoehe);
     zeilen->addWidget(m_einwaende, 1);
-    auto *knoepfe = new QDialogButtonBox(QDialogButtonBox::Cancel);
+    zeilen->addLayout(knoepfe());
+    return teil;
+}
+
+QBoxLayout *Einlesefenster::knoepfe()
+{
     m_weglassen =
-        knoepfe->addButton(satz(QT_TRANSLATE_NOOP("Mahlberg", "&Fehlerhafte Zeilen weglassen")),
-                           QDialogButtonBox::ActionRole);
+        new QPushButton(satz(QT_TRANSLATE_NOOP("Mahlberg", "&Fehlerhafte Zeilen weglassen")));
     m_weglassen->setObjectName(QStringLiteral("weglassen"));
-    m_uebernehmen = knoepfe->addButton(QString(), QDialogButtonBox::AcceptRole);
+    new Sperrgrund(m_weglassen, satz(QT_TRANSLATE_NOOP("Mahlberg", "Keine Zeile ist fehlerhaft.")));
+    m_abbrechen = new QPushButton(satz(QT_TRANSLATE_NOOP("Mahlberg", "Abbrechen")));
+    m_uebernehmen = new QPushButton;
     m_uebernehmen->setObjectName(QStringLiteral("uebernehmen"));
     m_uebernehmen->setDefault(true);
-    zeilen->addWidget(knoepfe);
-    connect(knoepfe, &QDialogButtonBox::accepted, this, &Einlesefenster::uebernimm);
-    connect(knoepfe, &QDialogButtonBox::rejected, this, &QDialog::reject);
-    return teil;
+    auto *reihe = new QHBoxLayout;
+    reihe->addWidget(m_weglassen);
+    reihe->addStretch();
+    reihe->addWidget(m_abbrechen);
+    reihe->addWidget(m_uebernehmen);
+    connect(m_uebernehmen, &QPushButton::clicked, this, &Einlesefenster::uebernimm);
+    connect(m_abbrechen, &QPushButton::clicked, this, &QDialog::reject);
+    return reihe;
 }
 
 void Einlesefenster::verbinde()
@@ -217,7 +230,22 @@ void Einlesefenster::deute()
     m_bezug->setCurrentIndex(kopf && deutung.jePortion ? portion : hundertGramm);
     m_vorschau->setSpalten(kopf ? erste : QStringList(),
                            kopf ? deutung.spalten : QList<Spaltensinn>(erste.size()));
+    ordneTasten();
     lies();
+}
+
+/// The choosers of the columns come and go; the keyboard finds them above the rows.
+void Einlesefenster::ordneTasten()
+{
+    QWidgetList folge = {m_trennung, m_dezimal, m_ueberschriften, m_bezug, m_portion};
+    for (QComboBox *wahl : m_vorschau->wahlen()) {
+        folge << wahl;
+    }
+    folge << m_vorschau << m_namenswahl << m_einwaende << m_weglassen << m_abbrechen
+          << m_uebernehmen;
+    for (qsizetype i = 1; i < folge.size(); ++i) {
+        setTabOrder(folge[i - 1], folge[i]);
+    }
 }
 
 Leseauftrag Einlesefenster::auftrag() const

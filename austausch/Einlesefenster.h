@@ -41,6 +41,7 @@ Q_SIGNALS:
 private:
     QWidget *formteil();
     QWidget *unterteil();
+    QBoxLayout *knoepfe();
     void fuelleForm(QBoxLayout &erste, QBoxLayout &zweite);
     void verbinde();
     void zerlege();
@@ -49,6 +50,7 @@ private:
     void zeige();
     void zeigeNamen();
     void zeigeAnzahl();
+    void ordneTasten();
     void lasseAus(int zeile, bool weg);
     void lasseFehlerhafteAus();
     void uebernimm();
@@ -71,5 +73,6 @@ private:
     QLabel *m_worte = nullptr;
     Einwandliste *m_einwaende = nullptr;
     QPushButton *m_weglassen = nullptr;
+    QPushButton *m_abbrechen = nullptr;
     QPushButton *m_uebernehmen = nullptr;
 };

@@ -6,6 +6,7 @@
 #include <QComboBox>
 #include <QEvent>
 #include <QHeaderView>
+#include <QScrollBar>
 #include <QStyle>
 
 #include <algorithm>
@@ -15,6 +16,7 @@ using Art = Spaltensinn::Art;
 namespace {
 
 constexpr int gezeigteZeilen = 20;
+constexpr int abstand = 2;
 constexpr int schmalsteSpalte = 150; ///< the choosers' words are longer, and seen when they open
 
 /// Digits that a number of single precision keeps.
@@ -37,12 +39,15 @@ Vorschautabelle::Vorschautabelle(QWidget *parent) : QTableWidget(parent)
     setWordWrap(false);
     setHorizontalScrollMode(ScrollPerPixel);
     horizontalHeader()->setMinimumSectionSize(schmalsteSpalte);
-    horizontalHeader()->setDefaultAlignment(Qt::AlignLeft | Qt::AlignVCenter);
+    horizontalHeader()->setDefaultAlignment(Qt::AlignLeft | Qt::AlignTop);
+    verticalHeader()->setSectionResizeMode(QHeaderView::Fixed);
+    connect(horizontalHeader(), &QHeaderView::sectionResized, this, &Vorschautabelle::stelleWahlen);
+    connect(horizontalScrollBar(), &QScrollBar::valueChanged, this, &Vorschautabelle::stelleWahlen);
 }
 
 QComboBox *Vorschautabelle::neueWahl(const QString &ueberschrift, const Spaltensinn &sinn)
 {
-    auto *wahl = new QComboBox;
+    auto *wahl = new QComboBox(horizontalHeader()->viewport());
     wahl->setAccessibleName(
         localizedString(QStringLiteral("Bedeutung der Spalte „%1“")).arg(ueberschrift));
     for (const Spaltensinn &einer : alleSpaltensinne()) {
@@ -61,17 +66,40 @@ void Vorschautabelle::setSpalten(const QStringList &ueberschriften,
                                  const QList<Spaltensinn> &spalten)
 {
     clear();
+    qDeleteAll(m_wahlen);
     m_wahlen.clear();
-    setRowCount(1);
+    setRowCount(0);
     setColumnCount(static_cast<int>(spalten.size()));
     QStringList titel;
     for (int i = 0; i < spalten.size(); ++i) {
         titel << ueberschriftFuer(ueberschriften, i);
         m_wahlen << neueWahl(titel.last(), spalten[i]);
-        setCellWidget(0, i, m_wahlen.last());
         setColumnWidth(i, schmalsteSpalte);
     }
     setHorizontalHeaderLabels(titel);
+    stelleWahlen();
+}
+
+/// Each chooser stands below the words of its heading.
+void Vorschautabelle::stelleWahlen()
+{
+    QHeaderView *kopf = horizontalHeader();
+    if (m_wahlen.isEmpty()) {
+        return;
+    }
+    const int hoehe = m_wahlen.first()->sizeHint().height();
+    kopf->setFixedHeight(kopf->fontMetrics().height() + hoehe + 2 * abstand);
+    for (int i = 0; i < m_wahlen.size(); ++i) {
+        m_wahlen[i]->setGeometry(kopf->sectionViewportPosition(i), kopf->height() - hoehe,
+                                 kopf->sectionSize(i), hoehe);
+        m_wahlen[i]->show();
+    }
+}
+
+void Vorschautabelle::resizeEvent(QResizeEvent *event)
+{
+    QTableWidget::resizeEvent(event);
+    stelleWahlen();
 }
 
 QList<Spaltensinn> Vorschautabelle::spalten() const
@@ -117,8 +145,8 @@ void Vorschautabelle::zeige(const QList<Csv::Satz> &saetze, const Leseauftrag &a
     const qsizetype erste = auftrag.ueberschriften ? 1 : 0;
     const auto anzahl =
         static_cast<int>(std::clamp<qsizetype>(saetze.size() - erste, 0, gezeigteZeilen));
-    setRowCount(1 + anzahl);
-    QStringList nummern = {QString()};
+    setRowCount(anzahl);
+    QStringList nummern;
     for (int i = 0; i < anzahl; ++i) {
         const Csv::Satz &satz = saetze[erste + i];
         nummern << QString::number(satz.zeile);
@@ -126,7 +154,7 @@ void Vorschautabelle::zeige(const QList<Csv::Satz> &saetze, const Leseauftrag &a
             std::find_if(einlesung.zeilen.begin(), einlesung.zeilen.end(),
                          [&satz](const Lesezeile &eine) { return eine.zeile == satz.zeile; });
         for (int spalte = 0; spalte < columnCount(); ++spalte) {
-            setItem(1 + i, spalte,
+            setItem(i, spalte,
                     zelle(satz.felder.value(spalte), spalte, auftrag, einlesung,
                           zeile == einlesung.zeilen.end() ? nullptr : &*zeile));
         }
@@ -138,8 +166,11 @@ void Vorschautabelle::zeige(const QList<Csv::Satz> &saetze, const Leseauftrag &a
 bool Vorschautabelle::eventFilter(QObject *watched, QEvent *event)
 {
     if (event->type() == QEvent::FocusIn) {
-        const auto stelle = m_wahlen.indexOf(static_cast<QComboBox *>(watched));
-        scrollTo(model()->index(0, static_cast<int>(stelle)));
+        const auto *wahl = static_cast<QWidget *>(watched);
+        const QRect platz = horizontalHeader()->viewport()->rect();
+        if (!platz.contains(wahl->geometry())) {
+            horizontalScrollBar()->setValue(horizontalScrollBar()->value() + wahl->x());
+        }
     }
     return QTableWidget::eventFilter(watched, event);
 }

@@ -7,8 +7,8 @@
 
 class QComboBox;
 
-/// The first rows of a file as they are understood, and above each column a chooser for what it
-/// means.
+/// The first rows of a file as they are understood, and in the heading of each column a chooser for
+/// what it means.
 class Vorschautabelle : public QTableWidget
 {
     Q_OBJECT
@@ -20,6 +20,8 @@ public:
     void setSpalten(const QStringList &ueberschriften, const QList<Spaltensinn> &spalten);
     /// What is chosen for each column.
     QList<Spaltensinn> spalten() const;
+    /// The choosers, column by column.
+    const QList<QComboBox *> &wahlen() const { return m_wahlen; }
     /// Shows the first rows: each figure per 100 g in the unit of the record, or what stands in the
     /// file where that isn't understood.
     void zeige(const QList<Csv::Satz> &saetze, const Leseauftrag &auftrag,
@@ -30,9 +32,11 @@ Q_SIGNALS:
     void gewaehlt();
 
 protected:
+    void resizeEvent(QResizeEvent *event) override;
     bool eventFilter(QObject *watched, QEvent *event) override;
 
 private:
+    void stelleWahlen();
     QComboBox *neueWahl(const QString &ueberschrift, const Spaltensinn &sinn);
     QTableWidgetItem *zelle(const QString &feld, int spalte, const Leseauftrag &auftrag,
                             const Einlesung &einlesung, const Lesezeile *zeile) const;

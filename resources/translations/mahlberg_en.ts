@@ -1444,6 +1444,10 @@ Nothing is worked out for children under 10 years; it resumes at 11 years.</tr
   <translation>No column is chosen as “Food”.</translation>
  </message>
  <message>
+  <source>Keine Zeile ist fehlerhaft.</source>
+  <translation>No line is wrong.</translation>
+ </message>
+ <message>
   <source>Kohlenhydrateinheiten</source>
   <translation>Carbohydrate units</translation>
  </message>
@@ -1530,6 +1534,10 @@ Nothing is worked out for children under 10 years; it resumes at 11 years.</tr
  <message>
   <source>Nur %1 von %2 Feldern; die anderen sind leer.</source>
   <translation>Only %1 of %2 fields; the others are empty.</translation>
+ </message>
+ <message>
+  <source>Nur für Werte einer Portion, deren Gewicht in keiner Spalte steht.</source>
+  <translation>Only for values of a portion whose weight stands in no column.</translation>
  </message>
  <message>
   <source>Nächster: %1, vorheriger: %2</source>
