@@ -18,6 +18,7 @@
 #include <QScrollArea>
 #include <QScrollBar>
 #include <QTest>
+#include <QWindow>
 
 using namespace Qt::StringLiterals;
 
@@ -200,7 +201,7 @@ void TestEinstellungsfenster::theLanguageHoldsAtOnce()
 void TestEinstellungsfenster::theKeyboardAloneChooses()
 {
     oeffne();
-    QTest::keyClick(&fenster(), Qt::Key_D, Qt::AltModifier);
+    QTest::keyClick(fenster().windowHandle(), Qt::Key_D, Qt::AltModifier);
     QTRY_VERIFY(wahl(u"Dunkel"_s)->isChecked()); // it looks pressed for a moment first
     QCOMPARE(gemerktesErscheinungsbild(m_heim->einstellungen()), Erscheinungsbild::Dunkel);
     wahl(u"Dunkel"_s)->setFocus();
