@@ -134,6 +134,18 @@ QString optionsname(const QString &argument)
     return argument.mid(striche).section(u'=', 0, 0);
 }
 
+/// Whether no value belongs to the option.
+bool stehtAllein(const QString &name)
+{
+    return std::any_of(optionen.begin(), optionen.end(),
+                       [&name](const Option &option) {
+                           return !option.mitAngabe && (name == QLatin1String(option.name) ||
+                                                        name == QLatin1String(option.kurz));
+                       }) ||
+           std::any_of(qtOhneAngabe.begin(), qtOhneAngabe.end(),
+                       [&name](const char *option) { return name == QLatin1String(option); });
+}
+
 /// The argument that names this option, as it was typed.
 QString getippt(const QStringList &argumente, const QString &name)
 {
@@ -192,12 +204,13 @@ Aufrufleser::Befund Aufrufleser::pruefeOptionen() const
                             getippt(m_argumente, unbekannte.constFirst())};
     }
     const QString letztes = m_argumente.constLast();
-    if (letztes.startsWith(u'-') && !letztes.contains(u'=')) {
+    if (letztes.startsWith(u'-') && !letztes.contains(u'=') && !stehtAllein(optionsname(letztes))) {
         return Aufruffehler{Fehlerart::AngabeFehlt, letztes};
     }
     const auto zuviel =
         std::find_if(m_argumente.begin(), m_argumente.end(), [](const QString &argument) {
-            return argument.startsWith(u'-') && argument.contains(u'=');
+            return argument.startsWith(u'-') && argument.contains(u'=') &&
+                   stehtAllein(optionsname(argument));
         });
     return Aufruffehler{Fehlerart::AngabeZuviel, zuviel != m_argumente.end() ? *zuviel : letztes};
 }

@@ -68,6 +68,13 @@ Abschnitt zeilen(const Planbericht &bericht)
     return abschnitt;
 }
 
+/// A percentage is a whole number or one of single precision.
+QJsonValue prozentzahl(double anteil)
+{
+    const auto einzeln = static_cast<float>(anteil);
+    return static_cast<double>(einzeln) == anteil ? zahl(einzeln) : zahl(anteil);
+}
+
 /// Where nothing is known of what a total is measured against, neither percentage nor verdict is
 /// told, though the window fills its fields with 0.
 Posten naehrwert(const Planbericht &bericht, Naehrwert welcher)
@@ -81,7 +88,7 @@ Posten naehrwert(const Planbericht &bericht, Naehrwert welcher)
             {{wert, zahl(summe.summe)},
              {einheit, einheitszeichen(beschreibung(welcher).einheit)},
              {bezug, bedarf ? zahl(*bedarf) : QJsonValue()},
-             {prozent, bedarf ? zahl(summe.prozent) : QJsonValue()},
+             {prozent, bedarf ? prozentzahl(summe.prozent) : QJsonValue()},
              {verdikt, bedarf ? farbe : QJsonValue()},
              {balken, bedarf ? laenge : QJsonValue()},
              {punkt, summe.punkt},

@@ -93,10 +93,7 @@ QJsonValue zahl(float wert)
 
 QJsonValue zahl(double wert)
 {
-    const auto einfach = static_cast<float>(wert);
-    return static_cast<double>(einfach) == wert ? zahl(einfach)
-           : std::isfinite(wert)                ? QJsonValue(wert)
-                                                : QJsonValue();
+    return std::isfinite(wert) ? QJsonValue(wert) : QJsonValue();
 }
 
 QJsonValue text(const QString &wert)

@@ -39,7 +39,7 @@ QString kennung(Naehrwert wert);
 QString kennung(Wertung wertung);
 
 /// A number of single precision as the shortest decimal number that means it; nothing (null) for
-/// one that is not finite. One of double precision that came from a single one is taken for it.
+/// one that is not finite.
 QJsonValue zahl(float wert);
 QJsonValue zahl(double wert);
 

@@ -16,6 +16,7 @@ private Q_SLOTS:
     void theMultiplicationComesFirst();
     void amounts_data();
     void amounts();
+    void fractionsOfAGramCount();
     void valuesThatAreNoAmountPassThrough();
     void visibility_data();
     void visibility();
@@ -89,6 +90,14 @@ void TestSkalierung::amounts()
     Datenmodul food;
     food.setvitc(wert);
     QCOMPARE_EQ(skalieren(food, menge).back(), erwartet);
+}
+
+void TestSkalierung::fractionsOfAGramCount()
+{
+    Datenmodul food;
+    food.setkal(80);
+    QCOMPARE_EQ(skalieren(food, 12.5F).front(), 10.0F);
+    QCOMPARE_EQ(skalieren(food, 0.5F).front(), 0.4F);
 }
 
 void TestSkalierung::valuesThatAreNoAmountPassThrough()

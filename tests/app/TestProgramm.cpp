@@ -33,6 +33,8 @@ private Q_SLOTS:
     void theHomeIsTheOneThatTheSystemKnows_data();
     void theHomeIsTheOneThatTheSystemKnows();
     void theTourLeavesTheHomeAlone();
+    void aNamedFolderHoldsTheFiles();
+    void qtReadsItsOwnOptions();
 
 private:
     QString pfad(const QString &name) const { return m_heim->filePath(name); }
@@ -274,6 +276,35 @@ void TestProgramm::theTourLeavesTheHomeAlone()
     QCOMPARE(programm.ende(), 0);
     QCOMPARE(QDir(m_heim->path()).entryList(QDir::AllEntries | QDir::Hidden | QDir::NoDotAndDotDot),
              QStringList{u"tour"_s});
+}
+
+/// Only the settings stay where they are.
+void TestProgramm::aNamedFolderHoldsTheFiles()
+{
+    Programm programm(m_heim->path(),
+                      {u"--language"_s, u"de"_s, u"--data-dir"_s, pfad(u"Praxis/Anna"_s)});
+    QCOMPARE(programm.naechstes(), fenster);
+    QVERIFY(QFile::exists(pfad(u"Praxis/Anna/Mahlberg.lock"_s)));
+    QVERIFY(!QFile::exists(pfad(u"Library"_s)));
+    QCOMPARE(rechte(pfad(u"Praxis"_s)), u"700"_s);
+    QCOMPARE(rechte(pfad(u"Praxis/Anna"_s)), u"700"_s);
+    programm.tue(u"choose &Dunkel"_s);
+    QTRY_VERIFY(lies(pfad(u".config/Mahlberg/Mahlberg.conf"_s)).contains("Erscheinungsbild="));
+    // Who works on other files is in nobody's way.
+    Programm zweites(m_heim->path());
+    QCOMPARE(zweites.naechstes(), fenster);
+    Programm drittes(m_heim->path(), {u"--language"_s, u"de"_s, u"--data-dir"_s,
+                                      pfad(u"Praxis/../Praxis/Anna/"_s)});
+    QCOMPARE(drittes.naechstes(), frage);
+}
+
+void TestProgramm::qtReadsItsOwnOptions()
+{
+    qputenv("QT_QPA_PLATFORM", "keine");
+    Programm programm(m_heim->path(), {u"-platform"_s, u"offscreen"_s, u"--language"_s, u"en"_s,
+                                       u"-style"_s, u"Fusion"_s});
+    qputenv("QT_QPA_PLATFORM", "offscreen");
+    QCOMPARE(programm.naechstes(), fenster);
 }
 
 QTEST_GUILESS_MAIN(TestProgramm)

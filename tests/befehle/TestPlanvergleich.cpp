@@ -79,6 +79,12 @@ double oderUnendlich(const QJsonValue &zahl)
     return zahl.isNull() ? std::numeric_limits<double>::infinity() : zahl.toDouble();
 }
 
+/// A sum, of which the command prints as many digits as single precision needs.
+double summe(const QJsonValue &zahl)
+{
+    return static_cast<double>(static_cast<float>(oderUnendlich(zahl)));
+}
+
 QString mitEinheit(std::size_t stelle, double zahl)
 {
     return naehrwertMitEinheit(static_cast<Naehrwert>(stelle), zahl);
@@ -100,6 +106,7 @@ private:
     Datenmodul einLebensmittel(const QString &name);
     float eineMenge();
     void schreibeEinenPlan();
+    Plantueren ohneOrdner() const;
     QJsonObject frageBefehl(std::int32_t bedarf) const;
 
     static void vergleiche(const Planfenster &fenster, const QJsonObject &gesagt,
@@ -111,8 +118,7 @@ private:
     static void vergleicheUrteil(const Planfenster &fenster, const QJsonObject &gesagt);
     static std::array<Balkenbild, anzahlNaehrwerte> balkenbilder(const Planfenster &fenster);
 
-    Planheim m_heim;    ///< where the plan lies that the command reads
-    Planheim m_fremdes; ///< where the window writes it anew
+    Planheim m_heim;
     QList<Datenmodul> m_eingebaute;
     QList<Datenmodul> m_eigene;
     QStringList m_namen;
@@ -123,10 +129,8 @@ void TestPlanvergleich::initTestCase()
 {
     vergissKlient();
     macheLebensmittel();
-    for (const Planheim *heim : {&m_heim, &m_fremdes}) {
-        heim->schreibeTabelle(m_eingebaute);
-        heim->schreibeEigene(m_eigene);
-    }
+    m_heim.schreibeTabelle(m_eingebaute);
+    m_heim.schreibeEigene(m_eigene);
 }
 
 /// Zeros, traces, usual values and a few that make sums run over.
@@ -180,6 +184,14 @@ void TestPlanvergleich::schreibeEinenPlan()
         zeilen.emplace_back(m_namen[m_zufall.bounded(m_namen.size())], eineMenge());
     }
     m_heim.schreibePlan(zeilen);
+}
+
+/// The doors of a window that can't write what it shows: that would take most of the time.
+Plantueren TestPlanvergleich::ohneOrdner() const
+{
+    Plantueren tueren = m_heim.tueren();
+    tueren.datenordner = Datenordner::unmittelbar(u"/dev/null/keiner"_s);
+    return tueren;
 }
 
 QJsonObject TestPlanvergleich::frageBefehl(std::int32_t bedarf) const
@@ -247,7 +259,7 @@ void TestPlanvergleich::vergleicheWert(const Planfenster &fenster, std::size_t s
     const auto naehrwert = static_cast<Naehrwert>(stelle);
     const Textfeld &feld = *(fenster.plan().*wertpaare[stelle].prozent);
     const WertungView &balken = *(fenster.plan().*wertpaare[stelle].balken);
-    const QString menge = mitEinheit(stelle, oderUnendlich(gesagt[u"value"]));
+    const QString menge = mitEinheit(stelle, summe(gesagt[u"value"]));
     QCOMPARE(gesagt[u"unit"].toString(), einheitszeichen(beschreibung(naehrwert).einheit));
     if (gesagt[u"reference"].isNull()) {
         QCOMPARE(feld.toolTip(), menge + u"; der Energiebedarf ist noch nicht bekannt"_s);
@@ -270,7 +282,7 @@ void TestPlanvergleich::vergleicheWert(const Planfenster &fenster, std::size_t s
     const Tabellenmodell &summen = *fenster->SummenTabelle->modell();
     const int spalte = summen.spaltenstelle(QLatin1String(beschreibung(naehrwert).kennung));
     QCOMPARE(summen.index(0, spalte).data().toString(),
-             naehrwerttext(naehrwert, oderUnendlich(gesagt[u"column_sum"])));
+             naehrwerttext(naehrwert, summe(gesagt[u"column_sum"])));
     QCOMPARE(summen.index(1, spalte).data().toString(),
              naehrwerttext(naehrwert, oderUnendlich(gesagt[u"left"])));
 }
@@ -344,7 +356,12 @@ void TestPlanvergleich::vergleiche(const Planfenster &fenster, const QJsonObject
 void TestPlanvergleich::aThousandPlans()
 {
     static const QList<std::int32_t> bedarfe = {0, 1, 4, 1200, 2000, 2137, 3500, 1000000};
-    const Planfenster fenster(m_fremdes);
+    const Planfenster fenster(ohneOrdner());
+    Lebensmittelverzeichnis eigene;
+    for (const Datenmodul &eines : std::as_const(m_eigene)) {
+        eigene.insert(eines.name(), eines);
+    }
+    fenster->uebernimmEigene(eigene);
     for (int i = 0; i < plaene && !QTest::currentTestFailed(); ++i) {
         schreibeEinenPlan();
         const std::int32_t bedarf = bedarfe[m_zufall.bounded(bedarfe.size())];

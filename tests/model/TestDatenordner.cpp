@@ -30,6 +30,11 @@ private Q_SLOTS:
     void withoutAHomeInTheEnvironmentTheSystemKnowsIt();
     void newFoldersAreForTheUserAlone_data();
     void newFoldersAreForTheUserAlone();
+    void aNamedFolderHoldsTheFilesItself();
+    void aNamedFolderStaysTheSame();
+    void whetherThereIsAFolder_data();
+    void whetherThereIsAFolder();
+    void whoOnlyLooksMakesNone();
 
 private:
     QString ordner() const
@@ -191,6 +196,64 @@ void TestDatenordner::newFoldersAreForTheUserAlone()
         QVERIFY(stat(QFile::encodeName(m_home->filePath(name)).constData(), &zustand) == 0);
         QCOMPARE(zustand.st_mode & 0777U, neue.contains(name) ? 0700U : 0755U);
     }
+}
+
+void TestDatenordner::aNamedFolderHoldsTheFilesItself()
+{
+    const QString praxis = m_home->filePath(QStringLiteral("Praxis/Anna"));
+    const Datenordner daten = Datenordner::unmittelbar(praxis);
+    QVERIFY(!QFileInfo::exists(praxis));
+    QCOMPARE(daten.pathForDataFile(QStringLiteral("plandaten")),
+             praxis + QStringLiteral("/MahlbergPlanmod.daten"));
+    QVERIFY(QFileInfo(praxis).isDir());
+    for (const QString &neu : {QStringLiteral("Praxis"), QStringLiteral("Praxis/Anna")}) {
+        struct stat zustand = {};
+        QVERIFY(stat(QFile::encodeName(m_home->filePath(neu)).constData(), &zustand) == 0);
+        QCOMPARE(zustand.st_mode & 07777U, 0700U);
+    }
+}
+
+/// Also when the program goes to another folder later.
+void TestDatenordner::aNamedFolderStaysTheSame()
+{
+    const QString vorher = QDir::currentPath();
+    QVERIFY(QDir::setCurrent(m_home->path()));
+    const QString hier = QDir::currentPath();
+    const Datenordner daten = Datenordner::unmittelbar(QStringLiteral("Praxis"));
+    QVERIFY(QDir::setCurrent(vorher));
+    QCOMPARE(daten.datei(QStringLiteral("customdaten")),
+             hier + QStringLiteral("/Praxis/MahlbergCustomnutr.daten"));
+}
+
+void TestDatenordner::whetherThereIsAFolder_data()
+{
+    QTest::addColumn<QString>("name");
+    QTest::addColumn<bool>("da");
+    QTest::newRow("one that is made") << QStringLiteral("a/b") << true;
+    QTest::newRow("one that was there") << QStringLiteral(".") << true;
+    QTest::newRow("a file in its place") << QStringLiteral("datei") << false;
+    QTest::newRow("below a file") << QStringLiteral("datei/b") << false;
+}
+
+void TestDatenordner::whetherThereIsAFolder()
+{
+    QFETCH(QString, name);
+    QFETCH(bool, da);
+    QFile datei(m_home->filePath(QStringLiteral("datei")));
+    QVERIFY(datei.open(QIODevice::WriteOnly));
+    const QString ordner = m_home->filePath(name);
+    QCOMPARE(Datenordner::unmittelbar(ordner).lege(), da);
+    QCOMPARE(QFileInfo(ordner).isDir(), da);
+    QVERIFY(QFileInfo(datei.fileName()).isFile());
+}
+
+void TestDatenordner::whoOnlyLooksMakesNone()
+{
+    const Datenordner daten(m_home->path());
+    QCOMPARE(daten.datei(QStringLiteral("plandaten")),
+             ordner() + QStringLiteral("/MahlbergPlanmod.daten"));
+    QVERIFY(daten.datei(QStringLiteral("anderes")).isNull());
+    QVERIFY(QDir(m_home->path()).isEmpty());
 }
 
 QTEST_GUILESS_MAIN(TestDatenordner)

@@ -17,6 +17,7 @@ class TestNamenswechsel : public QObject
 private Q_SLOTS:
     void remarksAndLinesWithoutAPairAreNone();
     void aFileThatIsNotThereHoldsNone();
+    void onlyNamesThatTheTableHasCount();
     void foodsAreToldApart_data();
     void foodsAreToldApart();
     void everyShippedNameOfTodayIsInTheTable();
@@ -50,6 +51,18 @@ void TestNamenswechsel::remarksAndLinesWithoutAPairAreNone()
 void TestNamenswechsel::aFileThatIsNotThereHoldsNone()
 {
     QVERIFY(leseNamenswechsel(u"/nirgends/namen.csv"_s).isEmpty());
+}
+
+void TestNamenswechsel::onlyNamesThatTheTableHasCount()
+{
+    const QTemporaryDir ordner;
+    const QString path = ordner.filePath(u"namen.csv"_s);
+    QFile datei(path);
+    QVERIFY(datei.open(QIODevice::WriteOnly));
+    datei.write("Bürli;Brötchen\nKohl;Rotkohl\n");
+    datei.close();
+    const Lebensmittelverzeichnis eingebaute = {{u"Rotkohl"_s, {}}, {u"Bürli"_s, {}}};
+    QCOMPARE(leseNamenswechsel(path, eingebaute), Namenswechsel({{u"Kohl"_s, u"Rotkohl"_s}}));
 }
 
 void TestNamenswechsel::foodsAreToldApart_data()
