@@ -3,7 +3,7 @@
 namespace {
 
 constexpr double kilojouleJeKilokalorie = 4.17910447761194;
-constexpr double salzJeNatrium = 2.54;
+constexpr double salzJeNatrium = 2.5; // Regulation (EU) No 1169/2011, Annex I, 11
 constexpr double milligrammJeGramm = 1000;
 
 } // namespace

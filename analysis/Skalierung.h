@@ -30,8 +30,9 @@ float kilojoule(float kilokalorien);
 /// as that many kJ again.
 double kilokalorien(double kilojoule);
 
-/// Table salt in g from sodium in mg, and back: 1 g of sodium is held by 2.54 g of salt, as on the
-/// labels of packed foods.
+/// Table salt in g from sodium in mg, and back: 1 g of sodium counts as 2.5 g of salt, as the
+/// European Union has it on the labels of packed foods (Regulation (EU) No 1169/2011, Annex I).
+/// What is really in 2.5 g of salt is a little less.
 double salzAusNatrium(double milligramm);
 double natriumAusSalz(double gramm);
 

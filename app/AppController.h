@@ -159,6 +159,12 @@ Q_SIGNALS:
     void dateiGewuenscht();
     /// The window of the settings is to be shown.
     void einstellungenGewuenscht();
+    /// A file of foods is to be read.
+    void einlesenGewuenscht();
+    /// A list is to be saved as a table.
+    void ausgebenGewuenscht();
+    /// The list in which the keyboard is is to be put on the clipboard as a table.
+    void tabelleKopierenGewuenscht();
     /// The copies of own foods and plan are to be shown.
     void fruehereStaendeGewuenscht();
     /// The own foods were changed and saved. It is not sent for what `uebernimmEigene` does.

@@ -1,7 +1,7 @@
 #include "Eingabeblatt.h"
 
+#include "Bedenkenworte.h"
 #include "Skalierung.h"
-#include "Zweifelworte.h"
 
 #include <cmath>
 
@@ -74,7 +74,7 @@ void Eingabeblatt::pruefe()
 {
     QStringList zeilen;
     for (const Bedenken &bedenken : bezweifeln(m_inhalt())) {
-        zeilen << worte(bedenken);
+        zeilen << inWorten(bedenken);
     }
     m_blatt.EingabeFensterzweifel->setText(zeilen.join(u'\n'));
     m_blatt.EingabeFensteruebernehmen->setAccessibleDescription(zeilen.join(u' '));

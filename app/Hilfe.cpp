@@ -42,6 +42,8 @@ constexpr Stelle stellen[] = {
     {"druckvorschau", "printing"},
     {"hinweise", "when-something-fails"},
     {"sicherungen", "when-something-fails"},
+    {"einlesen", "tables"},
+    {"ausgabe", "tables"},
 };
 
 /// Empty where none is named.

@@ -64,13 +64,20 @@ void baueAblage(AppController &controller)
     eintrag(ablage, QT_TRANSLATE_NOOP("Mahlberg", "Eigenes Lebensmittel &löschen …"), {},
             [&controller] { controller.LoescheneigeneLM(); });
     ablage.addSeparator();
-    eintrag(ablage, QT_TRANSLATE_NOOP("Mahlberg", "Da&tei öffnen …"), QKeySequence::Open,
+    eintrag(ablage, QT_TRANSLATE_NOOP("Mahlberg", "Datei &öffnen …"), QKeySequence::Open,
             [&controller] { Q_EMIT controller.dateiGewuenscht(); });
     ablage.addSeparator();
     eintrag(ablage, QT_TRANSLATE_NOOP("Mahlberg", "In den Plan &geben"),
             QKeySequence(QStringLiteral("Ctrl+Return")), [&controller] { controller.gibInPlan(); });
     eintrag(ablage, QT_TRANSLATE_NOOP("Mahlberg", "In den Mahlzeiten&plan"), {},
             [&controller] { controller.toolbarlebensmittelweitergabe(); });
+    ablage.addSeparator();
+    eintrag(ablage, QT_TRANSLATE_NOOP("Mahlberg", "Lebensmittel &einlesen …"),
+            QKeySequence(QStringLiteral("Ctrl+I")),
+            [&controller] { Q_EMIT controller.einlesenGewuenscht(); });
+    eintrag(ablage, QT_TRANSLATE_NOOP("Mahlberg", "Als &Tabelle sichern …"),
+            QKeySequence(QStringLiteral("Ctrl+Shift+S")),
+            [&controller] { Q_EMIT controller.ausgebenGewuenscht(); });
     ablage.addSeparator();
     eintrag(ablage, QT_TRANSLATE_NOOP("Mahlberg", "&Drucken …"),
             QKeySequence(QStringLiteral("Ctrl+P")), [&controller] { controller.drucken(); });
@@ -125,6 +132,9 @@ void baueBearbeiten(AppController &controller)
             bearbeiten.addSeparator();
         }
     }
+    eintrag(bearbeiten, QT_TRANSLATE_NOOP("Mahlberg", "Als &Tabelle kopieren"),
+            QKeySequence(QStringLiteral("Ctrl+Shift+C")),
+            [&controller] { Q_EMIT controller.tabelleKopierenGewuenscht(); });
     bearbeiten.addSeparator();
     eintrag(bearbeiten, QT_TRANSLATE_NOOP("Mahlberg", "Lebensmittel &suchen"), QKeySequence::Find,
             [&controller] {

@@ -7,6 +7,7 @@
 #include "Dateiempfang.h"
 #include "Fenstergedaechtnis.h"
 #include "Hilfe.h"
+#include "Tabellenaustausch.h"
 #include "Verlauf.h"
 
 #include <functional>
@@ -41,11 +42,12 @@ public:
     Fenstergedaechtnis gedaechtnis;
     Hilfe hilfe;
     Verlauf verlauf;
+    Tabellenaustausch austausch;
 
 private:
     static void folgeSprache(Planmodul *plan);
 
     std::function<void(const QString &)> m_sprich;
     Einstellungen &m_einstellungen;
-    Dateituer m_frageNachDateien;
+    Dateituer m_waehleDatei;
 };

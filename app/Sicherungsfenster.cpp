@@ -2,6 +2,7 @@
 
 #include "Bestandsvergleich.h"
 #include "Sperrgrund.h"
+#include "Tabellenkopie.h"
 #include "Wertehalter.h"
 #include "Zeichenkettentabelle.h"
 #include "Zeilenhoehe.h"
@@ -100,6 +101,7 @@ QWidget *Sicherungsfenster::mittelteil()
     m_inhalt->horizontalHeader()->setSectionResizeMode(spalteName, QHeaderView::Stretch);
     m_inhalt->horizontalHeader()->setSectionResizeMode(spalteWert, QHeaderView::ResizeToContents);
     m_inhalt->horizontalHeader()->setSectionResizeMode(spalteHeute, QHeaderView::ResizeToContents);
+    Tabellenkopie::ermoegliche(*m_inhalt);
     teiler->addWidget(m_tage);
     teiler->addWidget(m_inhalt);
     teiler->setSizes({breiteTage, fenstergroesse.width() - breiteTage});

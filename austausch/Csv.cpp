@@ -1,7 +1,5 @@
 #include "Csv.h"
 
-#include <QRegularExpression>
-
 #include <array>
 #include <charconv>
 #include <cmath>
@@ -12,13 +10,18 @@ namespace {
 
 constexpr QChar schutz = u'\'';
 
-/// A formula, whatever number of marks stands in front of it. The wide signs are those of East
-/// Asian keyboards.
-const QRegularExpression &formel()
+/// Whether a spreadsheet runs this, whatever number of marks stands in front of it. The wide signs
+/// are those of East Asian keyboards.
+bool istFormel(QStringView text)
 {
-    static const QRegularExpression muster(
-        QStringLiteral("^'*(?:[\\t\\r\\n]|\\s*[=+\\-@\uFF1D\uFF0B\uFF0D\uFF20])"));
-    return muster;
+    while (text.startsWith(schutz)) {
+        text = text.sliced(1);
+    }
+    if (text.startsWith(u'\t') || text.startsWith(u'\r') || text.startsWith(u'\n')) {
+        return true;
+    }
+    text = text.trimmed();
+    return !text.isEmpty() && QStringView(u"=+-@\uFF1D\uFF0B\uFF0D\uFF20").contains(text.front());
 }
 
 /// Long enough for the smallest double with all its zeros.
@@ -101,13 +104,13 @@ QString zahltext(double zahl, QChar dezimal)
 
 QString geschuetzt(const QString &text)
 {
-    return formel().match(text).hasMatch() ? schutz + text : text;
+    return istFormel(text) ? schutz + text : text;
 }
 
 QString ungeschuetzt(const QString &text)
 {
-    return text.startsWith(schutz) && formel().match(text.sliced(1)).hasMatch() ? text.sliced(1)
-                                                                                : text;
+    return text.startsWith(schutz) && istFormel(QStringView(text).sliced(1)) ? text.sliced(1)
+                                                                             : text;
 }
 
 QByteArray schreiben(const Tabelle &tabelle, const Form &form)

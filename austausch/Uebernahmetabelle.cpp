@@ -1,9 +1,9 @@
 #include "Uebernahmetabelle.h"
 
+#include "Bedenkenworte.h"
 #include "Bestandsvergleich.h"
 #include "Zahlenform.h"
 #include "Zeichenkettentabelle.h"
-#include "Zweifelworte.h"
 
 #include <QStringList>
 #include <QTextDocument>
@@ -62,7 +62,7 @@ Uebernahmetabelle::zeileFuer(const Datenmodul &eines,
     zeile.wieEingebautes = eingebaute.contains(eines.name());
     QStringList saetze;
     for (const Bedenken &bedenken : bezweifeln(eines)) {
-        saetze << worte(bedenken);
+        saetze << inWorten(bedenken);
     }
     zeile.zweifel = saetze.join(u' ');
     return zeile;

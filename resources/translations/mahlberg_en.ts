@@ -836,12 +836,28 @@ Nothing is worked out for children under 10 years; it resumes at 11 years.</tr
 <context>
  <name>Mahlberg</name>
  <message>
+  <source>%1 &amp;Namen sind unter den eigenen schon vergeben:</source>
+  <translation>%1 &amp;names are taken among the own foods:</translation>
+ </message>
+ <message>
   <source>%1 (eigen %2)</source>
   <translation>%1 (own %2)</translation>
  </message>
  <message>
   <source>%1 (eigen)</source>
   <translation>%1 (own)</translation>
+ </message>
+ <message>
+  <source>%1 Felder, in der ersten Zeile sind es %2.</source>
+  <translation>%1 fields, while the first line has %2.</translation>
+ </message>
+ <message>
+  <source>%1 Lebensmittel &amp;übernehmen</source>
+  <translation>&amp;Import %1 foods</translation>
+ </message>
+ <message>
+  <source>%1 Lebensmittel sind übernommen.</source>
+  <translation>%1 foods are imported.</translation>
  </message>
  <message>
   <source>%1 Lebensmittel, geschrieben auf %2.</source>
@@ -860,6 +876,26 @@ Nothing is worked out for children under 10 years; it resumes at 11 years.</tr
   <translation>%1: %2</translation>
  </message>
  <message>
+  <source>%1: %2 %3 in 100 g sind mehr als 100 g.</source>
+  <translation>%1: %2 %3 in 100 g are more than 100 g.</translation>
+ </message>
+ <message>
+  <source>%1: %2 ist weniger als nichts.</source>
+  <translation>%1: %2 is less than nothing.</translation>
+ </message>
+ <message>
+  <source>%1: „%2“ ist keine Wertung; es gibt +, 0 und -.</source>
+  <translation>%1: “%2” is no rating; there are +, 0 and -.</translation>
+ </message>
+ <message>
+  <source>%1: „%2“ ist keine Zahl.</source>
+  <translation>%1: “%2” is no number.</translation>
+ </message>
+ <message>
+  <source>%1: „%2“ ist zu groß oder zu klein.</source>
+  <translation>%1: “%2” is too large or too small.</translation>
+ </message>
+ <message>
   <source>&amp;Alle ankreuzen</source>
   <translation>Tick &amp;all</translation>
  </message>
@@ -868,12 +904,36 @@ Nothing is worked out for children under 10 years; it resumes at 11 years.</tr
   <translation>Save &amp;as PDF …</translation>
  </message>
  <message>
+  <source>&amp;Dezimalzeichen:</source>
+  <translation>&amp;Decimal mark:</translation>
+ </message>
+ <message>
+  <source>&amp;Erste Zeile sind Überschriften</source>
+  <translation>&amp;First line holds headings</translation>
+ </message>
+ <message>
+  <source>&amp;Fehlerhafte Zeilen weglassen</source>
+  <translation>&amp;Leave out wrong lines</translation>
+ </message>
+ <message>
+  <source>&amp;Form:</source>
+  <translation>&amp;Form:</translation>
+ </message>
+ <message>
   <source>&amp;Für alle so</source>
   <translation>&amp;The same for all</translation>
  </message>
  <message>
+  <source>&amp;Gewicht der Portion:</source>
+  <translation>Weight of the &amp;portion:</translation>
+ </message>
+ <message>
   <source>&amp;Keines ankreuzen</source>
   <translation>Tick &amp;none</translation>
+ </message>
+ <message>
+  <source>&amp;Liste:</source>
+  <translation>&amp;List:</translation>
  </message>
  <message>
   <source>&amp;Löschen …</source>
@@ -888,6 +948,10 @@ Nothing is worked out for children under 10 years; it resumes at 11 years.</tr
   <translation>&amp;Next result</translation>
  </message>
  <message>
+  <source>&amp;Sichern …</source>
+  <translation>&amp;Save …</translation>
+ </message>
+ <message>
   <source>&amp;Spalten anpassen</source>
   <translation>&amp;Fit columns</translation>
  </message>
@@ -896,12 +960,20 @@ Nothing is worked out for children under 10 years; it resumes at 11 years.</tr
   <translation>Move &amp;divider</translation>
  </message>
  <message>
+  <source>&amp;Trennzeichen:</source>
+  <translation>Sepa&amp;rator:</translation>
+ </message>
+ <message>
   <source>&amp;Vorheriger Treffer</source>
   <translation>Pre&amp;vious result</translation>
  </message>
  <message>
   <source>&amp;Werte als neues Lebensmittel abschreiben …</source>
   <translation>&amp;Copy the values into a new food …</translation>
+ </message>
+ <message>
+  <source>&amp;Werte gelten für:</source>
+  <translation>&amp;Values are for:</translation>
  </message>
  <message>
   <source>&amp;Zuletzt gewählte Lebensmittel …</source>
@@ -916,6 +988,10 @@ Nothing is worked out for children under 10 years; it resumes at 11 years.</tr
   <translation>(own food)</translation>
  </message>
  <message>
+  <source>(nicht übernehmen)</source>
+  <translation>(leave out)</translation>
+ </message>
+ <message>
   <source>--data-dir ORDNER</source>
   <translation>--data-dir FOLDER</translation>
  </message>
@@ -924,8 +1000,32 @@ Nothing is worked out for children under 10 years; it resumes at 11 years.</tr
   <translation>--tour FOLDER</translation>
  </message>
  <message>
+  <source>1 &amp;Name ist unter den eigenen schon vergeben:</source>
+  <translation>1 &amp;name is taken among the own foods:</translation>
+ </message>
+ <message>
+  <source>1 Lebensmittel &amp;übernehmen</source>
+  <translation>&amp;Import 1 food</translation>
+ </message>
+ <message>
+  <source>1 Lebensmittel ist übernommen.</source>
+  <translation>1 food is imported.</translation>
+ </message>
+ <message>
   <source>1 Punkt</source>
   <translation>1 point</translation>
+ </message>
+ <message>
+  <source>100 g</source>
+  <translation>100 g</translation>
+ </message>
+ <message>
+  <source>Als &amp;Tabelle kopieren</source>
+  <translation>Copy as ta&amp;ble</translation>
+ </message>
+ <message>
+  <source>Als &amp;Tabelle sichern …</source>
+  <translation>Save as &amp;table …</translation>
  </message>
  <message>
   <source>Als PDF sichern</source>
@@ -934,6 +1034,26 @@ Nothing is worked out for children under 10 years; it resumes at 11 years.</tr
  <message>
   <source>Als PDF sichern …</source>
   <translation>Save as PDF …</translation>
+ </message>
+ <message>
+  <source>Als Tabelle kopiert: %1 Zeilen.</source>
+  <translation>Copied as a table: %1 rows.</translation>
+ </message>
+ <message>
+  <source>Als Tabelle kopiert: 1 Zeile.</source>
+  <translation>Copied as a table: 1 row.</translation>
+ </message>
+ <message>
+  <source>Als Tabelle sichern</source>
+  <translation>Save as table</translation>
+ </message>
+ <message>
+  <source>Angekreuzt bleibt die Zeile weg.</source>
+  <translation>Ticked, the line is left out.</translation>
+ </message>
+ <message>
+  <source>Angezeigt als</source>
+  <translation>Shown as</translation>
  </message>
  <message>
   <source>Anteile am Tagesbedarf</source>
@@ -968,6 +1088,10 @@ Nothing is worked out for children under 10 years; it resumes at 11 years.</tr
   <translation>Meaning of the colours, from the left: %1</translation>
  </message>
  <message>
+  <source>Bedeutung der Spalte „%1“</source>
+  <translation>Meaning of the column “%1”</translation>
+ </message>
+ <message>
   <source>Bei dem gewählten Lebensmittel ist nichts zu entscheiden.</source>
   <translation>There is nothing to decide about the chosen food.</translation>
  </message>
@@ -996,8 +1120,16 @@ Nothing is worked out for children under 10 years; it resumes at 11 years.</tr
   <translation>Bread units</translation>
  </message>
  <message>
-  <source>Da&amp;tei öffnen …</source>
-  <translation>&amp;Open file …</translation>
+  <source>Daran erkennen Tabellenprogramme die Umlaute; manche andere Programme stört sie.</source>
+  <translation>By it spreadsheets recognise letters with accents; it disturbs some other programs.</translation>
+ </message>
+ <message>
+  <source>Das Gewicht der Portion fehlt.</source>
+  <translation>The weight of the portion is missing.</translation>
+ </message>
+ <message>
+  <source>Das Tabellenprogramm hat seine eigenen Zeichen. Für andere wählen Sie bei der Form „Selbst gewählt“.</source>
+  <translation>The spreadsheet has signs of its own. For others choose “Own choice” as the form.</translation>
  </message>
  <message>
   <source>Darin hält Mahlberg selbst Ihre eigenen Lebensmittel. Sie sind schon da.</source>
@@ -1040,12 +1172,24 @@ Nothing is worked out for children under 10 years; it resumes at 11 years.</tr
   <translation>That cannot be opened.</translation>
  </message>
  <message>
+  <source>Datei &amp;öffnen …</source>
+  <translation>&amp;Open file …</translation>
+ </message>
+ <message>
   <source>Datei öffnen</source>
   <translation>Open file</translation>
  </message>
  <message>
   <source>Den Befehl „%1“ gibt es nicht.</source>
   <translation>There is no command “%1”.</translation>
+ </message>
+ <message>
+  <source>Der Name fehlt.</source>
+  <translation>The name is missing.</translation>
+ </message>
+ <message>
+  <source>Der Name „%1“ steht schon in Zeile %2.</source>
+  <translation>The name “%1” already stands in line %2.</translation>
  </message>
  <message>
   <source>Der Ordner lässt sich nicht öffnen.</source>
@@ -1062,6 +1206,10 @@ Nothing is worked out for children under 10 years; it resumes at 11 years.</tr
  <message>
   <source>Die Ausgabe ließ sich nicht schreiben.</source>
   <translation>The output could not be written.</translation>
+ </message>
+ <message>
+  <source>Die Datei hat mehr als %1 Zeilen.</source>
+  <translation>The file has more than %1 lines.</translation>
  </message>
  <message>
   <source>Die Datei „%1“ enthält Lebensmittel und keinen Plan.</source>
@@ -1116,8 +1264,24 @@ Nothing is worked out for children under 10 years; it resumes at 11 years.</tr
   <translation>The arrow keys move the divider, Return ends it.</translation>
  </message>
  <message>
+  <source>Die Spalten „%1“ und „%2“ sind als dasselbe gewählt.</source>
+  <translation>The columns “%1” and “%2” are chosen as the same.</translation>
+ </message>
+ <message>
+  <source>Die Tabelle ist gesichert: %1</source>
+  <translation>The table is saved: %1</translation>
+ </message>
+ <message>
+  <source>Die Tabelle ist nicht gesichert: %1 (%2)</source>
+  <translation>The table is not saved: %1 (%2)</translation>
+ </message>
+ <message>
   <source>Die Zeile „%1“ steht für kein Lebensmittel und kommt nicht in den Plan.</source>
   <translation>The line “%1” stands for no food and does not go into the plan.</translation>
+ </message>
+ <message>
+  <source>Die ersten Zeilen, wie sie gelesen werden</source>
+  <translation>The first lines as they are read</translation>
  </message>
  <message>
   <source>Diese Datei gibt es nicht.</source>
@@ -1148,6 +1312,10 @@ Nothing is worked out for children under 10 years; it resumes at 11 years.</tr
   <translation>A built-in food has the same name. In the plan, the values of that one hold.</translation>
  </message>
  <message>
+  <source>Eingebaute Lebensmittel</source>
+  <translation>Built-in foods</translation>
+ </message>
+ <message>
   <source>Einstellungen</source>
   <translation>Settings</translation>
  </message>
@@ -1172,8 +1340,16 @@ Nothing is worked out for children under 10 years; it resumes at 11 years.</tr
   <translation>There is nothing to redo.</translation>
  </message>
  <message>
+  <source>Es gibt nichts zu übernehmen.</source>
+  <translation>There is nothing to import.</translation>
+ </message>
+ <message>
   <source>Es gibt nichts zurückzunehmen.</source>
   <translation>There is nothing to undo.</translation>
+ </message>
+ <message>
+  <source>Fehler: %1. Solange einer da ist, wird nichts übernommen. Wählen Sie die Spalte anders, oder kreuzen Sie die Zeile an, damit sie wegbleibt.</source>
+  <translation>Mistakes: %1. As long as there is one, nothing is imported. Choose another meaning for the column, or tick the line to leave it out.</translation>
  </message>
  <message>
   <source>Form der Ausgabe von „evaluate“ und „food“</source>
@@ -1186,6 +1362,10 @@ Nothing is worked out for children under 10 years; it resumes at 11 years.</tr
  <message>
   <source>Gesamtbeurteilung: mittlere Deckung des Tagesbedarfs je 100 kcal, in %</source>
   <translation>Overall judgement: mean coverage of the daily need per 100 kcal, in %</translation>
+ </message>
+ <message>
+  <source>Gewicht der Portion (g)</source>
+  <translation>Weight of the portion (g)</translation>
  </message>
  <message>
   <source>Geöffnet werden nur Dateien dieses Rechners.</source>
@@ -1224,6 +1404,10 @@ Nothing is worked out for children under 10 years; it resumes at 11 years.</tr
   <translation>Keep yours</translation>
  </message>
  <message>
+  <source>In Zeile %1 beginnt ein Anführungszeichen, das nicht endet.</source>
+  <translation>In line %1 a quotation mark begins that does not end.</translation>
+ </message>
+ <message>
   <source>In den Ordner für PDF lässt sich nichts sichern.</source>
   <translation>Nothing can be saved in the folder for PDFs.</translation>
  </message>
@@ -1236,6 +1420,10 @@ Nothing is worked out for children under 10 years; it resumes at 11 years.</tr
   <translation>To the own foods come %1: %2 new, %3 replaced, %4 under a new name. Yours stays for %5.</translation>
  </message>
  <message>
+  <source>In dieser Liste steht nichts zum Kopieren.</source>
+  <translation>There is nothing to copy in this list.</translation>
+ </message>
+ <message>
   <source>Inhaltsstoffe, Anteil am Tagesbedarf</source>
   <translation>Nutrients, share of daily need</translation>
  </message>
@@ -1244,16 +1432,36 @@ Nothing is worked out for children under 10 years; it resumes at 11 years.</tr
   <translation>Named otherwise inside: %1. The name that stands here holds.</translation>
  </message>
  <message>
+  <source>Keine Spalte ist als Energie gewählt; sie gilt als 0.</source>
+  <translation>No column is chosen as energy; it counts as 0.</translation>
+ </message>
+ <message>
+  <source>Keine Spalte ist als Nährwert gewählt.</source>
+  <translation>No column is chosen as a nutrient.</translation>
+ </message>
+ <message>
+  <source>Keine Spalte ist als „Lebensmittel“ gewählt.</source>
+  <translation>No column is chosen as “Food”.</translation>
+ </message>
+ <message>
   <source>Kohlenhydrateinheiten</source>
   <translation>Carbohydrate units</translation>
+ </message>
+ <message>
+  <source>Komma ,</source>
+  <translation>Comma ,</translation>
+ </message>
+ <message>
+  <source>Lebensmittel &amp;einlesen …</source>
+  <translation>&amp;Import foods …</translation>
  </message>
  <message>
   <source>Lebensmittel (*.daten);;Alle Dateien (*)</source>
   <translation>Foods (*.daten);;All files (*)</translation>
  </message>
  <message>
-  <source>Lebensmittel übernommen</source>
-  <translation>foods taken over</translation>
+  <source>Lebensmittel einlesen</source>
+  <translation>Import foods</translation>
  </message>
  <message>
   <source>Magnesium zu Calcium</source>
@@ -1280,6 +1488,10 @@ Nothing is worked out for children under 10 years; it resumes at 11 years.</tr
   <translation>Amount: set it on the right.</translation>
  </message>
  <message>
+  <source>Mit &amp;Marke für UTF-8</source>
+  <translation>With &amp;mark for UTF-8</translation>
+ </message>
+ <message>
   <source>Mit der Tastatur: Die Eingabetaste hängt ein Objekt an. F6 wechselt zwischen hier und der Leiste; dort verschieben Alt und die Pfeiltasten, und Entf nimmt heraus.</source>
   <translation>By keyboard: Return appends an item. F6 goes to the toolbar and back; there Alt and the arrow keys move an item, and Del takes it out.</translation>
  </message>
@@ -1302,6 +1514,18 @@ Nothing is worked out for children under 10 years; it resumes at 11 years.</tr
  <message>
   <source>Natrium zu Kalium</source>
   <translation>Sodium to potassium</translation>
+ </message>
+ <message>
+  <source>Neu: %1, ersetzt: %2, übersprungen: %3, schon vorhanden: %4.</source>
+  <translation>New: %1, replaced: %2, left out: %3, there already: %4.</translation>
+ </message>
+ <message>
+  <source>Nicht übernommene Spalten: %1.</source>
+  <translation>Columns left out: %1.</translation>
+ </message>
+ <message>
+  <source>Nur %1 von %2 Feldern; die anderen sind leer.</source>
+  <translation>Only %1 of %2 fields; the others are empty.</translation>
  </message>
  <message>
   <source>Nächster: %1, vorheriger: %2</source>
@@ -1340,12 +1564,36 @@ Nothing is worked out for children under 10 years; it resumes at 11 years.</tr
   <translation>place of “%1”</translation>
  </message>
  <message>
+  <source>Punkt .</source>
+  <translation>Point .</translation>
+ </message>
+ <message>
   <source>Rückgabewert: 0 erledigt, 1 nicht gelungen, 2 falscher Aufruf.</source>
   <translation>Exit status: 0 done, 1 failed, 2 wrong call.</translation>
  </message>
  <message>
+  <source>Salz</source>
+  <translation>Salt</translation>
+ </message>
+ <message>
+  <source>Selbst gewählt</source>
+  <translation>Own choice</translation>
+ </message>
+ <message>
+  <source>Senkrechter Strich |</source>
+  <translation>Vertical bar |</translation>
+ </message>
+ <message>
   <source>Sie ist beschädigt, ab Byte %1.</source>
   <translation>It is damaged, from byte %1 on.</translation>
+ </message>
+ <message>
+  <source>Sie ist größer als 50 MB.</source>
+  <translation>It is larger than 50 MB.</translation>
+ </message>
+ <message>
+  <source>Sie ist kein Text. Tabellenprogramme sichern eine Tabelle als CSV.</source>
+  <translation>It is no text. Spreadsheets save a table as CSV.</translation>
  </message>
  <message>
   <source>Sie ist leer.</source>
@@ -1364,6 +1612,14 @@ Nothing is worked out for children under 10 years; it resumes at 11 years.</tr
   <translation>This way nothing comes to the own foods.</translation>
  </message>
  <message>
+  <source>Spalte %1</source>
+  <translation>Column %1</translation>
+ </message>
+ <message>
+  <source>Spalte „%1“: „%2“ ist als %3 gelesen.</source>
+  <translation>Column “%1”: “%2” is read as %3.</translation>
+ </message>
+ <message>
   <source>Sprache</source>
   <translation>Language</translation>
  </message>
@@ -1372,12 +1628,36 @@ Nothing is worked out for children under 10 years; it resumes at 11 years.</tr
   <translation>language of windows and texts</translation>
  </message>
  <message>
+  <source>Strichpunkt ;</source>
+  <translation>Semicolon ;</translation>
+ </message>
+ <message>
+  <source>Suchergebnis</source>
+  <translation>Search results</translation>
+ </message>
+ <message>
+  <source>Tabellen (*.csv *.tsv *.txt);;Alle Dateien (*)</source>
+  <translation>Tables (*.csv *.tsv *.txt);;All files (*)</translation>
+ </message>
+ <message>
+  <source>Tabellen (*.csv);;Alle Dateien (*)</source>
+  <translation>Tables (*.csv);;All files (*)</translation>
+ </message>
+ <message>
+  <source>Tabulator</source>
+  <translation>Tab</translation>
+ </message>
+ <message>
   <source>Treffer %1 von %2</source>
   <translation>Result %1 of %2</translation>
  </message>
  <message>
   <source>Trennlinie</source>
   <translation>Divider</translation>
+ </message>
+ <message>
+  <source>Unter den Überschriften steht nichts.</source>
+  <translation>Nothing stands below the headings.</translation>
  </message>
  <message>
   <source>Was daraus wird</source>
@@ -1392,6 +1672,10 @@ Nothing is worked out for children under 10 years; it resumes at 11 years.</tr
   <translation>What would you like to save as a PDF?</translation>
  </message>
  <message>
+  <source>Was zu dieser Datei zu sagen ist</source>
+  <translation>What there is to say about this file</translation>
+ </message>
+ <message>
   <source>Welches der beiden gilt</source>
   <translation>Which of the two holds</translation>
  </message>
@@ -1402,6 +1686,10 @@ Nothing is worked out for children under 10 years; it resumes at 11 years.</tr
  <message>
   <source>Wie das System: D&amp;okumente</source>
   <translation>Like the system: D&amp;ocuments</translation>
+ </message>
+ <message>
+  <source>Wie das Tabellenprogramm</source>
+  <translation>As the spreadsheet has it</translation>
  </message>
  <message>
   <source>Wiederholen</source>
@@ -1418,6 +1706,10 @@ Nothing is worked out for children under 10 years; it resumes at 11 years.</tr
  <message>
   <source>Wählen Sie zuerst eine Sportart.</source>
   <translation>First choose a sport.</translation>
+ </message>
+ <message>
+  <source>Zeile %1: %2</source>
+  <translation>Line %1: %2</translation>
  </message>
  <message>
   <source>Zu der Option in „%1“ gehört keine Angabe.</source>
@@ -1514,12 +1806,24 @@ New: %1</translation>
   <translation>stays out</translation>
  </message>
  <message>
+  <source>bleibt weg</source>
+  <translation>is left out</translation>
+ </message>
+ <message>
+  <source>eigene ersetzen</source>
+  <translation>replace own</translation>
+ </message>
+ <message>
   <source>eigenes</source>
   <translation>own</translation>
  </message>
  <message>
   <source>eigenes Lebensmittel</source>
   <translation>own food</translation>
+ </message>
+ <message>
+  <source>eine Portion</source>
+  <translation>a portion</translation>
  </message>
  <message>
   <source>einem Rechner alter Bauart (Big-Endian)</source>
@@ -1532,6 +1836,10 @@ New: %1</translation>
  <message>
   <source>eingebaut</source>
   <translation>built-in</translation>
+ </message>
+ <message>
+  <source>eingelesene Lebensmittel</source>
+  <translation>imported foods</translation>
  </message>
  <message>
   <source>früherer Stand der eigenen Lebensmittel</source>
@@ -1560,6 +1868,10 @@ New: %1</translation>
  <message>
   <source>heißt jetzt „%1“ und zählt nicht mit</source>
   <translation>is now called “%1” and does not count</translation>
+ </message>
+ <message>
+  <source>je Spalte erkannt</source>
+  <translation>found out for each column</translation>
  </message>
  <message>
   <source>keine Zahl</source>
@@ -1644,6 +1956,10 @@ New: %1</translation>
  <message>
   <source>unter 100 kcal sagt die 0 nichts aus</source>
   <translation>below 100 kcal the 0 says nothing</translation>
+ </message>
+ <message>
+  <source>unter neuem Namen dazu</source>
+  <translation>add under a new name</translation>
  </message>
  <message>
   <source>verfehlt</source>
@@ -2778,6 +3094,10 @@ New: %1</translation>
   <translation>opens the windows</translation>
  </message>
  <message>
+  <source>überspringen</source>
+  <translation>leave out</translation>
+ </message>
+ <message>
   <source>„%1“</source>
   <translation>“%1”</translation>
  </message>
@@ -2802,6 +3122,10 @@ New: %1</translation>
   <translation>You have “%1” already, with other values:</translation>
  </message>
  <message>
+  <source>„%1“ heißt wie ein eingebautes Lebensmittel; im Plan zählt das eingebaute.</source>
+  <translation>“%1” is called like a built-in food; in the plan the built-in one counts.</translation>
+ </message>
+ <message>
   <source>„%1“ in den Plan</source>
   <translation>“%1” into the plan</translation>
  </message>
@@ -2818,6 +3142,10 @@ New: %1</translation>
   <translation>“%1” has been changed.</translation>
  </message>
  <message>
+  <source>„%1“ ist kein Gewicht einer Portion.</source>
+  <translation>“%1” is no weight of a portion.</translation>
+ </message>
+ <message>
   <source>„%1“ ist keine Menge. Es bleibt bei %2 g.</source>
   <translation>“%1” is no amount. It stays %2 g.</translation>
  </message>
@@ -2828,6 +3156,10 @@ New: %1</translation>
  <message>
   <source>„%1“ ist nicht da oder geschützt. Wählen Sie einen anderen Ordner. Welcher vorgeschlagen wird, steht in den Einstellungen.</source>
   <translation>“%1” is missing or protected. Choose another folder. The settings say which one is proposed.</translation>
+ </message>
+ <message>
+  <source>„%1“ lässt sich nicht einlesen. %2</source>
+  <translation>“%1” can’t be imported. %2</translation>
  </message>
  <message>
   <source>„%1“ stand schon im Plan: Es steht jetzt am Ende und hat %2 g (vorher: %3 g).</source>
@@ -2892,6 +3224,10 @@ New: %1</translation>
  <message>
   <source>Seite des Handbuchs</source>
   <translation>Page of the handbook</translation>
+ </message>
+ <message>
+  <source>… und %1 weitere</source>
+  <translation>… and %1 more</translation>
  </message>
 </context>
 <context>

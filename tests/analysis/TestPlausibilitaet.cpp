@@ -129,11 +129,11 @@ void TestPlausibilitaet::sodiumIsTakenForSalt_data()
     QTest::addColumn<Zweifel>("zweifel");
     QTest::addColumn<double>("errechnet");
     QTest::newRow("more than any salt has")
-        << Wertliste{{na, 50000}} << Zweifel::NatriumZuGross << 127.0;
+        << Wertliste{{na, 50000}} << Zweifel::NatriumZuGross << 125.0;
     QTest::newRow("no room beside the sugar")
-        << Wertliste{{na, 10000}, {kal, 360}, {kh, 90}} << Zweifel::NatriumZuGross << 25.4;
+        << Wertliste{{na, 10000}, {kal, 360}, {kh, 90}} << Zweifel::NatriumZuGross << 25.0;
     QTest::newRow("the salt of a label")
-        << Wertliste{{na, 1.27F}, {kal, 52}, {kh, 13}} << Zweifel::SalzStattNatrium << 500.0;
+        << Wertliste{{na, 1.25F}, {kal, 52}, {kh, 13}} << Zweifel::SalzStattNatrium << 500.0;
 }
 
 void TestPlausibilitaet::sodiumIsTakenForSalt()

@@ -170,8 +170,8 @@ void TestSkalierung::saltAndSodium_data()
     QTest::addColumn<double>("salz");    // g
     QTest::addColumn<double>("natrium"); // mg
     QTest::newRow("none") << 0.0 << 0.0;
-    QTest::newRow("a gram of sodium") << 2.54 << 1000.0;
-    QTest::newRow("a cheese") << 1.27 << 500.0;
+    QTest::newRow("a gram of sodium") << 2.5 << 1000.0;
+    QTest::newRow("a cheese") << 1.25 << 500.0;
 }
 
 void TestSkalierung::saltAndSodium()

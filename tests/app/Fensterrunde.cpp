@@ -4,6 +4,7 @@
 #include "Ueber.h"
 
 #include <QApplication>
+#include <QFile>
 #include <QLineEdit>
 #include <QTabBar>
 #include <QTest>
@@ -14,6 +15,9 @@ Fensterrunde::Fensterrunde(const QString &sprache) : m_sprache(sprache)
     Planmodul::klient = {};
     m_heim.schreibeTabelle(zaehltabelle(5));
     m_heim.schreibeEigene(verzeichnis({lebensmittel(QStringLiteral("Eigenes"))}));
+    m_heim.waehleDatei = [this](QWidget *, const Dateifrage &, const auto &antwort) {
+        antwort(m_heim.pfad(QStringLiteral("tabelle.csv")));
+    };
     m_sprache.sprich(sprache); // the home has a desk of its own
     m_fenster = std::make_unique<Probefenster>(m_heim);
     m_fenster->klicke(2, inName);
@@ -42,6 +46,14 @@ void Fensterrunde::geheDurchsHauptfenster(const Besuch &besuch)
     QCoreApplication::processEvents();
     besuch(QStringLiteral("main, profile"), haupt);
     controller.profilaufzu->click();
+}
+
+/// Foods of which one has a name that is taken, and one a mistake.
+void Fensterrunde::schreibeTabellendatei() const
+{
+    QFile datei(m_heim.pfad(QStringLiteral("tabelle.csv")));
+    QVERIFY(datei.open(QIODevice::WriteOnly));
+    datei.write("Name;kcal;kh\nEigenes;7;1\nSenf;x;1\n");
 }
 
 /// Opens a window of this class and closes it again.
@@ -86,6 +98,13 @@ void Fensterrunde::gehe(const Besuch &besuch)
     oeffne(
         "Dateifenster", QStringLiteral("opened file"),
         [&] { m_fenster->oberflaeche().empfang.oeffne({datei}); }, besuch);
+    oeffne(
+        "Ausgabefenster", QStringLiteral("going out"),
+        [&] { Q_EMIT controller.ausgebenGewuenscht(); }, besuch);
+    schreibeTabellendatei();
+    oeffne(
+        "Einlesefenster", QStringLiteral("coming in"),
+        [&] { Q_EMIT controller.einlesenGewuenscht(); }, besuch);
     oeffne(
         "Anpassungspalette", QStringLiteral("palette"), [&] { controller.Leisteanpassen(); },
         besuch);

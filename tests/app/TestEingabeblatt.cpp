@@ -107,12 +107,12 @@ void TestEingabeblatt::kilocaloriesAreShownInKilojoules()
 void TestEingabeblatt::saltBecomesSodium()
 {
     oeffne();
-    tippe(controller().EingabeFenstersalzfeld, "1,27");
+    tippe(controller().EingabeFenstersalzfeld, "1,25");
     QCOMPARE(controller().EingabeFensternafeld->text(), QStringLiteral("500"));
-    tippe(controller().EingabeFenstersalzfeld, "1.2"); // 472.44
-    QCOMPARE(controller().EingabeFensternafeld->text(), QStringLiteral("472,4"));
+    tippe(controller().EingabeFenstersalzfeld, "1.3");
+    QCOMPARE(controller().EingabeFensternafeld->text(), QStringLiteral("520"));
     tippe(controller().EingabeFensternafeld, "1000");
-    QCOMPARE(controller().EingabeFenstersalzfeld->text(), QStringLiteral("2,54"));
+    QCOMPARE(controller().EingabeFenstersalzfeld->text(), QStringLiteral("2,5"));
 }
 
 void TestEingabeblatt::emptyingOneFieldEmptiesTheOther()
@@ -191,11 +191,11 @@ void TestEingabeblatt::doubtsNameTheirFigures_data()
                           "102,5 g in 100 g.");
     QTest::newRow("too much sodium")
         << QByteArray() << QByteArray() << QByteArray("50000")
-        << QStringLiteral("Natrium prüfen: 50000 mg sind 127,0 g Salz, mehr als neben den anderen "
+        << QStringLiteral("Natrium prüfen: 50000 mg sind 125,0 g Salz, mehr als neben den anderen "
                           "Nährstoffen Platz hat.");
     QTest::newRow("salt for sodium")
-        << QByteArray() << QByteArray() << QByteArray("1,27")
-        << QStringLiteral("Ist bei Natrium Salz gemeint? 1,27 g Salz sind 500 mg Natrium.");
+        << QByteArray() << QByteArray() << QByteArray("1,25")
+        << QStringLiteral("Ist bei Natrium Salz gemeint? 1,25 g Salz sind 500 mg Natrium.");
 }
 
 void TestEingabeblatt::doubtsNameTheirFigures()
@@ -223,7 +223,7 @@ void TestEingabeblatt::theFoodOnDisplayIsCopiedPerHundredGrams()
     QCOMPARE(controller().EingabeFensterfeldB->text(), QStringLiteral("240"));
     QCOMPARE(controller().EingabeFensterjoulefeld->text(), QStringLiteral("1003"));
     QCOMPARE(controller().EingabeFensternafeld->text(), QStringLiteral("500"));
-    QCOMPARE(controller().EingabeFenstersalzfeld->text(), QStringLiteral("1,27"));
+    QCOMPARE(controller().EingabeFenstersalzfeld->text(), QStringLiteral("1,25"));
     QCOMPARE(controller().EingabeFensteruebergewicht->currentText(), QStringLiteral("+"));
     QCOMPARE(controller().EingabeFenstergicht->currentText(), QStringLiteral("-"));
     QVERIFY(controller().KundenArray.isEmpty()); // nothing is saved yet

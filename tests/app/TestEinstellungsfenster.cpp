@@ -216,15 +216,15 @@ void TestEinstellungsfenster::theFolderForPdfsIsChosenAndForgotten()
 {
     const QString wieSystem = pdfordner(m_heim->einstellungen());
     Dateifrage gefragt;
-    m_heim->frageNachDateien = [&](QWidget *, const Dateifrage &frage) {
+    m_heim->waehleDatei = [&](QWidget *, const Dateifrage &frage, const auto &antwort) {
         gefragt = frage;
-        return QStringList{m_heim->pfad(u"Ausdrucke"_s)};
+        antwort(m_heim->pfad(u"Ausdrucke"_s));
     };
     oeffne();
     QCOMPARE(ordner(), wieSystem);
     QVERIFY(!knopf("wiesystem")->isEnabled());
     QTest::mouseClick(knopf("ordnerwaehlen"), Qt::LeftButton);
-    QCOMPARE(gefragt.art, Dateifrage::Art::Ordner);
+    QCOMPARE(gefragt.zweck, Dateifrage::Zweck::Ordner);
     QCOMPARE(gefragt.vorschlag, wieSystem);
     QCOMPARE(ordner(), m_heim->pfad(u"Ausdrucke"_s));
     QCOMPARE(pdfordner(m_heim->einstellungen()), m_heim->pfad(u"Ausdrucke"_s));
@@ -238,8 +238,7 @@ void TestEinstellungsfenster::theFolderForPdfsIsChosenAndForgotten()
 void TestEinstellungsfenster::withoutAChoiceTheFolderStays()
 {
     merkePdfordner(m_heim->einstellungen(), m_heim->pfad(u"Ausdrucke"_s));
-    m_heim->frageNachDateien = [](QWidget *, const Dateifrage &) {
-        return QStringList();
+    m_heim->waehleDatei = [](QWidget *, const Dateifrage &, const auto &) {
     };
     oeffne();
     QTest::mouseClick(knopf("ordnerwaehlen"), Qt::LeftButton);

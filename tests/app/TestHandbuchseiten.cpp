@@ -48,6 +48,7 @@ const QSet<QString> keineAufschrift = {
     u"crispbread"_s,
     u"Library/Application Support/Mahlberg"_s,
     u".config/Mahlberg"_s,
+    u"1.234"_s,
 };
 
 QDir ordner(const QString &sprache)

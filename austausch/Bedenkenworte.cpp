@@ -1,4 +1,4 @@
-#include "Zweifelworte.h"
+#include "Bedenkenworte.h"
 
 #include "Zahlenform.h"
 #include "Zeichenkettentabelle.h"
@@ -39,7 +39,7 @@ constexpr Zweifelzeile zweifelworte[] = {
 
 } // namespace
 
-QString worte(const Bedenken &bedenken)
+QString inWorten(const Bedenken &bedenken)
 {
     for (const Zweifelzeile &zeile : zweifelworte) {
         if (zeile.zweifel == bedenken.zweifel) {
