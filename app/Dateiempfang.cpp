@@ -4,6 +4,7 @@
 #include "Dateifenster.h"
 #include "Dateihueter.h"
 #include "Druckname.h"
+#include "Eigenuebernahme.h"
 #include "Hindernisworte.h"
 #include "Zeichenkettentabelle.h"
 
@@ -134,12 +135,7 @@ void Dateiempfang::uebernimm(const QString &dateiname, const QList<Datenmodul> &
 {
     const Uebernahme was =
         ::uebernimm({m_controller.KundenDictionary, m_controller.KundenArray}, lebensmittel, wahl);
-    m_controller.uebernimmEigene(was.bestand.verzeichnis, was.bestand.namen);
-    Q_EMIT m_controller.eigeneGeaendert({Aenderungsart::Eingelesen});
-    const QString gezeigtes = m_controller.feldA->stringValue();
-    if (was.ersetzt.contains(gezeigtes)) { // shown with the values that it has now
-        m_controller.zeigeEigenes(gezeigtes);
-    }
+    uebernimmInEigene(m_controller, was);
     meldeUebernommenes(dateiname, was);
 }
 

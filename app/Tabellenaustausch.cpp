@@ -2,6 +2,7 @@
 
 #include "AppController.h"
 #include "Archivdatei.h"
+#include "Eigenuebernahme.h"
 #include "Einlesefenster.h"
 #include "Einstellungen.h"
 #include "Tabellenkopie.h"
@@ -167,12 +168,7 @@ void Tabellenaustausch::zeigeEinlesung(const QString &path, const Csv::Rohtext &
 /// One step: all foods and the file at once.
 void Tabellenaustausch::uebernimm(const Uebernahme &uebernahme)
 {
-    const QString gezeigt = m_controller.feldA->stringValue();
-    m_controller.uebernimmEigene(uebernahme.bestand.verzeichnis, uebernahme.bestand.namen);
-    Q_EMIT m_controller.eigeneGeaendert({Aenderungsart::Eingelesen});
-    if (uebernahme.ersetzt.contains(gezeigt) && m_controller.welcheTabelleAktiv == 2) {
-        m_controller.zeigeEigenes(gezeigt);
-    }
+    uebernimmInEigene(m_controller, uebernahme);
     const qsizetype anzahl = uebernahme.anzahl();
     m_controller.hinweise->zeige(
         {.kennung = AppController::hinweisGesichert,

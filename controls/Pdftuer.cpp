@@ -228,8 +228,8 @@ bool zeigeOrdner(const QString &ordner)
 Pdftuer systempdftuer(QSettings &einstellungen, const Meldungstuer &melde, const Dateituer &frage,
                       const Ordnertuer &oeffne)
 {
-    return [ablage = Pdfablage(einstellungen, melde, frage, oeffne)](QWidget *fenster,
-                                                                     const Druckauftrag &auftrag) {
-        return ablage.sichere(fenster, auftrag);
+    return [ablage = Pdfablage(einstellungen, melde, frage, oeffne)](
+               QWidget *fenster, const Druckauftrag &auftrag, const std::function<void()> &danach) {
+        ablage.sichere(fenster, auftrag, danach);
     };
 }
