@@ -155,16 +155,16 @@ Q_SIGNALS:
     void beendet();
     /// The user wants another language: "de" or "en".
     void spracheGewaehlt(const QString &sprache);
+    /// A file of foods is to be opened.
+    void dateiGewuenscht();
+    /// The window of the settings is to be shown.
+    void einstellungenGewuenscht();
     /// A file of foods is to be read.
     void einlesenGewuenscht();
     /// A list is to be saved as a table.
     void ausgebenGewuenscht();
     /// The list in which the keyboard is is to be put on the clipboard as a table.
     void tabelleKopierenGewuenscht();
-    /// A file of foods is to be opened.
-    void dateiGewuenscht();
-    /// The window of the settings is to be shown.
-    void einstellungenGewuenscht();
     /// The copies of own foods and plan are to be shown.
     void fruehereStaendeGewuenscht();
     /// The own foods were changed and saved. It is not sent for what `uebernimmEigene` does.

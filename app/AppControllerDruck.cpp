@@ -19,7 +19,7 @@ void AppController::alsPdfSichern()
 {
     const std::optional<Druckauftrag> auftrag = druckauftrag();
     if (auftrag && m_tueren.alsPdf) {
-        m_tueren.alsPdf(Hauptfenster, *auftrag);
+        m_tueren.alsPdf(Hauptfenster, *auftrag, [] {});
     }
 }
 

@@ -4,6 +4,7 @@
 #include "Dateifenster.h"
 #include "Dateihueter.h"
 #include "Druckname.h"
+#include "Eigenuebernahme.h"
 #include "Hindernisworte.h"
 #include "Zeichenkettentabelle.h"
 
@@ -44,12 +45,13 @@ void Dateiempfang::frageNachDateien()
     if (!m_frage) {
         return;
     }
-    oeffne(m_frage(
-        m_controller.Hauptfenster,
-        {.art = Dateifrage::Art::Oeffnen,
-         .titel = localizedString(QStringLiteral("Datei öffnen")),
-         .vorschlag = m_zuletzt.isEmpty() ? dokumentenordner() : m_zuletzt,
-         .filter = localizedString(QStringLiteral("Lebensmittel (*.daten);;Alle Dateien (*)"))}));
+    const QString ordner = m_zuletzt.isEmpty() ? dokumentenordner() : m_zuletzt;
+    m_frage(m_controller.Hauptfenster,
+            {.titel = localizedString(QStringLiteral("Datei öffnen")),
+             .vorschlag = QDir(ordner).filePath(QStringLiteral("x.daten")),
+             .arten = localizedString(QStringLiteral("Lebensmittel (*.daten);;Alle Dateien (*)")),
+             .zweck = Dateifrage::Zweck::AlleLesen},
+            [this](const QString &pfad) { oeffne({pfad}); });
 }
 
 void Dateiempfang::oeffne(const QStringList &pfade)
@@ -133,12 +135,7 @@ void Dateiempfang::uebernimm(const QString &dateiname, const QList<Datenmodul> &
 {
     const Uebernahme was =
         ::uebernimm({m_controller.KundenDictionary, m_controller.KundenArray}, lebensmittel, wahl);
-    m_controller.uebernimmEigene(was.bestand.verzeichnis, was.bestand.namen);
-    Q_EMIT m_controller.eigeneGeaendert({Aenderungsart::Uebernommen});
-    const QString gezeigtes = m_controller.feldA->stringValue();
-    if (was.ersetzt.contains(gezeigtes)) { // shown with the values that it has now
-        m_controller.zeigeEigenes(gezeigtes);
-    }
+    uebernimmInEigene(m_controller, was);
     meldeUebernommenes(dateiname, was);
 }
 

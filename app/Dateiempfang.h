@@ -1,6 +1,6 @@
 #pragma once
 
-#include "Dateifrage.h"
+#include "Dateituer.h"
 #include "Datenordner.h"
 #include "Lebensmitteldatei.h"
 #include "Meldung.h"

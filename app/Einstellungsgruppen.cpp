@@ -63,14 +63,11 @@ void Pdfordnerwahl::waehle()
     if (!m_frage) {
         return;
     }
-    const QString ordner =
-        m_frage(this, {.art = Dateifrage::Art::Ordner,
-                       .titel = localizedString(QStringLiteral("Ordner für PDF")),
-                       .vorschlag = pdfordner(m_einstellungen)})
-            .value(0);
-    if (!ordner.isEmpty()) {
-        merke(ordner);
-    }
+    m_frage(this,
+            {.titel = localizedString(QStringLiteral("Ordner für PDF")),
+             .vorschlag = pdfordner(m_einstellungen),
+             .zweck = Dateifrage::Zweck::Ordner},
+            [this](const QString &ordner) { merke(ordner); });
 }
 
 void Pdfordnerwahl::merke(const QString &ordner)

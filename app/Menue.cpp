@@ -64,7 +64,7 @@ void baueAblage(AppController &controller)
     eintrag(ablage, QT_TRANSLATE_NOOP("Mahlberg", "Eigenes Lebensmittel &löschen …"), {},
             [&controller] { controller.LoescheneigeneLM(); });
     ablage.addSeparator();
-    eintrag(ablage, QT_TRANSLATE_NOOP("Mahlberg", "Da&tei öffnen …"), QKeySequence::Open,
+    eintrag(ablage, QT_TRANSLATE_NOOP("Mahlberg", "Datei &öffnen …"), QKeySequence::Open,
             [&controller] { Q_EMIT controller.dateiGewuenscht(); });
     ablage.addSeparator();
     eintrag(ablage, QT_TRANSLATE_NOOP("Mahlberg", "In den Plan &geben"),

@@ -66,13 +66,13 @@ Oberflaeche::Oberflaeche(const Tueren &tueren)
     , hauptfenster(mitDateien(tueren, dateien))
     , rechner(anthrotueren(mitDateien(tueren, dateien)))
     , ansage(hauptfenster, tueren.datenordner, dateien)
-    , empfang(hauptfenster, tueren.datenordner, dateien, tueren.melde, tueren.frageNachDateien)
+    , empfang(hauptfenster, tueren.datenordner, dateien, tueren.melde, tueren.waehleDatei)
     , gedaechtnis(hauptfenster, *tueren.einstellungen)
     , verlauf(hauptfenster)
     , austausch(hauptfenster, mitDateien(tueren, dateien))
     , m_sprich(tueren.sprich)
     , m_einstellungen(*tueren.einstellungen)
-    , m_frageNachDateien(tueren.frageNachDateien)
+    , m_waehleDatei(tueren.waehleDatei)
 {
     QObject::connect(&hauptfenster, &AppController::spracheGewaehlt, &hauptfenster,
                      [this](const QString &kuerzel) { sprich(kuerzel); });
@@ -113,7 +113,7 @@ void Oberflaeche::zeigeEinstellungen()
     fenster->nimmAuf(localizedString(QStringLiteral("Erscheinungsbild")),
                      eintraege("erscheinungsbilder"));
     fenster->nimmAuf(localizedString(QStringLiteral("Ordner für PDF")),
-                     new Pdfordnerwahl(m_einstellungen, m_frageNachDateien));
+                     new Pdfordnerwahl(m_einstellungen, m_waehleDatei));
     fenster->setAttribute(Qt::WA_DeleteOnClose);
     fenster->open();
 }

@@ -49,5 +49,5 @@ private:
 
     std::function<void(const QString &)> m_sprich;
     Einstellungen &m_einstellungen;
-    Dateituer m_frageNachDateien;
+    Dateituer m_waehleDatei;
 };

@@ -2,6 +2,7 @@
 
 #include "AppController.h"
 #include "Archivdatei.h"
+#include "Eigenuebernahme.h"
 #include "Einlesefenster.h"
 #include "Einstellungen.h"
 #include "Tabellenkopie.h"
@@ -109,25 +110,17 @@ void Tabellenaustausch::merkeOrdner(const QString &path)
     m_tueren.einstellungen->setValue(gemerkterOrdner, QFileInfo(path).absolutePath());
 }
 
-/// The file that the user chooses; null when it is none, or when there is nobody to ask.
-QString Tabellenaustausch::frageNachDatei(QWidget *fenster, const Dateifrage &frage) const
-{
-    return m_tueren.frageNachDateien ? m_tueren.frageNachDateien(fenster, frage).value(0)
-                                     : QString();
-}
-
 void Tabellenaustausch::frageNachQuelle()
 {
-    const QString path =
-        frageNachDatei(m_controller.Hauptfenster,
-                       {.art = Dateifrage::Art::Oeffnen,
-                        .titel = satz(QT_TRANSLATE_NOOP("Mahlberg", "Lebensmittel einlesen")),
-                        .vorschlag = ordner(),
-                        .filter = satz(QT_TRANSLATE_NOOP(
-                            "Mahlberg", "Tabellen (*.csv *.tsv *.txt);;Alle Dateien (*)"))});
-    if (!path.isNull()) {
-        liesDatei(path);
+    if (!m_tueren.waehleDatei) {
+        return;
     }
+    m_tueren.waehleDatei(m_controller.Hauptfenster,
+                         {.titel = satz(QT_TRANSLATE_NOOP("Mahlberg", "Lebensmittel einlesen")),
+                          .vorschlag = QDir(ordner()).filePath(QStringLiteral("x")),
+                          .arten = satz(QT_TRANSLATE_NOOP(
+                              "Mahlberg", "Tabellen (*.csv *.tsv *.txt);;Alle Dateien (*)"))},
+                         [this](const QString &path) { liesDatei(path); });
 }
 
 void Tabellenaustausch::liesDatei(const QString &path)
@@ -175,12 +168,7 @@ void Tabellenaustausch::zeigeEinlesung(const QString &path, const Csv::Rohtext &
 /// One step: all foods and the file at once.
 void Tabellenaustausch::uebernimm(const Uebernahme &uebernahme)
 {
-    const QString gezeigt = m_controller.feldA->stringValue();
-    m_controller.uebernimmEigene(uebernahme.bestand.verzeichnis, uebernahme.bestand.namen);
-    Q_EMIT m_controller.eigeneGeaendert({Aenderungsart::Uebernommen});
-    if (uebernahme.ersetzt.contains(gezeigt) && m_controller.welcheTabelleAktiv == 2) {
-        m_controller.zeigeEigenes(gezeigt);
-    }
+    uebernimmInEigene(m_controller, uebernahme);
     const qsizetype anzahl = uebernahme.anzahl();
     m_controller.hinweise->zeige(
         {.kennung = AppController::hinweisGesichert,
@@ -285,7 +273,7 @@ QList<Ausgabeliste> Tabellenaustausch::listen() const
 
 void Tabellenaustausch::frageNachListe(QWidget *fenster)
 {
-    if (!m_tueren.frageNachDateien) {
+    if (!m_tueren.waehleDatei) {
         return;
     }
     auto *frage = new Ausgabefenster(listen(), *m_tueren.einstellungen, fenster);
@@ -300,16 +288,16 @@ void Tabellenaustausch::frageNachListe(QWidget *fenster)
 void Tabellenaustausch::frageNachZiel(QWidget *fenster, const Ausgabeliste &liste,
                                       const Csv::Form &form)
 {
-    const QString path = frageNachDatei(
+    m_tueren.waehleDatei(
         fenster,
-        {.art = Dateifrage::Art::Sichern,
-         .titel = satz(QT_TRANSLATE_NOOP("Mahlberg", "Als Tabelle sichern")),
+        {.titel = satz(QT_TRANSLATE_NOOP("Mahlberg", "Als Tabelle sichern")),
          .vorschlag = QDir(ordner()).filePath(liste.dateiname + QStringLiteral(".csv")),
-         .filter = satz(QT_TRANSLATE_NOOP("Mahlberg", "Tabellen (*.csv);;Alle Dateien (*)")),
-         .endung = QStringLiteral("csv")});
-    if (!path.isNull()) {
-        schreibe(fenster, path, Csv::schreiben(liste.tabelle(), form));
-    }
+         .arten = satz(QT_TRANSLATE_NOOP("Mahlberg", "Tabellen (*.csv);;Alle Dateien (*)")),
+         .endung = QStringLiteral("csv"),
+         .zweck = Dateifrage::Zweck::Schreiben},
+        [this, fenster, liste, form](const QString &path) {
+            schreibe(fenster, path, Csv::schreiben(liste.tabelle(), form));
+        });
 }
 
 /// The file may be read by whom the folder's other files may be: it is made to be handed on.

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "Dateifrage.h"
+#include "Dateituer.h"
 #include "Datenordner.h"
 #include "Drucktuer.h"
 #include "Meldung.h"
@@ -27,12 +27,11 @@ struct Tueren
     QString wertungstabelle = {};
     Drucktuer drucke = {}; ///< prints; while it is absent, nothing does
     Pdftuer alsPdf = {};   ///< saves a print as a PDF; while it is absent, nothing does
-    /// Asks for files or a folder; while it is absent, nobody chooses any.
-    Dateituer frageNachDateien = {};
     /// Reads and writes the user's files, for all windows of the program; a controller that gets
     /// none makes one of its own.
     std::shared_ptr<Dateihueter> dateien = {};
     /// Speaks another language ("de" or "en") from now on; while it is absent, the one of the start
     /// stays.
     std::function<void(const QString &)> sprich = {};
+    Dateituer waehleDatei = {}; ///< asks for a file or a folder; while it is absent, nobody chooses
 };

@@ -139,7 +139,7 @@ int zeigeFenster(int &argc, char **argv, const Auftrag &auftrag, const Datenordn
         return 0;
     };
 
-    const Pdftuer alsPdf = systempdftuer(*einstellungen, zeigeMeldung, frageNachDateien);
+    const Pdftuer alsPdf = systempdftuer(*einstellungen, zeigeMeldung, frageNachDatei);
     Oberflaeche oberflaeche({
         .eingebauteTabelle = QStringLiteral(":/DatabaseIII.daten"),
         .datenordner = datenordner,
@@ -149,7 +149,6 @@ int zeigeFenster(int &argc, char **argv, const Auftrag &auftrag, const Datenordn
         .wertungstabelle = QStringLiteral(":/Lebensmittel.csv"),
         .drucke = eigenesHeim ? Drucktuer() : systemdrucktuer(*einstellungen, zeigeMeldung, alsPdf),
         .alsPdf = eigenesHeim ? Pdftuer() : alsPdf,
-        .frageNachDateien = eigenesHeim ? Dateituer() : frageNachDateien,
         .dateien = {},
         .sprich = [&sprache](const QString &kuerzel) { sprache.sprich(kuerzel); },
     });

@@ -156,6 +156,8 @@ QWidget *Dateifenster::plantafel(const Lebensmittelbestand &eigene,
         for (int spalte = 0; spalte < tabelle->columnCount(); ++spalte) {
             auto *zelle = new QTableWidgetItem(texte[spalte]);
             zelle->setFlags(Qt::ItemIsEnabled | Qt::ItemIsSelectable);
+            zelle->setTextAlignment((spalte == 1 ? Qt::AlignRight : Qt::AlignLeft) |
+                                    Qt::AlignVCenter);
             tabelle->setItem(zeile, spalte, zelle);
         }
         ++zeile;
@@ -177,6 +179,9 @@ QWidget *Dateifenster::lebensmitteltafel(const Lebensmittelbestand &eigene,
     auto *zeilen = new QVBoxLayout(oben);
     zeilen->setContentsMargins(0, 0, 0, 0);
     m_erklaerung = wortzeile("erklaerung");
+    if (!m_modell->erklaertEtwas()) { // else it stays, so that nothing moves from row to row
+        m_erklaerung->hide();
+    }
     zeilen->addWidget(wahlknoepfe());
     zeilen->addWidget(m_tabelle, 1);
     zeilen->addWidget(m_erklaerung);

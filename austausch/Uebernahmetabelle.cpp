@@ -8,6 +8,7 @@
 #include <QStringList>
 #include <QTextDocument>
 
+#include <algorithm>
 #include <cmath>
 
 namespace {
@@ -118,6 +119,13 @@ QString Uebernahmetabelle::erklaerung(int zeile) const
         saetze << eine.zweifel;
     }
     return saetze.join(u' ');
+}
+
+bool Uebernahmetabelle::erklaertEtwas() const
+{
+    return std::any_of(m_zeilen.begin(), m_zeilen.end(), [](const Zeile &zeile) {
+        return zeile.wieEingebautes || !zeile.zweifel.isEmpty();
+    });
 }
 
 QString Uebernahmetabelle::text(int zeile, int spalte) const

@@ -38,6 +38,8 @@ public:
     const Datenmodul &lebensmittel(int zeile) const { return m_zeilen[zeile].lebensmittel; }
     /// What should be known about a food before it is taken along; empty when nothing.
     QString erklaerung(int zeile) const;
+    /// Whether there is such a food.
+    bool erklaertEtwas() const;
     /// The own food of this row's name; null when there is none.
     const Datenmodul *eigenes(int zeile) const;
     /// The first row whose name is taken by another own food; −1 when there is none.

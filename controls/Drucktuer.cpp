@@ -147,9 +147,7 @@ public:
         leiste->widgetForAction(aktion)->setAccessibleName(was);
         connect(aktion, &QAction::triggered, this, [this, auftrag, alsPdf] {
             merkeSeite(); // the PDF takes it from there
-            if (alsPdf(this, auftrag)) {
-                reject();
-            }
+            alsPdf(this, auftrag, [this] { reject(); });
         });
     }
 

@@ -37,9 +37,10 @@ struct Druckauftrag
 /// file without being asked.
 using Drucktuer = std::function<void(QWidget *fenster, const Druckauftrag &auftrag)>;
 
-/// Saves a print as a PDF over a window, after asking the user where. True when it is there now.
-/// Made in `main` as well; see Pdftuer.h for the one of the program.
-using Pdftuer = std::function<bool(QWidget *fenster, const Druckauftrag &auftrag)>;
+/// Saves a print as a PDF over a window, after asking the user where; `danach` is run when it is
+/// there. Made in `main` as well; see Pdftuer.h for the one of the program.
+using Pdftuer = std::function<void(QWidget *fenster, const Druckauftrag &auftrag,
+                                   const std::function<void()> &danach)>;
 
 /// The door that shows a preview with the page setup, and from there the system's print dialog or,
 /// without a printer, the question for a PDF. For a PDF a new name in the folder for PDFs is

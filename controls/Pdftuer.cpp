@@ -48,36 +48,10 @@ public:
     {
     }
 
-    bool sichere(QWidget *fenster, const Druckauftrag &auftrag) const
+    void sichere(QWidget *fenster, const Druckauftrag &auftrag,
+                 const std::function<void()> &danach) const
     {
-        QString ordner = brauchbarerOrdner(fenster);
-        for (;;) {
-            const QString pdf = frageNachName(fenster, freiesPdf(ordner, druckname(auftrag)));
-            if (pdf.isEmpty()) {
-                return false;
-            }
-            switch (schreibe(fenster, auftrag, pdf)) {
-            case Ausgang::Geschrieben:
-                sageWo(fenster, pdf);
-                return true;
-            case Ausgang::Abgebrochen:
-                return false;
-            case Ausgang::Misslungen:
-                break;
-            }
-            m_melde(fenster,
-                    {uebersetzt(QT_TRANSLATE_NOOP("Mahlberg", "Das PDF ist nicht gesichert.")),
-                     uebersetzt(QT_TRANSLATE_NOOP("Mahlberg",
-                                                  "Die Datei „%1“ lässt sich nicht schreiben. "
-                                                  "Vielleicht ist der Ordner geschützt oder kein "
-                                                  "Platz mehr frei."))
-                         .arg(pdf),
-                     {uebersetzt("ok")}});
-            ordner = QFileInfo(pdf).path();
-            if (!nimmtDateien(ordner)) {
-                ordner = dokumentenordner();
-            }
-        }
+        frageUndSchreibe(fenster, auftrag, danach, brauchbarerOrdner(fenster));
     }
 
 private:
@@ -103,15 +77,48 @@ private:
         return dokumentenordner();
     }
 
-    QString frageNachName(QWidget *fenster, const QString &vorschlag) const
+    /// What can't be written is asked about again, until it can or the user has enough.
+    void frageUndSchreibe(QWidget *fenster, const Druckauftrag &auftrag,
+                          const std::function<void()> &danach, const QString &ordner) const
     {
-        return m_frage(fenster,
-                       {.art = Dateifrage::Art::Sichern,
-                        .titel = uebersetzt(QT_TRANSLATE_NOOP("Mahlberg", "Als PDF sichern")),
-                        .vorschlag = vorschlag,
-                        .filter = QStringLiteral("PDF (*.pdf)"),
-                        .endung = QStringLiteral("pdf")})
-            .value(0);
+        m_frage(fenster,
+                {.titel = uebersetzt(QT_TRANSLATE_NOOP("Mahlberg", "Als PDF sichern")),
+                 .vorschlag = freiesPdf(ordner, druckname(auftrag)),
+                 .arten = QStringLiteral("PDF (*.pdf)"),
+                 .endung = QStringLiteral("pdf"),
+                 .zweck = Dateifrage::Zweck::Schreiben},
+                [ablage = *this, fenster, auftrag, danach](const QString &pdf) {
+                    switch (ablage.schreibe(fenster, auftrag, pdf)) {
+                    case Ausgang::Geschrieben:
+                        ablage.sageWo(fenster, pdf);
+                        danach();
+                        break;
+                    case Ausgang::Misslungen:
+                        ablage.sageMisslungenes(fenster, pdf);
+                        ablage.frageUndSchreibe(fenster, auftrag, danach, ablage.daneben(pdf));
+                        break;
+                    case Ausgang::Abgebrochen:
+                        break;
+                    }
+                });
+    }
+
+    void sageMisslungenes(QWidget *fenster, const QString &pdf) const
+    {
+        m_melde(fenster,
+                {uebersetzt(QT_TRANSLATE_NOOP("Mahlberg", "Das PDF ist nicht gesichert.")),
+                 uebersetzt(QT_TRANSLATE_NOOP("Mahlberg",
+                                              "Die Datei „%1“ lässt sich nicht schreiben. "
+                                              "Vielleicht ist der Ordner geschützt oder kein Platz "
+                                              "mehr frei."))
+                     .arg(pdf),
+                 {uebersetzt("ok")}});
+    }
+
+    static QString daneben(const QString &pdf)
+    {
+        const QString ordner = QFileInfo(pdf).path();
+        return nimmtDateien(ordner) ? ordner : dokumentenordner();
     }
 
     /// Prints beside everything and takes only what is whole to its place.
@@ -221,8 +228,8 @@ bool zeigeOrdner(const QString &ordner)
 Pdftuer systempdftuer(QSettings &einstellungen, const Meldungstuer &melde, const Dateituer &frage,
                       const Ordnertuer &oeffne)
 {
-    return [ablage = Pdfablage(einstellungen, melde, frage, oeffne)](QWidget *fenster,
-                                                                     const Druckauftrag &auftrag) {
-        return ablage.sichere(fenster, auftrag);
+    return [ablage = Pdfablage(einstellungen, melde, frage, oeffne)](
+               QWidget *fenster, const Druckauftrag &auftrag, const std::function<void()> &danach) {
+        ablage.sichere(fenster, auftrag, danach);
     };
 }

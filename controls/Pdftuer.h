@@ -1,6 +1,6 @@
 #pragma once
 
-#include "Dateifrage.h"
+#include "Dateituer.h"
 #include "Drucktuer.h"
 
 #include <QString>

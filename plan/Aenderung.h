@@ -14,7 +14,7 @@ enum class Aenderungsart {
     Geaendert,  ///< an own food was saved with other values
     Geloescht,  ///< an own food was deleted
     Eigenstand, ///< earlier own foods were brought back
-    Uebernommen ///< foods of a file came to the own foods
+    Eingelesen  ///< foods came into the own foods from a file
 };
 
 /// One change that can be taken back.

@@ -94,7 +94,7 @@ void Planmodul::alsPdfSichern()
         frageNachForm(localizedString(QStringLiteral("Als PDF sichern")),
                       localizedString(QStringLiteral("Was möchten Sie als PDF sichern?")));
     if (wahl >= 0 && wahl < std::ssize(formen) && m_tueren.alsPdf) {
-        m_tueren.alsPdf(m_fenster, mitFuss((this->*formen[wahl])()));
+        m_tueren.alsPdf(m_fenster, mitFuss((this->*formen[wahl])()), [] {});
     }
 }
 

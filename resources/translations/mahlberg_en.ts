@@ -1120,10 +1120,6 @@ Nothing is worked out for children under 10 years; it resumes at 11 years.</tr
   <translation>Bread units</translation>
  </message>
  <message>
-  <source>Da&amp;tei öffnen …</source>
-  <translation>&amp;Open file …</translation>
- </message>
- <message>
   <source>Daran erkennen Tabellenprogramme die Umlaute; manche andere Programme stört sie.</source>
   <translation>By it spreadsheets recognise letters with accents; it disturbs some other programs.</translation>
  </message>
@@ -1174,6 +1170,10 @@ Nothing is worked out for children under 10 years; it resumes at 11 years.</tr
  <message>
   <source>Das lässt sich nicht öffnen.</source>
   <translation>That cannot be opened.</translation>
+ </message>
+ <message>
+  <source>Datei &amp;öffnen …</source>
+  <translation>&amp;Open file …</translation>
  </message>
  <message>
   <source>Datei öffnen</source>
@@ -1466,10 +1466,6 @@ Nothing is worked out for children under 10 years; it resumes at 11 years.</tr
  <message>
   <source>Lebensmittel einlesen</source>
   <translation>Import foods</translation>
- </message>
- <message>
-  <source>Lebensmittel übernommen</source>
-  <translation>foods taken over</translation>
  </message>
  <message>
   <source>Magnesium zu Calcium</source>

@@ -8,7 +8,8 @@
 /// All windows of the program, one after the other, in one language: the main window with each of
 /// its tabs, with the box for saving and with the profile, the sheet for own foods, the plan, the
 /// former states, the settings, a file that is opened, what goes out and comes in as a table, the
-/// palette of the toolbar, the question before a print, and the one about the program.
+/// palette of the toolbar, the question
+/// before a print, and the one about the program.
 class Fensterrunde
 {
 public:

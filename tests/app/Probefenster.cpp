@@ -74,12 +74,13 @@ Tueren Probeheim::tueren()
     tueren.wertungstabelle = wertungstabelle;
     tueren.drucke = drucke;
     tueren.alsPdf = alsPdf;
-    if (frageNachDateien) { // a test may choose another file the next time
-        tueren.frageNachDateien = [this](QWidget *fenster, const Dateifrage &frage) {
-            return frageNachDateien(fenster, frage);
+    tueren.sprich = sprich;
+    if (waehleDatei) { // a test may choose another file the next time
+        tueren.waehleDatei = [this](QWidget *fenster, const Dateifrage &frage,
+                                    const std::function<void(const QString &)> &antwort) {
+            waehleDatei(fenster, frage, antwort);
         };
     }
-    tueren.sprich = sprich;
     tueren.protokolliere = [this](const QString &zeile) {
         protokoll << zeile;
         beimProtokoll();

@@ -37,10 +37,9 @@ public:
     Tueren tueren();
     QList<Meldung> meldungen;
     QList<int> antworten;
-    QString wertungstabelle;    ///< path of the table that explains ratings; none does while empty
-    Drucktuer drucke;           ///< the door that prints; nothing does while there is none
-    Pdftuer alsPdf;             ///< the door that saves a PDF; nothing does while there is none
-    Dateituer frageNachDateien; ///< the door that asks for files; nobody chooses without it
+    QString wertungstabelle; ///< path of the table that explains ratings; none does while empty
+    Drucktuer drucke;        ///< the door that prints; nothing does while there is none
+    Pdftuer alsPdf;          ///< the door that saves a PDF; nothing does while there is none
     /// The door that changes the language; it stays while there is none.
     std::function<void(const QString &)> sprich;
     /// The lines that went to the system log; `beimProtokoll` runs at each.

@@ -40,16 +40,18 @@ void TestDateiOeffnen::theKeysAskForFiles()
 {
     QList<Dateifrage> gefragt;
     const QString ei = m_probe->lege(u"ei.daten"_s, Archivbau::beispiel());
-    m_probe->heim.frageNachDateien = [&](QWidget *, const Dateifrage &frage) {
+    m_probe->heim.waehleDatei = [&](QWidget *, const Dateifrage &frage, const auto &antwort) {
         gefragt << frage;
-        return gefragt.size() == 1 ? QStringList() : QStringList{ei};
+        if (gefragt.size() > 1) {
+            antwort(ei);
+        }
     };
     m_probe->starte();
     QTest::keyClick(&m_probe->haupt(), Qt::Key_O, Qt::ControlModifier);
     QCOMPARE(gefragt.size(), 1);
-    QCOMPARE(gefragt[0].art, Dateifrage::Art::Oeffnen);
-    QCOMPARE(gefragt[0].vorschlag, dokumentenordner());
-    QCOMPARE(gefragt[0].filter, u"Lebensmittel (*.daten);;Alle Dateien (*)"_s);
+    QCOMPARE(gefragt[0].zweck, Dateifrage::Zweck::AlleLesen);
+    QCOMPARE(QFileInfo(gefragt[0].vorschlag).path(), dokumentenordner());
+    QCOMPARE(gefragt[0].arten, u"Lebensmittel (*.daten);;Alle Dateien (*)"_s);
     QVERIFY(m_probe->fenster() == nullptr); // nothing was chosen
     QTest::keyClick(&m_probe->haupt(), Qt::Key_O, Qt::ControlModifier);
     QVERIFY(m_probe->fenster()->isVisible());
@@ -59,16 +61,15 @@ void TestDateiOeffnen::theKeysAskForFiles()
 void TestDateiOeffnen::theFolderOfTheLastFileIsProposed()
 {
     QString vorschlag;
-    m_probe->heim.frageNachDateien = [&](QWidget *, const Dateifrage &frage) {
+    m_probe->heim.waehleDatei = [&](QWidget *, const Dateifrage &frage, const auto &) {
         vorschlag = frage.vorschlag;
-        return QStringList();
     };
     m_probe->starte();
     QVERIFY(QDir().mkpath(m_probe->heim.pfad(u"alt"_s)));
     m_probe->oeffne({m_probe->lege(u"alt/ei.daten"_s, Archivbau::beispiel())});
     m_probe->schliesse();
     Q_EMIT m_probe->controller().dateiGewuenscht();
-    QCOMPARE(vorschlag, m_probe->heim.pfad(u"alt"_s));
+    QCOMPARE(QFileInfo(vorschlag).path(), m_probe->heim.pfad(u"alt"_s));
 }
 
 void TestDateiOeffnen::theWindowShowsWhatAFileHolds_data()

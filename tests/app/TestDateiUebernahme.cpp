@@ -31,6 +31,7 @@ private Q_SLOTS:
     void bothAreKept();
     void theDecisionForAll();
     void theFoodOnDisplayShowsItsNewValues();
+    void aBuiltInFoodOfTheNameStaysOnDisplay();
     void takingOverIsUndoneAndRepeated();
     void theOpenPlanKnowsTheNewFoods();
     void theFileIsWrittenOnce();
@@ -197,6 +198,23 @@ void TestDateiUebernahme::theFoodOnDisplayShowsItsNewValues()
     QCOMPARE(m_probe->controller().Tabelle->selectedRow(), 0);
 }
 
+void TestDateiUebernahme::aBuiltInFoodOfTheNameStaysOnDisplay()
+{
+    const QString name = zaehlname(3);
+    m_probe->oeffne({m_probe->lege(u"a.daten"_s, {lebensmittel(name, {{kal, 900}})})});
+    QCOMPARE(m_probe->worte("erklaerung"),
+             u"Ein eingebautes Lebensmittel heißt ebenso. Im Plan gelten dessen Werte."_s);
+    m_probe->druecke("uebernehmen");
+    m_probe->probefenster().klicke(3, inName);
+    QCOMPARE(m_probe->controller().feldB->floatValue(), 4.0F); // the built-in one's
+    m_probe->schliesse();
+    m_probe->oeffne({m_probe->lege(u"a.daten"_s, {lebensmittel(name, {{kal, 800}})})});
+    m_probe->entscheide(Namensgleich::Ersetzen);
+    m_probe->druecke("uebernehmen");
+    QCOMPARE(m_probe->controller().feldB->floatValue(), 4.0F);
+    QCOMPARE(m_probe->datei()[name].kal(), 800.0F);
+}
+
 void TestDateiUebernahme::takingOverIsUndoneAndRepeated()
 {
     m_probe->oeffne({m_probe->lege(
@@ -210,7 +228,7 @@ void TestDateiUebernahme::takingOverIsUndoneAndRepeated()
     QCOMPARE(m_probe->controller().KundenArray, (QStringList{eintopf, muesli})); // in one step
     QCOMPARE(m_probe->datei().keys(), (QStringList{eintopf, muesli}));
     QCOMPARE(m_probe->datei()[eintopf].kal(), 60.0F);
-    QCOMPARE(m_probe->hinweis(), u"Zurückgenommen: Lebensmittel übernommen."_s);
+    QCOMPARE(m_probe->hinweis(), u"Zurückgenommen: eingelesene Lebensmittel."_s);
     Q_EMIT m_probe->controller().wiederholenGewuenscht();
     QCOMPARE(m_probe->datei()[eintopf].kal(), 61.0F);
     QCOMPARE(m_probe->datei()[suppe].kal(), 40.0F);

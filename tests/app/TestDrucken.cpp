@@ -313,10 +313,9 @@ void TestDrucken::thePanelInFrontIsSavedAsAPdf()
         ++gedruckt;
     };
     QString form;
-    m_heim->alsPdf = [this, &form](QWidget *fenster, const Druckauftrag &auftrag) {
+    m_heim->alsPdf = [this, &form](QWidget *fenster, const Druckauftrag &auftrag, const auto &) {
         form = auftrag.form;
         m_druck->tuer()(fenster, auftrag);
-        return true;
     };
     oeffne();
     (*m_fenster)->DatenAnsicht->setCurrentIndex(reiter);
@@ -332,8 +331,8 @@ void TestDrucken::thePanelInFrontIsSavedAsAPdf()
 void TestDrucken::nothingOnDisplayIsNotSaved()
 {
     int gesichert = 0;
-    m_heim->alsPdf = [&gesichert](QWidget *, const Druckauftrag &) {
-        return ++gesichert > 0;
+    m_heim->alsPdf = [&gesichert](QWidget *, const Druckauftrag &, const auto &) {
+        ++gesichert;
     };
     oeffne();
     (*m_fenster)->DatenAnsicht->hide();
@@ -348,9 +347,8 @@ void TestDrucken::nothingOnDisplayIsNotSaved()
 void TestDrucken::theCalculatorsPlanSavesItsFormsToo()
 {
     QStringList formen;
-    m_heim->alsPdf = [&formen](QWidget *, const Druckauftrag &auftrag) {
+    m_heim->alsPdf = [&formen](QWidget *, const Druckauftrag &auftrag, const auto &) {
         formen << auftrag.form;
-        return true;
     };
     oeffne();
     m_heim->antworten = {0, 2};

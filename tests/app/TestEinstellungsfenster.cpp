@@ -18,6 +18,7 @@
 #include <QScrollArea>
 #include <QScrollBar>
 #include <QTest>
+#include <QWindow>
 
 using namespace Qt::StringLiterals;
 
@@ -200,7 +201,7 @@ void TestEinstellungsfenster::theLanguageHoldsAtOnce()
 void TestEinstellungsfenster::theKeyboardAloneChooses()
 {
     oeffne();
-    QTest::keyClick(&fenster(), Qt::Key_D, Qt::AltModifier);
+    QTest::keyClick(fenster().windowHandle(), Qt::Key_D, Qt::AltModifier);
     QTRY_VERIFY(wahl(u"Dunkel"_s)->isChecked()); // it looks pressed for a moment first
     QCOMPARE(gemerktesErscheinungsbild(m_heim->einstellungen()), Erscheinungsbild::Dunkel);
     wahl(u"Dunkel"_s)->setFocus();
@@ -215,15 +216,15 @@ void TestEinstellungsfenster::theFolderForPdfsIsChosenAndForgotten()
 {
     const QString wieSystem = pdfordner(m_heim->einstellungen());
     Dateifrage gefragt;
-    m_heim->frageNachDateien = [&](QWidget *, const Dateifrage &frage) {
+    m_heim->waehleDatei = [&](QWidget *, const Dateifrage &frage, const auto &antwort) {
         gefragt = frage;
-        return QStringList{m_heim->pfad(u"Ausdrucke"_s)};
+        antwort(m_heim->pfad(u"Ausdrucke"_s));
     };
     oeffne();
     QCOMPARE(ordner(), wieSystem);
     QVERIFY(!knopf("wiesystem")->isEnabled());
     QTest::mouseClick(knopf("ordnerwaehlen"), Qt::LeftButton);
-    QCOMPARE(gefragt.art, Dateifrage::Art::Ordner);
+    QCOMPARE(gefragt.zweck, Dateifrage::Zweck::Ordner);
     QCOMPARE(gefragt.vorschlag, wieSystem);
     QCOMPARE(ordner(), m_heim->pfad(u"Ausdrucke"_s));
     QCOMPARE(pdfordner(m_heim->einstellungen()), m_heim->pfad(u"Ausdrucke"_s));
@@ -237,8 +238,7 @@ void TestEinstellungsfenster::theFolderForPdfsIsChosenAndForgotten()
 void TestEinstellungsfenster::withoutAChoiceTheFolderStays()
 {
     merkePdfordner(m_heim->einstellungen(), m_heim->pfad(u"Ausdrucke"_s));
-    m_heim->frageNachDateien = [](QWidget *, const Dateifrage &) {
-        return QStringList();
+    m_heim->waehleDatei = [](QWidget *, const Dateifrage &, const auto &) {
     };
     oeffne();
     QTest::mouseClick(knopf("ordnerwaehlen"), Qt::LeftButton);

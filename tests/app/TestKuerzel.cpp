@@ -107,7 +107,7 @@ void TestKuerzel::noLetterStandsTwiceInAWindow()
             gefunden << name + QLatin1String(":\n") + doppelt;
         }
     });
-    QCOMPARE(besucht, 15);
+    QCOMPARE(besucht, 17);
     QVERIFY2(gefunden.isEmpty(), qPrintable(gefunden.join(u'\n')));
 }
 

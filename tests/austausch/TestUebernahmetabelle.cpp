@@ -184,12 +184,14 @@ void TestUebernahmetabelle::whatShouldBeKnownIsExplained()
     QCOMPARE(vorgelesen(neues),
              u"Ein eingebautes Lebensmittel heißt ebenso. Im Plan gelten dessen Werte."_s);
     QCOMPARE(vorgelesen(vergebenes), QString());
+    QVERIFY(m_tabelle->erklaertEtwas());
     Datenmodul schwer = speise(u"Blei"_s, 100);
     schwer.setprotein(80);
     schwer.setkh(80);
     m_tabelle = std::make_unique<Uebernahmetabelle>(QList{schwer}, Lebensmittelbestand(),
                                                     Lebensmittelverzeichnis());
     QVERIFY2(vorgelesen(0).contains(u"160,0 g in 100 g"_s), qPrintable(vorgelesen(0)));
+    QVERIFY(m_tabelle->erklaertEtwas());
     QVERIFY(text(0, 1).endsWith(u"siehe unten"_s));
 }
 
@@ -208,6 +210,7 @@ void TestUebernahmetabelle::anEmptyFile()
                                                     Lebensmittelverzeichnis());
     QCOMPARE(m_tabelle->rowCount(), 0);
     QCOMPARE(m_tabelle->ersterVergebener(), -1);
+    QVERIFY(!m_tabelle->erklaertEtwas());
     m_tabelle->waehleAlle(true);
     QCOMPARE(m_tabelle->ergebnis().anzahl(), 0);
 }

@@ -9,6 +9,7 @@
 #include <QDir>
 #include <QFileInfo>
 #include <QLabel>
+#include <QLineEdit>
 #include <QMenu>
 #include <QMenuBar>
 #include <QTimer>
@@ -25,6 +26,9 @@ private Q_SLOTS:
     void theSheetThatDoubts();
     void formerStates();
     void noFormerStates();
+    void theSettings();
+    void anOpenedFile();
+    void anOpenedPlan();
     void thePalette();
     void about();
     void theHandbook_data();
@@ -61,6 +65,20 @@ void pruefeOffenes(const QString &name, const char *klasse)
     Bilderrahmen::pruefe(name, *fenster);
     fenster->close();
     QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+}
+
+/// Compares the window that shows a file of these foods.
+void pruefeDatei(const QString &name, Bilderfenster &fenster, const Lebensmittelverzeichnis &inhalt)
+{
+    const QString pfad = fenster.heim().pfad(u"Alter Rechner.daten"_s);
+    QVERIFY(Archivdatei::schreiben(pfad, inhalt));
+    fenster.oberflaeche().empfang.oeffne({pfad});
+    QTRY_VERIFY(offen("Dateifenster") != nullptr);
+    // The home is another one each time.
+    offen("Dateifenster")
+        ->findChild<QLabel *>(u"ort"_s)
+        ->setText(u"/home/praxis/Alter Rechner.daten"_s);
+    pruefeOffenes(name, "Dateifenster");
 }
 
 void pruefeMenue(const QString &name, QMenu &menue)
@@ -126,6 +144,44 @@ void TestFensterbild::noFormerStates()
     const Bilderfenster fenster;
     fenster.oberflaeche().ansage.zeigeFruehereStaende();
     pruefeOffenes(u"fruehere-staende-keine"_s, "Sicherungsfenster");
+}
+
+void TestFensterbild::theSettings()
+{
+    const Bilderfenster fenster;
+    Q_EMIT fenster->einstellungenGewuenscht();
+    QTRY_VERIFY(offen("Einstellungsfenster") != nullptr);
+    // The folder of the system is another one on every machine.
+    offen("Einstellungsfenster")
+        ->findChild<QLineEdit *>(u"pdfordner"_s)
+        ->setText(u"/home/praxis/Dokumente"_s);
+    pruefeOffenes(u"einstellungen"_s, "Einstellungsfenster");
+}
+
+/// One food is new, one is there already, and one has other values than the user's own.
+void TestFensterbild::anOpenedFile()
+{
+    Bilderfenster fenster;
+    Lebensmittelverzeichnis altes = bildereigene();
+    altes[u"Müsli vom Bäcker"_s].setfett(18);
+    altes.insert(u"Eintopf"_s, lebensmittel(u"Eintopf"_s, {{Naehrwert::kal, 75}}));
+    pruefeDatei(u"datei-lebensmittel"_s, fenster, altes);
+    zeigeErscheinungsbild(Erscheinungsbild::Dunkel);
+    pruefeDatei(u"datei-lebensmittel-dunkel"_s, fenster, altes);
+}
+
+void TestFensterbild::anOpenedPlan()
+{
+    Bilderfenster fenster;
+    Lebensmittelverzeichnis plan;
+    for (const auto &[name, gramm] :
+         {std::pair(u"Müsli vom Bäcker"_s, 60.0F), std::pair(u"Kartoffeln"_s, 250.0F)}) {
+        Datenmodul ration;
+        ration.setName(name);
+        ration.setkal(gramm);
+        plan.insert(name, ration);
+    }
+    pruefeDatei(u"datei-plan"_s, fenster, plan);
 }
 
 void TestFensterbild::thePalette()

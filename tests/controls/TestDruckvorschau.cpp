@@ -469,12 +469,14 @@ void TestDruckvorschau::itsButtonSavesAPdf()
     QString titel;
     QWidget *worueber = nullptr;
     QPageLayout::Orientation lage = QPageLayout::Portrait;
-    QPrintPreviewDialog *vorschau =
-        oeffne(beziffert(2), [&](QWidget *fenster, const Druckauftrag &auftrag) {
+    QPrintPreviewDialog *vorschau = oeffne(
+        beziffert(2), [&](QWidget *fenster, const Druckauftrag &auftrag, const auto &danach) {
             worueber = fenster;
             titel = auftrag.titel;
             lage = gemerkteSeite(*m_einstellungen).orientation();
-            return gesichert;
+            if (gesichert) {
+                danach();
+            }
         });
     QVERIFY(vorschau);
     vorschau->findChild<QPrintPreviewWidget *>()->setLandscapeOrientation();

@@ -116,15 +116,19 @@ bool TestPdftuer::sichere(const Druckauftrag &auftrag)
             m_meldungen << meldung;
             return 0;
         },
-        [this](QWidget *, const Dateifrage &frage) {
+        [this](QWidget *, const Dateifrage &frage, const auto &antwort) {
             m_fragen << frage;
-            return m_antworten.isEmpty() ? QStringList() : QStringList(m_antworten.takeFirst());
+            if (!m_antworten.isEmpty()) {
+                antwort(m_antworten.takeFirst());
+            }
         },
         [this](const QString &ordner) {
             m_geoeffnet << ordner;
             return m_oeffnet;
         });
-    return tuer(m_fenster.get(), auftrag);
+    bool gesichert = false;
+    tuer(m_fenster.get(), auftrag, [&gesichert] { gesichert = true; });
+    return gesichert;
 }
 
 /// As another program reads it; 0 for what is no PDF.
@@ -147,7 +151,7 @@ void TestPdftuer::withoutAChoiceTheDocumentsAreProposed()
     vorher.isNull() ? qunsetenv("XDG_CONFIG_HOME") : qputenv("XDG_CONFIG_HOME", vorher);
     QCOMPARE(m_fragen.size(), 1);
     QCOMPARE(m_fragen[0].vorschlag, pfad(u"Probe 2026-11-22 Liste.pdf"_s));
-    QCOMPARE(m_fragen[0].art, Dateifrage::Art::Sichern);
+    QCOMPARE(m_fragen[0].zweck, Dateifrage::Zweck::Schreiben);
     QCOMPARE(m_fragen[0].endung, u"pdf"_s);
     QVERIFY(m_meldungen.isEmpty());
 }

@@ -55,9 +55,8 @@ void TestPlanmodulPdf::oeffne()
     tueren.drucke = [this](QWidget *, const Druckauftrag &) {
         ++m_gedruckt;
     };
-    tueren.alsPdf = [this](QWidget *fenster, const Druckauftrag &auftrag) {
+    tueren.alsPdf = [this](QWidget *fenster, const Druckauftrag &auftrag, const auto &) {
         m_druck->tuer()(fenster, auftrag);
-        return true;
     };
     m_fenster = std::make_unique<Planfenster>(std::move(tueren));
 }
