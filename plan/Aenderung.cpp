@@ -21,7 +21,7 @@ constexpr std::array<const char *, 11> worte = {
     QT_TRANSLATE_NOOP("Mahlberg", "„%1“ geändert"),
     QT_TRANSLATE_NOOP("Mahlberg", "„%1“ gelöscht"),
     QT_TRANSLATE_NOOP("Mahlberg", "früherer Stand der eigenen Lebensmittel"),
-    QT_TRANSLATE_NOOP("Mahlberg", "eingelesene Lebensmittel"),
+    QT_TRANSLATE_NOOP("Mahlberg", "übernommene Lebensmittel"),
 };
 
 } // namespace

@@ -3098,6 +3098,10 @@ New: %1</translation>
   <translation>opens the windows</translation>
  </message>
  <message>
+  <source>übernommene Lebensmittel</source>
+  <translation>foods taken over</translation>
+ </message>
+ <message>
   <source>überspringen</source>
   <translation>leave out</translation>
  </message>

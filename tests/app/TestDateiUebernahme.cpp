@@ -228,7 +228,7 @@ void TestDateiUebernahme::takingOverIsUndoneAndRepeated()
     QCOMPARE(m_probe->controller().KundenArray, (QStringList{eintopf, muesli})); // in one step
     QCOMPARE(m_probe->datei().keys(), (QStringList{eintopf, muesli}));
     QCOMPARE(m_probe->datei()[eintopf].kal(), 60.0F);
-    QCOMPARE(m_probe->hinweis(), u"Zurückgenommen: eingelesene Lebensmittel."_s);
+    QCOMPARE(m_probe->hinweis(), u"Zurückgenommen: übernommene Lebensmittel."_s);
     Q_EMIT m_probe->controller().wiederholenGewuenscht();
     QCOMPARE(m_probe->datei()[eintopf].kal(), 61.0F);
     QCOMPARE(m_probe->datei()[suppe].kal(), 40.0F);

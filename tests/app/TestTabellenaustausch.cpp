@@ -217,7 +217,7 @@ void TestTabellenaustausch::foodsComeInAtOnceAndGoAtOnce()
     controller().hinweise->hinweise().first().aktion();
     QCOMPARE(controller().KundenArray, QStringList({u"=Mus"_s, u"Brot"_s}));
     QCOMPARE(aufDerPlatte().keys(), QStringList({u"=Mus"_s, u"Brot"_s}));
-    QCOMPARE(hinweis(), u"Zurückgenommen: eingelesene Lebensmittel."_s);
+    QCOMPARE(hinweis(), u"Zurückgenommen: übernommene Lebensmittel."_s);
     menueeintrag(*controller().Hauptfenster, u"Wiederholen"_s)->trigger();
     QCOMPARE(aufDerPlatte().size(), 4);
 }
@@ -239,10 +239,10 @@ void TestTabellenaustausch::aMistakeStopsEverything()
     QVERIFY(knopf(*fenster)->toolTip().startsWith(u"Fehler: 1."_s));
     QVERIFY(eintraege(*fenster).contains(u"Zeile 2: Energie (kcal): „x“ ist keine Zahl."_s));
     const auto *vorschau = fenster->findChild<Vorschautabelle *>();
-    QCOMPARE(vorschau->item(1, 1)->text(), u"x"_s);
-    QVERIFY(!vorschau->item(1, 1)->icon().isNull());
-    QCOMPARE(vorschau->item(2, 1)->text(), u"1,5\u00A0kcal"_s);
-    QCOMPARE(vorschau->verticalHeaderItem(1)->text(), u"2"_s);
+    QCOMPARE(vorschau->item(0, 1)->text(), u"x"_s);
+    QVERIFY(!vorschau->item(0, 1)->icon().isNull());
+    QCOMPARE(vorschau->item(1, 1)->text(), u"1,5\u00A0kcal"_s);
+    QCOMPARE(vorschau->verticalHeaderItem(0)->text(), u"2"_s);
 }
 
 void TestTabellenaustausch::aLineIsLeftOutAndComesBack()
@@ -275,12 +275,12 @@ void TestTabellenaustausch::aColumnIsChosenAnew()
     const Einlesefenster *fenster = lies("Name;Eisen;Farbe\nQuark;2;7\n");
     const auto *vorschau = fenster->findChild<Vorschautabelle *>();
     QCOMPARE(vorschau->horizontalHeaderItem(2)->text(), u"Farbe"_s);
-    auto *wahl = qobject_cast<QComboBox *>(vorschau->cellWidget(0, 2));
+    auto *wahl = vorschau->wahlen().at(2);
     QCOMPARE(wahl->currentText(), u"(nicht übernehmen)"_s);
     wahl->setCurrentText(u"Salz (g)"_s);
-    qobject_cast<QComboBox *>(vorschau->cellWidget(0, 1))->setCurrentText(u"Eisen (µg)"_s);
-    QCOMPARE(vorschau->item(1, 1)->text(), u"0,002\u00A0mg"_s);
-    QCOMPARE(vorschau->item(1, 2)->text(), u"2800\u00A0mg"_s);
+    vorschau->wahlen().at(1)->setCurrentText(u"Eisen (µg)"_s);
+    QCOMPARE(vorschau->item(0, 1)->text(), u"0,002\u00A0mg"_s);
+    QCOMPARE(vorschau->item(0, 2)->text(), u"2800\u00A0mg"_s);
     klicke(knopf(*fenster));
     QCOMPARE(controller().KundenDictionary.value(u"Quark"_s).na(), 2800.0F);
     QCOMPARE(controller().KundenDictionary.value(u"Quark"_s).fe(), 0.002F);
@@ -316,7 +316,7 @@ void TestTabellenaustausch::portionsAreWeighed()
     QCOMPARE(kind<QComboBox>(*fenster, "bezug")->currentText(), u"eine Portion"_s);
     QVERIFY(!knopf(*fenster)->isEnabled());
     kind<QDoubleSpinBox>(*fenster, "portion")->setValue(25);
-    QCOMPARE(fenster->findChild<Vorschautabelle *>()->item(1, 1)->text(), u"12\u00A0g"_s);
+    QCOMPARE(fenster->findChild<Vorschautabelle *>()->item(0, 1)->text(), u"12\u00A0g"_s);
     klicke(knopf(*fenster));
     QCOMPARE(controller().KundenDictionary.value(u"Quark"_s).fett(), 12.0F);
 }
@@ -328,8 +328,8 @@ void TestTabellenaustausch::headingsMayBeMissing()
     QVERIFY(!kopf->isChecked());
     const auto *vorschau = fenster->findChild<Vorschautabelle *>();
     QCOMPARE(vorschau->horizontalHeaderItem(0)->text(), u"Spalte 1"_s);
-    qobject_cast<QComboBox *>(vorschau->cellWidget(0, 0))->setCurrentText(u"Lebensmittel"_s);
-    qobject_cast<QComboBox *>(vorschau->cellWidget(0, 1))->setCurrentText(u"Fett (g)"_s);
+    vorschau->wahlen().at(0)->setCurrentText(u"Lebensmittel"_s);
+    vorschau->wahlen().at(1)->setCurrentText(u"Fett (g)"_s);
     QCOMPARE(knopf(*fenster)->text(), u"2 Lebensmittel &übernehmen"_s);
     klicke(kopf);
     QCOMPARE(vorschau->horizontalHeaderItem(0)->text(), u"Quark"_s);
@@ -411,13 +411,14 @@ void TestTabellenaustausch::aFileThatIsNotWrittenIsTold()
 {
     const Einlesefenster *fenster = lies(zweiSpeisen);
     {
-        const VolleFestplatte voll(0);
+        const VolleFestplatte voll(20);
         klicke(knopf(*fenster));
     }
     QCOMPARE(aufDerPlatte().size(), 2);
     QCOMPARE(controller().KundenArray.size(), 4);
+    QCoreApplication::processEvents(); // the window hears of it afterwards
     QCOMPARE(controller().hinweise->hinweise().size(), 2);
-    QVERIFY(controller().hinweise->hinweise()[1].warnung);
+    QVERIFY(controller().hinweise->hinweise()[0].warnung);
 }
 
 void TestTabellenaustausch::aListGoesOutAndComesBack()
@@ -513,7 +514,7 @@ void TestTabellenaustausch::aTableThatIsNotWrittenIsTold()
     QFETCH(bool, voll);
     std::optional<VolleFestplatte> festplatte;
     if (voll) {
-        festplatte.emplace(0);
+        festplatte.emplace(20);
     }
     const QString path = m_heim->pfad(voll ? u"liste.csv"_s : u"fehlt/liste.csv"_s);
     gibAus(0, path);
