@@ -95,82 +95,117 @@ int antworteOhneFenster(int &argc, char **argv, const Aufruf &aufruf)
     return Misslungen;
 }
 
+/// Where the program keeps what it is told.
+struct Heim
+{
+    std::unique_ptr<QTemporaryDir> ordner; ///< null: the user's own home
+    std::unique_ptr<Einstellungen> einstellungen;
+};
+
+/// The tour leaves the user's own foods and settings alone: it has a home of its own.
+Heim heimFuer(const Auftrag &auftrag)
+{
+    if (auftrag.rundgang.isNull()) {
+        return {nullptr, std::make_unique<Einstellungen>()};
+    }
+    auto ordner = std::make_unique<QTemporaryDir>();
+    auto einstellungen = std::make_unique<Einstellungen>(
+        ordner->filePath(QStringLiteral("Mahlberg.conf")), QSettings::IniFormat);
+    return {std::move(ordner), std::move(einstellungen)};
+}
+
+/// The doors that a tour has as well. On it nobody is there to press a button or to choose a file.
+Tueren tuerenFuerAlle(Einstellungen &einstellungen, const Datenordner &datenordner,
+                      Sprache &sprache)
+{
+    return {
+        .eingebauteTabelle = QStringLiteral(":/DatabaseIII.daten"),
+        .datenordner = datenordner,
+        .melde = {},
+        .protokolliere = [](const QString &zeile) { qCDebug(protokoll).noquote() << zeile; },
+        .einstellungen = &einstellungen,
+        .wertungstabelle = QStringLiteral(":/Lebensmittel.csv"),
+        .sprich = [&sprache](const QString &kuerzel) { sprache.sprich(kuerzel); },
+    };
+}
+
+/// Goes through the windows and leaves their pictures; messages go into the summary.
+int geheRundgang(const QString &ordner, Tueren tueren)
+{
+    QStringList ungelesen;
+    tueren.melde = [&ungelesen](QWidget *, const Meldung &meldung) {
+        ungelesen << (QStringList{meldung.text, meldung.erklaerung} + meldung.knoepfe)
+                         .join(QStringLiteral(" | "));
+        return 0;
+    };
+    Oberflaeche oberflaeche(tueren);
+    oberflaeche.awakeFromNib();
+    return Rundgang(oberflaeche, QDir(ordner), &ungelesen).gehen() ? 0 : 1;
+}
+
+/// Whether the program is at work on the same files already, and this one is to leave it at that:
+/// it has taken over the files that were to be opened, or the user wants it so.
+bool ueberlaesstEsDemAnderen(const Startsperre &sperre, const QString &dateiordner,
+                             const QStringList &dateien)
+{
+    if (!sperre.besetzt()) {
+        return false;
+    }
+    return (!dateien.isEmpty() && Postfach::gibAb(dateiordner, dateien, wartezeit)) ||
+           !trotzdemOeffnen();
+}
+
+/// Shows the windows until the main one is closed.
+int arbeite(const QStringList &dateien, Tueren tueren, Schreibtisch &schreibtisch)
+{
+    const QString dateiordner =
+        QFileInfo(tueren.datenordner.pathForDataFile(QStringLiteral("customdaten"))).path();
+    const Startsperre sperre(dateiordner);
+    if (ueberlaesstEsDemAnderen(sperre, dateiordner, dateien)) {
+        return 0;
+    }
+    tueren.melde = zeigeMeldung;
+    tueren.waehleDatei = frageNachDatei;
+    tueren.alsPdf = systempdftuer(*tueren.einstellungen, zeigeMeldung, frageNachDatei);
+    tueren.drucke = systemdrucktuer(*tueren.einstellungen, zeigeMeldung, tueren.alsPdf);
+    Oberflaeche oberflaeche(tueren);
+    oberflaeche.awakeFromNib();
+    schreibtisch.frage(Schreibtisch::sitzungsbus());
+    QObject::connect(&oberflaeche.hauptfenster, &AppController::beendet, qApp, &QApplication::quit);
+    oberflaeche.hauptfenster.Hauptfenster->show();
+    std::optional<Postfach> postfach;
+    if (!sperre.besetzt()) { // else it is the other one's
+        postfach.emplace(dateiordner);
+        QObject::connect(&*postfach, &Postfach::eingetroffen, qApp,
+                         [&oberflaeche](const QStringList &neue) { oeffne(oberflaeche, neue); });
+    }
+    QMetaObject::invokeMethod(
+        &oberflaeche.empfang, [&oberflaeche, &dateien] { oberflaeche.empfang.oeffne(dateien); },
+        Qt::QueuedConnection);
+    return QApplication::exec();
+}
+
 int zeigeFenster(int &argc, char **argv, const Auftrag &auftrag, const Datenordner &eigenerOrdner)
 {
     QApplication::setStyle(new Fokusstil);
-    QApplication app(argc, argv);
+    const QApplication app(argc, argv);
     // Desktops find the program's icon and its entry in their menus by this name.
     QApplication::setDesktopFileName(QStringLiteral("org.mahlberg.Mahlberg"));
     QApplication::setWindowIcon(QIcon(QStringLiteral(":/bilder/Mahlberg.svg")));
     const Fensterplatz::Schirmwaechter schirmwaechter;
 
-    // The tour leaves the user's own foods and settings alone: it has a home of its own.
-    std::unique_ptr<QTemporaryDir> eigenesHeim;
-    std::unique_ptr<Einstellungen> einstellungen;
-    if (auftrag.rundgang.isNull()) {
-        einstellungen = std::make_unique<Einstellungen>();
-    } else {
-        eigenesHeim = std::make_unique<QTemporaryDir>();
-        einstellungen = std::make_unique<Einstellungen>(
-            eigenesHeim->filePath(QStringLiteral("Mahlberg.conf")), QSettings::IniFormat);
-    }
+    const Heim heim = heimFuer(auftrag);
     Sprache sprache(auftrag.sprache.isEmpty()
-                        ? einstellungen->value(QStringLiteral("Sprache")).toString()
+                        ? heim.einstellungen->value(QStringLiteral("Sprache")).toString()
                         : auftrag.sprache);
-    zeigeErscheinungsbild(gemerktesErscheinungsbild(*einstellungen));
+    zeigeErscheinungsbild(gemerktesErscheinungsbild(*heim.einstellungen));
     Schreibtisch schreibtisch;
     folgeSchreibtisch(schreibtisch);
 
-    const Datenordner datenordner = eigenesHeim ? Datenordner(eigenesHeim->path()) : eigenerOrdner;
-    const QString dateiordner =
-        QFileInfo(datenordner.pathForDataFile(QStringLiteral("customdaten"))).path();
-    Startsperre sperre(dateiordner);
-    const bool uebergeben = sperre.besetzt() && !auftrag.dateien.isEmpty() &&
-                            Postfach::gibAb(dateiordner, auftrag.dateien, wartezeit);
-    if (uebergeben || (sperre.besetzt() && !trotzdemOeffnen())) {
-        return 0;
-    }
-
-    // On the tour nobody is there to press a button: messages go into its summary.
-    QStringList ungelesen;
-    const Meldungstuer niemand = [&ungelesen](QWidget *, const Meldung &meldung) {
-        ungelesen << (QStringList{meldung.text, meldung.erklaerung} + meldung.knoepfe)
-                         .join(QStringLiteral(" | "));
-        return 0;
-    };
-
-    const Pdftuer alsPdf = systempdftuer(*einstellungen, zeigeMeldung, frageNachDatei);
-    Oberflaeche oberflaeche({
-        .eingebauteTabelle = QStringLiteral(":/DatabaseIII.daten"),
-        .datenordner = datenordner,
-        .melde = eigenesHeim ? niemand : Meldungstuer(zeigeMeldung),
-        .protokolliere = [](const QString &zeile) { qCDebug(protokoll).noquote() << zeile; },
-        .einstellungen = einstellungen.get(),
-        .wertungstabelle = QStringLiteral(":/Lebensmittel.csv"),
-        .drucke = eigenesHeim ? Drucktuer() : systemdrucktuer(*einstellungen, zeigeMeldung, alsPdf),
-        .alsPdf = eigenesHeim ? Pdftuer() : alsPdf,
-        .dateien = {},
-        .sprich = [&sprache](const QString &kuerzel) { sprache.sprich(kuerzel); },
-    });
-    oberflaeche.awakeFromNib();
-    if (!auftrag.rundgang.isNull()) {
-        return Rundgang(oberflaeche, QDir(auftrag.rundgang), &ungelesen).gehen() ? 0 : 1;
-    }
-    schreibtisch.frage(Schreibtisch::sitzungsbus());
-    QObject::connect(&oberflaeche.hauptfenster, &AppController::beendet, &app, &QApplication::quit);
-    oberflaeche.hauptfenster.Hauptfenster->show();
-    std::optional<Postfach> postfach;
-    if (!sperre.besetzt()) { // else it is the other one's
-        postfach.emplace(dateiordner);
-        QObject::connect(
-            &*postfach, &Postfach::eingetroffen, &app,
-            [&oberflaeche](const QStringList &dateien) { oeffne(oberflaeche, dateien); });
-    }
-    QMetaObject::invokeMethod(
-        &oberflaeche.empfang,
-        [&oberflaeche, &auftrag] { oberflaeche.empfang.oeffne(auftrag.dateien); },
-        Qt::QueuedConnection);
-    return QApplication::exec();
+    const Datenordner ordner = heim.ordner ? Datenordner(heim.ordner->path()) : eigenerOrdner;
+    const Tueren tueren = tuerenFuerAlle(*heim.einstellungen, ordner, sprache);
+    return heim.ordner ? geheRundgang(auftrag.rundgang, tueren)
+                       : arbeite(auftrag.dateien, tueren, schreibtisch);
 }
 
 } // namespace
