@@ -229,7 +229,7 @@ Aufrufleser::Befund Aufrufleser::leseBefehl()
 
 Aufrufleser::Befund Aufrufleser::leseFuerBefehl(const Befehlsform &form)
 {
-    if (const Befund fehler = pruefeZugehoerigkeit(form.gruppe)) {
+    if (Befund fehler = pruefeZugehoerigkeit(form.gruppe)) {
         return fehler;
     }
     m_auftrag.befehl = form.befehl;
