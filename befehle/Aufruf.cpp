@@ -263,7 +263,7 @@ Aufrufleser::Befund Aufrufleser::leseDateien(const QStringList &worte)
 
 Aufrufleser::Befund Aufrufleser::leseFuerBefehl(const Befehlsform &form)
 {
-    if (const Befund fehler = pruefeZugehoerigkeit(form.gruppe)) {
+    if (Befund fehler = pruefeZugehoerigkeit(form.gruppe)) {
         return fehler;
     }
     m_auftrag.befehl = form.befehl;

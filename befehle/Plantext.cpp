@@ -64,8 +64,8 @@ QString restwort(const Planbericht &bericht, Naehrwert wert)
 QStringList naehrwertzeile(const Planbericht &bericht, const Naehrwertbeschreibung &welcher)
 {
     const Plannaehrwert &summe = bericht.auswertung.naehrwerte[stelle(welcher.wert)];
-    const QStringList menge = {uebersetzt(welcher.bezeichnung),
-                               naehrwertMitEinheit(welcher.wert, static_cast<double>(summe.summe))};
+    QStringList menge = {uebersetzt(welcher.bezeichnung),
+                         naehrwertMitEinheit(welcher.wert, static_cast<double>(summe.summe))};
     const auto &bedarf = bericht.summen.bedarf[stelle(welcher.wert)];
     if (!bedarf) {
         return menge;

@@ -110,7 +110,7 @@ void TestLebensmittelvergleich::schreibeEigene()
                                                             {Naehrwert::ka, 11},
                                                             {Naehrwert::ph, 14},
                                                             {Naehrwert::fe, 0.6F},
-                                                            {Naehrwert::vitc, 7},
+                                                            {Naehrwert::vitc, 8},
                                                             {Naehrwert::kh, 64.8F}}) {
         genau.setWert(wert, zahl);
     }
@@ -251,11 +251,14 @@ void TestLebensmittelvergleich::foodsAndAmounts()
     const Probefenster fenster(m_heim);
     fenster.klicke(1, inName);
     for (int i = 0; i < 300 && !QTest::currentTestFailed(); ++i) {
-        const int gramm = m_zufall.bounded(4) == 0 ? besondere[m_zufall.bounded(besondere.size())]
-                                                   : m_zufall.bounded(1001);
-        const bool eigenes = m_zufall.bounded(3) == 0;
+        const bool genau = i == 0;
+        const bool eigenes = genau || m_zufall.bounded(3) == 0;
+        const int gramm = genau                      ? 100
+                          : m_zufall.bounded(4) == 0 ? besondere[m_zufall.bounded(besondere.size())]
+                                                     : m_zufall.bounded(1001);
         const QStringList &namen = eigenes ? fenster->KundenArray : fenster->Array;
-        const int zeile = static_cast<int>(m_zufall.bounded(namen.size()));
+        const auto zeile =
+            static_cast<int>(genau ? namen.indexOf(u"Genau"_s) : m_zufall.bounded(namen.size()));
         fenster.tippeMenge(QString::number(gramm));
         m_farben.clear();
         for (const WertungView *balken : fenster->Hauptfenster->findChildren<WertungView *>()) {
@@ -267,6 +270,7 @@ void TestLebensmittelvergleich::foodsAndAmounts()
         const Antwort antwort = frage(name, gramm, eigenes, Ausgabeform::Json);
         QCOMPARE(antwort.ausgang, 0);
         vergleiche(fenster, QJsonDocument::fromJson(antwort.ausgabe).object());
+        QVERIFY(!genau || fenster->gesamtbeurteilungfeld->intValue() == 45);
         if (i % 3 == 0) {
             const Antwort text = frage(name, gramm, eigenes, Ausgabeform::Text);
             vergleicheText(fenster, QString::fromUtf8(text.ausgabe));
