@@ -416,9 +416,9 @@ void TestTabellenaustausch::aFileThatIsNotWrittenIsTold()
     }
     QCOMPARE(aufDerPlatte().size(), 2);
     QCOMPARE(controller().KundenArray.size(), 4);
-    for (const Hinweis &h : controller().hinweise->hinweise()) qWarning() << "XX" << h.text;
+    QCoreApplication::processEvents(); // the window hears of it afterwards
     QCOMPARE(controller().hinweise->hinweise().size(), 2);
-    QVERIFY(controller().hinweise->hinweise()[1].warnung);
+    QVERIFY(controller().hinweise->hinweise()[0].warnung);
 }
 
 void TestTabellenaustausch::aListGoesOutAndComesBack()
@@ -519,7 +519,6 @@ void TestTabellenaustausch::aTableThatIsNotWrittenIsTold()
     const QString path = m_heim->pfad(voll ? u"liste.csv"_s : u"fehlt/liste.csv"_s);
     gibAus(0, path);
     festplatte.reset();
-    qWarning() << "XX" << hinweis() << QFileInfo(path).size();
     QVERIFY(!QFile::exists(path));
     QVERIFY(hinweis().startsWith(u"Die Tabelle ist nicht gesichert: "_s));
     QVERIFY(controller().hinweise->hinweise().first().warnung);
