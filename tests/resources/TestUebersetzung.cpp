@@ -32,7 +32,8 @@ QString inhalt(const QString &datei)
 QStringList dateien(const QString &muster)
 {
     QStringList ergebnis;
-    for (const char *raum : {"model", "analysis", "controls", "views", "plan", "anthro", "app"}) {
+    for (const char *raum :
+         {"model", "analysis", "controls", "views", "austausch", "plan", "anthro", "app"}) {
         QDirIterator suche(QStringLiteral(MAHLBERG_SOURCE_DIR "/") + QLatin1String(raum), {muster},
                            QDir::Files);
         while (suche.hasNext()) {
