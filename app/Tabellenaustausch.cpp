@@ -304,8 +304,9 @@ void Tabellenaustausch::frageNachZiel(QWidget *fenster, const Ausgabeliste &list
 void Tabellenaustausch::schreibe(QWidget *fenster, const QString &path, const QByteArray &bytes)
 {
     QSaveFile datei(path);
-    const bool geschrieben =
-        datei.open(QIODevice::WriteOnly) && datei.write(bytes) == bytes.size() && datei.commit();
+    // Unbuffered: else a disk that becomes full on the way goes unnoticed.
+    const bool geschrieben = datei.open(QIODevice::WriteOnly | QIODevice::Unbuffered) &&
+                             datei.write(bytes) == bytes.size() && datei.commit();
     if (geschrieben) {
         merkeOrdner(path);
     }

@@ -180,6 +180,7 @@ QBoxLayout *Einlesefenster::knoepfe()
     m_weglassen =
         new QPushButton(satz(QT_TRANSLATE_NOOP("Mahlberg", "&Fehlerhafte Zeilen weglassen")));
     m_weglassen->setObjectName(QStringLiteral("weglassen"));
+    m_weglassen->setAutoDefault(false); // Return in a field is no wish to lose lines
     new Sperrgrund(m_weglassen, satz(QT_TRANSLATE_NOOP("Mahlberg", "Keine Zeile ist fehlerhaft.")));
     m_abbrechen = new QPushButton(satz(QT_TRANSLATE_NOOP("Mahlberg", "Abbrechen")));
     m_uebernehmen = new QPushButton;

@@ -105,10 +105,11 @@ QString inWorten(const Spaltensinn &sinn)
     case Art::Wert:
         break;
     }
-    const QString name = sinn.mass == Lesemass::GrammSalz
-                             ? QStringLiteral("Salz")
-                             : QString::fromUtf8(beschreibung(sinn.wert).bezeichnung);
-    return QStringLiteral("%1 (%2)").arg(localizedString(name), zeichen(sinn.mass));
+    const QString name =
+        sinn.mass == Lesemass::GrammSalz
+            ? localizedString(QStringLiteral("Salz"))
+            : localizedString(QString::fromUtf8(beschreibung(sinn.wert).bezeichnung));
+    return QStringLiteral("%1 (%2)").arg(name, zeichen(sinn.mass));
 }
 
 bool istEigenesMass(const Spaltensinn &sinn)

@@ -64,11 +64,12 @@ QRect platz(const QWidget &widget)
     return QRect(widget.mapTo(widget.window(), QPoint(0, 0)), widget.size());
 }
 
-/// The nearest thing around both: within it one of them comes first.
+/// The nearest thing around both, also where one lies in the other: within it one of them comes
+/// first.
 const QWidget *gemeinsame(const QWidget &eins, const QWidget &zwei)
 {
     const QWidget *mutter = eins.parentWidget();
-    while (mutter != nullptr && !mutter->isAncestorOf(&zwei)) {
+    while (mutter != nullptr && (mutter == &zwei || !mutter->isAncestorOf(&zwei))) {
         mutter = mutter->parentWidget();
     }
     return mutter;
