@@ -61,7 +61,7 @@ private:
     /// it may lie on a stick that is plugged in again.
     QString brauchbarerOrdner(QWidget *fenster) const
     {
-        const QString ordner = pdfordner(m_einstellungen);
+        QString ordner = pdfordner(m_einstellungen);
         if (nimmtDateien(ordner)) {
             return ordner;
         }
