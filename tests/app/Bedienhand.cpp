@@ -131,7 +131,8 @@ private:
         } else if (tat == QLatin1String("close")) {
             schliesse(woran);
         } else if (tat == QLatin1String("desktop")) {
-            sage(QGuiApplication::desktopFileName() + u' ' + QCoreApplication::applicationName());
+            sage(QStringLiteral("desktop: ") + QGuiApplication::desktopFileName() + u' ' +
+                 QCoreApplication::applicationName());
         }
     }
 

@@ -33,7 +33,6 @@ private Q_SLOTS:
     void theHomeIsTheOneThatTheSystemKnows_data();
     void theHomeIsTheOneThatTheSystemKnows();
     void theTourLeavesTheHomeAlone();
-    void theDesktopFindsTheEntry();
     void aNamedFolderHoldsTheFiles();
     void qtReadsItsOwnOptions();
 
@@ -268,21 +267,6 @@ void TestProgramm::theHomeIsTheOneThatTheSystemKnows()
     QVERIFY(programm.waitForFinished());
     QCOMPARE(QString::fromUtf8(programm.readAllStandardOutput()).trimmed(),
              bleibt ? home : bekannt);
-}
-
-/// Desktops go by the name of the entry, older ones by what it says of the program's windows.
-void TestProgramm::theDesktopFindsTheEntry()
-{
-    Programm programm(m_heim->path());
-    QCOMPARE(programm.naechstes(), fenster);
-    programm.tue(u"desktop"_s);
-    const QStringList namen = programm.naechstes().split(u' ');
-    const QByteArray eintrag =
-        lies(QStringLiteral(PAKETDATEIEN) + u'/' + namen.first() + u".desktop"_s);
-    QVERIFY2(eintrag.contains("\nStartupWMClass=" + namen.last().toUtf8() + '\n'),
-             eintrag.constData());
-    programm.tue(u"close Mahlberg"_s);
-    QCOMPARE(programm.ende(), 0);
 }
 
 void TestProgramm::theTourLeavesTheHomeAlone()

@@ -6,6 +6,7 @@
 #include <QFileInfo>
 #include <QImage>
 #include <QMimeDatabase>
+#include <QRegularExpression>
 #include <QTemporaryDir>
 #include <QTest>
 
@@ -25,6 +26,7 @@ private Q_SLOTS:
     void theIconHasItsSizes_data();
     void theIconHasItsSizes();
     void theMovedProgramShowsItsFoods();
+    void theDesktopFindsTheEntry();
     void theMovedProgramsAnswer_data();
     void theMovedProgramsAnswer();
     void theFilesOfTheProgramAreKnown_data();
@@ -142,6 +144,29 @@ void TestEinrichtung::theMovedProgramShowsItsFoods()
     for (const QString &eines : {u"1016 rows"_s, u"Herz und Kreislauf"_s, u", roh"_s}) {
         QVERIFY2(text.contains(eines), qPrintable(eines));
     }
+}
+
+/// Desktops go by the name of the entry, older ones by what it says of the program's windows.
+void TestEinrichtung::theDesktopFindsTheEntry()
+{
+    const QTemporaryDir heim;
+    QProcessEnvironment umgebung = QProcessEnvironment::systemEnvironment();
+    umgebung.insert(u"HOME"_s, heim.path());
+    umgebung.remove(u"XDG_CONFIG_HOME"_s);
+    umgebung.insert(u"QT_PLUGIN_PATH"_s, QStringLiteral(BEDIENHAND));
+    umgebung.insert(u"QT_QPA_GENERIC_PLUGINS"_s, u"bedienhand"_s);
+    QProcess prozess;
+    prozess.setProcessEnvironment(umgebung);
+    prozess.start(programm(u"mahlberg"_s), {u"--data-dir"_s, heim.path()});
+    prozess.write("desktop\nclose Mahlberg\n"); // read once the program runs
+    QVERIFY(prozess.waitForFinished());
+    const QRegularExpressionMatch namen =
+        QRegularExpression(u"^desktop: (.+) (.+)$"_s, QRegularExpression::MultilineOption)
+            .match(QString::fromUtf8(prozess.readAllStandardOutput()));
+    const QByteArray eintrag =
+        lies(verlegt.filePath(u"share/applications/"_s + namen.captured(1) + u".desktop"_s));
+    QVERIFY2(eintrag.contains("\nStartupWMClass=" + namen.captured(2).toUtf8() + '\n'),
+             eintrag.constData());
 }
 
 void TestEinrichtung::theMovedProgramsAnswer_data()
