@@ -39,7 +39,7 @@ std::optional<QStringDecoder::Encoding> utf16OhneMarke(QByteArrayView bytes)
 {
     std::array<qsizetype, 2> nullen = {0, 0};
     for (qsizetype i = 0; i < bytes.size(); ++i) {
-        nullen[i % 2] += bytes[i] == 0 ? 1 : 0;
+        nullen.at(i % 2 == 0 ? 0 : 1) += bytes[i] == 0 ? 1 : 0;
     }
     const bool gerade = bytes.size() % 2 == 0;
     const auto einseitig = [&](qsizetype mit, qsizetype ohne) {

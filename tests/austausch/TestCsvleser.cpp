@@ -67,6 +67,7 @@ void TestCsvleser::whatIsNoTextIsRefused_data()
     QTest::newRow("zeros") << QByteArray(64, '\0') << KeinText;
     QTest::newRow("damaged behind the mark") << QByteArray("\xEF\xBB\xBFK\xE4se") << KeinText;
     QTest::newRow("half a sign of UTF-16") << QByteArray("\xFF\xFEK\0\xE4", 5) << KeinText;
+    QTest::newRow("perhaps UTF-16") << QByteArray("K\0e\0s\0\0\x01", 8) << KeinText;
     QTest::newRow("UTF-32") << QByteArray("\xFF\xFE\0\0K\0\0\0", 8) << KeinText;
 }
 

@@ -207,6 +207,12 @@ void TestEinlesung::theMarkCanBeSet()
     QCOMPARE(lies(u"Name;Kalium\nA;1.234\n"_s, auftrag).einlesung.lebensmittel().first().ka(),
              1234.0F);
     QCOMPARE(lies(u"Name;Kalium\nA;0.5\n"_s, auftrag).fehler.size(), 1);
+    // A hair above the middle of 1 and the next number: by way of a double it would be 1.
+    QCOMPARE(lies(u"Name;Kalium\nA;1,00000005960464477540\n"_s, auftrag)
+                 .einlesung.lebensmittel()
+                 .first()
+                 .ka(),
+             1.00000011920928955F);
 }
 
 void TestEinlesung::portionsBecomeHundredGrams_data()
