@@ -58,6 +58,7 @@ private Q_SLOTS:
 
 private:
     QPrintPreviewDialog *oeffne(const Druckauftrag &auftrag, const Pdftuer &alsPdf = {});
+    void schliesse(QPrintPreviewDialog &vorschau) const;
 
     QTemporaryDir m_ordner;
     std::unique_ptr<QSettings> m_einstellungen;
@@ -157,6 +158,12 @@ QPrintPreviewDialog *TestDruckvorschau::oeffne(const Druckauftrag &auftrag, cons
     return QTest::qWaitForWindowExposed(vorschau) ? vorschau.data() : nullptr;
 }
 
+void TestDruckvorschau::schliesse(QPrintPreviewDialog &vorschau) const
+{
+    vorschau.close();
+    QTRY_VERIFY(m_fenster.findChild<QPrintPreviewDialog *>() == nullptr);
+}
+
 void TestDruckvorschau::manyPagesCanBeCancelled_data()
 {
     QTest::addColumn<bool>("vorschau");
@@ -211,8 +218,7 @@ void TestDruckvorschau::fewPagesShowNoProgress()
     for (const QWidget *fenster : QApplication::topLevelWidgets()) {
         QVERIFY(qobject_cast<const QProgressDialog *>(fenster) == nullptr);
     }
-    vorschau->close();
-    QTRY_VERIFY(m_fenster.findChild<QPrintPreviewDialog *>() == nullptr);
+    schliesse(*vorschau);
 }
 
 void TestDruckvorschau::thePreviewBeginsWithTheSharedPageSetup()
@@ -274,8 +280,7 @@ void TestDruckvorschau::theTitleMakesAFileName()
     QVERIFY(vorschau);
     QCOMPARE(vorschau->printer()->docName(), name + QStringLiteral(" 2026-11-22"));
     QVERIFY(vorschau->windowTitle().contains(titel)); // the user reads the true one
-    vorschau->close();
-    QTRY_VERIFY(m_fenster.findChild<QPrintPreviewDialog *>() == nullptr);
+    schliesse(*vorschau);
 }
 
 void TestDruckvorschau::aNewFileInTheDocumentsFolderIsProposed()
@@ -314,15 +319,13 @@ void TestDruckvorschau::thePreviewIsAsLargeAsItsWindow()
     QPrintPreviewDialog *vorschau = oeffne(beziffert(1));
     QVERIFY(vorschau);
     QCOMPARE(vorschau->size(), QSize(780, 570));
-    vorschau->close();
-    QTRY_VERIFY(m_fenster.findChild<QPrintPreviewDialog *>() == nullptr);
+    schliesse(*vorschau);
 
     m_fenster.resize(100, 50); // but never too small for its buttons
     vorschau = oeffne(beziffert(1));
     QVERIFY(vorschau);
     QCOMPARE(vorschau->size(), QSize(752, 515));
-    vorschau->close();
-    QTRY_VERIFY(m_fenster.findChild<QPrintPreviewDialog *>() == nullptr);
+    schliesse(*vorschau);
 }
 
 void TestDruckvorschau::closingThePreviewPrintsNothing()
@@ -330,8 +333,7 @@ void TestDruckvorschau::closingThePreviewPrintsNothing()
     QPrintPreviewDialog *vorschau = oeffne(beziffert(1));
     QVERIFY(vorschau);
     QVERIFY(vorschau->isModal()); // what is about to be printed can't change behind it
-    vorschau->close();
-    QTRY_VERIFY(m_fenster.findChild<QPrintPreviewDialog *>() == nullptr);
+    schliesse(*vorschau);
     QVERIFY(m_meldungen.isEmpty());
 }
 
@@ -356,8 +358,7 @@ void TestDruckvorschau::thePreviewIsPaintedLikeThePrint()
     ansicht->print();
     QCOMPARE(gemalt, QList<int>({1, 2, 3}));
     QCOMPARE(probe.zeilen(3), QStringList({QStringLiteral("Seite 3")}));
-    vorschau->close();
-    QTRY_VERIFY(m_fenster.findChild<QPrintPreviewDialog *>() == nullptr);
+    schliesse(*vorschau);
 }
 
 void TestDruckvorschau::thePreviewShowsEveryPage()
@@ -401,8 +402,7 @@ void TestDruckvorschau::theQuestionAboutAnExistingPdfIsShownAsItIsWritten()
     QVERIFY2(gefragt.contains(vorhanden.fileName()), qPrintable(gefragt));
     QCOMPARE(format, Qt::PlainText);
     QCOMPARE(vorhanden.size(), 0);
-    vorschau->close();
-    QTRY_VERIFY(m_fenster.findChild<QPrintPreviewDialog *>() == nullptr);
+    schliesse(*vorschau);
 }
 
 void TestDruckvorschau::cancellingGoesBackToThePreview()
@@ -413,8 +413,7 @@ void TestDruckvorschau::cancellingGoesBackToThePreview()
     aktion(*vorschau, "Print")->trigger();
     QVERIFY(m_meldungen.isEmpty());
     QVERIFY(vorschau->isVisible()); // the user may look on
-    vorschau->close();
-    QTRY_VERIFY(m_fenster.findChild<QPrintPreviewDialog *>() == nullptr);
+    schliesse(*vorschau);
 }
 
 void TestDruckvorschau::aPdfThatFailsIsToldAndTheProgramGoesOn()
@@ -427,8 +426,7 @@ void TestDruckvorschau::aPdfThatFailsIsToldAndTheProgramGoesOn()
     QCOMPARE(m_meldungen[0].text, QStringLiteral("Das Drucken ist nicht gelungen."));
     QVERIFY(m_meldungen[0].erklaerung.contains(QLatin1String("fehlt/plan.pdf")));
     QCOMPARE(m_meldungen[0].knoepfe, QStringList({QStringLiteral("ok")}));
-    vorschau->close();
-    QTRY_VERIFY(m_fenster.findChild<QPrintPreviewDialog *>() == nullptr);
+    schliesse(*vorschau);
 
     Druckprobe probe(Druckprobe::papier(QPageSize::A4, QPageLayout::Portrait));
     probe.drucke(beziffert(1));
@@ -490,8 +488,7 @@ void TestDruckvorschau::itsButtonSavesAPdf()
     QCOMPARE(worueber, vorschau);
     QCOMPARE(lage, QPageLayout::Landscape); // as it is shown
     QCOMPARE(vorschau->isVisible(), !gesichert);
-    vorschau->close();
-    QTRY_VERIFY(m_fenster.findChild<QPrintPreviewDialog *>() == nullptr);
+    schliesse(*vorschau);
 }
 
 void TestDruckvorschau::withoutTheDoorThereIsNoButton()
@@ -499,8 +496,7 @@ void TestDruckvorschau::withoutTheDoorThereIsNoButton()
     QPrintPreviewDialog *vorschau = oeffne(beziffert(1));
     QVERIFY(vorschau);
     QVERIFY(vorschau->findChild<QAction *>(QStringLiteral("alsPdf")) == nullptr);
-    vorschau->close();
-    QTRY_VERIFY(m_fenster.findChild<QPrintPreviewDialog *>() == nullptr);
+    schliesse(*vorschau);
 }
 
 QTEST_MAIN(TestDruckvorschau)
