@@ -33,7 +33,6 @@ class TestDruckvorschau : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void initTestCase();
     void init();
     void manyPagesCanBeCancelled_data();
     void manyPagesCanBeCancelled();
@@ -127,13 +126,9 @@ void verneineFrage(const std::function<void(const QMessageBox &)> &sieAn)
 
 } // namespace
 
-void TestDruckvorschau::initTestCase()
-{
-    QVERIFY(m_ordner.isValid());
-}
-
 void TestDruckvorschau::init()
 {
+    QVERIFY(m_ordner.isValid());
     QLocale::setDefault(QLocale(QLocale::German, QLocale::Germany));
     m_meldungen.clear();
     m_einstellungen = std::make_unique<QSettings>(m_ordner.filePath(QStringLiteral("e.ini")),
