@@ -1,6 +1,6 @@
 #include "Aufrufworte.h"
 
-#include "Tafel.h"
+#include "Einzeilig.h"
 #include "Zeichenkettentabelle.h"
 
 #include <QCoreApplication>

@@ -2,9 +2,9 @@
 
 #include "Aufrufworte.h"
 #include "Dateigrund.h"
+#include "Einzeilig.h"
 #include "Lebensmittelbericht.h"
 #include "Planbericht.h"
-#include "Tafel.h"
 #include "Zeichenkettentabelle.h"
 
 #include <QCoreApplication>

@@ -1,6 +1,6 @@
 #include "Dateigrund.h"
 
-#include "Tafel.h"
+#include "Einzeilig.h"
 #include "Zeichenkettentabelle.h"
 
 QString dateigrund(const QString &path, const Archivdatei::Inhalt &inhalt)

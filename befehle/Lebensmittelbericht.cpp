@@ -2,26 +2,12 @@
 
 #include "Programmform.h"
 
-using Programmform::Abschnitt;
-using Programmform::kennung;
-using Programmform::Posten;
-using Programmform::text;
-using Programmform::urteil;
-using Programmform::zahl;
+using namespace Programmform;
+using namespace Programmform::Feld;
 
 namespace {
 
-const QString wert = QStringLiteral("value");
-const QString einheit = QStringLiteral("unit");
-const QString bezug = QStringLiteral("reference");
-const QString prozent = QStringLiteral("percent");
-const QString verdikt = QStringLiteral("verdict");
 const QString bedeutung = QStringLiteral("meaning");
-
-Posten einfach(const char *name, const QJsonValue &inhalt)
-{
-    return {QLatin1String(name), {{wert, inhalt}}};
-}
 
 Abschnitt kopf(const Lebensmittelbericht &bericht)
 {

@@ -2,6 +2,7 @@
 
 #include "Lebensmittelbericht.h"
 
+#include "Einzeilig.h"
 #include "Tafel.h"
 #include "Zahlenform.h"
 #include "Zahlworte.h"

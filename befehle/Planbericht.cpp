@@ -4,20 +4,11 @@
 #include "Planzeilen.h"
 #include "Programmform.h"
 
-using Programmform::Abschnitt;
-using Programmform::kennung;
-using Programmform::Posten;
-using Programmform::text;
-using Programmform::urteil;
-using Programmform::zahl;
+using namespace Programmform;
+using namespace Programmform::Feld;
 
 namespace {
 
-const QString wert = QStringLiteral("value");
-const QString einheit = QStringLiteral("unit");
-const QString bezug = QStringLiteral("reference");
-const QString prozent = QStringLiteral("percent");
-const QString verdikt = QStringLiteral("verdict");
 const QString balken = QStringLiteral("bar");
 const QString punkt = QStringLiteral("point");
 const QString spaltensumme = QStringLiteral("column_sum");
@@ -30,11 +21,6 @@ const QString geeignet = QStringLiteral("suitable");
 const QString neutral = QStringLiteral("neutral");
 const QString ungeeignet = QStringLiteral("unsuitable");
 const QString fuehrend = QStringLiteral("leading");
-
-Posten einfach(const char *name, const QJsonValue &inhalt)
-{
-    return {QLatin1String(name), {{wert, inhalt}}};
-}
 
 QJsonValue gesicht(int code)
 {

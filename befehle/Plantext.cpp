@@ -2,6 +2,7 @@
 
 #include "Planbericht.h"
 
+#include "Einzeilig.h"
 #include "Planregeln.h"
 #include "Planurteil.h"
 #include "Planzahlen.h"

@@ -75,6 +75,11 @@ Csv::Zelle alsZelle(const QJsonValue &wert)
 
 } // namespace
 
+Posten einfach(const char *name, const QJsonValue &inhalt)
+{
+    return {QLatin1String(name), {{Feld::wert, inhalt}}};
+}
+
 QString kennung(Naehrwert wert)
 {
     return QLatin1String(naehrwertnamen[stelle(wert)]);

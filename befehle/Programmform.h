@@ -24,6 +24,18 @@ struct Posten
     QList<std::pair<QString, QJsonValue>> felder;
 };
 
+/// What is told of things by both commands.
+namespace Feld {
+inline const QString wert = QStringLiteral("value");
+inline const QString einheit = QStringLiteral("unit");
+inline const QString bezug = QStringLiteral("reference");
+inline const QString prozent = QStringLiteral("percent");
+inline const QString verdikt = QStringLiteral("verdict");
+} // namespace Feld
+
+/// A thing of which nothing but a value is told.
+Posten einfach(const char *name, const QJsonValue &inhalt);
+
 /// Things of one kind.
 struct Abschnitt
 {

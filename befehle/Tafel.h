@@ -8,7 +8,3 @@
 /// each column: "l" stands on the left, "r" on the right. A row may end early. Every line is
 /// indented and ends with a line break.
 QString ausgerichtet(const QList<QStringList> &zeilen, QLatin1String seiten);
-
-/// A text in one line, to be printed on a terminal: control characters, which it would obey, are
-/// spelled out. Names come from files, and a file may come from anybody.
-QString einzeilig(const QString &text);

@@ -42,6 +42,7 @@ public:
     Pdftuer alsPdf;          ///< the door that saves a PDF; nothing does while there is none
     /// The door that changes the language; it stays while there is none.
     std::function<void(const QString &)> sprich;
+    Dateituer waehleDatei; ///< the door that asks for a file; nobody is asked while there is none
     /// The lines that went to the system log; `beimProtokoll` runs at each.
     QStringList protokoll;
     std::function<void()> beimProtokoll = [] {

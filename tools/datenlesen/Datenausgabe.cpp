@@ -1,5 +1,7 @@
 #include "Datenausgabe.h"
 
+#include "Einzeilig.h"
+
 #include <QStringList>
 
 #include <algorithm>
@@ -16,21 +18,6 @@ QString zahltext(float zahl)
     std::array<char, 64> puffer = {};
     const auto ende = std::to_chars(puffer.data(), puffer.data() + puffer.size(), zahl).ptr;
     return QString::fromLatin1(puffer.data(), ende - puffer.data());
-}
-
-/// A text in one line: control characters, which a terminal would obey, are spelled out.
-QString einzeilig(const QString &text)
-{
-    QString ergebnis;
-    for (const QChar zeichen : text) {
-        if (zeichen.category() == QChar::Other_Control) {
-            ergebnis +=
-                QStringLiteral("\\x%1").arg(uint(zeichen.unicode()), 2, 16, QLatin1Char('0'));
-        } else {
-            ergebnis += zeichen;
-        }
-    }
-    return ergebnis;
 }
 
 QString textzeile(const char *kennung, const QString &wert)
