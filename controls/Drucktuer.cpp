@@ -141,7 +141,7 @@ public:
     {
         const QString was = uebersetzt(QT_TRANSLATE_NOOP("Mahlberg", "Als PDF sichern …"));
         auto *leiste = findChild<QToolBar *>();
-        QAction *aktion = leiste->addAction(QStringLiteral("PDF …"));
+        QAction *aktion = leiste->addAction(uebersetzt(QT_TRANSLATE_NOOP("Mahlberg", "PDF …")));
         aktion->setObjectName(QStringLiteral("alsPdf"));
         aktion->setToolTip(was);
         leiste->widgetForAction(aktion)->setAccessibleName(was);

@@ -901,7 +901,7 @@ Nothing is worked out for children under 10 years; it resumes at 11 years.</tr
  </message>
  <message>
   <source>&amp;Als PDF sichern …</source>
-  <translation>Save &amp;as PDF …</translation>
+  <translation>Save as PD&amp;F …</translation>
  </message>
  <message>
   <source>&amp;Dezimalzeichen:</source>
@@ -1293,7 +1293,7 @@ Nothing is worked out for children under 10 years; it resumes at 11 years.</tr
  </message>
  <message>
   <source>E&amp;instellungen …</source>
-  <translation>Se&amp;ttings …</translation>
+  <translation>Settin&amp;gs …</translation>
  </message>
  <message>
   <source>Ein Lebensmittel „%1“ gibt es nicht.</source>
@@ -1566,6 +1566,10 @@ Nothing is worked out for children under 10 years; it resumes at 11 years.</tr
  <message>
   <source>Ordner öffnen</source>
   <translation>Open folder</translation>
+ </message>
+ <message>
+  <source>PDF …</source>
+  <translation>PDF …</translation>
  </message>
  <message>
   <source>Platz von „%1“</source>

@@ -15,8 +15,8 @@ Fensterrunde::Fensterrunde(const QString &sprache) : m_sprache(sprache)
     Planmodul::klient = {};
     m_heim.schreibeTabelle(zaehltabelle(5));
     m_heim.schreibeEigene(verzeichnis({lebensmittel(QStringLiteral("Eigenes"))}));
-    m_heim.frageNachDateien = [this](QWidget *, const Dateifrage &) {
-        return QStringList{m_heim.pfad(QStringLiteral("tabelle.csv"))};
+    m_heim.waehleDatei = [this](QWidget *, const Dateifrage &, const auto &antwort) {
+        antwort(m_heim.pfad(QStringLiteral("tabelle.csv")));
     };
     m_sprache.sprich(sprache); // the home has a desk of its own
     m_fenster = std::make_unique<Probefenster>(m_heim);

@@ -2,6 +2,7 @@
 #include "Bestandsvergleich.h"
 #include "Einlesefenster.h"
 #include "Einwandliste.h"
+#include "Hindernisse.h"
 #include "Vorschautabelle.h"
 
 #include <QComboBox>

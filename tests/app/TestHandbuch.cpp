@@ -125,9 +125,9 @@ void TestHandbuch::klickeAuf(const QString &worte) const
 
 void TestHandbuch::theContentsLeadToEachPage()
 {
-    QCOMPARE(inhalt().count(), 12);
+    QCOMPARE(inhalt().count(), 14);
     QCOMPARE(inhalt().currentRow(), 0);
-    QCOMPARE(inhalt().item(4)->text(), u"Mahlzeitenplan"_s);
+    QCOMPARE(inhalt().item(5)->text(), u"Mahlzeitenplan"_s);
     QTest::mouseClick(inhalt().viewport(), Qt::LeftButton, {},
                       inhalt().visualItemRect(inhalt().item(4)).center());
     QCOMPARE(m_handbuch->seite(), u"plan"_s);

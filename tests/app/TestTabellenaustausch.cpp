@@ -44,7 +44,7 @@ void TestTabellenaustausch::aListGoesOutAndComesBack()
     const QString path = m_probe->heim.pfad(u"eigene.csv"_s);
     m_probe->gibAus(0, path);
     QCOMPARE(m_probe->hinweis(), u"Die Tabelle ist gesichert: "_s + path);
-    QFile m_probe->datei(path);
+    QFile datei(path);
     QVERIFY(datei.open(QIODevice::ReadOnly));
     const QByteArray bytes = datei.readAll();
     QVERIFY(bytes.startsWith("\xEF\xBB\xBFLebensmittel;Energie (kcal);"));
@@ -76,7 +76,7 @@ void TestTabellenaustausch::eachListGoesOut()
     m_probe->controller().planmodul->gibHinein(u"Brot"_s, 50);
     const QString path = m_probe->heim.pfad(u"liste.csv"_s);
     m_probe->gibAus(liste, path);
-    QFile m_probe->datei(path);
+    QFile datei(path);
     QVERIFY(datei.open(QIODevice::ReadOnly));
     const QStringList zeilen = QString::fromUtf8(datei.readAll()).split(u"\r\n"_s);
     QFETCH(QStringList, anfaenge);
@@ -110,7 +110,7 @@ void TestTabellenaustausch::theFormIsChosenAndKept()
         QCOMPARE(trennung->currentText(), u"Komma ,"_s);
         QVERIFY(trennung->isEnabled());
         klicke(kind<QPushButton>(*fenster, "sichern"));
-        QFile m_probe->datei(m_probe->heim.pfad(u"form.csv"_s));
+        QFile datei(m_probe->heim.pfad(u"form.csv"_s));
         QVERIFY(datei.open(QIODevice::ReadOnly));
         QVERIFY(datei.readAll().startsWith("Lebensmittel,Energie (kcal),"));
         QCOMPARE(vorschlag.endsWith(u"/Eigene Lebensmittel.csv"_s), true);

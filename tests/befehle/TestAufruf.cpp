@@ -221,7 +221,7 @@ void TestAufruf::theHelpNamesAllThereIs()
         const QString zeile = treffer.next().captured(1);
         QVERIFY2(!gelesen(zeile).fehler, qPrintable(zeile));
     }
-    QCOMPARE(beispiele, 11);
+    QCOMPARE(beispiele, 12);
 }
 
 QTEST_GUILESS_MAIN(TestAufruf)
