@@ -116,6 +116,7 @@ Dateifenster::Dateifenster(const Lebensmitteldatei &datei, const Lebensmittelbes
         zeigeZeile();
         zeigeErgebnis();
         m_tabelle->setFocus();
+        setTabOrder(m_nehmen, findChild<QDialogButtonBox *>()->button(QDialogButtonBox::Cancel));
     }
 }
 

@@ -59,7 +59,8 @@ Namensvergleich::Namensvergleich(QWidget *parent)
     m_werte->setAccessibleName(
         localizedString(QStringLiteral("Ihr Lebensmittel neben dem der Datei")));
     m_werte->setHorizontalHeaderLabels({localizedString(QStringLiteral("Wert")),
-                                        localizedString(QStringLiteral("Ihres")), QString(),
+                                        localizedString(QStringLiteral("Ihres")),
+                                        localizedString(QStringLiteral("Gleich?")),
                                         localizedString(QStringLiteral("Das der Datei"))});
     m_werte->setTabKeyNavigation(false);
     m_werte->verticalHeader()->hide();

@@ -1372,6 +1372,10 @@ Nothing is worked out for children under 10 years; it resumes at 11 years.</tr
   <translation>Only files of this computer are opened.</translation>
  </message>
  <message>
+  <source>Gleich?</source>
+  <translation>Same?</translation>
+ </message>
+ <message>
   <source>Hier wird erst ab 11 Jahren gerechnet.</source>
   <translation>Nothing is computed here below 11 years.</translation>
  </message>
