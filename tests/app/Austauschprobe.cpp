@@ -23,7 +23,7 @@ Austauschprobe::Austauschprobe()
 
 QString Austauschprobe::datei(const QByteArray &bytes) const
 {
-    const QString path = heim.pfad(u"speisen.csv"_s);
+    QString path = heim.pfad(u"speisen.csv"_s);
     QFile datei(path);
     [&] {
         QVERIFY(datei.open(QIODevice::WriteOnly));
