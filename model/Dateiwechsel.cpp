@@ -94,7 +94,8 @@ bool Dateiwechsel::bereite(QByteArrayView bytes, const QDateTime &geaendert)
         errno = ENOENT;
         return misslungen();
     }
-    QByteArray name = m_ziel + endungNeues + "XXXXXX";
+    // mkostemp puts six letters of its own there, so that no two programs write to one file.
+    QByteArray name = m_ziel + endungNeues + QByteArray(6, 'X');
     m_datei = mkostemp(name.data(), O_CLOEXEC); // readable by the user alone
     if (m_datei < 0) {
         return misslungen();
