@@ -44,6 +44,37 @@ target_compile_options(mahlberg_options INTERFACE
 set(CMAKE_AUTORCC_OPTIONS --format-version 1)
 set(MAHLBERG_RCC_OPTIONS OPTIONS ${CMAKE_AUTORCC_OPTIONS})
 
+# Most of the time goes into reading the same headers of Qt and the standard library again, so they
+# are read once: for what computes those of Qt Core, for what shows those of the widgets too. What a
+# file needs it names all the same: the package and the program that ./run starts are built without.
+if(MAHLBERG_PRECOMPILE)
+    foreach(kind Core Widgets)
+        set(source ${CMAKE_BINARY_DIR}/precompiled/${kind}.cpp)
+        file(CONFIGURE OUTPUT ${source} CONTENT "")
+        add_library(mahlberg_precompiled_${kind} STATIC ${source})
+        target_link_libraries(mahlberg_precompiled_${kind} PRIVATE Qt6::${kind} mahlberg_options)
+        target_precompile_headers(mahlberg_precompiled_${kind} PRIVATE <Qt${kind}>)
+        set_target_properties(mahlberg_precompiled_${kind} PROPERTIES AUTOMOC OFF AUTOUIC OFF AUTORCC OFF)
+    endforeach()
+    target_precompile_headers(mahlberg_precompiled_Widgets PRIVATE <QtCore>)
+endif()
+
+# Of the rooms and libraries that a target links, does one show something?
+function(mahlberg_precompile name)
+    if(NOT MAHLBERG_PRECOMPILE)
+        return()
+    endif()
+    set(kind Core)
+    foreach(link ${ARGN})
+        get_target_property(linked ${link} MAHLBERG_PRECOMPILED)
+        if(linked STREQUAL Widgets OR link STREQUAL Qt6::Widgets)
+            set(kind Widgets)
+        endif()
+    endforeach()
+    set_target_properties(${name} PROPERTIES MAHLBERG_PRECOMPILED ${kind})
+    target_precompile_headers(${name} REUSE_FROM mahlberg_precompiled_${kind})
+endfunction()
+
 # A room: a static library whose headers are found only by those that link it. A header of a room
 # that is not on the link list can't even be included, so the link lists are the boundaries.
 function(mahlberg_room name)
@@ -51,6 +82,7 @@ function(mahlberg_room name)
     add_library(${name} STATIC ${ARG_SOURCES})
     target_include_directories(${name} PUBLIC ${CMAKE_CURRENT_SOURCE_DIR})
     target_link_libraries(${name} PUBLIC ${ARG_LINK} PRIVATE mahlberg_options)
+    mahlberg_precompile(${name} ${ARG_LINK})
 endfunction()
 
 # The sanitizer guesses how large a library's memory for its threads is, and guesses wrong with some
@@ -60,6 +92,10 @@ function(mahlberg_test name)
     cmake_parse_arguments(ARG "" "" "LINK;SOURCES" ${ARGN})
     add_executable(${name} ${name}.cpp ${ARG_SOURCES})
     target_link_libraries(${name} PRIVATE ${ARG_LINK} Qt6::Test mahlberg_options)
+    mahlberg_precompile(${name} ${ARG_LINK})
+    # A test includes what moc makes of it, so this file of its is empty and needs no headers.
+    set_source_files_properties(${CMAKE_CURRENT_BINARY_DIR}/${name}_autogen/mocs_compilation.cpp
+        PROPERTIES SKIP_PRECOMPILE_HEADERS ON)
     set(home ${CMAKE_BINARY_DIR}/test-homes/${name})
     file(MAKE_DIRECTORY ${home})
     add_test(NAME ${name} COMMAND ${name})

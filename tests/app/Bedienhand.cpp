@@ -9,6 +9,7 @@
 #include <QMainWindow>
 #include <QMessageBox>
 #include <QPushButton>
+#include <QSettings>
 #include <QSocketNotifier>
 #include <QTest>
 #include <QTextStream>
@@ -133,6 +134,9 @@ private:
         } else if (tat == QLatin1String("desktop")) {
             sage(QStringLiteral("desktop: ") + QGuiApplication::desktopFileName() + u' ' +
                  QCoreApplication::applicationName());
+        } else if (tat == QLatin1String("settle")) {
+            QSettings().sync(); // what the program would write in a moment
+            sage(QStringLiteral("settled"));
         }
     }
 

@@ -152,6 +152,8 @@ void TestProgramm::whoEndsTheSecondLeavesTheFirstAlone()
     schreibe(pfad(u"Library/Application Support/Mahlberg/MahlbergPlanmod.daten"_s), "?", 0600);
     Programm erstes(m_heim->path());
     QCOMPARE(erstes.naechstes(), fenster);
+    erstes.tue(u"settle"_s);
+    QCOMPARE(erstes.naechstes(), u"settled"_s);
     const QStringList vorher = alles(m_heim->path());
     QVERIFY(vorher.size() >= 6);
 

@@ -238,7 +238,7 @@ void TestLebensmittelvergleich::vergleicheText(const Probefenster &fenster, cons
 {
     const QStringList gezeigte = fenster.gezeigteWerte();
     for (std::size_t i = 0; i < anzahlNaehrwerte; ++i) {
-        const QString wert = gezeigte[static_cast<qsizetype>(i)];
+        const QString &wert = gezeigte[static_cast<qsizetype>(i)];
         const QString wort = u"\n  "_s + QString::fromUtf8(naehrwerte[i].bezeichnung) + u' ';
         const QString zeile = text.mid(text.indexOf(wort) + 1).section(u'\n', 0, 0);
         QVERIFY2(wert.isEmpty() || zeile.contains(u' ' + wert), qPrintable(zeile + wert));

@@ -6,11 +6,13 @@
 #include <algorithm>
 #include <functional>
 
-// Memory is counted by the sanitizer's allocator.
+// Memory is counted by the sanitizer's allocator. Its names are its own, and no header of the
+// compiler declares them. NOLINTBEGIN(bugprone-reserved-identifier)
 extern "C" int __sanitizer_install_malloc_and_free_hooks(void (*genommen)(const volatile void *,
                                                                           std::size_t),
                                                          void (*gegeben)(const volatile void *));
 extern "C" std::size_t __sanitizer_get_allocated_size(const volatile void *stelle);
+// NOLINTEND(bugprone-reserved-identifier)
 
 using namespace Archivbau;
 
