@@ -8,6 +8,7 @@
 #include "Hindernisworte.h"
 #include "Zeichenkettentabelle.h"
 
+#include <QApplication>
 #include <QDir>
 #include <QFileInfo>
 
@@ -110,6 +111,15 @@ void Dateiempfang::sageHindernisse(const QStringList &hindernisse)
 void Dateiempfang::zeigeNaechste()
 {
     if (m_zeigt || m_wartende.isEmpty()) {
+        return;
+    }
+    // A question or a sheet in front is about the foods as they were when it came up, and what is
+    // done in it would undo what a file brought meanwhile: the file waits until that has gone.
+    if (const auto *davor = qobject_cast<QDialog *>(QApplication::activeModalWidget())) {
+        connect(davor, &QDialog::finished, this, &Dateiempfang::zeigeNaechste,
+                Qt::QueuedConnection);
+        connect(davor, &QObject::destroyed, this, &Dateiempfang::zeigeNaechste,
+                Qt::QueuedConnection);
         return;
     }
     m_zeigt = true;

@@ -18,7 +18,7 @@ class Dateihueter;
 
 /// Receives the ".daten" files that the user opens, from the menu, the command line, the file
 /// manager or with the mouse: shows what each holds, one after the other, and takes over what the
-/// user wants of it.
+/// user wants of it. While another window asks something, they wait.
 class Dateiempfang : public QObject
 {
     Q_OBJECT

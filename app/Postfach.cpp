@@ -26,7 +26,7 @@ constexpr char trennung = '\0';
 /// How long between two looks whether a note was taken, in milliseconds.
 constexpr unsigned long abstand = 20;
 
-/// A command line holds no more; what is larger is none of ours.
+/// As large as a command line gets, and more; what is larger is none of ours.
 constexpr qint64 groessterZettel = qint64(4) << 20;
 
 QStringList zettelIn(const QString &ordner)
@@ -37,6 +37,15 @@ QStringList zettelIn(const QString &ordner)
         pfade.prepend(dort.filePath(name)); // the oldest first
     }
     return pfade;
+}
+
+/// Unbuffered: else a disk that is full goes unnoticed, and the note would name no file.
+bool lege(const QString &pfad, const QByteArray &inhalt)
+{
+    const EngeRechte eng;
+    QSaveFile zettel(pfad);
+    return zettel.open(QIODevice::WriteOnly | QIODevice::Unbuffered) &&
+           zettel.write(inhalt) == inhalt.size() && zettel.commit();
 }
 
 } // namespace
@@ -58,8 +67,9 @@ void Postfach::sieNach()
         if (!zettel.open(QIODevice::ReadOnly)) {
             continue;
         }
+        const bool zuGross = zettel.size() > groessterZettel;
         const QByteArray inhalt = zettel.read(groessterZettel);
-        if (!zettel.remove() || alt) {
+        if (!zettel.remove() || alt || zuGross) {
             continue;
         }
         QStringList pfade;
@@ -78,13 +88,9 @@ bool Postfach::gibAb(const QString &ordner, const QStringList &pfade, int wartez
     }
     const QString pfad =
         QDir(ordner).filePath(vorne + QString::number(QCoreApplication::applicationPid()) + hinten);
-    {
-        const EngeRechte eng;
-        QSaveFile zettel(pfad);
-        if (!zettel.open(QIODevice::WriteOnly) || zettel.write(namen.join(trennung)) < 0 ||
-            !zettel.commit()) {
-            return false;
-        }
+    const QByteArray inhalt = namen.join(trennung);
+    if (inhalt.size() > groessterZettel || !lege(pfad, inhalt)) {
+        return false;
     }
     QElapsedTimer uhr;
     uhr.start();

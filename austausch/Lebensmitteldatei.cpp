@@ -108,7 +108,6 @@ Lebensmitteldatei oeffneLebensmitteldatei(const QString &path, const QString &ei
     const Archivdatei::Rohdaten daten = Archivdatei::leseBytes(path);
     const Archivdatei::Inhalt inhalt = Archivdatei::deute(daten);
     datei.hindernis = hindernisIn(daten, inhalt);
-    datei.grund = inhalt.grund;
     datei.stelle = inhalt.archiv.position;
     datei.bigEndian = hatSignatur(daten.bytes, Archivformat::signaturBigEndian);
     if (datei.lesbar()) {

@@ -26,7 +26,6 @@ struct Lebensmitteldatei
 {
     QString path;
     Dateihindernis hindernis = Dateihindernis::Keines;
-    QString grund;        ///< of `NichtLesbar`: as the system says it
     qsizetype stelle = 0; ///< of `Beschaedigt`: the byte from which on it makes no sense
 
     bool bigEndian = false; ///< written on a machine that puts the highest byte first

@@ -155,12 +155,17 @@ private:
         }
         QFile fertiges(entwurf);
         QSaveFile datei(pdf);
-        if (!fertiges.open(QIODevice::ReadOnly) || !datei.open(QIODevice::WriteOnly)) {
+        // Unbuffered: else a disk that becomes full on the way goes unnoticed.
+        if (!fertiges.open(QIODevice::ReadOnly) ||
+            !datei.open(QIODevice::WriteOnly | QIODevice::Unbuffered)) {
             return false;
         }
         const QByteArray bytes = fertiges.readAll();
-        return !bytes.isEmpty() && datei.write(bytes) == bytes.size() && datei.commit();
+        return istGanz(bytes) && datei.write(bytes) == bytes.size() && datei.commit();
     }
+
+    /// What is printed where no room is left ends somewhere, and nobody is told.
+    static bool istGanz(const QByteArray &pdf) { return pdf.trimmed().endsWith("%%EOF"); }
 
     void sageWo(QWidget *fenster, const QString &pdf) const
     {

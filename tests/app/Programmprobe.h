@@ -5,6 +5,8 @@
 #include <QString>
 #include <QStringList>
 
+#include <csignal>
+
 /// The sign of a program that is at work, below its home.
 inline const QString zeichen = QStringLiteral("Library/Application Support/Mahlberg/Mahlberg.lock");
 /// What the hand tells of the question at a second start, and of the main window.
@@ -18,8 +20,11 @@ inline const QString fenster = QStringLiteral("window: Mahlberg");
 class Programm
 {
 public:
-    explicit Programm(const QString &heim, const QStringList &argumente = {
-                                               QStringLiteral("--language"), QStringLiteral("de")})
+    /// `ordner` is where it is started; where the test is, when there is none.
+    explicit Programm(const QString &heim,
+                      const QStringList &argumente = {QStringLiteral("--language"),
+                                                      QStringLiteral("de")},
+                      const QString &ordner = {})
     {
         QProcessEnvironment umgebung = QProcessEnvironment::systemEnvironment();
         umgebung.insert(QStringLiteral("HOME"), heim);
@@ -28,6 +33,7 @@ public:
         umgebung.insert(QStringLiteral("QT_QPA_GENERIC_PLUGINS"), QStringLiteral("bedienhand"));
         m_prozess.setProcessEnvironment(umgebung);
         m_prozess.setProcessChannelMode(QProcess::ForwardedErrorChannel);
+        m_prozess.setWorkingDirectory(ordner);
         m_prozess.start(QStringLiteral(MAHLBERG), argumente);
     }
     ~Programm()
@@ -62,6 +68,10 @@ public:
             m_prozess.state() == QProcess::NotRunning || m_prozess.waitForFinished();
         return zuEnde && m_prozess.exitStatus() == QProcess::NormalExit ? m_prozess.exitCode() : -1;
     }
+
+    /// Lets it stand still as if it were stuck, or go on.
+    void halteAn() const { kill(static_cast<pid_t>(m_prozess.processId()), SIGSTOP); }
+    void lasseWeiter() const { kill(static_cast<pid_t>(m_prozess.processId()), SIGCONT); }
 
     void toete()
     {

@@ -2,10 +2,14 @@
 #include "Namensvergleich.h"
 #include "Oeffnungsprobe.h"
 
+#include <QApplication>
+#include <QDialog>
 #include <QDir>
 #include <QTableView>
 #include <QTableWidget>
 #include <QTest>
+
+#include <functional>
 
 using enum Naehrwert;
 using Archivbau::Folge;
@@ -27,6 +31,12 @@ private Q_SLOTS:
     void aPlanIsShownAndNotTakenOver();
     void whatIsOddIsSaid();
     void severalFilesComeOneAfterTheOther();
+    void fiftyFilesComeInTheirOrder();
+    void whatComesWaitsForWhatIsInFront_data();
+    void whatComesWaitsForWhatIsInFront();
+    void whatComesWaitsForTheLastQuestion();
+    void whatCanNotBeOpenedIsToldInFrontOfAQuestion();
+    void aWaitingFileIsShownAsItCame();
     void whatCanNotBeOpenedIsToldAtOnce();
     void manyThatCanNotBeOpenedFitTheScreen();
     void anotherMachinesFileIsRefused();
@@ -35,6 +45,18 @@ private Q_SLOTS:
 private:
     std::unique_ptr<Oeffnungsprobe> m_probe;
 };
+
+namespace {
+
+/// Lets a window come up in front, or go again.
+using Vordergrund = std::function<void(QMainWindow &, AppController &)>;
+
+/// What it is called meanwhile.
+const QString vorne = u"vorne"_s;
+
+} // namespace
+
+Q_DECLARE_METATYPE(Vordergrund)
 
 void TestDateiOeffnen::theKeysAskForFiles()
 {
@@ -152,6 +174,101 @@ void TestDateiOeffnen::severalFilesComeOneAfterTheOther()
             nullptr); // the first one's came before
     m_probe->schliesse();
     QVERIFY(m_probe->fenster() == nullptr);
+}
+
+void TestDateiOeffnen::fiftyFilesComeInTheirOrder()
+{
+    QStringList pfade;
+    for (int i = 0; i < 50; ++i) {
+        pfade << m_probe->lege(u"%1.daten"_s.arg(i), Archivbau::beispiel());
+    }
+    m_probe->oeffne(pfade);
+    for (int i = 0; i < 50; ++i) {
+        QCOMPARE(m_probe->haupt().findChildren<Dateifenster *>().size(), 1);
+        QCOMPARE(m_probe->fenster()->windowTitle(), u"%1.daten"_s.arg(i));
+        m_probe->schliesse();
+    }
+    QVERIFY(m_probe->fenster() == nullptr);
+}
+
+void TestDateiOeffnen::whatComesWaitsForWhatIsInFront_data()
+{
+    QTest::addColumn<Vordergrund>("auf");
+    QTest::addColumn<Vordergrund>("zu");
+    QTest::newRow("a question") << Vordergrund([](QMainWindow &haupt, AppController &) {
+        (new QDialog(&haupt))->open();
+    }) << Vordergrund([](QMainWindow &haupt, AppController &) {
+        haupt.findChild<QDialog *>(vorne)->done(0);
+    });
+    QTest::newRow("one that goes without an answer")
+        << Vordergrund([](QMainWindow &haupt, AppController &) { (new QDialog(&haupt))->open(); })
+        << Vordergrund([](QMainWindow &haupt, AppController &) {
+               delete haupt.findChild<QDialog *>(vorne);
+           });
+    QTest::newRow("the sheet of an own food")
+        << Vordergrund([](QMainWindow &, AppController &controller) { controller.Fenster(); })
+        << Vordergrund(
+               [](QMainWindow &, AppController &controller) { controller.Fensterschliessen(); });
+}
+
+/// What is in front knows the foods as they were when it came up.
+void TestDateiOeffnen::whatComesWaitsForWhatIsInFront()
+{
+    QFETCH(Vordergrund, auf);
+    QFETCH(Vordergrund, zu);
+    auf(m_probe->haupt(), m_probe->controller());
+    QVERIFY(QApplication::activeModalWidget() != nullptr);
+    QApplication::activeModalWidget()->setObjectName(vorne);
+    m_probe->oeffne({m_probe->lege(u"a.daten"_s, Archivbau::beispiel())});
+    m_probe->oeffne({m_probe->lege(u"b.daten"_s, Archivbau::beispiel())});
+    QCoreApplication::processEvents();
+    QVERIFY(m_probe->fenster() == nullptr);
+    zu(m_probe->haupt(), m_probe->controller());
+    QTRY_VERIFY(m_probe->fenster() != nullptr);
+    QCoreApplication::processEvents();
+    QCOMPARE(m_probe->haupt().findChildren<Dateifenster *>().size(), 1);
+    QCOMPARE(m_probe->fenster()->windowTitle(), u"a.daten"_s);
+    m_probe->schliesse();
+    QCOMPARE(m_probe->fenster()->windowTitle(), u"b.daten"_s);
+}
+
+void TestDateiOeffnen::whatComesWaitsForTheLastQuestion()
+{
+    auto *erste = new QDialog(&m_probe->haupt());
+    erste->open();
+    auto *zweite = new QDialog(erste);
+    zweite->open();
+    m_probe->oeffne({m_probe->lege(u"a.daten"_s, Archivbau::beispiel())});
+    zweite->done(0);
+    QCoreApplication::processEvents();
+    QVERIFY(m_probe->fenster() == nullptr);
+    erste->done(0);
+    QTRY_VERIFY(m_probe->fenster() != nullptr);
+}
+
+void TestDateiOeffnen::whatCanNotBeOpenedIsToldInFrontOfAQuestion()
+{
+    QDialog frage(&m_probe->haupt());
+    frage.open();
+    m_probe->oeffne({m_probe->heim.pfad(u"fehlt.daten"_s)});
+    QCOMPARE(m_probe->heim.meldungen.size(), 1);
+    QVERIFY(frage.isVisible());
+}
+
+/// It may lie on a stick that is pulled out meanwhile, or be written anew.
+void TestDateiOeffnen::aWaitingFileIsShownAsItCame()
+{
+    const QString erste = m_probe->lege(u"a.daten"_s, {lebensmittel(u"A"_s)});
+    const QString zweite = m_probe->lege(u"b.daten"_s, {lebensmittel(u"B"_s)});
+    m_probe->oeffne({erste, zweite});
+    QVERIFY(QFile::remove(erste));
+    QVERIFY(QFile::remove(zweite));
+    m_probe->druecke("uebernehmen");
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+    QCOMPARE(m_probe->fenster()->windowTitle(), u"b.daten"_s);
+    m_probe->druecke("uebernehmen");
+    QCOMPARE(m_probe->controller().KundenArray, (QStringList{eintopf, muesli, u"A"_s, u"B"_s}));
+    QVERIFY(m_probe->heim.meldungen.isEmpty());
 }
 
 void TestDateiOeffnen::whatCanNotBeOpenedIsToldAtOnce()

@@ -1,3 +1,4 @@
+#include "Hindernisse.h"
 #include "Namensvergleich.h"
 #include "Oeffnungsprobe.h"
 
@@ -6,6 +7,10 @@
 #include <QTableView>
 #include <QTableWidget>
 #include <QTest>
+
+#include <optional>
+
+#include <sys/stat.h>
 
 using enum Naehrwert;
 using Archivbau::Folge;
@@ -35,11 +40,21 @@ private Q_SLOTS:
     void takingOverIsUndoneAndRepeated();
     void theOpenPlanKnowsTheNewFoods();
     void theFileIsWrittenOnce();
+    void aFailingWriteIsTold_data();
     void aFailingWriteIsTold();
 
 private:
     std::unique_ptr<Oeffnungsprobe> m_probe;
 };
+
+namespace {
+
+/// What keeps the file of the own foods from being written.
+enum class Hindernis { Voll, Geschuetzt, Ordner };
+
+} // namespace
+
+Q_DECLARE_METATYPE(Hindernis)
 
 void TestDateiUebernahme::allFoodsComeToTheOwnOnes_data()
 {
@@ -260,12 +275,35 @@ void TestDateiUebernahme::theFileIsWrittenOnce()
     QCOMPARE(geschrieben, 1);
 }
 
+void TestDateiUebernahme::aFailingWriteIsTold_data()
+{
+    QTest::addColumn<Hindernis>("hindernis");
+    QTest::newRow("a full disk") << Hindernis::Voll;
+    QTest::newRow("a protected folder") << Hindernis::Geschuetzt;
+    QTest::newRow("a folder in the place of the file") << Hindernis::Ordner;
+}
+
+/// The foods are in the list, the file is as it was, and the next save brings all of them there.
 void TestDateiUebernahme::aFailingWriteIsTold()
 {
-    QVERIFY(QFile::remove(m_probe->heim.eigeneDatei()));
-    QVERIFY(QDir().mkpath(m_probe->heim.eigeneDatei())); // a folder in its place
+    QFETCH(Hindernis, hindernis);
+    const QString datei = m_probe->heim.eigeneDatei();
+    const QByteArray ordner = QFile::encodeName(QFileInfo(datei).path());
     m_probe->oeffne({m_probe->lege(u"a.daten"_s, {lebensmittel(u"A"_s)})});
-    m_probe->druecke("uebernehmen");
+    QVERIFY(hindernis != Hindernis::Ordner || (QFile::remove(datei) && QDir().mkpath(datei)));
+    {
+        std::optional<VolleFestplatte> voll;
+        std::optional<OhneRechte> einfach;
+        if (hindernis == Hindernis::Voll) {
+            voll.emplace(20);
+        } else if (hindernis == Hindernis::Geschuetzt) {
+            QCOMPARE(chmod(ordner.constData(), 0555), 0);
+            einfach.emplace();
+            QVERIFY(einfach->gelungen());
+        }
+        m_probe->druecke("uebernehmen");
+    }
+    QCOMPARE(chmod(ordner.constData(), 0700), 0);
     QCOMPARE(m_probe->controller().KundenArray, (QStringList{eintopf, muesli, u"A"_s}));
     QTRY_VERIFY(m_probe->controller().hinweise->hinweise().size() >= 2); // the keeper's own, too
     QStringList texte;
@@ -275,6 +313,18 @@ void TestDateiUebernahme::aFailingWriteIsTold()
     QVERIFY2(
         texte.contains(u"Aus „a.daten“ in der Liste, aber nicht gesichert: neu 1, ersetzt 0."_s),
         qPrintable(texte.join(u'\n')));
+
+    if (hindernis == Hindernis::Ordner) {
+        QVERIFY(QFileInfo(datei).isDir());
+        QVERIFY(QDir().rmdir(datei));
+    } else {
+        QCOMPARE(m_probe->datei().keys(), (QStringList{eintopf, muesli}));
+    }
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+    m_probe->oeffne({m_probe->lege(u"b.daten"_s, {lebensmittel(u"B"_s)})});
+    m_probe->druecke("uebernehmen");
+    QCOMPARE(m_probe->datei().keys(), (QStringList{u"A"_s, u"B"_s, eintopf, muesli}));
+    QCOMPARE(m_probe->hinweis(), u"Aus „b.daten“ übernommen: neu 1, ersetzt 0."_s);
 }
 
 QTEST_MAIN(TestDateiUebernahme)

@@ -1,5 +1,6 @@
 #include "Austauschprobe.h"
 #include "Bestandsvergleich.h"
+#include "Dateifenster.h"
 #include "Einlesefenster.h"
 #include "Einwandliste.h"
 #include "Hindernisse.h"
@@ -39,6 +40,7 @@ private Q_SLOTS:
     void whatCantBeReadIsTold_data();
     void whatCantBeReadIsTold();
     void aQuoteThatStaysOpenStopsEverything();
+    void aFileIsOpenedWhenTheTableHasBeenRead();
     void aFileThatIsNotWrittenIsTold();
 
 private:
@@ -278,6 +280,23 @@ void TestEinlesen::aQuoteThatStaysOpenStopsEverything()
     QVERIFY(!knopf(*fenster)->isEnabled());
     klicke(kind<QPushButton>(*fenster, "weglassen"));
     QVERIFY(!knopf(*fenster)->isEnabled());
+}
+
+/// Taken over while the table is looked at, its foods would be gone once the table's come.
+void TestEinlesen::aFileIsOpenedWhenTheTableHasBeenRead()
+{
+    const Einlesefenster *tabelle = m_probe->lies("Name;kcal\nSenf;8\n");
+    const QString alt = m_probe->heim.pfad(u"alt.daten"_s);
+    QVERIFY(Archivdatei::schreiben(alt, verzeichnis({lebensmittel(u"Suppe"_s)})));
+    m_probe->fenster->oberflaeche().empfang.oeffne({alt});
+    const QMainWindow &haupt = *m_probe->controller().Hauptfenster;
+    QVERIFY(haupt.findChild<Dateifenster *>() == nullptr);
+    klicke(knopf(*tabelle));
+    QTRY_VERIFY(haupt.findChild<Dateifenster *>() != nullptr);
+    klicke(knopf(*haupt.findChild<Dateifenster *>()));
+    const QStringList alle = {u"=Mus"_s, u"Brot"_s, u"Senf"_s, u"Suppe"_s};
+    QCOMPARE(m_probe->controller().KundenArray, alle);
+    QCOMPARE(m_probe->aufDerPlatte().keys(), alle);
 }
 
 void TestEinlesen::aFileThatIsNotWrittenIsTold()

@@ -1,5 +1,7 @@
 #include "Postfach.h"
 
+#include "Hindernisse.h"
+
 #include <QDateTime>
 #include <QDir>
 #include <QFile>
@@ -8,6 +10,8 @@
 #include <QTemporaryDir>
 #include <QTest>
 #include <QThread>
+
+#include <sys/stat.h>
 
 using namespace Qt::StringLiterals;
 
@@ -22,12 +26,23 @@ private Q_SLOTS:
     void filesReachTheOneThatIsAtWork();
     void nobodyIsThereToTakeThem();
     void aNoteForOneThatIsStillStartingIsTaken();
+    void notesComeInTheirOrder();
+    void eachNoteComesOnceWhileAMessageIsOpen();
+    void anOldNoteIsThrownAway_data();
     void anOldNoteIsThrownAway();
+    void aHugeNoteIsThrownAway_data();
+    void aHugeNoteIsThrownAway();
+    void moreFilesThanANoteHolds();
+    void aNoteThatIsTakenBackIsNotOpened();
     void otherFilesAreLeftAlone();
     void aFolderThatIsNotThere();
+    void aFullDiskLeavesNoNote_data();
+    void aFullDiskLeavesNoNote();
+    void aProtectedFolderLeavesNoNote();
     void theNoteIsForTheUserAlone();
 
 private:
+    void legeZettel(const QString &nummer, const QByteArray &inhalt, int alter = 0) const;
     QStringList liegendes() const
     {
         return QDir(m_ordner->path()).entryList(QDir::Files | QDir::Hidden);
@@ -84,31 +99,116 @@ void TestPostfach::nobodyIsThereToTakeThem()
     QCOMPARE(liegendes(), QStringList()); // and nobody will find it later
 }
 
+/// A note as another start of the program left it so many seconds ago.
+void TestPostfach::legeZettel(const QString &nummer, const QByteArray &inhalt, int alter) const
+{
+    QFile zettel(m_ordner->filePath(u"Mahlberg-oeffnen-%1.zettel"_s.arg(nummer)));
+    QVERIFY(zettel.open(QIODevice::WriteOnly));
+    QCOMPARE(zettel.write(inhalt), inhalt.size());
+    QVERIFY(zettel.flush());
+    QVERIFY(zettel.setFileTime(QDateTime::currentDateTime().addSecs(-alter),
+                               QFileDevice::FileModificationTime));
+}
+
 void TestPostfach::aNoteForOneThatIsStillStartingIsTaken()
 {
-    QFile zettel(m_ordner->filePath(u"Mahlberg-oeffnen-77.zettel"_s));
-    QVERIFY(zettel.open(QIODevice::WriteOnly));
-    zettel.write("/a.daten");
-    zettel.close();
+    legeZettel(u"77"_s, "/a.daten");
     Postfach postfach(m_ordner->path());
     QSignalSpy eingetroffen(&postfach, &Postfach::eingetroffen);
     QTRY_COMPARE(eingetroffen.size(), 1);
     QCOMPARE(eingetroffen[0][0].toStringList(), QStringList{u"/a.daten"_s});
 }
 
+void TestPostfach::notesComeInTheirOrder()
+{
+    legeZettel(u"1"_s, "/zweite.daten", 20);
+    legeZettel(u"2"_s, "/dritte.daten", 10);
+    legeZettel(u"3"_s, "/erste.daten", 30);
+    Postfach postfach(m_ordner->path());
+    QSignalSpy eingetroffen(&postfach, &Postfach::eingetroffen);
+    QTRY_COMPARE(eingetroffen.size(), 3);
+    QStringList pfade;
+    for (const QList<QVariant> &einer : eingetroffen) {
+        pfade << einer[0].toStringList();
+    }
+    QCOMPARE(pfade, (QStringList{u"/erste.daten"_s, u"/zweite.daten"_s, u"/dritte.daten"_s}));
+}
+
+/// A message that a file gives rise to lets further events run before the next note is looked at.
+void TestPostfach::eachNoteComesOnceWhileAMessageIsOpen()
+{
+    legeZettel(u"1"_s, "/erste.daten", 20);
+    legeZettel(u"2"_s, "/zweite.daten", 10);
+    Postfach postfach(m_ordner->path());
+    QStringList pfade;
+    connect(&postfach, &Postfach::eingetroffen, this, [&](const QStringList &neue) {
+        const bool erste = pfade.isEmpty();
+        pfade << neue;
+        if (erste) {
+            legeZettel(u"3"_s, "/dritte.daten");
+            QTRY_COMPARE(pfade.size(), 3);
+        }
+    });
+    QTRY_COMPARE(pfade.size(), 3);
+    QCoreApplication::processEvents();
+    QCOMPARE(pfade, (QStringList{u"/erste.daten"_s, u"/zweite.daten"_s, u"/dritte.daten"_s}));
+    QCOMPARE(liegendes(), QStringList());
+}
+
+void TestPostfach::anOldNoteIsThrownAway_data()
+{
+    QTest::addColumn<int>("alter");
+    QTest::addColumn<bool>("genommen");
+    QTest::newRow("somebody may still wait") << 50 << true;
+    QTest::newRow("nobody waits any more") << 61 << false;
+}
+
 void TestPostfach::anOldNoteIsThrownAway()
 {
-    QFile zettel(m_ordner->filePath(u"Mahlberg-oeffnen-77.zettel"_s));
-    QVERIFY(zettel.open(QIODevice::WriteOnly));
-    zettel.write("/a.daten");
-    QVERIFY(zettel.flush());
-    QVERIFY(zettel.setFileTime(QDateTime::currentDateTime().addSecs(-61),
-                               QFileDevice::FileModificationTime));
-    zettel.close();
+    QFETCH(int, alter);
+    QFETCH(bool, genommen);
+    legeZettel(u"77"_s, "/a.daten", alter);
     Postfach postfach(m_ordner->path());
     QSignalSpy eingetroffen(&postfach, &Postfach::eingetroffen);
     QTRY_COMPARE(liegendes(), QStringList());
-    QCOMPARE(eingetroffen.size(), 0);
+    QCOMPARE(eingetroffen.size(), genommen ? 1 : 0);
+}
+
+void TestPostfach::aHugeNoteIsThrownAway_data()
+{
+    QTest::addColumn<int>("groesse");
+    QTest::addColumn<bool>("genommen");
+    QTest::newRow("as large as one gets") << (4 << 20) << true;
+    QTest::newRow("larger") << (4 << 20) + 1 << false; // its last path would be cut off
+}
+
+void TestPostfach::aHugeNoteIsThrownAway()
+{
+    QFETCH(int, groesse);
+    QFETCH(bool, genommen);
+    legeZettel(u"77"_s, QByteArray(groesse, 'x'));
+    Postfach postfach(m_ordner->path());
+    QSignalSpy eingetroffen(&postfach, &Postfach::eingetroffen);
+    QTRY_COMPARE(liegendes(), QStringList());
+    QCOMPARE(eingetroffen.size(), genommen ? 1 : 0);
+}
+
+void TestPostfach::moreFilesThanANoteHolds()
+{
+    Postfach postfach(m_ordner->path());
+    QVERIFY(!gibAbDaneben(m_ordner->path(), {QString(5 << 20, u'x')}));
+    QCOMPARE(liegendes(), QStringList());
+}
+
+/// The program that is at work was stuck, and comes to itself when the other has long been asked.
+void TestPostfach::aNoteThatIsTakenBackIsNotOpened()
+{
+    Postfach postfach(m_ordner->path());
+    QSignalSpy eingetroffen(&postfach, &Postfach::eingetroffen);
+    QVERIFY(!Postfach::gibAb(m_ordner->path(), {u"/a.daten"_s}, 50)); // no events run here
+    QVERIFY(gibAbDaneben(m_ordner->path(), {u"/b.daten"_s}));
+    QTRY_COMPARE(eingetroffen.size(), 1);
+    QCOMPARE(eingetroffen[0][0].toStringList(), QStringList{u"/b.daten"_s});
 }
 
 void TestPostfach::otherFilesAreLeftAlone()
@@ -129,6 +229,42 @@ void TestPostfach::otherFilesAreLeftAlone()
 void TestPostfach::aFolderThatIsNotThere()
 {
     QVERIFY(!Postfach::gibAb(m_ordner->filePath(u"fehlt"_s), {u"/a.daten"_s}, 60000));
+}
+
+void TestPostfach::aFullDiskLeavesNoNote_data()
+{
+    QTest::addColumn<int>("platz");
+    QTest::newRow("nothing fits") << 0;
+    QTest::newRow("a part fits") << 3;
+}
+
+/// An empty or cut note would open another file than the one that is meant, or none.
+void TestPostfach::aFullDiskLeavesNoNote()
+{
+    QFETCH(int, platz);
+    Postfach postfach(m_ordner->path());
+    QSignalSpy eingetroffen(&postfach, &Postfach::eingetroffen);
+    {
+        const VolleFestplatte voll(static_cast<rlim_t>(platz));
+        QVERIFY(!gibAbDaneben(m_ordner->path(), {u"/a.daten"_s}));
+    }
+    QCOMPARE(liegendes(), QStringList());
+    QVERIFY(gibAbDaneben(m_ordner->path(), {u"/b.daten"_s}));
+    QTRY_COMPARE(eingetroffen.size(), 1);
+    QCOMPARE(eingetroffen[0][0].toStringList(), QStringList{u"/b.daten"_s});
+}
+
+void TestPostfach::aProtectedFolderLeavesNoNote()
+{
+    const QByteArray ordner = QFile::encodeName(m_ordner->path());
+    QCOMPARE(chmod(ordner.constData(), 0555), 0);
+    {
+        const OhneRechte einfach;
+        QVERIFY(einfach.gelungen());
+        QVERIFY(!Postfach::gibAb(m_ordner->path(), {u"/a.daten"_s}, 60000));
+    }
+    QCOMPARE(chmod(ordner.constData(), 0700), 0);
+    QCOMPARE(liegendes(), QStringList());
 }
 
 void TestPostfach::theNoteIsForTheUserAlone()

@@ -1,7 +1,9 @@
 #include "Archivdatei.h"
+#include "Dateifenster.h"
 #include "Probefenster.h"
 #include "Sicherungsfenster.h"
 
+#include <QClipboard>
 #include <QComboBox>
 #include <QDir>
 #include <QFileInfo>
@@ -38,6 +40,8 @@ private Q_SLOTS:
     void oneWindowIsEnough();
     void aDamagedCopyCantBeBroughtBack();
     void aCopyThatIsLikeTodayHasNothingToBringBack();
+    void theContentIsCopiedAsATable();
+    void aCopyOpensAsAnyOtherFile();
     void theMenuOpensIt();
 
 private:
@@ -368,6 +372,35 @@ void TestSicherungsfenster::aCopyThatIsLikeTodayHasNothingToBringBack()
     oeffne();
     QCOMPARE(teil<QTableWidget>("inhalt").rowCount(), 2);
     QVERIFY(!teil<QPushButton>("zurueckholen").isEnabled());
+}
+
+void TestSicherungsfenster::theContentIsCopiedAsATable()
+{
+    legeKopie(QStringLiteral("2026-11-20"), {lebensmittel(suppe, {{kal, 40}})});
+    oeffne();
+    QVERIFY(QTest::qWaitForWindowActive(&fenster()));
+    auto &tafel = teil<QTableWidget>("inhalt");
+    tafel.setFocus();
+    QTest::keyClick(&tafel, Qt::Key_C, Qt::ControlModifier | Qt::ShiftModifier);
+    QCOMPARE(QGuiApplication::clipboard()->text(),
+             QStringLiteral("Lebensmittel\tkcal je 100 g\tHeute\nSuppe\t40\tfehlt\n"));
+}
+
+/// Single foods of an earlier state come back in this way.
+void TestSicherungsfenster::aCopyOpensAsAnyOtherFile()
+{
+    legeKopie(QStringLiteral("2026-11-20"),
+              {lebensmittel(suppe, {{kal, 40}}), lebensmittel(eintopf, {{kal, 75}})});
+    const QString kopie =
+        ordner().filePath(QStringLiteral("Sicherungen/MahlbergCustomnutr 2026-11-20.daten"));
+    m_fenster->oberflaeche().empfang.oeffne({kopie});
+    const auto *datei = controller().Hauptfenster->findChild<Dateifenster *>();
+    QVERIFY(datei != nullptr);
+    QTest::mouseClick(datei->findChild<QPushButton *>(QStringLiteral("uebernehmen")),
+                      Qt::LeftButton);
+    QCOMPARE(controller().KundenArray, (QStringList{eintopf, muesli, suppe}));
+    QCOMPARE(controller().KundenDictionary[eintopf].kal(), 60.0F); // the own one stays
+    QCOMPARE(Archivdatei::lesen(kopie).archiv.verzeichnis.keys(), (QStringList{eintopf, suppe}));
 }
 
 void TestSicherungsfenster::theMenuOpensIt()

@@ -2,6 +2,7 @@
 
 #include "Archivbau.h"
 #include "Archivdatei.h"
+#include "Hindernisse.h"
 #include "Hindernisworte.h"
 
 #include <QDateTime>
@@ -33,6 +34,9 @@ private Q_SLOTS:
     void aPlanIsToldFromFoods();
     void whatCanNotBeOpenedHasAReason_data();
     void whatCanNotBeOpenedHasAReason();
+    void theLargestFileIsRead();
+    void aProtectedFileIsToldAndReadLater_data();
+    void aProtectedFileIsToldAndReadLater();
     void theProgramsOwnFilesAreKnown_data();
     void theProgramsOwnFilesAreKnown();
     void theFileStaysAsItIs();
@@ -247,6 +251,43 @@ void TestLebensmitteldatei::whatCanNotBeOpenedHasAReason()
     QVERIFY(!datei.lesbar());
     QVERIFY(datei.lebensmittel.isEmpty());
     QTEST(hinderniswort(datei), "wort");
+}
+
+void TestLebensmitteldatei::theLargestFileIsRead()
+{
+    schreibe(u"gross"_s, Archivbau::beispiel());
+    QVERIFY(QFile::resize(pfad(u"gross"_s), Archivdatei::groessteDatei));
+    const Lebensmitteldatei datei = oeffne(u"gross"_s);
+    QVERIFY(datei.lesbar());
+    QCOMPARE(datei.lebensmittel.size(), 1);
+    QCOMPARE(datei.rest, Archivdatei::groessteDatei - Archivbau::beispiel().size());
+}
+
+void TestLebensmitteldatei::aProtectedFileIsToldAndReadLater_data()
+{
+    QTest::addColumn<QString>("geschuetzt");
+    QTest::newRow("the file") << u"ordner/ei.daten"_s;
+    QTest::newRow("its folder") << u"ordner"_s;
+}
+
+void TestLebensmitteldatei::aProtectedFileIsToldAndReadLater()
+{
+    QFETCH(QString, geschuetzt);
+    QVERIFY(QDir().mkpath(pfad(u"ordner"_s)));
+    schreibe(u"ordner/ei.daten"_s, Archivbau::beispiel());
+    QCOMPARE(chmod(QFile::encodeName(m_ordner->path()).constData(), 0755), 0);
+    const QByteArray was = QFile::encodeName(pfad(geschuetzt));
+    QCOMPARE(chmod(was.constData(), 0), 0);
+    {
+        const OhneRechte einfach;
+        QVERIFY(einfach.gelungen());
+        const Lebensmitteldatei datei = oeffne(u"ordner/ei.daten"_s);
+        QVERIFY(datei.lebensmittel.isEmpty());
+        QCOMPARE(hinderniswort(datei),
+                 u"Sie lässt sich nicht lesen. Vielleicht ist sie geschützt."_s);
+    }
+    QCOMPARE(chmod(was.constData(), 0700), 0);
+    QCOMPARE(oeffne(u"ordner/ei.daten"_s).lebensmittel.size(), 1);
 }
 
 void TestLebensmitteldatei::theProgramsOwnFilesAreKnown_data()

@@ -109,6 +109,12 @@ void TestUebernahmetabelle::onlyWhatCanComeHasABox()
     QCOMPARE(haken(vergebenes), QVariant(Qt::Checked));
     QVERIFY(!haken(gleiches).isValid());
     QVERIFY(!haken(namenloses).isValid());
+    QVERIFY(!m_tabelle->index(neues, 1).data(Qt::CheckStateRole).isValid());
+    const Qt::ItemFlags anklickbar = Qt::ItemIsEnabled | Qt::ItemIsSelectable;
+    QCOMPARE(m_tabelle->index(neues, 0).flags(), anklickbar | Qt::ItemIsUserCheckable);
+    QCOMPARE(m_tabelle->index(neues, 1).flags(), anklickbar);
+    QCOMPARE(m_tabelle->index(gleiches, 0).flags(), anklickbar);
+    QVERIFY(!m_tabelle->setData(m_tabelle->index(neues, 0), Qt::Unchecked, Qt::EditRole));
     kreuze(namenloses, true);
     kreuze(gleiches, true);
     QCOMPARE(m_tabelle->gewaehlte().size(), 3); // Neu, Brot, Käse
@@ -121,10 +127,14 @@ void TestUebernahmetabelle::onlyWhatCanComeHasABox()
 void TestUebernahmetabelle::withoutACrossItStaysOut()
 {
     QSignalSpy anders(m_tabelle.get(), &Uebernahmetabelle::umentschieden);
+    QSignalSpy neuGemalt(m_tabelle.get(), &QAbstractItemModel::dataChanged);
     QCOMPARE(m_tabelle->ergebnis().neu, QStringList{u"Neu"_s});
     kreuze(neues, false);
     QCOMPARE(m_tabelle->ergebnis().anzahl(), 0);
     QCOMPARE(anders.size(), 1);
+    QCOMPARE(neuGemalt.size(), 1);
+    QCOMPARE(neuGemalt[0][0].toModelIndex(), m_tabelle->index(0, 0));
+    QCOMPARE(neuGemalt[0][1].toModelIndex(), m_tabelle->index(zweitesVergebenes, 1));
     QCOMPARE(haken(neues), QVariant(Qt::Unchecked));
     m_tabelle->entscheideAlle(Namensgleich::Ersetzen);
     kreuze(vergebenes, false);
@@ -183,6 +193,9 @@ void TestUebernahmetabelle::whatShouldBeKnownIsExplained()
     QCOMPARE(m_tabelle->erklaerung(neues), vorgelesen(neues));
     QCOMPARE(vorgelesen(neues),
              u"Ein eingebautes Lebensmittel heißt ebenso. Im Plan gelten dessen Werte."_s);
+    QCOMPARE(m_tabelle->index(neues, 1).data(Qt::AccessibleDescriptionRole).toString(),
+             vorgelesen(neues));
+    QVERIFY(!m_tabelle->index(neues, 2).data(Qt::AccessibleDescriptionRole).isValid());
     QCOMPARE(vorgelesen(vergebenes), QString());
     QVERIFY(m_tabelle->erklaertEtwas());
     Datenmodul schwer = speise(u"Blei"_s, 100);

@@ -131,6 +131,8 @@ void TestAufruf::whatIsWrong_data()
     zeile("a value for help", u"--help=food"_s, AngabeZuviel, u"--help=food"_s);
     zeile("a value for own beside another one", u"food --format=csv --own=1 Butter"_s, AngabeZuviel,
           u"--own=1"_s);
+    zeile("a value for own before one that belongs there", u"food Butter --own=1 --format=csv"_s,
+          AngabeZuviel, u"--own=1"_s);
     zeile("a value for help before another option", u"--help=1 --own"_s, AngabeZuviel,
           u"--help=1"_s);
     zeile("a value for an option of Qt", u"-reverse=1"_s, AngabeZuviel, u"-reverse=1"_s);

@@ -36,6 +36,8 @@ void TestAufrufDateien::whatLooksLikeAFileIsOpened_data()
         << QStringList{u"./liste.csv"_s} << QStringList{hier + u"liste.csv"_s};
     QTest::newRow("an address") << QStringList{u"file:///a%20b/%C3%A4.daten"_s}
                                 << QStringList{u"/a b/ä.daten"_s};
+    QTest::newRow("an address in capitals")
+        << QStringList{u"FILE:///a.alt"_s} << QStringList{u"/a.alt"_s};
     QTest::newRow("several, the first of which looks like one")
         << QStringList{u"/a.daten"_s, u"liste"_s} << QStringList{u"/a.daten"_s, hier + u"liste"_s};
     QTest::newRow("one that begins like an option")

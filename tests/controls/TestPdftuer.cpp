@@ -1,6 +1,7 @@
 #include "Pdftuer.h"
 
 #include "Druckprobe.h"
+#include "Hindernisse.h"
 #include "Hinweisstreifen.h"
 #include "Seiteneinrichtung.h"
 
@@ -37,6 +38,9 @@ private Q_SLOTS:
     void whatCanNotBeWrittenIsToldAndAnotherPlaceAskedFor_data();
     void whatCanNotBeWrittenIsToldAndAnotherPlaceAskedFor();
     void withoutRoomForADraftItIsTold();
+    void aFullDiskKeepsTheOldPdf_data();
+    void aFullDiskKeepsTheOldPdf();
+    void aProtectedFolderKeepsTheOldPdf();
     void cancellingWritesNothing();
     void anOldPdfIsReplacedByAWholeOneOnly_data();
     void anOldPdfIsReplacedByAWholeOneOnly();
@@ -266,6 +270,63 @@ void TestPdftuer::withoutRoomForADraftItIsTold()
     vorher.isNull() ? qunsetenv("TMPDIR") : qputenv("TMPDIR", vorher);
     QCOMPARE(m_meldungen.size(), 1);
     QVERIFY(!QFile::exists(pfad(u"a.pdf"_s)));
+}
+
+void TestPdftuer::aFullDiskKeepsTheOldPdf_data()
+{
+    QTest::addColumn<double>("anteil");
+    QTest::addColumn<int>("weniger");
+    QTest::newRow("from the beginning") << 0.0 << 0;
+    QTest::newRow("on the way") << 0.5 << 0;
+    QTest::newRow("at the last line") << 1.0 << 4;
+}
+
+/// Room for a part of the pages' bytes, or for all but so many.
+void TestPdftuer::aFullDiskKeepsTheOldPdf()
+{
+    QFETCH(double, anteil);
+    QFETCH(int, weniger);
+    const QString pdf = pfad(u"a.pdf"_s);
+    m_antworten = {pdf};
+    QVERIFY(sichere(auftrag()));
+    const auto groesse = static_cast<double>(inhalt(pdf).size());
+    m_streifen->nimmZurueck(u"pdf"_s);
+    schreibe(pdf, "alt");
+    m_antworten = {pdf};
+    {
+        const VolleFestplatte voll(static_cast<rlim_t>(anteil * groesse) -
+                                   static_cast<rlim_t>(weniger));
+        QVERIFY(!sichere(auftrag()));
+    }
+    QCOMPARE(inhalt(pdf), QByteArray("alt"));
+    QCOMPARE(QDir(m_ordner->path()).entryList({u"a.pdf*"_s}, QDir::Files | QDir::Hidden),
+             QStringList{u"a.pdf"_s});
+    QCOMPARE(m_meldungen.size(), 1);
+    QCOMPARE(m_meldungen[0].text, u"Das PDF ist nicht gesichert."_s);
+    QVERIFY(m_streifen->hinweise().isEmpty());
+    m_antworten = {pdf};
+    QVERIFY(sichere(auftrag())); // as soon as there is room
+    QCOMPARE(seiten(pdf), 2);
+}
+
+void TestPdftuer::aProtectedFolderKeepsTheOldPdf()
+{
+    const QString pdf = pfad(u"a.pdf"_s);
+    schreibe(pdf, "alt");
+    const QByteArray ordner = QFile::encodeName(m_ordner->path());
+    QCOMPARE(chmod(ordner.constData(), 0555), 0);
+    m_antworten = {pdf};
+    {
+        const OhneRechte einfach;
+        QVERIFY(einfach.gelungen());
+        QVERIFY(!sichere(auftrag()));
+    }
+    QCOMPARE(chmod(ordner.constData(), 0700), 0);
+    QCOMPARE(m_meldungen.size(), 1);
+    QCOMPARE(inhalt(pdf), QByteArray("alt"));
+    m_antworten = {pdf};
+    QVERIFY(sichere(auftrag()));
+    QCOMPARE(seiten(pdf), 2);
 }
 
 void TestPdftuer::cancellingWritesNothing()
