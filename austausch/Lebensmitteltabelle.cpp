@@ -32,10 +32,10 @@ QList<Csv::Zelle> werteUndWertungen(const Datenmodul &lebensmittel, float anteil
 {
     QList<Csv::Zelle> zellen;
     for (const auto &zeile : naehrwerte) {
-        zellen << lebensmittel.wert(zeile.wert) * anteil;
+        zellen.emplaceBack(lebensmittel.wert(zeile.wert) * anteil);
     }
     for (const auto &zeile : wertungen) {
-        zellen << lebensmittel.wertung(zeile.wertung);
+        zellen.emplaceBack(lebensmittel.wertung(zeile.wertung));
     }
     return zellen;
 }
