@@ -2,6 +2,7 @@
 
 #include "AppController.h"
 #include "Archivdatei.h"
+#include "Druckname.h"
 #include "Eigenuebernahme.h"
 #include "Einlesefenster.h"
 #include "Einstellungen.h"
@@ -13,7 +14,6 @@
 #include <QFile>
 #include <QFileInfo>
 #include <QSaveFile>
-#include <QStandardPaths>
 
 #include <utility>
 
@@ -28,6 +28,9 @@ const QString kopiert = QStringLiteral("kopiert");
 
 /// A notice about what was copied is read and done with.
 constexpr int lesezeit = 8000; // milliseconds
+
+/// Where the plan stands among the lists that can go out.
+constexpr int planstelle = 3;
 
 QString satz(const char *text)
 {
@@ -100,9 +103,7 @@ Hinweisstreifen &Tabellenaustausch::streifenVon(const QWidget *fenster) const
 QString Tabellenaustausch::ordner() const
 {
     const QString gemerkt = m_tueren.einstellungen->value(gemerkterOrdner).toString();
-    return !gemerkt.isEmpty() && QFileInfo(gemerkt).isDir()
-               ? gemerkt
-               : QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation);
+    return !gemerkt.isEmpty() && QFileInfo(gemerkt).isDir() ? gemerkt : dokumentenordner();
 }
 
 void Tabellenaustausch::merkeOrdner(const QString &path)
@@ -251,20 +252,17 @@ QList<Ausgabeliste> Tabellenaustausch::listen() const
 {
     const auto foods = [this](const char *titel,
                               QList<Datenmodul> (Tabellenaustausch::*liste)() const) {
-        return Ausgabeliste{.titel = satz(titel),
-                            .dateiname = satz(titel),
+        return Ausgabeliste{.titel = QString::fromUtf8(titel),
                             .anzahl = static_cast<int>((this->*liste)().size()),
                             .tabelle = [this, liste] {
                                 return lebensmitteltabelle((this->*liste)());
                             }};
     };
-    const QString planname = satz(QT_TRANSLATE_NOOP("Mahlberg", "Mahlzeitenplan"));
     return {foods(QT_TRANSLATE_NOOP("Mahlberg", "Eigene Lebensmittel"), &Tabellenaustausch::eigene),
             foods(QT_TRANSLATE_NOOP("Mahlberg", "Eingebaute Lebensmittel"),
                   &Tabellenaustausch::eingebaute),
             foods(QT_TRANSLATE_NOOP("Mahlberg", "Suchergebnis"), &Tabellenaustausch::gefundene),
-            {.titel = planname,
-             .dateiname = planname,
+            {.titel = QString::fromUtf8(QT_TRANSLATE_NOOP("Mahlberg", "Mahlzeitenplan")),
              .anzahl = static_cast<int>(plan().PlanArray.size()),
              .tabelle = [this] {
                  return tabelleDesPlans();
@@ -282,6 +280,9 @@ void Tabellenaustausch::frageNachListe(QWidget *fenster)
             [this, fenster](const Ausgabeliste &liste, const Csv::Form &form) {
                 frageNachZiel(fenster, liste, form);
             });
+    if (fenster != m_controller.Hauptfenster) { // who asks there means the plan
+        frage->waehleListe(planstelle);
+    }
     frage->open();
 }
 
@@ -291,7 +292,8 @@ void Tabellenaustausch::frageNachZiel(QWidget *fenster, const Ausgabeliste &list
     m_tueren.waehleDatei(
         fenster,
         {.titel = satz(QT_TRANSLATE_NOOP("Mahlberg", "Als Tabelle sichern")),
-         .vorschlag = QDir(ordner()).filePath(liste.dateiname + QStringLiteral(".csv")),
+         .vorschlag =
+             QDir(ordner()).filePath(localizedString(liste.titel) + QStringLiteral(".csv")),
          .arten = satz(QT_TRANSLATE_NOOP("Mahlberg", "Tabellen (*.csv);;Alle Dateien (*)")),
          .endung = QStringLiteral("csv"),
          .zweck = Dateifrage::Zweck::Schreiben},

@@ -98,7 +98,12 @@ Textwechsel::Textwechsel(bool nachEnglisch)
         } else if (bisher.endsWith(u' ')) {
             m_muster.prepend({muster(bisher), neu + QStringLiteral("%9")});
         }
-        m_texte.insert(bisher, neu);
+        // The kinds of files in a file dialog stand in its list one by one.
+        const QStringList neue = neu.split(QStringLiteral(";;"));
+        const QStringList bisherige = bisher.split(QStringLiteral(";;"));
+        for (qsizetype i = 0; i < qMin(neue.size(), bisherige.size()); ++i) {
+            m_texte.insert(bisherige[i], neue[i]);
+        }
     }
 }
 

@@ -5,6 +5,7 @@
 
 #include <QCheckBox>
 #include <QComboBox>
+#include <QEvent>
 #include <QFormLayout>
 #include <QHBoxLayout>
 #include <QPushButton>
@@ -91,11 +92,36 @@ void Ausgabefenster::fuelleListen()
 {
     m_liste->setObjectName(QStringLiteral("liste"));
     for (int i = 0; i < m_listen.size(); ++i) {
-        m_liste->addItem(
-            QStringLiteral("%1 (%2)").arg(m_listen[i].titel, QString::number(m_listen[i].anzahl)),
-            i);
+        m_liste->addItem(QString());
         auto *eintrag = qobject_cast<QStandardItemModel *>(m_liste->model())->item(i);
         eintrag->setEnabled(m_listen[i].anzahl > 0);
+    }
+    beschrifteListen();
+}
+
+void Ausgabefenster::beschrifteListen()
+{
+    for (int i = 0; i < m_listen.size(); ++i) {
+        m_liste->setItemText(i, QStringLiteral("%1 (%2)").arg(localizedString(m_listen[i].titel),
+                                                              QString::number(m_listen[i].anzahl)));
+    }
+}
+
+void Ausgabefenster::waehleListe(int stelle)
+{
+    if (m_listen[stelle].anzahl > 0) {
+        m_liste->setCurrentIndex(stelle);
+    }
+}
+
+/// Over the plan's window this one may be open while the main window changes the language: the
+/// lists are called otherwise then, and the spreadsheet has other signs.
+void Ausgabefenster::changeEvent(QEvent *event)
+{
+    QDialog::changeEvent(event);
+    if (event->type() == QEvent::LanguageChange) {
+        beschrifteListen();
+        schalteForm();
     }
 }
 

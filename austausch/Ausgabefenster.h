@@ -16,8 +16,7 @@ class QSettings;
 /// A list that can go out.
 struct Ausgabeliste
 {
-    QString titel;                         ///< what the user calls it, translated
-    QString dateiname;                     ///< proposed for the file, without an ending
+    QString titel;                         ///< German; shown, and proposed for the file, translated
     int anzahl = 0;                        ///< rows that it has
     std::function<Csv::Tabelle()> tabelle; ///< made when it is wanted
 };
@@ -36,12 +35,19 @@ public:
     /// How the table is to be written, by what is chosen now.
     Csv::Form form() const;
 
+    /// Chooses the list of this place, unless it is empty.
+    void waehleListe(int stelle);
+
 Q_SIGNALS:
     /// The user wants this list in this form. The window is closed then.
     void gewaehlt(const Ausgabeliste &liste, const Csv::Form &form);
 
+protected:
+    void changeEvent(QEvent *event) override;
+
 private:
     void fuelleListen();
+    void beschrifteListen();
     void fuelleForm(QFormLayout &zeilen);
     void stelleWiederHer();
     void merke() const;

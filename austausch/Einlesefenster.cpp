@@ -83,6 +83,7 @@ Einlesefenster::Einlesefenster(const Einlesevorgabe &vorgabe, QWidget *parent)
     aufbau->addWidget(m_vorschau, 2);
     aufbau->addWidget(unterteil(), 1);
     Rollbereich::fasse(*this);
+    m_uebernehmen->setDefault(true); // only now it is the window's: else Return would cancel
     resize(fenstergroesse);
     m_trennung->setCurrentIndex(static_cast<int>(
         qMax(0, Csv::trennungen().indexOf(Csv::geratenesTrennzeichen(vorgabe.text.text)))));
@@ -185,7 +186,6 @@ QBoxLayout *Einlesefenster::knoepfe()
     m_abbrechen = new QPushButton(satz(QT_TRANSLATE_NOOP("Mahlberg", "Abbrechen")));
     m_uebernehmen = new QPushButton;
     m_uebernehmen->setObjectName(QStringLiteral("uebernehmen"));
-    m_uebernehmen->setDefault(true);
     auto *reihe = new QHBoxLayout;
     reihe->addWidget(m_weglassen);
     reihe->addStretch();
@@ -304,6 +304,11 @@ void Einlesefenster::zeigeNamen()
 {
     const QStringList namen =
         vergebeneNamen(m_vorgabe.eigene.verzeichnis, m_einlesung.lebensmittel());
+    if (!namen.isEmpty()) { // its place stays when it goes: what is ticked below must not move
+        QSizePolicy platz = m_namensteil->sizePolicy();
+        platz.setRetainSizeWhenHidden(true);
+        m_namensteil->setSizePolicy(platz);
+    }
     m_namensteil->setVisible(!namen.isEmpty());
     m_namensworte->setText(
         namen.size() == 1

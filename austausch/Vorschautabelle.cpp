@@ -28,6 +28,44 @@ QString ueberschriftFuer(const QStringList &ueberschriften, qsizetype spalte)
     return text.isEmpty() ? localizedString(QStringLiteral("Spalte %1")).arg(spalte + 1) : text;
 }
 
+QString mitEinheit(double zahl, const QString &einheit)
+{
+    return zahlenform().toString(zahl, 'g', bedeutsameStellen) + QChar(QChar::Nbsp) + einheit;
+}
+
+/// A number as it counts for the food, with its unit; empty where there is none that can count.
+QString gelesen(const QString &feld, const Spaltensinn &sinn, Zahlenschrift schrift,
+                const Lesezeile &zeile)
+{
+    const auto zahl = doppelteZahl(feld, schrift);
+    if (sinn.art == Art::Portion) {
+        return zahl && *zahl > 0 ? mitEinheit(*zahl, einheitszeichen(Einheit::Gramm)) : QString();
+    }
+    return einfacheZahl(feld, schrift) && *zahl >= 0
+               ? mitEinheit(static_cast<double>(zeile.lebensmittel.wert(sinn.wert)),
+                            einheitszeichen(beschreibung(sinn.wert).einheit))
+               : QString();
+}
+
+/// Whether this cell, which is no number that counts, is why its line can't be taken over.
+bool istFalsch(const QString &feld, const Spaltensinn &sinn, const Leseauftrag &auftrag,
+               const Lesezeile &zeile)
+{
+    switch (sinn.art) {
+    case Art::Name:
+        return feld.isEmpty();
+    case Art::Wert:
+        return !feld.trimmed().isEmpty();
+    case Art::Wertung:
+        return !feld.isEmpty() && zeile.lebensmittel.wertung(sinn.wertung).isEmpty();
+    case Art::Portion:
+        return auftrag.jePortion;
+    case Art::Nichts:
+        break;
+    }
+    return false;
+}
+
 } // namespace
 
 Vorschautabelle::Vorschautabelle(QWidget *parent) : QTableWidget(parent)
@@ -120,20 +158,17 @@ QTableWidgetItem *Vorschautabelle::zelle(const QString &feld, int spalte,
     neue->setFlags(sinn.art == Art::Nichts || zeile == nullptr || zeile->ausgelassen
                        ? Qt::NoItemFlags
                        : Qt::ItemIsEnabled | Qt::ItemIsSelectable);
-    if (sinn.art != Art::Wert || zeile == nullptr) {
+    if (zeile == nullptr) {
         return neue;
     }
-    neue->setTextAlignment(Qt::AlignRight | Qt::AlignVCenter);
-    if (feld.trimmed().isEmpty()) {
-        return neue;
+    QString zahl;
+    if (sinn.art == Art::Wert || sinn.art == Art::Portion) {
+        neue->setTextAlignment(Qt::AlignRight | Qt::AlignVCenter);
+        zahl = gelesen(feld, sinn, einlesung.schriften.value(spalte), *zeile);
     }
-    const auto zahl = einfacheZahl(feld, einlesung.schriften.value(spalte));
-    if (zahl && *zahl >= 0) {
-        neue->setText(
-            zahlenform().toString(static_cast<double>(zeile->lebensmittel.wert(sinn.wert)), 'g',
-                                  bedeutsameStellen) +
-            QChar(QChar::Nbsp) + einheitszeichen(beschreibung(sinn.wert).einheit));
-    } else {
+    if (!zahl.isEmpty()) {
+        neue->setText(zahl);
+    } else if (istFalsch(feld, sinn, auftrag, *zeile)) {
         neue->setIcon(style()->standardIcon(QStyle::SP_MessageBoxWarning));
     }
     return neue;

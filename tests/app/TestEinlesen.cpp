@@ -2,6 +2,7 @@
 #include "Bestandsvergleich.h"
 #include "Dateifenster.h"
 #include "Einlesefenster.h"
+#include "Einstellungsfenster.h"
 #include "Einwandliste.h"
 #include "Hindernisse.h"
 #include "Vorschautabelle.h"
@@ -10,6 +11,7 @@
 #include <QDoubleSpinBox>
 #include <QFile>
 #include <QLabel>
+#include <QMenu>
 #include <QTest>
 
 using namespace Qt::StringLiterals;
@@ -26,6 +28,8 @@ private Q_SLOTS:
 
     void foodsComeInAtOnceAndGoAtOnce();
     void nothingChangesBeforeItIsConfirmed();
+    void returnTakesOver();
+    void returnLosesNothing();
     void aMistakeStopsEverything();
     void aLineIsLeftOutAndComesBack();
     void allWrongLinesAreLeftOutAtOnce();
@@ -36,6 +40,9 @@ private Q_SLOTS:
     void headingsMayBeMissing();
     void takenNamesAreAskedAbout_data();
     void takenNamesAreAskedAbout();
+    void nothingMovesUnderTheHand();
+    void wrongCellsAreMarked();
+    void theLanguageWaits();
     void theFoodOnDisplayFollows();
     void whatCantBeReadIsTold_data();
     void whatCantBeReadIsTold();
@@ -105,6 +112,23 @@ void TestEinlesen::nothingChangesBeforeItIsConfirmed()
     QCOMPARE(m_probe->controller().KundenArray.size(), 2);
     QCOMPARE(m_probe->aufDerPlatte().size(), 2);
     QVERIFY(m_probe->hinweis().isEmpty());
+}
+
+void TestEinlesen::returnTakesOver()
+{
+    const Einlesefenster *fenster = m_probe->lies(zweiSpeisen);
+    QVERIFY(knopf(*fenster)->isDefault());
+    QTest::keyClick(kind<QComboBox>(*fenster, "trennung"), Qt::Key_Return);
+    QCOMPARE(m_probe->controller().KundenArray.size(), 4);
+}
+
+/// As long as there is a mistake it does nothing; least of all does it close the window.
+void TestEinlesen::returnLosesNothing()
+{
+    Einlesefenster *fenster = m_probe->lies("Name;kcal\nQuark;x\nSenf;1,5\n");
+    QTest::keyClick(fenster, Qt::Key_Return);
+    QVERIFY(fenster->isVisible());
+    QCOMPARE(m_probe->controller().KundenArray.size(), 2);
 }
 
 void TestEinlesen::aMistakeStopsEverything()
@@ -237,6 +261,65 @@ void TestEinlesen::takenNamesAreAskedAbout()
     klicke(knopf(*fenster));
     QTEST(m_probe->controller().KundenArray, "namen");
     QTEST(m_probe->controller().KundenDictionary.value(u"Brot"_s).kal(), "brot");
+}
+
+/// The choice about names goes with the only line that had a taken one.
+void TestEinlesen::nothingMovesUnderTheHand()
+{
+    const Einlesefenster *fenster = m_probe->lies("Name;kcal\nBrot;x\nSenf;8\n");
+    const auto *liste = fenster->findChild<Einwandliste *>();
+    const auto *wahl = kind<QComboBox>(*fenster, "namenswahl");
+    QVERIFY(wahl->isVisible());
+    const QRect vorher = liste->geometry();
+    kreuzeAn(*fenster, 0, true);
+    QVERIFY(!wahl->isVisible());
+    QCOMPARE(liste->geometry(), vorher);
+}
+
+/// Beside the words about them, each of a line's mistakes is seen where it stands.
+void TestEinlesen::wrongCellsAreMarked()
+{
+    const Einlesefenster *fenster = m_probe->lies("Name;Fett (g) je Portion;Gicht;Portion (g)\n"
+                                                  ";x;gut;0\nQuark;3;+;25\nSenf;;;\nMus;-1;0;-5\n");
+    const auto *vorschau = fenster->findChild<Vorschautabelle *>();
+    const QList<QList<bool>> falsch = {{true, true, true, true},
+                                       {false, false, false, false},
+                                       {false, false, false, true},
+                                       {false, true, false, true}};
+    for (int zeile = 0; zeile < falsch.size(); ++zeile) {
+        for (int spalte = 0; spalte < falsch[zeile].size(); ++spalte) {
+            QCOMPARE(!vorschau->item(zeile, spalte)->icon().isNull(), falsch[zeile][spalte]);
+        }
+    }
+    QCOMPARE(vorschau->item(1, 3)->text(), u"25\u00A0g"_s);
+    QCOMPARE(vorschau->item(3, 3)->text(), u"-5"_s);
+    // For 100 g nobody asks what a portion weighs.
+    kind<QComboBox>(*fenster, "bezug")->setCurrentIndex(0);
+    QVERIFY(vorschau->item(0, 3)->icon().isNull());
+}
+
+/// What the window says is put together from many pieces in one language: as long as it is open,
+/// neither the menu nor the settings can be reached.
+void TestEinlesen::theLanguageWaits()
+{
+    m_probe->oeffne();
+    const AppController &controller = m_probe->controller();
+    const QAction *darstellung = controller.Hauptfenster->menuBar()->actions().at(2);
+    const QPoint menue = controller.Hauptfenster->menuBar()->mapTo(
+        controller.Hauptfenster, controller.Hauptfenster->menuBar()
+                                     ->actionGeometry(const_cast<QAction *>(darstellung))
+                                     .center());
+    QTest::mouseClick(controller.Hauptfenster->windowHandle(), Qt::LeftButton, {}, menue);
+    QTRY_VERIFY(darstellung->menu()->isVisible()); // else it can
+    darstellung->menu()->close();
+
+    Einlesefenster *fenster = m_probe->lies(zweiSpeisen);
+    QVERIFY(QTest::qWaitForWindowActive(fenster));
+    QTest::mouseClick(controller.Hauptfenster->windowHandle(), Qt::LeftButton, {}, menue);
+    QTest::keyClick(controller.Hauptfenster->windowHandle(), Qt::Key_Comma, Qt::ControlModifier);
+    QCoreApplication::processEvents();
+    QVERIFY(!darstellung->menu()->isVisible());
+    QVERIFY(controller.Hauptfenster->findChild<Einstellungsfenster *>() == nullptr);
 }
 
 void TestEinlesen::theFoodOnDisplayFollows()

@@ -3,7 +3,9 @@
 #include "Sprache.h"
 #include "Textwechsel.h"
 
+#include <QComboBox>
 #include <QDoubleSpinBox>
+#include <QFileDialog>
 #include <QLabel>
 #include <QLineEdit>
 #include <QMenuBar>
@@ -27,6 +29,7 @@ private Q_SLOTS:
     void numbersFollow();
     void drinksAndSportsFollow();
     void whyAControlIsShutFollows();
+    void theKindsOfFilesFollow();
     void toAndFroIsAsBefore();
     void theSameLanguageChangesNothing();
 
@@ -246,6 +249,24 @@ void TestSprachwechsel::whyAControlIsShutFollows()
     schalter->click();
     QCOMPARE(feld->toolTip(), QStringLiteral("Switch on the criterion before it to set this."));
     QCOMPARE(feld->accessibleDescription(), feld->toolTip());
+}
+
+/// Over the plan a file may be asked for while the main window changes the language.
+void TestSprachwechsel::theKindsOfFilesFollow()
+{
+    QWidget *plan = c().planmodul->window();
+    frageNachDatei(plan,
+                   {.titel = QStringLiteral("Als Tabelle sichern"),
+                    .vorschlag = m_heim->pfad(QStringLiteral("x.csv")),
+                    .arten = QStringLiteral("Tabellen (*.csv);;Alle Dateien (*)"),
+                    .zweck = Dateifrage::Zweck::Schreiben},
+                   {});
+    const auto *dialog = plan->findChild<QFileDialog *>();
+    const auto *arten = dialog->findChild<QComboBox *>(QStringLiteral("fileTypeCombo"));
+    waehle(QStringLiteral("English"));
+    QCOMPARE(dialog->windowTitle(), QStringLiteral("Save as table"));
+    QCOMPARE(arten->itemText(0), QStringLiteral("Tables (*.csv)"));
+    QCOMPARE(arten->itemText(1), QStringLiteral("All files (*)"));
 }
 
 void TestSprachwechsel::toAndFroIsAsBefore()

@@ -3,12 +3,15 @@
 #include "Bestandsvergleich.h"
 #include "Einlesefenster.h"
 #include "Hindernisse.h"
+#include "Sprache.h"
 
 #include <QCheckBox>
 #include <QClipboard>
 #include <QComboBox>
 #include <QFile>
+#include <QFileInfo>
 #include <QMimeData>
+#include <QTemporaryDir>
 #include <QTest>
 
 using namespace Qt::StringLiterals;
@@ -27,6 +30,11 @@ private Q_SLOTS:
     void eachListGoesOut_data();
     void eachListGoesOut();
     void theFormIsChosenAndKept();
+    void returnSaves();
+    void withoutDocumentsItBeginsAtHome();
+    void thePlansWindowMeansThePlan_data();
+    void thePlansWindowMeansThePlan();
+    void theListsFollowTheLanguage();
     void aTableThatIsNotWrittenIsTold_data();
     void aTableThatIsNotWrittenIsTold();
     void withoutADoorNothingHappens();
@@ -119,6 +127,95 @@ void TestTabellenaustausch::theFormIsChosenAndKept()
         }
         QTRY_VERIFY(fenster.isNull());
     }
+}
+
+void TestTabellenaustausch::returnSaves()
+{
+    int gefragt = 0;
+    m_probe->heim.waehleDatei = [&gefragt](QWidget *, const Dateifrage &, const auto &) {
+        ++gefragt;
+    };
+    m_probe->oeffne();
+    menueeintrag(*m_probe->controller().Hauptfenster, u"Als Tabelle sichern"_s)->trigger();
+    const auto *fenster = m_probe->controller().Hauptfenster->findChild<Ausgabefenster *>();
+    QTest::keyClick(kind<QComboBox>(*fenster, "liste"), Qt::Key_Return);
+    QCOMPARE(gefragt, 1);
+}
+
+/// A folder that is not there would be taken for a file's name.
+void TestTabellenaustausch::withoutDocumentsItBeginsAtHome()
+{
+    QString ordner;
+    m_probe->heim.waehleDatei = [&ordner](QWidget *, const Dateifrage &frage, const auto &) {
+        ordner = QFileInfo(frage.vorschlag).path();
+    };
+    m_probe->oeffne();
+    const QTemporaryDir leer;
+    const QByteArray vorher = qgetenv("HOME");
+    const QByteArray einstellungen = qgetenv("XDG_CONFIG_HOME");
+    qputenv("HOME", leer.path().toLocal8Bit());
+    qputenv("XDG_CONFIG_HOME", leer.path().toLocal8Bit());
+    menueeintrag(*m_probe->controller().Hauptfenster, u"Lebensmittel einlesen"_s)->trigger();
+    qputenv("HOME", vorher);
+    qputenv("XDG_CONFIG_HOME", einstellungen);
+    QCOMPARE(ordner, leer.path());
+}
+
+void TestTabellenaustausch::thePlansWindowMeansThePlan_data()
+{
+    QTest::addColumn<QStringList>("namen");
+    QTest::addColumn<QString>("liste");
+    QTest::newRow("a plan") << QStringList{u"Brot"_s} << u"Mahlzeitenplan (1)"_s;
+    QTest::newRow("an empty plan") << QStringList() << u"Eigene Lebensmittel (2)"_s;
+}
+
+void TestTabellenaustausch::thePlansWindowMeansThePlan()
+{
+    QFETCH(QStringList, namen);
+    m_probe->oeffne();
+    m_probe->controller().Planmoduloeffnen();
+    Planmodul &plan = *m_probe->controller().planmodul;
+    for (const QString &name : namen) {
+        plan.gibHinein(name, 50);
+    }
+    menueeintrag(*plan.window(), u"Als Tabelle sichern"_s)->trigger();
+    QTEST(kind<QComboBox>(*plan.window(), "liste")->currentText(), "liste");
+}
+
+/// The main window stays open to the hand while the plan's asks, and with it the menu of languages.
+void TestTabellenaustausch::theListsFollowTheLanguage()
+{
+    Sprache sprache(u"de"_s);
+    m_probe->heim.sprich = [&sprache](const QString &kuerzel) {
+        sprache.sprich(kuerzel);
+    };
+    QString vorschlag;
+    m_probe->heim.waehleDatei = [&](QWidget *, const Dateifrage &frage, const auto &) {
+        vorschlag = QFileInfo(frage.vorschlag).fileName();
+    };
+    m_probe->oeffne();
+    m_probe->controller().Planmoduloeffnen();
+    Planmodul &plan = *m_probe->controller().planmodul;
+    plan.gibHinein(u"Brot"_s, 50);
+    menueeintrag(*plan.window(), u"Als Tabelle sichern"_s)->trigger();
+    const auto *fenster = plan.window()->findChild<Ausgabefenster *>();
+    QCOMPARE(kind<QComboBox>(*fenster, "trennung")->currentText(), u"Strichpunkt ;"_s);
+
+    m_probe->controller().waehleSprache(u"en"_s);
+    QCoreApplication::processEvents();
+    QCOMPARE(fenster->windowTitle(), u"Save as table"_s);
+    const auto *liste = kind<QComboBox>(*fenster, "liste");
+    QStringList listen;
+    for (int i = 0; i < liste->count(); ++i) {
+        listen << liste->itemText(i);
+    }
+    QCOMPARE(listen, QStringList({u"Own foods (2)"_s, u"Built-in foods (2)"_s,
+                                  u"Search results (0)"_s, u"Meal plan (1)"_s}));
+    QCOMPARE(liste->currentIndex(), 3);
+    QCOMPARE(kind<QComboBox>(*fenster, "trennung")->currentText(), u"Comma ,"_s);
+    QCOMPARE(kind<QComboBox>(*fenster, "dezimal")->currentText(), u"Point ."_s);
+    klicke(kind<QPushButton>(*fenster, "sichern"));
+    QCOMPARE(vorschlag, u"Meal plan.csv"_s);
 }
 
 void TestTabellenaustausch::aTableThatIsNotWrittenIsTold_data()

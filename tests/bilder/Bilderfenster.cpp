@@ -14,6 +14,8 @@ Bilderfenster::Bilderfenster(const QString &sprache, Eigene eigene) : m_sprache(
             drucke(fenster, auftrag);
         }
     };
+    m_heim.waehleDatei = [](QWidget *, const Dateifrage &, const auto &) {
+    };
     if (eigene == Eigene::Mit) {
         m_heim.schreibeTabelle(bildertafel());
         m_heim.schreibeEigene(bildereigene());

@@ -7,6 +7,7 @@
 
 #include <QDialog>
 #include <QDir>
+#include <QFile>
 #include <QFileInfo>
 #include <QLabel>
 #include <QLineEdit>
@@ -29,6 +30,10 @@ private Q_SLOTS:
     void theSettings();
     void anOpenedFile();
     void anOpenedPlan();
+    void foodsThatComeIn_data();
+    void foodsThatComeIn();
+    void aListThatGoesOut_data();
+    void aListThatGoesOut();
     void thePalette();
     void about();
     void theHandbook_data();
@@ -182,6 +187,65 @@ void TestFensterbild::anOpenedPlan()
         plan.insert(name, ration);
     }
     pruefeDatei(u"datei-plan"_s, fenster, plan);
+}
+
+namespace {
+
+/// The language, the appearance and the picture's name behind the window's own.
+void spracheUndBild()
+{
+    QTest::addColumn<QString>("sprache");
+    QTest::addColumn<Erscheinungsbild>("aussehen");
+    QTest::addColumn<QString>("zusatz");
+    QTest::newRow("German, light") << u"de"_s << Erscheinungsbild::Hell << QString();
+    QTest::newRow("English, dark") << u"en"_s << Erscheinungsbild::Dunkel << u"-englisch-dunkel"_s;
+}
+
+} // namespace
+
+void TestFensterbild::foodsThatComeIn_data()
+{
+    spracheUndBild();
+}
+
+/// Energy in kJ and salt, a name that is taken, a number that can be read in two ways, and a line
+/// with a mistake.
+void TestFensterbild::foodsThatComeIn()
+{
+    QFETCH(QString, sprache);
+    QFETCH(Erscheinungsbild, aussehen);
+    QFETCH(QString, zusatz);
+    Bilderfenster fenster(sprache);
+    zeigeErscheinungsbild(aussehen);
+    const QString pfad = fenster.heim().pfad(u"Speisen der Kantine.csv"_s);
+    QFile datei(pfad);
+    QVERIFY(datei.open(QIODevice::WriteOnly));
+    datei.write("Speise;Energie (kJ);Eiweiß;Fett;Kohlenhydrate;Salz (g);Kalium (mg);Preis\n"
+                "Gemüseeintopf;310;2,9;2,1;10;0,8;1.250;4,20\n"
+                "Müsli vom Bäcker;1650;11,5;viel;58;0,1;390;2,80\n"
+                "Linsensuppe;380;5,6;1,9;50;0,9;260;3,90\n");
+    datei.close();
+    fenster.heim().waehleDatei = [pfad](QWidget *, const Dateifrage &, const auto &antwort) {
+        antwort(pfad);
+    };
+    Q_EMIT fenster->einlesenGewuenscht();
+    pruefeOffenes(u"einlesen"_s + zusatz, "Einlesefenster");
+}
+
+void TestFensterbild::aListThatGoesOut_data()
+{
+    spracheUndBild();
+}
+
+void TestFensterbild::aListThatGoesOut()
+{
+    QFETCH(QString, sprache);
+    QFETCH(Erscheinungsbild, aussehen);
+    QFETCH(QString, zusatz);
+    const Bilderfenster fenster(sprache);
+    zeigeErscheinungsbild(aussehen);
+    Q_EMIT fenster->ausgebenGewuenscht();
+    pruefeOffenes(u"ausgeben"_s + zusatz, "Ausgabefenster");
 }
 
 void TestFensterbild::thePalette()
