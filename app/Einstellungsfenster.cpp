@@ -5,7 +5,24 @@
 
 #include <QDialogButtonBox>
 #include <QGroupBox>
+#include <QPushButton>
+#include <QRadioButton>
 #include <QVBoxLayout>
+
+namespace {
+
+/// What is chosen in a group; null where nothing can be.
+QWidget *gewaehltes(const QWidget &gruppe)
+{
+    for (auto *knopf : gruppe.findChildren<QRadioButton *>()) {
+        if (knopf->isChecked()) {
+            return knopf;
+        }
+    }
+    return nullptr;
+}
+
+} // namespace
 
 Einstellungsfenster::Einstellungsfenster(QWidget *parent) : QDialog(parent)
 {
@@ -15,10 +32,12 @@ Einstellungsfenster::Einstellungsfenster(QWidget *parent) : QDialog(parent)
     m_gruppen = new QVBoxLayout(gruppen);
     m_gruppen->setContentsMargins(0, 0, 0, 0);
     auto *knoepfe = new QDialogButtonBox(QDialogButtonBox::Close);
+    m_schliessen = knoepfe->button(QDialogButtonBox::Close);
     connect(knoepfe, &QDialogButtonBox::rejected, this, &QDialog::reject);
     auto *aufbau = new QVBoxLayout(this);
     aufbau->addWidget(new Rollbereich(gruppen), 1);
     aufbau->addWidget(knoepfe);
+    m_schliessen->setDefault(true);
 }
 
 void Einstellungsfenster::nimmAuf(const QString &titel, QWidget *inhalt)
@@ -27,4 +46,13 @@ void Einstellungsfenster::nimmAuf(const QString &titel, QWidget *inhalt)
     auto *aufbau = new QVBoxLayout(gruppe);
     aufbau->addWidget(inhalt);
     m_gruppen->addWidget(gruppe);
+    for (QWidget *feld : inhalt->findChildren<QWidget *>()) {
+        if (feld->focusPolicy() != Qt::NoFocus) {
+            setTabOrder(feld, m_schliessen); // which was there first, and stands below
+        }
+    }
+    QWidget *anfang = gewaehltes(*inhalt);
+    if (focusWidget() == nullptr && anfang != nullptr) {
+        anfang->setFocus();
+    }
 }

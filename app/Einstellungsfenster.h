@@ -2,6 +2,7 @@
 
 #include <QDialog>
 
+class QPushButton;
 class QVBoxLayout;
 
 /// The window of the settings: one group below the other. What is chosen in a group holds at once,
@@ -18,4 +19,5 @@ public:
 
 private:
     QVBoxLayout *m_gruppen;
+    QPushButton *m_schliessen;
 };

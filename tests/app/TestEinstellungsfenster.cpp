@@ -38,6 +38,7 @@ private Q_SLOTS:
     void itShowsWhatTheMenuHolds();
     void theLanguageHoldsAtOnce();
     void theKeyboardAloneChooses();
+    void theKeyboardBeginsAtTheFirstChoice();
     void theFolderForPdfsIsChosenAndForgotten();
     void withoutAChoiceTheFolderStays();
     void withoutADoorNoFolderIsChosen();
@@ -210,6 +211,22 @@ void TestEinstellungsfenster::theKeyboardAloneChooses()
     QCOMPARE(gemerktesErscheinungsbild(m_heim->einstellungen()), Erscheinungsbild::Hell);
     QTest::keyClick(&fenster(), Qt::Key_Escape);
     QTRY_VERIFY(controller().Hauptfenster->findChild<Einstellungsfenster *>() == nullptr);
+}
+
+void TestEinstellungsfenster::theKeyboardBeginsAtTheFirstChoice()
+{
+    oeffne();
+    const QWidget *schliessen =
+        fenster().findChild<QDialogButtonBox *>()->button(QDialogButtonBox::Close);
+    const QWidgetList folge = {wahl(u"Deutsch"_s), wahl(u"Wie das System"_s),
+                               fenster().findChild<QLineEdit *>(u"pdfordner"_s),
+                               knopf("ordnerwaehlen")};
+    QTRY_COMPARE(QApplication::focusWidget(), folge.first());
+    for (const QWidget *halt : folge) {
+        QCOMPARE(QApplication::focusWidget(), halt);
+        QTest::keyClick(QApplication::focusWidget(), Qt::Key_Tab);
+    }
+    QCOMPARE(QApplication::focusWidget(), schliessen);
 }
 
 void TestEinstellungsfenster::theFolderForPdfsIsChosenAndForgotten()

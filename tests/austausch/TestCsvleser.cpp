@@ -15,6 +15,7 @@ class TestCsvleser : public QObject
 private Q_SLOTS:
     void textIsReadInEveryEncoding_data();
     void textIsReadInEveryEncoding();
+    void theSignsOfWindowsAreKnown();
     void whatIsNoTextIsRefused_data();
     void whatIsNoTextIsRefused();
     void aFileMayBeAsLargeAsItIsAllowed();
@@ -53,6 +54,13 @@ void TestCsvleser::textIsReadInEveryEncoding()
     QCOMPARE(gelesen.fehler, Keiner);
     QCOMPARE(gelesen.text, u"Käse €"_s);
     QTEST(gelesen.zeichensatz, "zeichensatz");
+}
+
+/// From the first to the last that Latin-1 has not, and beside them.
+void TestCsvleser::theSignsOfWindowsAreKnown()
+{
+    QCOMPARE(Csv::entschluesseln(QByteArray("\x7F\x80\x85\x96\x9F\xA0\xFF")).text,
+             u"\x7F\u20AC\u2026\u2013\u0178\u00A0\u00FF"_s);
 }
 
 void TestCsvleser::whatIsNoTextIsRefused_data()
@@ -193,6 +201,8 @@ void TestCsvleser::theSeparatorIsGuessed_data()
     QTest::newRow("commas in all headings") << u"Energie, kcal;Fett, g\n1;2\n3;4"_s << QChar(u';');
     QTest::newRow("semicolons in quotes") << u"\"a;b\",c\n\"d;e\",f"_s << QChar(u',');
     QTest::newRow("its own line") << u"sep=,\nName;x\nBrot;y"_s << QChar(u',');
+    QTest::newRow("its own line alone") << u"sep=:"_s << QChar(u':');
+    QTest::newRow("as many of one as of another") << u"a;b,c\nd;e,f"_s << QChar(u';');
     QTest::newRow("one column") << u"Name\nBrot\n"_s << QChar(u';');
     QTest::newRow("nothing") << QString() << QChar(u';');
 }

@@ -17,6 +17,9 @@ private Q_SLOTS:
     void aWrongLineIsTold();
     void whatIsUnlikelyIsTold_data();
     void whatIsUnlikelyIsTold();
+    void moreGramsThanItWeighsAreTold();
+    void aWrongLineIsNotDoubted();
+    void everyMinusIsARating();
     void theWholeFileCanBeWrong_data();
     void theWholeFileCanBeWrong();
     void aLineThatIsLeftOutIsNoHindrance();
@@ -132,6 +135,10 @@ void TestEinlesung::whatIsUnlikelyIsTold_data()
         << u"Name;Kalium\nSalz;100001"_s
         << u"2: Kalium (mg): 100001 mg in 100 g sind mehr als 100 g."_s;
     QTest::newRow("as much as it weighs") << u"Name;Kalium\nSalz;100000"_s << QString();
+    QTest::newRow("more than it weighs, in µg")
+        << u"Name;Vitamin A\nLeber;100000001"_s
+        << u"2: Vitamin A (µg): 100000001 µg in 100 g sind mehr als 100 g."_s;
+    QTest::newRow("a tenth of a gram in µg") << u"Name;Vitamin A\nLeber;100001"_s << QString();
     QTest::newRow("energy")
         << u"Name;kcal;Fett\nÖl;90;100"_s
         << u"2: Energie prüfen: angegeben 90 kcal, aus den Nährstoffen 900 kcal."_s;
@@ -154,6 +161,29 @@ void TestEinlesung::whatIsUnlikelyIsTold()
     const Probe probe = lies(text, {}, {u"Apfel"_s});
     QCOMPARE(probe.fehler, QStringList());
     QCOMPARE(probe.warnungen, warnung.isEmpty() ? QStringList() : QStringList{warnung});
+}
+
+void TestEinlesung::moreGramsThanItWeighsAreTold()
+{
+    QVERIFY(lies(u"Name;kcal;Fett\nÖl;900;101"_s)
+                .warnungen.contains(u"2: Fett (g): 101 g in 100 g sind mehr als 100 g."_s));
+}
+
+/// What is missing in it may be the mistake itself.
+void TestEinlesung::aWrongLineIsNotDoubted()
+{
+    const Probe probe = lies(u"Name;kcal;Fett;Protein\nÖl;90;100;x"_s);
+    QCOMPARE(probe.fehler.size(), 1);
+    QCOMPARE(probe.warnungen, QStringList());
+}
+
+/// Word processors make other signs of it.
+void TestEinlesung::everyMinusIsARating()
+{
+    const Probe probe = lies(u"Name;kcal;Gicht;Diabetes\nA;1;\u2212;\u2013\n"_s);
+    QCOMPARE(probe.fehler, QStringList());
+    QCOMPARE(probe.einlesung.lebensmittel().first().gicht(), u"-"_s);
+    QCOMPARE(probe.einlesung.lebensmittel().first().diabetes(), u"-"_s);
 }
 
 void TestEinlesung::theWholeFileCanBeWrong_data()

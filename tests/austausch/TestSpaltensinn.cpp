@@ -163,6 +163,7 @@ void TestSpaltensinn::portionsAreSeen()
     QVERIFY(
         deuteUeberschriften({u"Name"_s, u"Fat per serving"_s, u"Serving size (g)"_s}).jePortion);
     QVERIFY(!deuteUeberschriften({u"Name"_s, u"Fett"_s, u"Portion (g)"_s}).jePortion);
+    QVERIFY(!deuteUeberschriften({u"Produkt je Portion"_s, u"Fett"_s}).jePortion);
 }
 
 void TestSpaltensinn::figuresComeIntoTheRecordsUnit_data()
