@@ -161,11 +161,8 @@ private:
             return false;
         }
         const QByteArray bytes = fertiges.readAll();
-        return istGanz(bytes) && datei.write(bytes) == bytes.size() && datei.commit();
+        return !bytes.isEmpty() && datei.write(bytes) == bytes.size() && datei.commit();
     }
-
-    /// What is printed where no room is left ends somewhere, and nobody is told.
-    static bool istGanz(const QByteArray &pdf) { return pdf.trimmed().endsWith("%%EOF"); }
 
     void sageWo(QWidget *fenster, const QString &pdf) const
     {

@@ -9,6 +9,7 @@
 #include <QFile>
 #include <QPainter>
 #include <QProcess>
+#include <QProgressDialog>
 #include <QPushButton>
 #include <QRegularExpression>
 #include <QSettings>
@@ -42,20 +43,24 @@ private Q_SLOTS:
     void aFullDiskKeepsTheOldPdf();
     void aProtectedFolderKeepsTheOldPdf();
     void cancellingWritesNothing();
+    void stoppingOnTheWayKeepsTheOldPdf();
     void anOldPdfIsReplacedByAWholeOneOnly_data();
     void anOldPdfIsReplacedByAWholeOneOnly();
     void theNoticeSaysWhereItLiesAndOpensTheFolder();
     void aFolderThatDoesNotOpenIsTold();
+    void aWindowAboveTellsInTheStripBelow();
     void withoutAStripAMessageTells();
 
 private:
     bool sichere(const Druckauftrag &auftrag);
     QString pfad(const QString &name) const { return m_ordner->filePath(name); }
-    static int seiten(const QString &pdf);
+    static QString angabe(const QString &pdf, const QString &welche);
+    static int seiten(const QString &pdf) { return angabe(pdf, u"Pages"_s).toInt(); }
 
     std::unique_ptr<QTemporaryDir> m_ordner;
     std::unique_ptr<QSettings> m_einstellungen;
     std::unique_ptr<QWidget> m_fenster;
+    QWidget *m_darueber = nullptr; ///< the window that asks, when it lies above the other
     Hinweisstreifen *m_streifen = nullptr;
     QList<Dateifrage> m_fragen;
     QStringList m_antworten; ///< paths that are chosen; none any more: cancelled
@@ -95,6 +100,7 @@ void TestPdftuer::init()
     m_ordner = std::make_unique<QTemporaryDir>();
     m_einstellungen = std::make_unique<QSettings>(pfad(u"e.ini"_s), QSettings::IniFormat);
     m_fenster = std::make_unique<QWidget>();
+    m_darueber = nullptr;
     m_streifen = new Hinweisstreifen;
     (new QVBoxLayout(m_fenster.get()))->addWidget(m_streifen);
     m_fenster->show();
@@ -131,18 +137,19 @@ bool TestPdftuer::sichere(const Druckauftrag &auftrag)
             return m_oeffnet;
         });
     bool gesichert = false;
-    tuer(m_fenster.get(), auftrag, [&gesichert] { gesichert = true; });
+    tuer(m_darueber != nullptr ? m_darueber : m_fenster.get(), auftrag,
+         [&gesichert] { gesichert = true; });
     return gesichert;
 }
 
-/// As another program reads it; 0 for what is no PDF.
-int TestPdftuer::seiten(const QString &pdf)
+/// What another program reads there; empty for what is no PDF.
+QString TestPdftuer::angabe(const QString &pdf, const QString &welche)
 {
     QProcess leser;
     leser.start(u"pdfinfo"_s, {pdf});
     leser.waitForFinished();
-    static const QRegularExpression angabe(u"Pages:\\s*(\\d+)"_s);
-    return angabe.match(QString::fromUtf8(leser.readAllStandardOutput())).captured(1).toInt();
+    const QRegularExpression zeile(welche + u":\\s*(.*)"_s);
+    return zeile.match(QString::fromUtf8(leser.readAllStandardOutput())).captured(1);
 }
 
 void TestPdftuer::withoutAChoiceTheDocumentsAreProposed()
@@ -168,6 +175,7 @@ void TestPdftuer::theChosenFolderIsProposed()
     QVERIFY(sichere(auftrag(3)));
     QCOMPARE(m_fragen[0].vorschlag, pfad(u"Ausdrucke/Probe 2026-11-22 Liste.pdf"_s));
     QCOMPARE(seiten(pfad(u"Ausdrucke/a.pdf"_s)), 3);
+    QCOMPARE(angabe(pfad(u"Ausdrucke/a.pdf"_s), u"Title"_s), u"Probe 2026-11-22 Liste"_s);
     QVERIFY(m_meldungen.isEmpty());
     // Nothing but the PDF is left behind.
     QCOMPARE(QDir(pfad(u"Ausdrucke"_s)).entryList(QDir::Files | QDir::Hidden), {u"a.pdf"_s});
@@ -338,6 +346,24 @@ void TestPdftuer::cancellingWritesNothing()
     QVERIFY(m_streifen->hinweise().isEmpty());
 }
 
+void TestPdftuer::stoppingOnTheWayKeepsTheOldPdf()
+{
+    const QString pdf = pfad(u"a.pdf"_s);
+    schreibe(pdf, "alt");
+    m_antworten = {pdf};
+    Druckauftrag langer = auftrag(3);
+    langer.male = [this](QPainter &, const QPageLayout &, int seite) {
+        if (seite == 1) {
+            m_fenster->findChild<QProgressDialog *>()->cancel();
+        }
+    };
+    QVERIFY(!sichere(langer));
+    QCOMPARE(inhalt(pdf), QByteArray("alt"));
+    QVERIFY(m_meldungen.isEmpty()); // the user knows
+    QCOMPARE(m_fragen.size(), 1);
+    QVERIFY(m_streifen->hinweise().isEmpty());
+}
+
 void TestPdftuer::anOldPdfIsReplacedByAWholeOneOnly_data()
 {
     QTest::addColumn<bool>("gelingt");
@@ -377,6 +403,15 @@ void TestPdftuer::aFolderThatDoesNotOpenIsTold()
     QCOMPARE(m_meldungen.size(), 1);
     QCOMPARE(m_meldungen[0].text, u"Der Ordner lässt sich nicht öffnen."_s);
     QCOMPARE(m_meldungen[0].erklaerung, m_ordner->path());
+}
+
+void TestPdftuer::aWindowAboveTellsInTheStripBelow()
+{
+    m_darueber = new QWidget(m_fenster.get(), Qt::Window);
+    m_antworten = {pfad(u"a.pdf"_s)};
+    QVERIFY(sichere(auftrag()));
+    QCOMPARE(m_streifen->hinweise().size(), 1);
+    QVERIFY(m_meldungen.isEmpty());
 }
 
 void TestPdftuer::withoutAStripAMessageTells()
