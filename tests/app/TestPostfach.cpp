@@ -32,6 +32,7 @@ private Q_SLOTS:
     void anOldNoteIsThrownAway();
     void aHugeNoteIsThrownAway_data();
     void aHugeNoteIsThrownAway();
+    void aNoteThatCanNotBeReadNamesNoFile();
     void moreFilesThanANoteHolds();
     void aNoteThatIsTakenBackIsNotOpened();
     void otherFilesAreLeftAlone();
@@ -193,6 +194,20 @@ void TestPostfach::aHugeNoteIsThrownAway()
     QCOMPARE(eingetroffen.size(), genommen ? 1 : 0);
 }
 
+void TestPostfach::aNoteThatCanNotBeReadNamesNoFile()
+{
+    legeZettel(u"77"_s, "/a.daten");
+    const QByteArray zettel = QFile::encodeName(m_ordner->filePath(liegendes().value(0)));
+    QCOMPARE(chmod(QFile::encodeName(m_ordner->path()).constData(), 0777), 0);
+    QCOMPARE(chmod(zettel.constData(), 0), 0);
+    const OhneRechte einfach;
+    QVERIFY(einfach.gelungen());
+    Postfach postfach(m_ordner->path());
+    QSignalSpy eingetroffen(&postfach, &Postfach::eingetroffen);
+    QCoreApplication::processEvents();
+    QCOMPARE(eingetroffen.size(), 0);
+}
+
 void TestPostfach::moreFilesThanANoteHolds()
 {
     Postfach postfach(m_ordner->path());
@@ -213,8 +228,8 @@ void TestPostfach::aNoteThatIsTakenBackIsNotOpened()
 
 void TestPostfach::otherFilesAreLeftAlone()
 {
-    const QStringList andere = {u"Mahlberg-oeffnen-5.zettel.AbCdEf"_s, u"Mahlberg.lock"_s,
-                                u"MahlbergCustomnutr.daten"_s};
+    const QStringList andere = {u"Einkauf.zettel"_s, u"Mahlberg-oeffnen-5.zettel.AbCdEf"_s,
+                                u"Mahlberg.lock"_s, u"MahlbergCustomnutr.daten"_s};
     for (const QString &name : andere) {
         QFile datei(m_ordner->filePath(name));
         QVERIFY(datei.open(QIODevice::WriteOnly));
