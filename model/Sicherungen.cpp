@@ -179,6 +179,15 @@ void verengeAlle(const QString &path)
 
 bool sichereTag(const QString &path, const QByteArray &bytes, const QDateTime &geaendert)
 {
+    return sichereTag(path, geaendert, [&](const QString &kopie) {
+        Dateiwechsel neu(kopie);
+        return neu.bereite(bytes, geaendert) && neu.vollziehe();
+    });
+}
+
+bool sichereTag(const QString &path, const QDateTime &geaendert,
+                const std::function<bool(const QString &kopie)> &schreibe)
+{
     const Name name(path);
     const QDir ordner = name.tagesordner();
     constexpr auto nurDerNutzer = QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner;
@@ -190,8 +199,7 @@ bool sichereTag(const QString &path, const QByteArray &bytes, const QDateTime &g
     if (bisher.exists() && bisher.lastModified() > geaendert) {
         return true;
     }
-    Dateiwechsel neu(kopie);
-    if (!neu.bereite(bytes, geaendert) || !neu.vollziehe()) {
+    if (!schreibe(kopie)) {
         return false;
     }
     // A clock that goes wrong gives wrong days: the copy just made stays even as the oldest one.
@@ -201,6 +209,11 @@ bool sichereTag(const QString &path, const QByteArray &bytes, const QDateTime &g
         QFile::remove(alle.constLast().path);
     }
     return true;
+}
+
+QString freierPlatz(const QString &path, const QDateTime &jetzt)
+{
+    return freierName(Name(path), jetzt);
 }
 
 Beiseitegelegtes legeBeiseite(const QString &path, const Archivdatei::Rohdaten &vorher,

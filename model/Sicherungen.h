@@ -7,6 +7,8 @@
 #include <QList>
 #include <QString>
 
+#include <functional>
+
 /// The copies that are kept of a user's file, ten of each kind at most. They lie where the file
 /// lies, which is where its link leads to, and are readable by the user alone.
 namespace Sicherungen {
@@ -37,6 +39,14 @@ void verengeAlle(const QString &path);
 /// "Sicherungen/Foods 2026-11-20.daten". Of two states of one day the later one stays. False when
 /// that could not be done.
 bool sichereTag(const QString &path, const QByteArray &bytes, const QDateTime &geaendert);
+
+/// Does the same for a file that somebody else writes whole at the path that `schreibe` is given,
+/// and answers whether that worked.
+bool sichereTag(const QString &path, const QDateTime &geaendert,
+                const std::function<bool(const QString &kopie)> &schreibe);
+
+/// A name that nothing has yet for a copy of the file beside it, made at this moment.
+QString freierPlatz(const QString &path, const QDateTime &jetzt);
 
 /// How something was kept that a new file is about to replace.
 struct Beiseitegelegtes

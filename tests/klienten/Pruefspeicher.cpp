@@ -1,0 +1,71 @@
+#include "Pruefspeicher.h"
+
+#include "Dateidatenbank.h"
+#include "Serverdatenbank.h"
+
+#include <QSqlQuery>
+#include <QTest>
+
+void Pruefspeicher::zeilen()
+{
+    QTest::addColumn<bool>("server");
+    QTest::newRow("in a file") << false;
+    QTest::newRow("on a server") << true;
+}
+
+bool Pruefspeicher::istServer() const
+{
+    QFETCH_GLOBAL(bool, server);
+    return server;
+}
+
+void Pruefspeicher::beginne()
+{
+    ++m_nummer;
+    m_ordner = std::make_unique<QTemporaryDir>();
+    if (istServer() && m_server == nullptr) {
+        m_server = std::make_unique<Pruefserver>();
+        QVERIFY2(m_server->grund().isEmpty(), qPrintable(m_server->grund()));
+    }
+}
+
+std::unique_ptr<Datenbank> Pruefspeicher::datenbank()
+{
+    if (istServer()) {
+        return std::make_unique<Serverdatenbank>(
+            leseServerangabe(m_server->angabe(datenbankname())));
+    }
+    return std::make_unique<Dateidatenbank>(datei());
+}
+
+std::unique_ptr<Klientenspeicher> Pruefspeicher::tisch()
+{
+    return std::make_unique<Klientenspeicher>(datenbank());
+}
+
+QVariant Pruefspeicher::frage(const QString &anweisung)
+{
+    const QString name = QStringLiteral("vorbei");
+    QVariant antwort;
+    {
+        QSqlDatabase datenbank = QSqlDatabase::addDatabase(
+            istServer() ? QStringLiteral("QPSQL") : QStringLiteral("QSQLITE"), name);
+        if (istServer()) {
+            datenbank.setConnectOptions(m_server->angabe(datenbankname()) +
+                                        QStringLiteral(" options='-c search_path=mahlberg'"));
+        } else {
+            datenbank.setDatabaseName(datei());
+        }
+        datenbank.open();
+        QSqlQuery abfrage(datenbank);
+        const bool gelungen = abfrage.exec(anweisung);
+        antwort = gelungen && abfrage.next() ? abfrage.value(0) : QVariant(gelungen);
+    }
+    QSqlDatabase::removeDatabase(name);
+    return antwort;
+}
+
+bool Pruefspeicher::fuehre(const QString &anweisung)
+{
+    return frage(anweisung).toBool();
+}
