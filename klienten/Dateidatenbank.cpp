@@ -2,6 +2,7 @@
 
 #include "Dateiwechsel.h"
 #include "EngeRechte.h"
+#include "Klientenschema.h"
 #include "Sicherungen.h"
 
 #include <QDir>
@@ -93,25 +94,40 @@ Ausgang Dateidatenbank::verbinde()
         return datei;
     }
     verenge(m_path);
-    const bool liegengeblieben = QFileInfo(m_path + QStringLiteral("-wal")).size() > 0 ||
-                                 QFileInfo(m_path + QStringLiteral("-journal")).size() > 0;
+    m_geoeffnet = Dateistempel::von(m_path);
+    // Whoever may write also tidies up when they close the file. What is damaged or newer shall stay
+    // as it is, and so it is only read at first. A journal is different: it must be played back.
+    const bool leer = QFileInfo(m_path).size() == 0;
+    const bool unterbrochen = QFileInfo(m_path + QStringLiteral("-journal")).size() > 0;
+    if (!leer && !unterbrochen) {
+        const Ausgang gelesen = oeffneDatei(true);
+        if (!gelesen || istNeuer()) {
+            return gelesen;
+        }
+        verbindung().close();
+    }
+    return oeffneDatei(false);
+}
+
+Ausgang Dateidatenbank::oeffneDatei(bool nurLesen)
+{
     QSqlDatabase datenbank = verbindung();
     datenbank.setDatabaseName(m_path);
-    datenbank.setConnectOptions(QStringLiteral("QSQLITE_BUSY_TIMEOUT=%1").arg(wartezeit));
+    datenbank.setConnectOptions(QStringLiteral("QSQLITE_BUSY_TIMEOUT=%1").arg(wartezeit) +
+                                (nurLesen ? QStringLiteral(";QSQLITE_OPEN_READONLY") : QString()));
     if (!datenbank.open()) {
         return misslungen(datenbank.lastError());
     }
-    m_geoeffnet = Dateistempel::von(m_path);
     // Everything is on the disk when a write is told as done, what is deleted is overwritten, and
     // nothing of it gets into files elsewhere.
     const Ausgang eingestellt = fuehreEinzeln(
         {QStringLiteral("PRAGMA foreign_keys = ON"), QStringLiteral("PRAGMA synchronous = FULL"),
          QStringLiteral("PRAGMA secure_delete = ON"), QStringLiteral("PRAGMA temp_store = MEMORY"),
          QStringLiteral("PRAGMA trusted_schema = OFF")});
-    return eingestellt && liegengeblieben ? pruefeGanzes() : eingestellt;
+    return eingestellt && nurLesen ? pruefeGanzes() : eingestellt;
 }
 
-/// Where the last user of the file did not come to an end, its pages are looked through.
+/// Looks through all pages: what is damaged somewhere would be found out when somebody needs it.
 Ausgang Dateidatenbank::pruefeGanzes()
 {
     Gespraech gespraech(verbindung());
@@ -120,6 +136,13 @@ Ausgang Dateidatenbank::pruefeGanzes()
     }
     const QString befund = gespraech.wert(0).toString();
     return befund == QLatin1String("ok") ? Ausgang{} : Ausgang{Hindernis::Beschaedigt, befund};
+}
+
+bool Dateidatenbank::istNeuer() const
+{
+    Gespraech gespraech(verbindung());
+    return gespraech.fuehre(QStringLiteral("SELECT fassung FROM bestand")) &&
+           gespraech.naechste() && gespraech.wert(0).toInt() > Klientenschema::fassung;
 }
 
 /// A file that cannot be shared with the log keeps the journal that it has. A copy that was brought

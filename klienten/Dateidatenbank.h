@@ -45,7 +45,9 @@ protected:
     Hindernis deute(const QSqlError &fehler) const override;
 
 private:
+    Ausgang oeffneDatei(bool nurLesen);
     Ausgang pruefeGanzes();
+    bool istNeuer() const;
     Ausgang schreibeKopie(const QString &nach);
 
     QString m_path;
