@@ -95,8 +95,9 @@ Ausgang Dateidatenbank::verbinde()
     }
     verenge(m_path);
     m_geoeffnet = Dateistempel::von(m_path);
-    // Whoever may write also tidies up when they close the file. What is damaged or newer shall stay
-    // as it is, and so it is only read at first. A journal is different: it must be played back.
+    // Whoever may write also tidies up when they close the file. What is damaged or newer shall
+    // stay as it is, and so it is only read at first. A journal is different: it must be played
+    // back.
     const bool leer = QFileInfo(m_path).size() == 0;
     const bool unterbrochen = QFileInfo(m_path + QStringLiteral("-journal")).size() > 0;
     if (!leer && !unterbrochen) {

@@ -88,5 +88,6 @@ Hindernis Serverdatenbank::deute(const QSqlError &fehler) const
     if (treffer != std::end(zustaende)) {
         return treffer->hindernis;
     }
-    return verbindung().isOpen() ? Hindernis::Sonstiges : Hindernis::Getrennt;
+    // Whatever the server says has a state; without one, it said nothing.
+    return zustand.isEmpty() ? Hindernis::Getrennt : Hindernis::Sonstiges;
 }

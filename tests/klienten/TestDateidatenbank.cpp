@@ -158,10 +158,9 @@ void TestDateidatenbank::everythingIsOnTheDiskWhenAWriteIsTold()
     Person person = namens(QStringLiteral("Anna"));
     QVERIFY(tisch.sichere(person));
     const std::pair<const char *, int> erwartet[] = {
-        {"PRAGMA synchronous", 2},   // full
-        {"PRAGMA secure_delete", 1}, // overwritten with zeros
-        {"PRAGMA foreign_keys", 1},
-        {"PRAGMA temp_store", 2}, // memory
+        {"PRAGMA synchronous", 2},                               // full
+        {"PRAGMA secure_delete", 1},                             // overwritten with zeros
+        {"PRAGMA foreign_keys", 1},    {"PRAGMA temp_store", 2}, // memory
         {"PRAGMA busy_timeout", 2000},
     };
     for (const auto &[anweisung, wert] : erwartet) {
@@ -222,8 +221,9 @@ void TestDateidatenbank::aNewerStoreIsReadOnly()
     Person person = namens(QStringLiteral("Anna"));
     QVERIFY(m_tisch->sichere(person));
     m_tisch->schliesse();
-    QVERIFY(frage(QStringLiteral("UPDATE bestand SET fassung = %1").arg(Klientenschema::fassung + 1))
-                .toBool());
+    QVERIFY(
+        frage(QStringLiteral("UPDATE bestand SET fassung = %1").arg(Klientenschema::fassung + 1))
+            .toBool());
     const QByteArray vorher = bytes(path());
     QCOMPARE(m_tisch->oeffne().hindernis, Hindernis::Neuer);
     QList<Personenzeile> zeilen;
@@ -240,8 +240,9 @@ void TestDateidatenbank::aNewerStoreMadeMeanwhileIsNotWritten()
 {
     Person person = namens(QStringLiteral("Anna"));
     QVERIFY(m_tisch->sichere(person));
-    QVERIFY(frage(QStringLiteral("UPDATE bestand SET fassung = %1").arg(Klientenschema::fassung + 1))
-                .toBool());
+    QVERIFY(
+        frage(QStringLiteral("UPDATE bestand SET fassung = %1").arg(Klientenschema::fassung + 1))
+            .toBool());
     person.name = QStringLiteral("Bea");
     QCOMPARE(m_tisch->sichere(person).hindernis.hindernis, Hindernis::Neuer);
     QCOMPARE(frage(QStringLiteral("SELECT name FROM person")).toString(), QStringLiteral("Anna"));
@@ -376,8 +377,7 @@ void TestDateidatenbank::aCopyIsWholeAndForItsUserAlone()
     QCOMPARE(*gelesene, person);
     person.name = QStringLiteral("Bea");
     QVERIFY(andere.sichere(person)); // what was brought back is used like any other
-    QCOMPARE(frage(QStringLiteral("PRAGMA journal_mode"), kopie),
-             QVariant(QStringLiteral("wal")));
+    QCOMPARE(frage(QStringLiteral("PRAGMA journal_mode"), kopie), QVariant(QStringLiteral("wal")));
 }
 
 void TestDateidatenbank::aCopyThatFailsLeavesNothing()
