@@ -3245,6 +3245,54 @@ New: %1</translation>
   <source>… und %1 weitere</source>
   <translation>… and %1 more</translation>
  </message>
+ <message>
+  <source>Name</source>
+  <translation>Name</translation>
+ </message>
+ <message>
+  <source>Nummer</source>
+  <translation>Number</translation>
+ </message>
+ <message>
+  <source>Geburtsdatum</source>
+  <translation>Date of birth</translation>
+ </message>
+ <message>
+  <source>Schwanger oder stillend</source>
+  <translation>Pregnant or nursing</translation>
+ </message>
+ <message>
+  <source>Notizen</source>
+  <translation>Notes</translation>
+ </message>
+ <message>
+  <source>Archiviert</source>
+  <translation>Archived</translation>
+ </message>
+ <message>
+  <source>Datum</source>
+  <translation>Date</translation>
+ </message>
+ <message>
+  <source>Aktivität</source>
+  <translation>Activity</translation>
+ </message>
+ <message>
+  <source>Gewichtsreduktion</source>
+  <translation>Weight reduction</translation>
+ </message>
+ <message>
+  <source>Sport am Tag</source>
+  <translation>Sport a day</translation>
+ </message>
+ <message>
+  <source>Notiz</source>
+  <translation>Note</translation>
+ </message>
+ <message>
+  <source>Titel</source>
+  <translation>Title</translation>
+ </message>
 </context>
 <context>
  <name>PlanmodulGestalt</name>
