@@ -131,7 +131,8 @@ QString AppController::nameFuerAbschrift(const QString &name) const
     const QString gezeigt = localizedString(name);
     QString neuer = localizedString(QStringLiteral("%1 (eigen)")).arg(gezeigt);
     for (int zahl = 2; KundenDictionary.contains(neuer); ++zahl) {
-        neuer = localizedString(QStringLiteral("%1 (eigen %2)")).arg(gezeigt).arg(zahl);
+        neuer =
+            localizedString(QStringLiteral("%1 (eigen %2)")).arg(gezeigt, QString::number(zahl));
     }
     return neuer;
 }

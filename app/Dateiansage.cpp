@@ -156,11 +156,13 @@ Hinweisstreifen &Dateiansage::streifenFuer(const QString &path) const
 void Dateiansage::zeige(const Dateimeldung &meldung)
 {
     const auto &[text, knopf] = meldungsworte.at(static_cast<std::size_t>(meldung.art));
+    const QString satz = localizedString(QString::fromUtf8(text));
+    const QString datei = QDir::toNativeSeparators(meldung.path);
     streifenFuer(meldung.path)
         .zeige({.kennung = kennung(meldung),
-                .text = localizedString(QString::fromUtf8(text))
-                            .arg(QDir::toNativeSeparators(meldung.path),
-                                 QFileInfo(meldung.kopie).fileName()),
+                .text = meldung.kopie.isNull()
+                            ? satz.arg(datei)
+                            : satz.arg(datei, QFileInfo(meldung.kopie).fileName()),
                 .knopf = localizedString(QString::fromUtf8(knopf)),
                 .aktion = [this, meldung] { fuehreAus(meldung); },
                 .warnung = istWarnung(meldung)});

@@ -167,7 +167,8 @@ void Dateiempfang::meldeUebernommenes(const QString &dateiname, const Uebernahme
                                              "ersetzt %3."));
     m_controller.hinweise->zeige(
         {.kennung = AppController::hinweisGesichert,
-         .text = satz.arg(kurzerName(dateiname)).arg(was.neu.size()).arg(was.ersetzt.size()),
+         .text = satz.arg(kurzerName(dateiname), QString::number(was.neu.size()),
+                          QString::number(was.ersetzt.size())),
          .knopf = localizedString(QStringLiteral("Rückgängig")),
          .aktion = [this] {
              Q_EMIT m_controller.zuruecknehmenGewuenscht();

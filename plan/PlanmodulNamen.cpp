@@ -32,8 +32,7 @@ QString aufgezaehlt(const QStringList &namen)
     const QString liste = worte.join(QStringLiteral(", "));
     return namen.size() <= hoechstens ? liste
                                       : localizedString(QStringLiteral("%1 und %2 weitere"))
-                                            .arg(liste)
-                                            .arg(namen.size() - hoechstens);
+                                            .arg(liste, QString::number(namen.size() - hoechstens));
 }
 
 /// The sentence about foods that are called something else now.

@@ -67,7 +67,7 @@ void TestDateiUebernahme::allFoodsComeToTheOwnOnes()
 {
     QFETCH(Folge, folge);
     const QByteArray bytes = Archivbau::beispiel(folge);
-    const QString pfad = m_probe->lege(u"ei.daten"_s, bytes);
+    const QString pfad = m_probe->lege(u"100 %2.daten"_s, bytes);
     m_probe->oeffne({pfad});
     QCOMPARE(m_probe->worte("ergebnis"),
              u"In die eigenen Lebensmittel kommen 1: neu 1, ersetzt 0, unter "
@@ -79,7 +79,7 @@ void TestDateiUebernahme::allFoodsComeToTheOwnOnes()
              inhalt(Archivbau::beispielVerzeichnis()[u"Ei"_s]));
     QCOMPARE(inhalt(m_probe->datei()), inhalt(m_probe->controller().KundenDictionary));
     QCOMPARE(m_probe->probefenster().zelle(2, inEigen).text, u"Ei"_s);
-    QCOMPARE(m_probe->hinweis(), u"Aus „ei.daten“ übernommen: neu 1, ersetzt 0."_s);
+    QCOMPARE(m_probe->hinweis(), u"Aus „100 %2.daten“ übernommen: neu 1, ersetzt 0."_s);
     QFile quelle(pfad);
     QVERIFY(quelle.open(QIODevice::ReadOnly));
     QCOMPARE(quelle.readAll(), bytes);

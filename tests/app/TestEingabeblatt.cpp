@@ -26,6 +26,7 @@ private Q_SLOTS:
     void doubtsNameTheirFigures();
     void theFoodOnDisplayIsCopiedPerHundredGrams();
     void aCopyHasANameOfItsOwn();
+    void aNameMayLookLikeAPlaceForOne();
     void anOwnFoodKeepsItsName();
     void whatTheSheetSavedIsCopied();
     void withoutAFoodThereIsNothingToCopy_data();
@@ -238,6 +239,15 @@ void TestEingabeblatt::aCopyHasANameOfItsOwn()
             lebensmittel(QStringLiteral("Brot (eigen 2)"))});
     schreibeAb();
     QCOMPARE(controller().EingabeFensterfeldA->stringValue(), QStringLiteral("Brot (eigen 3)"));
+}
+
+void TestEingabeblatt::aNameMayLookLikeAPlaceForOne()
+{
+    m_heim->schreibeTabelle(verzeichnis({lebensmittel(QStringLiteral("Apfel")),
+                                         lebensmittel(QStringLiteral("Brot %1"), {{kal, 240}})}));
+    oeffne({lebensmittel(QStringLiteral("Brot %1 (eigen)"))});
+    schreibeAb();
+    QCOMPARE(controller().EingabeFensterfeldA->stringValue(), QStringLiteral("Brot %1 (eigen 2)"));
 }
 
 void TestEingabeblatt::anOwnFoodKeepsItsName()

@@ -170,7 +170,7 @@ void TestPlanmodulNamen::aFoodThatIsGoneIsNamed()
 
 void TestPlanmodulNamen::ofManyThatAreGoneTheFirstAreNamed()
 {
-    m_heim->schreibePlan({{u"a"_s, 1},
+    m_heim->schreibePlan({{u"100 %1"_s, 1},
                           {u"b"_s, 1},
                           {u"c"_s, 1},
                           {u"d"_s, 1},
@@ -179,7 +179,7 @@ void TestPlanmodulNamen::ofManyThatAreGoneTheFirstAreNamed()
                           {u"g"_s, 1},
                           {u"h"_s, 1}});
     oeffne();
-    QCOMPARE(hinweise(), QStringList(u"!„a“, „b“, „c“, „d“, „e“, „f“ und 2 weitere stehen nicht "
+    QCOMPARE(hinweise(), QStringList(u"!„100 %1“, „b“, „c“, „d“, „e“, „f“ und 2 weitere stehen nicht "
                                      "mehr in der Tabelle und zählen im Plan nicht mit."_s));
 }
 
