@@ -33,7 +33,7 @@ QString suchform(const QString &text)
             form += zeichen;
         }
     }
-    return form;
+    return form.toCaseFolded(); // some capitals have no small letter but with their marks off
 }
 
 void Klientenliste::setze(const QList<Personenzeile> &personen)
