@@ -99,8 +99,7 @@ QString Pruefserver::rufe(const QString &programm, const QStringList &worte)
         return {};
     }
     QFile datei(ausgabe);
-    const QString text =
-        datei.open(QIODevice::ReadOnly) ? QString::fromUtf8(datei.readAll()) : QString();
+    QString text = datei.open(QIODevice::ReadOnly) ? QString::fromUtf8(datei.readAll()) : QString();
     if (prozess.exitCode() != 0) {
         m_grund = programm + QStringLiteral(": ") + text;
     }

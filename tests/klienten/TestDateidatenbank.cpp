@@ -291,9 +291,10 @@ void TestDateidatenbank::damageWithinIsFound()
     }
     m_tisch->schliesse();
     QByteArray inhalt = bytes(path());
-    QVERIFY(inhalt.size() > 20 * 4096);
+    constexpr qsizetype seite = 4096;
+    QVERIFY(inhalt.size() > 20 * seite);
     // Pages of the table overwritten, and the rest of a log as a crash leaves it.
-    inhalt.replace(10 * 4096, 4 * 4096, QByteArray(4 * 4096, '\x5a'));
+    inhalt.replace(10 * seite, 4 * seite, QByteArray(4 * seite, '\x5a'));
     schreibe(path(), inhalt);
     schreibe(path() + QStringLiteral("-wal"), QByteArray(32, '\0'));
     for (int start = 0; start < 3; ++start) {
@@ -398,7 +399,7 @@ void TestDateidatenbank::aDayIsKeptBeforeItsFirstChange()
     Person person = namens(QStringLiteral("Anna"));
     QVERIFY(m_tisch->sichere(person));
     QVERIFY(Sicherungen::tage(path()).isEmpty());
-    const QDateTime morgen = QDateTime::currentDateTime().addDays(1);
+    QDateTime morgen = QDateTime::currentDateTime().addDays(1);
     datenbank().setUhr([&] { return morgen; });
     person.name = QStringLiteral("Bea");
     QVERIFY(m_tisch->sichere(person));
