@@ -158,7 +158,7 @@ const std::array besuchsspalten = {
     von<&Besuch::groesse>("groesse", QT_TRANSLATE_NOOP("Mahlberg", "Größe")),
     von<&Besuch::taille>("taille", QT_TRANSLATE_NOOP("Mahlberg", "Taille")),
     von<&Besuch::huefte>("huefte", QT_TRANSLATE_NOOP("Mahlberg", "Hüfte")),
-    von<&Besuch::aktivitaet>("aktivitaet", QT_TRANSLATE_NOOP("Mahlberg", "Aktivität")),
+    von<&Besuch::aktivitaet>("aktivitaet", QT_TRANSLATE_NOOP("Mahlberg", "Tätigkeit")),
     von<&Besuch::reduktion>("reduktion", QT_TRANSLATE_NOOP("Mahlberg", "Gewichtsreduktion")),
     von<&Besuch::sport>("sport", QT_TRANSLATE_NOOP("Mahlberg", "Sport")),
     von<&Besuch::sportdauer>("sportdauer", QT_TRANSLATE_NOOP("Mahlberg", "Sport am Tag")),

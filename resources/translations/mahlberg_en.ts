@@ -3274,10 +3274,6 @@ New: %1</translation>
   <translation>Date</translation>
  </message>
  <message>
-  <source>Aktivität</source>
-  <translation>Activity</translation>
- </message>
- <message>
   <source>Gewichtsreduktion</source>
   <translation>Weight reduction</translation>
  </message>
