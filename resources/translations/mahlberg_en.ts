@@ -3289,6 +3289,30 @@ New: %1</translation>
   <source>Titel</source>
   <translation>Title</translation>
  </message>
+ <message>
+  <source>Geschlecht</source>
+  <translation>Gender</translation>
+ </message>
+ <message>
+  <source>Gewicht</source>
+  <translation>Weight</translation>
+ </message>
+ <message>
+  <source>Größe</source>
+  <translation>Height</translation>
+ </message>
+ <message>
+  <source>Hüfte</source>
+  <translation>Hip</translation>
+ </message>
+ <message>
+  <source>Taille</source>
+  <translation>Waist</translation>
+ </message>
+ <message>
+  <source>Tätigkeit</source>
+  <translation>Activity</translation>
+ </message>
 </context>
 <context>
  <name>PlanmodulGestalt</name>
