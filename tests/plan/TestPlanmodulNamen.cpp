@@ -179,8 +179,9 @@ void TestPlanmodulNamen::ofManyThatAreGoneTheFirstAreNamed()
                           {u"g"_s, 1},
                           {u"h"_s, 1}});
     oeffne();
-    QCOMPARE(hinweise(), QStringList(u"!„100 %1“, „b“, „c“, „d“, „e“, „f“ und 2 weitere stehen nicht "
-                                     "mehr in der Tabelle und zählen im Plan nicht mit."_s));
+    QCOMPARE(hinweise(),
+             QStringList(u"!„100 %1“, „b“, „c“, „d“, „e“, „f“ und 2 weitere stehen nicht "
+                         "mehr in der Tabelle und zählen im Plan nicht mit."_s));
 }
 
 void TestPlanmodulNamen::anOwnFoodOfTheFormerNameStays()
