@@ -92,12 +92,16 @@ Ausgang Datenbank::schreibe(const Schritt &schritt)
             }
         }
         vorSchreiben();
-        // Another desk may have a newer version since, and have changed the tables.
+        // Another desk may have a newer version since, and have changed the tables. Where they are
+        // older or gone, somebody has put something else there: it is opened anew.
         const Ausgang ausgang = laufe(schreibbeginn(), [&](Gespraech &gespraech) {
             return liesFassung(gespraech) && m_fassung == Klientenschema::fassung &&
                    schritt(gespraech);
         });
-        return m_fassung > Klientenschema::fassung ? Ausgang{Hindernis::Neuer} : ausgang;
+        if (!ausgang || m_fassung == Klientenschema::fassung) {
+            return ausgang;
+        }
+        return {m_fassung > Klientenschema::fassung ? Hindernis::Neuer : Hindernis::Getrennt};
     });
 }
 

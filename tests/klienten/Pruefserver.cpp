@@ -11,7 +11,9 @@ constexpr int geduld = 60000; // ms
 
 } // namespace
 
-Pruefserver::Pruefserver() : m_ordner(QStringLiteral("/tmp/mahlberg-XXXXXX"))
+// Not in the folder that the environment names: the path of a socket has room for about a hundred
+// letters.
+Pruefserver::Pruefserver() : m_ordner(QStringLiteral("/tmp/mahlberg-"))
 {
     const QDir versionen(QStringLiteral("/usr/lib/postgresql"));
     const QStringList da =

@@ -6,6 +6,13 @@
 #include <QSqlQuery>
 #include <QTest>
 
+Person namens(const QString &name)
+{
+    Person person;
+    person.name = name;
+    return person;
+}
+
 void Pruefspeicher::zeilen()
 {
     QTest::addColumn<bool>("server");

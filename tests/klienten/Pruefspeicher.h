@@ -7,6 +7,9 @@
 
 #include <memory>
 
+/// A person of whom nothing but the name is known.
+Person namens(const QString &name);
+
 /// Both kinds of stores for one suite of tests: each test function runs with the file and with the
 /// server, on a store of its own in which nothing is yet.
 class Pruefspeicher

@@ -3,7 +3,7 @@
 
 #include "Dateidatenbank.h"
 #include "Klientenschema.h"
-#include "Klientenspeicher.h"
+#include "Pruefspeicher.h"
 #include "Sicherungen.h"
 
 #include <QDir>
@@ -36,13 +36,6 @@ void schreibe(const QString &path, const QByteArray &inhalt)
     QFile datei(path);
     QVERIFY(datei.open(QIODevice::WriteOnly));
     QCOMPARE(datei.write(inhalt), inhalt.size());
-}
-
-Person namens(const QString &name)
-{
-    Person person;
-    person.name = name;
-    return person;
 }
 
 } // namespace

@@ -29,6 +29,8 @@ private Q_SLOTS:
     void aStepThatFailsLeavesTheFormBefore();
     void twoDesksStartAtOnce();
     void aStoreThatDoesNotSayItsFormIsNotTouched();
+    void tablesThatAreTakenAwayAreMadeAnew();
+    void anOlderStoreInTheOldOnesPlaceIsBroughtToThePresentForm();
 
 private:
     static QString datei(int fassung);
@@ -146,11 +148,9 @@ void TestKlientenschema::twoDesksStartAtOnce()
     const auto anderer = m_speicher.tisch();
     QVERIFY(einer->oeffne());
     QVERIFY(anderer->oeffne()); // nothing is there for either of them
-    Person person;
-    person.name = QStringLiteral("Anna");
+    Person person = namens(QStringLiteral("Anna"));
     QVERIFY(einer->sichere(person));
-    Person zweite;
-    zweite.name = QStringLiteral("Bea");
+    Person zweite = namens(QStringLiteral("Bea"));
     QVERIFY(anderer->sichere(zweite));
     QList<Personenzeile> zeilen;
     QVERIFY(einer->personen(zeilen));
@@ -163,10 +163,38 @@ void TestKlientenschema::aStoreThatDoesNotSayItsFormIsNotTouched()
     QVERIFY(m_speicher.fuehre(QStringLiteral("DELETE FROM bestand")));
     const auto tisch = m_speicher.tisch();
     QCOMPARE(tisch->oeffne().hindernis, Hindernis::Beschaedigt);
-    Person person;
-    person.name = QStringLiteral("Anna");
+    Person person = namens(QStringLiteral("Anna"));
     QCOMPARE(tisch->sichere(person).hindernis.hindernis, Hindernis::Beschaedigt);
     QCOMPARE(m_speicher.frage(QStringLiteral("SELECT count(*) FROM person")).toInt(), 2);
+}
+
+void TestKlientenschema::tablesThatAreTakenAwayAreMadeAnew()
+{
+    const auto tisch = m_speicher.tisch();
+    Person person = namens(QStringLiteral("Anna"));
+    QVERIFY(tisch->sichere(person));
+    for (const char *tabelle : {"plan", "besuch", "person", "bestand"}) {
+        QVERIFY(m_speicher.fuehre(QStringLiteral("DROP TABLE ") + QLatin1String(tabelle)));
+    }
+    Person zweite = namens(QStringLiteral("Bea"));
+    QVERIFY(tisch->sichere(zweite));
+    QCOMPARE(m_speicher.frage(QStringLiteral("SELECT name FROM person")).toString(),
+             QStringLiteral("Bea"));
+}
+
+void TestKlientenschema::anOlderStoreInTheOldOnesPlaceIsBroughtToThePresentForm()
+{
+    const auto tisch = m_speicher.tisch();
+    Person person = namens(QStringLiteral("Carla"));
+    QVERIFY(tisch->sichere(person));
+    QVERIFY(m_speicher.fuehre(QStringLiteral("DROP TABLE plan")));
+    QVERIFY(m_speicher.fuehre(QStringLiteral("UPDATE bestand SET fassung = 1")));
+    person.name = QStringLiteral("Dora");
+    QVERIFY(tisch->sichere(person));
+    QCOMPARE(m_speicher.frage(QStringLiteral("SELECT name FROM person")).toString(),
+             QStringLiteral("Dora"));
+    QCOMPARE(m_speicher.frage(QStringLiteral("SELECT fassung FROM bestand")).toInt(),
+             Klientenschema::fassung);
 }
 
 QTEST_GUILESS_MAIN(TestKlientenschema)

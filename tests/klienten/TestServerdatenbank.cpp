@@ -1,21 +1,9 @@
 // The practice's server: it goes away and comes back, refuses, and shares its database with others.
 
-#include "Klientenspeicher.h"
-#include "Pruefserver.h"
+#include "Pruefspeicher.h"
 #include "Serverdatenbank.h"
 
 #include <QTest>
-
-namespace {
-
-Person namens(const QString &name)
-{
-    Person person;
-    person.name = name;
-    return person;
-}
-
-} // namespace
 
 class TestServerdatenbank : public QObject
 {
