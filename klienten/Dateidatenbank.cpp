@@ -107,7 +107,8 @@ Ausgang Dateidatenbank::verbinde()
         }
         verbindung().close();
     }
-    return oeffneDatei(false);
+    const Ausgang geoeffnet = oeffneDatei(false);
+    return geoeffnet && unterbrochen ? pruefeGanzes() : geoeffnet;
 }
 
 Ausgang Dateidatenbank::oeffneDatei(bool nurLesen)
