@@ -1,0 +1,130 @@
+#include "Feldworte.h"
+
+#include "Planpostentext.h"
+#include "Zahlenform.h"
+#include "Zeichenkettentabelle.h"
+
+#include <QCoreApplication>
+
+#include <algorithm>
+#include <array>
+
+namespace {
+
+QString ja(const QVariant &wert)
+{
+    return localizedString(wert.toInt() != 0 ? QStringLiteral("ja") : QStringLiteral("nein"));
+}
+
+QString tag(const QVariant &wert)
+{
+    const QDate datum = QDate::fromString(wert.toString(), Qt::ISODate);
+    return datum.isValid() ? QLocale().toString(datum, QLocale::ShortFormat) : QString();
+}
+
+QString anzahlZeilen(const QVariant &wert)
+{
+    const std::optional<QList<Planposten>> posten = postenAusText(wert.toString().toUtf8());
+    return posten ? QString::number(posten->size()) : QString();
+}
+
+QString text(const QVariant &wert)
+{
+    return wert.toString();
+}
+
+template <QStringList (*worte)()>
+QString wahl(const QVariant &wert)
+{
+    return worte().value(wert.toInt());
+}
+
+template <int nachkommastellen>
+QString zahl(const QVariant &wert)
+{
+    return zahlenform().toString(wert.toDouble(), 'f', nachkommastellen);
+}
+
+/// How a field is told about; those that are not here are texts.
+struct Feldform
+{
+    const char *spalte;
+    QString (*worte)(const QVariant &);
+    const char *einheit = "";
+};
+
+constexpr std::array feldformen = {
+    Feldform{"geburt", tag},
+    Feldform{"datum", tag},
+    Feldform{"geschlecht", wahl<geschlechtsworte>},
+    Feldform{"umstand", wahl<umstandsworte>},
+    Feldform{"uebergewicht", ja},
+    Feldform{"diabetes", ja},
+    Feldform{"gicht", ja},
+    Feldform{"hkk", ja},
+    Feldform{"archiviert", ja},
+    Feldform{"gewicht", zahl<1>, "kg"},
+    Feldform{"groesse", zahl<2>, "m"},
+    Feldform{"taille", zahl<1>, "cm"},
+    Feldform{"huefte", zahl<1>, "cm"},
+    Feldform{"aktivitaet", wahl<aktivitaetsworte>},
+    Feldform{"reduktion", ja},
+    Feldform{"sportdauer", zahl<1>, "h"},
+    Feldform{"posten", anzahlZeilen},
+};
+
+Feldform formVon(const char *spalte)
+{
+    const auto *form =
+        std::find_if(feldformen.begin(), feldformen.end(), [spalte](const Feldform &eine) {
+            return qstrcmp(eine.spalte, spalte) == 0;
+        });
+    return form != feldformen.end() ? *form : Feldform{spalte, text};
+}
+
+QStringList uebersetzt(std::initializer_list<const char *> worte)
+{
+    QStringList ergebnis;
+    for (const char *wort : worte) {
+        ergebnis << localizedString(QString::fromUtf8(wort));
+    }
+    return ergebnis;
+}
+
+} // namespace
+
+QString feldworte(const char *spalte, const QVariant &wert)
+{
+    if (wert.isNull()) {
+        return {};
+    }
+    const Feldform form = formVon(spalte);
+    const QString worte = form.worte(wert);
+    return *form.einheit == '\0' ? worte : worte + u' ' + QLatin1String(form.einheit);
+}
+
+QString feldeinheit(const char *spalte)
+{
+    return QLatin1String(formVon(spalte).einheit);
+}
+
+QStringList geschlechtsworte()
+{
+    return uebersetzt({QT_TRANSLATE_NOOP("Mahlberg", "unbekannt"),
+                       QT_TRANSLATE_NOOP("Mahlberg", "Mann"),
+                       QT_TRANSLATE_NOOP("Mahlberg", "Frau")});
+}
+
+QStringList umstandsworte()
+{
+    return uebersetzt({QT_TRANSLATE_NOOP("Mahlberg", "keines von beiden"),
+                       QT_TRANSLATE_NOOP("Mahlberg", "schwanger"),
+                       QT_TRANSLATE_NOOP("Mahlberg", "stillend")});
+}
+
+QStringList aktivitaetsworte()
+{
+    return uebersetzt({QT_TRANSLATE_NOOP("Mahlberg", "leichte Tätigkeit"),
+                       QT_TRANSLATE_NOOP("Mahlberg", "mittlere Tätigkeit"),
+                       QT_TRANSLATE_NOOP("Mahlberg", "schwere Tätigkeit")});
+}
