@@ -34,6 +34,7 @@ void AnthroController::slidergewicht(const Wertehalter &sender)
     rateBmi();
     rateEnergie();
     gewicht2->setFloatValue(gewicht->floatValue());
+    Q_EMIT angabeGeaendert();
 }
 
 /// The energy requirement does not depend on the height.
@@ -47,6 +48,7 @@ void AnthroController::slidergroesse(const Wertehalter &sender)
     zeigeImperial();
     zeigeBmi();
     rateBmi();
+    Q_EMIT angabeGeaendert();
 }
 
 void AnthroController::sliderhuefte(const Wertehalter &sender)
@@ -57,6 +59,7 @@ void AnthroController::sliderhuefte(const Wertehalter &sender)
     merke("Huefte", hueftumfang->floatValue());
     zeigeVerhaeltnis();
     rateVerhaeltnis();
+    Q_EMIT angabeGeaendert();
 }
 
 void AnthroController::slidertaille(const Wertehalter &sender)
@@ -67,6 +70,7 @@ void AnthroController::slidertaille(const Wertehalter &sender)
     merke("Taille", taillenumfang->floatValue());
     zeigeVerhaeltnis();
     rateVerhaeltnis();
+    Q_EMIT angabeGeaendert();
 }
 
 void AnthroController::metrik(int zustand)
@@ -85,6 +89,7 @@ void AnthroController::geschlechtAktion(int tag)
     rateEnergie();
     zeigeGeschlecht();
     faerbeAlkohol(Ampel::Gruen);
+    Q_EMIT angabeGeaendert();
 }
 
 void AnthroController::zeigeBmi()

@@ -35,6 +35,9 @@ class AnthroController : public QObject, public Ui::KoerperGestalt, public Ui::L
     Q_OBJECT
 
 public:
+    /// Years of age that the calculator begins with.
+    static constexpr int startalter = 25;
+
     /// Makes the two pages; nothing is computed yet.
     explicit AnthroController(Anthrotueren tueren);
     ~AnthroController() override;
@@ -101,6 +104,10 @@ public:
     void welchersport(const Wertehalter &sender);
     /// The sender holds the hours of sport.
     void wievielsport(const Wertehalter &sender);
+
+Q_SIGNALS:
+    /// An action has set a measure, the gender, the activity, the reduction, the age or the sport.
+    void angabeGeaendert();
 
 private:
     // Start-up

@@ -25,6 +25,7 @@ void AnthroController::arbeitAktion(int tag)
     rechneEnergie();
     uebergibEnergie();
     rateEnergie();
+    Q_EMIT angabeGeaendert();
 }
 
 void AnthroController::gewichtreduktion(int zustand)
@@ -35,6 +36,7 @@ void AnthroController::gewichtreduktion(int zustand)
     rateEnergie();
     merke("Gewichtredukt", static_cast<float>(zustand));
     uebergibEnergie();
+    Q_EMIT angabeGeaendert();
 }
 
 void AnthroController::wiealt(const Wertehalter &sender)
@@ -42,16 +44,15 @@ void AnthroController::wiealt(const Wertehalter &sender)
     const int jahre = sender.intValue();
     alteranzeige->setIntValue(jahre);
     alter->setIntValue(jahre);
-    const std::optional<bool> erlaubt = rechnerErlaubt(alteranzeige->intValue());
-    if (!erlaubt) {
-        return;
+    if (const std::optional<bool> erlaubt = rechnerErlaubt(alteranzeige->intValue())) {
+        erlaubeRechner(*erlaubt);
+        if (*erlaubt) {
+            zeigeMasseWieder();
+        } else {
+            verbirgMasse();
+        }
     }
-    erlaubeRechner(*erlaubt);
-    if (*erlaubt) {
-        zeigeMasseWieder();
-    } else {
-        verbirgMasse();
-    }
+    Q_EMIT angabeGeaendert();
 }
 
 /// What can't be set for a child.
@@ -124,6 +125,7 @@ void AnthroController::welchersport(const Wertehalter &sender)
     merke("Sport", resultatsportkal->floatValue());
     uebergibEnergie();
     rateEnergie();
+    Q_EMIT angabeGeaendert();
 }
 
 void AnthroController::wievielsport(const Wertehalter &sender)
@@ -137,6 +139,7 @@ void AnthroController::wievielsport(const Wertehalter &sender)
     rechneEnergie();
     uebergibEnergie();
     rateEnergie();
+    Q_EMIT angabeGeaendert();
 }
 
 /// Every change of an input ends here.

@@ -31,7 +31,6 @@ constexpr float startgewicht = 80.0F;   // kg
 constexpr float startgroesse = 1.8F;    // m
 constexpr float starthuefte = 86.0F;    // cm
 constexpr float starttaille = 71.0F;    // cm
-constexpr int startalter = 25;          // years
 constexpr float startgeschlecht = 1.2F; // a man
 constexpr float startarbeit = 1.1F;     // light work
 

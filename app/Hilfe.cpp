@@ -41,6 +41,7 @@ constexpr Stelle stellen[] = {
     {"untereSeite", "evaluation"},
     {"druckvorschau", "printing"},
     {"hinweise", "when-something-fails"},
+    {"Klientenfenster", "clients"},
     {"sicherungen", "when-something-fails"},
     {"einlesen", "tables"},
     {"ausgabe", "tables"},

@@ -61,15 +61,16 @@ Tueren mitDateien(Tueren tueren, const std::shared_ptr<Dateihueter> &dateien)
 
 } // namespace
 
-Oberflaeche::Oberflaeche(const Tueren &tueren)
+Oberflaeche::Oberflaeche(const Tueren &tueren, const Klientenanschluss::Kopfzeile &kopfzeile)
     : dateien(tueren.dateien != nullptr ? tueren.dateien : std::make_shared<Dateihueter>())
-    , hauptfenster(mitDateien(tueren, dateien))
-    , rechner(anthrotueren(mitDateien(tueren, dateien)))
+    , hauptfenster(Klientenanschluss::mitKopfzeile(mitDateien(tueren, dateien), kopfzeile))
+    , rechner(anthrotueren(Klientenanschluss::mitKopfzeile(mitDateien(tueren, dateien), kopfzeile)))
     , ansage(hauptfenster, tueren.datenordner, dateien)
     , empfang(hauptfenster, tueren.datenordner, dateien, tueren.melde, tueren.waehleDatei)
     , gedaechtnis(hauptfenster, *tueren.einstellungen)
     , verlauf(hauptfenster)
     , austausch(hauptfenster, mitDateien(tueren, dateien))
+    , klienten(hauptfenster, rechner, tueren, kopfzeile)
     , m_sprich(tueren.sprich)
     , m_einstellungen(*tueren.einstellungen)
     , m_waehleDatei(tueren.waehleDatei)
@@ -77,6 +78,8 @@ Oberflaeche::Oberflaeche(const Tueren &tueren)
     QObject::connect(&hauptfenster, &AppController::spracheGewaehlt, &hauptfenster,
                      [this](const QString &kuerzel) { sprich(kuerzel); });
     QObject::connect(&hauptfenster, &AppController::hilfeGewuenscht, &hilfe,
+                     [this](const QWidget *fenster) { hilfe.zeige(*fenster); });
+    QObject::connect(&klienten, &Klientenanschluss::hilfeGewuenscht, &hilfe,
                      [this](const QWidget *fenster) { hilfe.zeige(*fenster); });
     QObject::connect(&abwurf, &Dateiabwurf::abgeworfen, &empfang, &Dateiempfang::oeffneAdressen);
     QObject::connect(&hauptfenster, &AppController::einstellungenGewuenscht, &hauptfenster,
@@ -96,6 +99,7 @@ void Oberflaeche::awakeFromNib()
     ansage.beginne();
     gedaechtnis.beginne();
     verlauf.beginne();
+    klienten.beginne();
 }
 
 void Oberflaeche::zeigeEinstellungen()
@@ -114,6 +118,7 @@ void Oberflaeche::zeigeEinstellungen()
                      eintraege("erscheinungsbilder"));
     fenster->nimmAuf(localizedString(QStringLiteral("Ordner für PDF")),
                      new Pdfordnerwahl(m_einstellungen, m_waehleDatei));
+    fenster->nimmAuf(localizedString(QStringLiteral("Klienten")), klienten.einstellung());
     fenster->setAttribute(Qt::WA_DeleteOnClose);
     fenster->open();
 }
@@ -136,6 +141,7 @@ void Oberflaeche::sprich(const QString &kuerzel)
     rechner.folgeSprache();
     folgeSprache(hauptfenster.planmodul);
     folgeSprache(rechner.plan);
+    klienten.folgeSprache();
     hilfe.folgeSprache();
 }
 

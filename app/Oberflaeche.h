@@ -7,6 +7,7 @@
 #include "Dateiempfang.h"
 #include "Fenstergedaechtnis.h"
 #include "Hilfe.h"
+#include "Klientenanschluss.h"
 #include "Tabellenaustausch.h"
 #include "Verlauf.h"
 
@@ -21,7 +22,7 @@ class Dateihueter;
 class Oberflaeche
 {
 public:
-    explicit Oberflaeche(const Tueren &tueren);
+    explicit Oberflaeche(const Tueren &tueren) : Oberflaeche(tueren, std::make_shared<QString>()) {}
 
     /// Start-up of the main window, then of the calculator. Called once, after construction.
     void awakeFromNib();
@@ -43,8 +44,11 @@ public:
     Hilfe hilfe;
     Verlauf verlauf;
     Tabellenaustausch austausch;
+    Klientenanschluss klienten;
 
 private:
+    Oberflaeche(const Tueren &tueren, const Klientenanschluss::Kopfzeile &kopfzeile);
+
     static void folgeSprache(Planmodul *plan);
 
     std::function<void(const QString &)> m_sprich;

@@ -13,13 +13,14 @@ namespace {
 
 QString ja(const QVariant &wert)
 {
-    return localizedString(wert.toInt() != 0 ? QStringLiteral("ja") : QStringLiteral("nein"));
+    static const char *const worte[] = {QT_TRANSLATE_NOOP("Mahlberg", "nein"),
+                                        QT_TRANSLATE_NOOP("Mahlberg", "ja")};
+    return localizedString(QString::fromUtf8(worte[wert.toInt() != 0 ? 1 : 0]));
 }
 
 QString tag(const QVariant &wert)
 {
-    const QDate datum = QDate::fromString(wert.toString(), Qt::ISODate);
-    return datum.isValid() ? QLocale().toString(datum, QLocale::ShortFormat) : QString();
+    return tagesworte(QDate::fromString(wert.toString(), Qt::ISODate));
 }
 
 QString anzahlZeilen(const QVariant &wert)
@@ -76,9 +77,8 @@ constexpr std::array feldformen = {
 Feldform formVon(const char *spalte)
 {
     const auto *form =
-        std::find_if(feldformen.begin(), feldformen.end(), [spalte](const Feldform &eine) {
-            return qstrcmp(eine.spalte, spalte) == 0;
-        });
+        std::find_if(feldformen.begin(), feldformen.end(),
+                     [spalte](const Feldform &eine) { return qstrcmp(eine.spalte, spalte) == 0; });
     return form != feldformen.end() ? *form : Feldform{spalte, text};
 }
 
@@ -92,6 +92,15 @@ QStringList uebersetzt(std::initializer_list<const char *> worte)
 }
 
 } // namespace
+
+QString tagesworte(const QDate &tag)
+{
+    QString form = QLocale().dateFormat(QLocale::ShortFormat);
+    if (!form.contains(QLatin1String("yyyy"))) {
+        form.replace(QLatin1String("yy"), QLatin1String("yyyy"));
+    }
+    return tag.isValid() ? QLocale().toString(tag, form) : QString();
+}
 
 QString feldworte(const char *spalte, const QVariant &wert)
 {

@@ -166,7 +166,7 @@ template <typename Satz>
 Schreibausgang schreibeSatz(Datenbank &datenbank, const QString &person, Satz &satz)
 {
     const Satz neu = geschrieben(satz);
-    const bool neuer = satz.kennung.isNull();
+    const bool neuer = satz.fassung == 0;
     Art art = Art::Gelungen;
     const Ausgang ausgang = datenbank.schreibe([&](Gespraech &gespraech) {
         art = Art::Gelungen;

@@ -54,9 +54,10 @@ public:
     Ausgang lies(const QString &kennung, std::optional<Besuch> &ergebnis);
     Ausgang lies(const QString &kennung, std::optional<Planablage> &ergebnis);
 
-    /// Writes a record. One without a key is new and gets one; one with a key must be as it was
-    /// read, by its count of writes, which goes up. What stands there already exactly as it is
-    /// meant to be counts as written: a desk that lost its connection can't know whether it was.
+    /// Writes a record. One that was never written is new, and gets a key unless it brings one; any
+    /// other must be as it was read, by its count of writes, which goes up. What stands there
+    /// already exactly as it is meant to be counts as written: a desk that lost its connection
+    /// can't know whether it was.
     Schreibausgang sichere(Person &person);
     Schreibausgang sichere(const QString &person, Besuch &besuch);
     Schreibausgang sichere(const QString &person, Planablage &plan);

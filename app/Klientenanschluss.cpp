@@ -1,0 +1,274 @@
+#include "Klientenanschluss.h"
+
+#include "Angabenworte.h"
+#include "AnthroController.h"
+#include "AppController.h"
+#include "Dateidatenbank.h"
+#include "Druckkopf.h"
+#include "Einstellungen.h"
+#include "Feldworte.h"
+#include "Klientenstand.h"
+#include "Klientenstandfenster.h"
+#include "Planzeilen.h"
+#include "Serverdatenbank.h"
+#include "Speicherwahl.h"
+#include "Zeichenkettentabelle.h"
+
+#include <QDir>
+#include <QEvent>
+#include <QFileInfo>
+#include <QLocale>
+#include <QMenuBar>
+
+namespace {
+
+constexpr auto klientendatei = "MahlbergKlienten.sqlite";
+
+const QString hinweisStand = QStringLiteral("klientenstand");
+
+/// The menu of a window in which other windows are opened: the last but the one for help.
+QMenu *fenstermenue(const QMainWindow &fenster)
+{
+    const QList<QAction *> menues = fenster.menuBar()->actions();
+    return menues.size() < 2 ? nullptr : menues[menues.size() - 2]->menu();
+}
+
+} // namespace
+
+Tueren Klientenanschluss::mitKopfzeile(Tueren tueren, const Kopfzeile &kopfzeile)
+{
+    if (tueren.drucke) {
+        tueren.drucke = [drucke = tueren.drucke, kopfzeile](QWidget *fenster,
+                                                            const Druckauftrag &auftrag) {
+            drucke(fenster, mitKopf(auftrag, *kopfzeile));
+        };
+    }
+    if (tueren.alsPdf) {
+        tueren.alsPdf = [alsPdf = tueren.alsPdf, kopfzeile](QWidget *fenster,
+                                                            const Druckauftrag &auftrag,
+                                                            const std::function<void()> &danach) {
+            alsPdf(fenster, mitKopf(auftrag, *kopfzeile), danach);
+        };
+    }
+    return tueren;
+}
+
+Klientenanschluss::Klientenanschluss(AppController &hauptfenster, AnthroController &rechner,
+                                     Tueren tueren, Kopfzeile kopfzeile)
+    : m_hauptfenster(hauptfenster)
+    , m_tueren(std::move(tueren))
+    , m_kopfzeile(std::move(kopfzeile))
+    , kartei([this] { return neuerSpeicher(); })
+    , tisch(kartei,
+            {.rechner = rechner,
+             .plan =
+                 [this](bool oeffnen) {
+                     if (oeffnen) {
+                         m_hauptfenster.Planmoduloeffnen();
+                     }
+                     return m_hauptfenster.planmodul;
+                 },
+             .sage =
+                 [this](const Hinweis &hinweis) {
+                     const bool dort = m_fenster != nullptr && m_fenster->isActiveWindow();
+                     (dort ? *m_fenster->hinweise : *m_hauptfenster.hinweise).zeige(hinweis);
+                 },
+             .einstellungen = *m_tueren.einstellungen})
+{
+}
+
+QString Klientenanschluss::datei() const
+{
+    const QString eigene = m_tueren.datenordner.datei(QStringLiteral("customdaten"));
+    return QFileInfo(eigene).dir().filePath(QLatin1String(klientendatei));
+}
+
+std::unique_ptr<Klientenspeicher> Klientenanschluss::neuerSpeicher() const
+{
+    const QString server = klientenserver(*m_tueren.einstellungen);
+    const Serverangabe angabe = leseServerangabe(server);
+    if (server.isEmpty() || angabe.fehler) {
+        return std::make_unique<Klientenspeicher>(std::make_unique<Dateidatenbank>(datei()));
+    }
+    return std::make_unique<Klientenspeicher>(std::make_unique<Serverdatenbank>(angabe));
+}
+
+void Klientenanschluss::beginne()
+{
+    baueMenue();
+    m_hauptfenster.Hauptfenster->installEventFilter(this);
+    connect(&tisch, &Tischklient::gewechselt, this, &Klientenanschluss::betitle);
+    connect(&m_hauptfenster, &AppController::planBereit, this, &Klientenanschluss::bereitePlan);
+    if (m_hauptfenster.planmodul != nullptr) {
+        bereitePlan();
+    }
+}
+
+void Klientenanschluss::baueMenue()
+{
+    QMenu *menue = fenstermenue(*m_hauptfenster.Hauptfenster);
+    QAction *klienten = menue->addAction(localizedString(QStringLiteral("&Klienten")));
+    klienten->setObjectName(QStringLiteral("aktionKlienten"));
+    klienten->setShortcut(QKeySequence(QStringLiteral("Ctrl+K")));
+    connect(klienten, &QAction::triggered, this, [this] { fenster().zeige(); });
+}
+
+void Klientenanschluss::bereitePlan()
+{
+    QMainWindow &plan = *m_hauptfenster.planmodul->window();
+    auto *menue = plan.findChild<QMenu *>(QStringLiteral("menueAblage"));
+    QAction *ablegen =
+        menue->addAction(localizedString(QStringLiteral("Plan beim Klienten ab&legen")));
+    ablegen->setObjectName(QStringLiteral("aktionAblegen"));
+    ablegen->setShortcut(QKeySequence::Save);
+    connect(ablegen, &QAction::triggered, this, [this] {
+        if (tisch.akte()) {
+            tisch.legePlanAb();
+        } else {
+            fenster().zeige();
+        }
+    });
+    QAction *klienten = menue->addAction(localizedString(QStringLiteral("&Klienten")));
+    klienten->setShortcut(QKeySequence(QStringLiteral("Ctrl+K")));
+    connect(klienten, &QAction::triggered, this, [this] { fenster().zeige(); });
+    betitle();
+}
+
+/// The title bars say who sits at the desk, and so does what is printed.
+void Klientenanschluss::betitle()
+{
+    const QString tag = tagesworte(QDate::currentDate());
+    *m_kopfzeile =
+        tisch.akte() ? tisch.akte()->person.name + QStringLiteral(", ") + tag : QString();
+    const auto setze = [this](QWidget &ziel, const QString &name) {
+        ziel.setWindowTitle(m_kopfzeile->isEmpty() ? name
+                                                   : *m_kopfzeile + QStringLiteral(" – ") + name);
+    };
+    setze(*m_hauptfenster.Hauptfenster, QStringLiteral("Mahlberg"));
+    if (m_hauptfenster.planmodul != nullptr) {
+        setze(*m_hauptfenster.planmodul->window(),
+              localizedString(QStringLiteral("Mahlzeitenplan")));
+    }
+}
+
+Klientenfenstertueren Klientenanschluss::fenstertueren()
+{
+    const bool aufServer = !klientenserver(*m_tueren.einstellungen).isEmpty();
+    return {.melde = m_tueren.melde,
+            .drucke = m_tueren.drucke,
+            .alsPdf = m_tueren.alsPdf,
+            .waehleDatei = m_tueren.waehleDatei,
+            .lebensmittel =
+                [this](const QString &schluessel) {
+                    return lebensmittelVon(schluessel, m_hauptfenster.Dictionary,
+                                           m_hauptfenster.KundenDictionary);
+                },
+            .datei = aufServer ? QString() : datei()};
+}
+
+Klientenfenster &Klientenanschluss::fenster()
+{
+    if (m_fenster == nullptr) {
+        m_fenster = std::make_unique<Klientenfenster>(kartei, tisch, fenstertueren());
+        connect(m_fenster.get(), &Klientenfenster::fruehereStaendeGewuenscht, this,
+                &Klientenanschluss::zeigeFruehereStaende);
+        connect(m_fenster.get(), &Klientenfenster::hilfeGewuenscht, this,
+                [this] { Q_EMIT hilfeGewuenscht(m_fenster.get()); });
+    }
+    return *m_fenster;
+}
+
+void Klientenanschluss::zeigeFruehereStaende()
+{
+    if (!klientenserver(*m_tueren.einstellungen).isEmpty()) {
+        m_fenster->hinweise->zeige(
+            {.kennung = hinweisStand,
+             .text = localizedString(QStringLiteral("Die Klienten stehen auf einem Server; seine "
+                                                    "früheren Stände hat, wer ihn betreut."))});
+        return;
+    }
+    auto *staende = new Klientenstandfenster(datei(), m_fenster.get());
+    staende->setAttribute(Qt::WA_DeleteOnClose);
+    connect(staende, &Klientenstandfenster::gewuenscht, this, &Klientenanschluss::holeZurueck);
+    staende->open();
+}
+
+/// Nobody sits at the desk afterwards: in the earlier state they may not be there.
+void Klientenanschluss::holeZurueck(const QString &kopie)
+{
+    tisch.verlasse();
+    kartei.speicher().schliesse();
+    QString beiseite;
+    const Ausgang ausgang = holeStand(datei(), kopie, QDateTime::currentDateTime(), beiseite);
+    kartei.beginneNeu();
+    m_fenster->frischeAuf();
+    m_fenster->hinweise->zeige(
+        {.kennung = hinweisStand,
+         .text = !ausgang
+                     ? localizedString(QStringLiteral("Der Stand ließ sich nicht zurückholen: %1"))
+                           .arg(inWorten(ausgang))
+                 : beiseite.isNull()
+                     ? localizedString(QStringLiteral("Der frühere Stand ist wieder da."))
+                     : localizedString(QStringLiteral("Der frühere Stand ist wieder da. Was vorher "
+                                                      "da war, ist aufgehoben als „%1“."))
+                           .arg(QFileInfo(beiseite).fileName()),
+         .warnung = !ausgang});
+}
+
+std::optional<QString> Klientenanschluss::wechsle()
+{
+    tisch.verlasse();
+    if (!kartei.beginneNeu()) {
+        return std::nullopt;
+    }
+    if (m_fenster != nullptr) {
+        m_fenster->setDatei(fenstertueren().datei);
+        m_fenster->frischeAuf();
+    }
+    return inWorten(kartei.hindernis());
+}
+
+QWidget *Klientenanschluss::einstellung()
+{
+    return new Speicherwahl(*m_tueren.einstellungen, [this] { return wechsle(); });
+}
+
+void Klientenanschluss::folgeSprache()
+{
+    if (m_fenster != nullptr) {
+        m_fenster->folgeSprache();
+    }
+    betitle();
+}
+
+bool Klientenanschluss::eventFilter(QObject *watched, QEvent *event)
+{
+    if (event->type() == QEvent::Close && watched == m_hauptfenster.Hauptfenster && !darfEnden()) {
+        event->ignore();
+        return true;
+    }
+    return QObject::eventFilter(watched, event);
+}
+
+/// What waits to be written would be lost with the program.
+bool Klientenanschluss::darfEnden()
+{
+    if (m_fenster != nullptr) {
+        m_fenster->sichere();
+    }
+    tisch.verlasse();
+    if (kartei.vorgemerkt() > 0) {
+        kartei.versucheNochmals();
+    }
+    return kartei.vorgemerkt() == 0 ||
+           m_tueren.melde(
+               m_hauptfenster.Hauptfenster,
+               {.text = localizedString(QStringLiteral("Noch nicht alles ist gesichert.")),
+                .erklaerung =
+                    localizedString(QStringLiteral("%1 Was davon nicht gesichert ist, geht beim "
+                                                   "Beenden verloren."))
+                        .arg(inWorten(kartei.hindernis())),
+                .knoepfe = {localizedString(QStringLiteral("Zurück")),
+                            localizedString(QStringLiteral("Trotzdem beenden"))},
+                .gefahr = true}) == 1;
+}

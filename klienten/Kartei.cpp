@@ -1,0 +1,339 @@
+#include "Kartei.h"
+
+#include <QElapsedTimer>
+
+#include <algorithm>
+#include <utility>
+
+namespace {
+
+/// A server that was started anew is there after some seconds. Asking one that does not answer
+/// holds the windows up, so nine tenths of the time they are left in peace.
+constexpr int wartezeit = 5000; // milliseconds
+constexpr int ruhe = 9;
+
+/// Whether the hindrance may be gone by itself the next time.
+bool vergehtVielleicht(Hindernis hindernis)
+{
+    switch (hindernis) {
+    case Hindernis::Verwehrt:
+    case Hindernis::Gesperrt:
+    case Hindernis::Getrennt:
+    case Hindernis::Sonstiges:
+        return true;
+    default:
+        return false;
+    }
+}
+
+template <typename Art>
+void lege(QList<Art> &saetze, const Art &satz)
+{
+    const auto stelle = std::find_if(saetze.begin(), saetze.end(), [&](const Art &einer) {
+        return einer.kennung == satz.kennung;
+    });
+    if (stelle != saetze.end()) {
+        *stelle = satz;
+    } else {
+        saetze << satz;
+    }
+    std::stable_sort(saetze.begin(), saetze.end(),
+                     [](const Art &a, const Art &b) { return a.datum < b.datum; });
+}
+
+} // namespace
+
+QString kennung(const Satz &satz)
+{
+    return std::visit([](const auto &einer) { return einer.kennung; }, satz);
+}
+
+Kartei::Kartei(Speichermacher macher) : m_macher(std::move(macher)), m_speicher(m_macher())
+{
+    m_uhr.setInterval(wartezeit);
+    connect(&m_uhr, &QTimer::timeout, this, &Kartei::versucheNochmals);
+}
+
+bool Kartei::beginneNeu()
+{
+    if (!m_vorgemerkt.isEmpty()) {
+        return false;
+    }
+    m_geloescht.reset();
+    m_speicher = m_macher();
+    m_liste.setze(QList<Personenzeile>());
+    lade();
+    return true;
+}
+
+bool Kartei::beschreibbar() const
+{
+    return m_hindernis || vergehtVielleicht(m_hindernis.hindernis);
+}
+
+/// A store of a newer version can be read all the same, and what stands in the way is said.
+void Kartei::lade()
+{
+    QList<Personenzeile> personen;
+    const Ausgang geoeffnet = m_speicher->oeffne();
+    const Ausgang gelesen = m_speicher->personen(personen);
+    merkeHindernis(gelesen ? geoeffnet : gelesen);
+    if (!gelesen) {
+        return;
+    }
+    m_liste.setze(personen);
+    for (const Schreibwunsch &wunsch : std::as_const(m_vorgemerkt)) {
+        if (const auto *person = std::get_if<Person>(&wunsch.neu)) {
+            zeigeInListe(*person);
+        }
+    }
+    Q_EMIT listeGeaendert();
+}
+
+std::optional<Klientenakte> Kartei::akte(const QString &kennung)
+{
+    std::optional<Klientenakte> akte;
+    const Ausgang gelesen = m_speicher->akte(kennung, akte);
+    if (!gelesen) {
+        merkeHindernis(gelesen);
+        return std::nullopt;
+    }
+    if (!akte) {
+        // A client who was only just entered, and waits to be written.
+        akte = Klientenakte{};
+        akte->person.kennung = kennung;
+        ueberlagere(*akte);
+        return akte->person.name.isEmpty() ? std::nullopt : akte;
+    }
+    ueberlagere(*akte);
+    return akte;
+}
+
+void Kartei::ueberlagere(Klientenakte &akte) const
+{
+    for (const Schreibwunsch &wunsch : m_vorgemerkt) {
+        if (wunsch.person != akte.person.kennung) {
+            continue;
+        }
+        if (const auto *person = std::get_if<Person>(&wunsch.neu)) {
+            akte.person = *person;
+        } else if (const auto *besuch = std::get_if<Besuch>(&wunsch.neu)) {
+            lege(akte.besuche, *besuch);
+        } else if (const auto *plan = std::get_if<Planablage>(&wunsch.neu)) {
+            lege(akte.plaene, *plan);
+        }
+    }
+}
+
+QString Kartei::sichere(Schreibwunsch wunsch)
+{
+    std::visit(
+        [&](auto &satz) {
+            if (satz.kennung.isNull()) {
+                satz.kennung = neueKennung();
+            }
+        },
+        wunsch.neu);
+    const QString schluessel = kennung(wunsch.neu);
+    if (std::holds_alternative<Person>(wunsch.neu)) {
+        wunsch.person = schluessel;
+    }
+    const auto wartender =
+        std::find_if(m_vorgemerkt.begin(), m_vorgemerkt.end(),
+                     [&](const Schreibwunsch &einer) { return kennung(einer.neu) == schluessel; });
+    if (wartender != m_vorgemerkt.end()) {
+        wunsch.alt = wartender->alt;
+        m_vorgemerkt.erase(wartender);
+    }
+    folge(schreibe(wunsch), wunsch);
+    return schluessel;
+}
+
+Schreibausgang Kartei::schreibe(Schreibwunsch &wunsch)
+{
+    if (auto *person = std::get_if<Person>(&wunsch.neu)) {
+        return m_speicher->sichere(*person);
+    }
+    if (auto *besuch = std::get_if<Besuch>(&wunsch.neu)) {
+        return m_speicher->sichere(wunsch.person, *besuch);
+    }
+    return m_speicher->sichere(wunsch.person, std::get<Planablage>(wunsch.neu));
+}
+
+void Kartei::folge(const Schreibausgang &ausgang, const Schreibwunsch &wunsch)
+{
+    switch (ausgang.art) {
+    case Schreibausgang::Art::Gelungen:
+        merkeHindernis({});
+        if (const auto *person = std::get_if<Person>(&wunsch.neu)) {
+            zeigeInListe(*person);
+            Q_EMIT listeGeaendert();
+        }
+        Q_EMIT akteGeaendert(wunsch.person);
+        break;
+    case Schreibausgang::Art::Ueberholt: {
+        const std::optional<Satz> anderes = std::visit(
+            [&](const auto &satz) -> std::optional<Satz> {
+                std::optional<std::decay_t<decltype(satz)>> jetziger;
+                m_speicher->lies(satz.kennung, jetziger);
+                return jetziger ? std::optional<Satz>(*jetziger) : std::nullopt;
+            },
+            wunsch.neu);
+        if (anderes) {
+            Q_EMIT kollidiert({wunsch, *anderes});
+        } else {
+            merkeVor(wunsch); // gone meanwhile, or not to be read: the next try will tell
+        }
+        break;
+    }
+    case Schreibausgang::Art::Verschwunden:
+        Q_EMIT verschwunden(wunsch);
+        break;
+    case Schreibausgang::Art::Nichtgelungen:
+        merkeVor(wunsch);
+        merkeHindernis(ausgang.hindernis);
+        Q_EMIT akteGeaendert(wunsch.person);
+        break;
+    }
+}
+
+void Kartei::merkeVor(const Schreibwunsch &wunsch)
+{
+    m_vorgemerkt << wunsch;
+    if (const auto *person = std::get_if<Person>(&wunsch.neu)) {
+        zeigeInListe(*person);
+        Q_EMIT listeGeaendert();
+    }
+    m_uhr.start();
+}
+
+/// Those of one client are written in the order in which they came: the client before the visits.
+void Kartei::versucheNochmals()
+{
+    m_uhr.stop();
+    QElapsedTimer dauer;
+    dauer.start();
+    const QList<Schreibwunsch> wartende = std::exchange(m_vorgemerkt, {});
+    for (qsizetype i = 0; i < wartende.size(); ++i) {
+        Schreibwunsch wunsch = wartende[i];
+        folge(schreibe(wunsch), wunsch);
+        if (!m_hindernis) {
+            m_vorgemerkt << wartende.sliced(i + 1); // one answer is enough
+            break;
+        }
+    }
+    if (wartende.isEmpty() && !m_hindernis) {
+        lade();
+    }
+    m_uhr.setInterval(std::max(wartezeit, ruhe * static_cast<int>(dauer.elapsed())));
+}
+
+void Kartei::entscheide(const Kollision &kollision, const Satz &entschieden)
+{
+    Schreibwunsch wunsch = {kollision.meines.person, entschieden, kollision.anderes};
+    std::visit(
+        [&](auto &satz) {
+            satz.fassung = std::get<std::decay_t<decltype(satz)>>(kollision.anderes).fassung;
+        },
+        wunsch.neu);
+    sichere(wunsch);
+}
+
+void Kartei::verzichte(const Schreibwunsch &wunsch)
+{
+    m_vorgemerkt.removeIf(
+        [&](const Schreibwunsch &einer) { return kennung(einer.neu) == kennung(wunsch.neu); });
+    lade();
+    Q_EMIT akteGeaendert(wunsch.person);
+}
+
+bool Kartei::loesche(const Klientenakte &akte)
+{
+    const QString schluessel = akte.person.kennung;
+    const Schreibausgang ausgang = m_speicher->loesche(schluessel);
+    merkeHindernis(ausgang.hindernis);
+    if (!ausgang) {
+        return false;
+    }
+    m_vorgemerkt.removeIf([&](const Schreibwunsch &einer) { return einer.person == schluessel; });
+    m_geloescht = Geloeschtes{schluessel, akte};
+    m_liste.entferne(schluessel);
+    Q_EMIT listeGeaendert();
+    Q_EMIT akteGeaendert(schluessel);
+    return true;
+}
+
+bool Kartei::loesche(const QString &person, const Satz &satz)
+{
+    Schreibausgang ausgang;
+    if (const auto *besuch = std::get_if<Besuch>(&satz)) {
+        ausgang = m_speicher->loesche(*besuch);
+    } else if (const auto *plan = std::get_if<Planablage>(&satz)) {
+        ausgang = m_speicher->loesche(*plan);
+    }
+    merkeHindernis(ausgang.hindernis);
+    if (ausgang) {
+        m_geloescht = Geloeschtes{person, satz};
+    }
+    Q_EMIT akteGeaendert(person); // another desk may have changed it, which is seen then
+    return static_cast<bool>(ausgang);
+}
+
+/// A record that comes back is new to the store, under its key.
+bool Kartei::holeZurueck()
+{
+    if (!m_geloescht) {
+        return false;
+    }
+    const Geloeschtes geloescht = *m_geloescht;
+    Schreibausgang ausgang;
+    if (const auto *akte = std::get_if<Klientenakte>(&geloescht.was)) {
+        ausgang = nimmAuf(*akte);
+    } else {
+        Schreibwunsch wunsch = {geloescht.person, std::get<Satz>(geloescht.was)};
+        std::visit([](auto &satz) { satz.fassung = 0; }, wunsch.neu);
+        ausgang = schreibe(wunsch);
+        merkeHindernis(ausgang.hindernis);
+        Q_EMIT akteGeaendert(geloescht.person);
+    }
+    if (ausgang) {
+        m_geloescht.reset();
+    }
+    return static_cast<bool>(ausgang);
+}
+
+void Kartei::vergiss()
+{
+    m_geloescht.reset();
+}
+
+Schreibausgang Kartei::nimmAuf(const Klientenakte &akte)
+{
+    const Schreibausgang ausgang = m_speicher->nimmAuf(akte);
+    merkeHindernis(ausgang.hindernis);
+    if (ausgang) {
+        zeigeInListe(akte.person);
+        Q_EMIT listeGeaendert();
+        Q_EMIT akteGeaendert(akte.person.kennung);
+    }
+    return ausgang;
+}
+
+void Kartei::zeigeInListe(const Person &person)
+{
+    m_liste.setze(Personenzeile{person.kennung, person.name, person.nummer, person.geburt,
+                                person.archiviert});
+}
+
+/// What waits is tried again as long as it may help.
+void Kartei::merkeHindernis(const Ausgang &ausgang)
+{
+    const bool anderes = m_hindernis.hindernis != ausgang.hindernis;
+    m_hindernis = ausgang;
+    if (!ausgang && vergehtVielleicht(ausgang.hindernis)) {
+        m_uhr.start();
+    }
+    if (anderes) {
+        Q_EMIT hindernisGeaendert();
+    }
+}

@@ -1,0 +1,322 @@
+// The cabinet: what is entered is kept or waits, whatever happens to the store; two desks are told
+// of each other.
+
+#include "Kartei.h"
+#include "Pruefspeicher.h"
+
+#include <QSignalSpy>
+#include <QTest>
+
+class TestKartei : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void initTestCase_data() { Pruefspeicher::zeilen(); }
+    void init();
+    void cleanup();
+
+    void aNewClientGetsAKeyAndStandsInTheList();
+    void aVisitIsToldOfToWhoeverShowsTheClient();
+    void whileTheServerIsAwayWhatIsEnteredWaits();
+    void aClientWhoWaitsCanBeShownAndGivenAVisit();
+    void whatWaitsIsChangedAndNotDoubled();
+    void whileSomethingWaitsTheStoreIsNotChanged();
+    void theSecondDeskIsToldAndChooses();
+    void whatTheUserGivesUpIsNotWritten();
+    void whatAnotherDeskDeletedIsToldOf();
+    void aDeletedClientComesBackWhole();
+    void aDeletedVisitComesBack();
+    void onlyTheLastDeletionComesBack();
+    void afterForgettingNothingComesBack();
+    void aVisitThatAnotherDeskChangedIsNotDeleted();
+    void whoIsHereAlreadyIsNotTakenInAgain();
+
+private:
+    QString angelegt(const QString &name);
+    Klientenakte akte(const QString &kennung) { return m_kartei->akte(kennung).value(); }
+    QString neuerBesuch(const QString &kennung, double gewicht, const QDate &tag);
+
+    Pruefspeicher m_speicher;
+    std::unique_ptr<Kartei> m_kartei;
+};
+
+Q_DECLARE_METATYPE(Kollision)
+Q_DECLARE_METATYPE(Schreibwunsch)
+
+void TestKartei::init()
+{
+    m_speicher.beginne();
+    m_kartei = std::make_unique<Kartei>([this] { return m_speicher.tisch(); });
+    m_kartei->lade();
+}
+
+void TestKartei::cleanup()
+{
+    m_kartei.reset();
+}
+
+QString TestKartei::angelegt(const QString &name)
+{
+    return m_kartei->sichere({QString(), namens(name), {}});
+}
+
+QString TestKartei::neuerBesuch(const QString &kennung, double gewicht, const QDate &tag)
+{
+    Besuch besuch;
+    besuch.datum = tag;
+    besuch.gewicht = gewicht;
+    return m_kartei->sichere({kennung, besuch, {}});
+}
+
+void TestKartei::aNewClientGetsAKeyAndStandsInTheList()
+{
+    const QSignalSpy liste(m_kartei.get(), &Kartei::listeGeaendert);
+    const QString kennung = angelegt(QStringLiteral("Anna"));
+    QVERIFY(!kennung.isEmpty());
+    QCOMPARE(liste.count(), 1);
+    QCOMPARE(m_kartei->liste().suche({}, false).size(), 1);
+    QCOMPARE(m_kartei->liste().suche({}, false).constFirst().kennung, kennung);
+    QCOMPARE(akte(kennung).person.fassung, 1);
+    Kartei andere([this] { return m_speicher.tisch(); });
+    andere.lade();
+    QCOMPARE(andere.liste().suche({}, false).constFirst().name, QStringLiteral("Anna"));
+}
+
+void TestKartei::aVisitIsToldOfToWhoeverShowsTheClient()
+{
+    const QString kennung = angelegt(QStringLiteral("Anna"));
+    const QSignalSpy gesagt(m_kartei.get(), &Kartei::akteGeaendert);
+    neuerBesuch(kennung, 80, QDate(2026, 11, 23));
+    QCOMPARE(gesagt.count(), 1);
+    QCOMPARE(gesagt.constFirst().constFirst().toString(), kennung);
+    QCOMPARE(akte(kennung).besuche.constFirst().gewicht, 80.0);
+}
+
+void TestKartei::whileTheServerIsAwayWhatIsEnteredWaits()
+{
+    if (!m_speicher.istServer()) {
+        QSKIP("A file is never away.");
+    }
+    const QString kennung = angelegt(QStringLiteral("Anna"));
+    const QSignalSpy hindernis(m_kartei.get(), &Kartei::hindernisGeaendert);
+    m_speicher.server().halteAn();
+    const Person vorher = namens(QStringLiteral("Anna"));
+    Person neu = vorher;
+    neu.kennung = kennung;
+    neu.fassung = 1;
+    neu.name = QStringLiteral("Anna Muster");
+    m_kartei->sichere({kennung, neu, Satz(vorher)});
+    QCOMPARE(m_kartei->vorgemerkt(), 1);
+    QCOMPARE(m_kartei->hindernis().hindernis, Hindernis::Getrennt);
+    QCOMPARE(hindernis.count(), 1);
+    QVERIFY(m_kartei->beschreibbar());
+    QCOMPARE(m_kartei->liste().suche({}, false).constFirst().name, QStringLiteral("Anna Muster"));
+    m_kartei->versucheNochmals();
+    QCOMPARE(m_kartei->vorgemerkt(), 1);
+    m_speicher.server().starte();
+    m_kartei->versucheNochmals();
+    QCOMPARE(m_kartei->vorgemerkt(), 0);
+    QCOMPARE(m_kartei->hindernis().hindernis, Hindernis::Keines);
+    QCOMPARE(hindernis.count(), 2);
+    QCOMPARE(akte(kennung).person.name, QStringLiteral("Anna Muster"));
+    QCOMPARE(akte(kennung).person.fassung, 2);
+}
+
+void TestKartei::aClientWhoWaitsCanBeShownAndGivenAVisit()
+{
+    if (!m_speicher.istServer()) {
+        QSKIP("A file is never away.");
+    }
+    angelegt(QStringLiteral("Zoe")); // so that the tables are there
+    m_speicher.server().halteAn();
+    const QString kennung = angelegt(QStringLiteral("Anna"));
+    neuerBesuch(kennung, 80, QDate(2026, 11, 23));
+    QCOMPARE(m_kartei->vorgemerkt(), 2);
+    m_speicher.server().starte();
+    QCOMPARE(akte(kennung).person.name, QStringLiteral("Anna"));
+    QCOMPARE(akte(kennung).besuche.size(), 1);
+    m_kartei->versucheNochmals();
+    QCOMPARE(m_kartei->vorgemerkt(), 0);
+    QCOMPARE(akte(kennung).besuche.constFirst().gewicht, 80.0);
+}
+
+void TestKartei::whatWaitsIsChangedAndNotDoubled()
+{
+    if (!m_speicher.istServer()) {
+        QSKIP("A file is never away.");
+    }
+    angelegt(QStringLiteral("Zoe"));
+    m_speicher.server().halteAn();
+    const QString kennung = angelegt(QStringLiteral("Anna"));
+    Person neu = namens(QStringLiteral("Anna Muster"));
+    neu.kennung = kennung;
+    QCOMPARE(m_kartei->sichere({kennung, neu, {}}), kennung);
+    QCOMPARE(m_kartei->vorgemerkt(), 1);
+    m_speicher.server().starte();
+    m_kartei->versucheNochmals();
+    QCOMPARE(m_kartei->liste().suche({}, false).size(), 2);
+    QCOMPARE(akte(kennung).person.name, QStringLiteral("Anna Muster"));
+    QCOMPARE(akte(kennung).person.fassung, 1);
+}
+
+void TestKartei::whileSomethingWaitsTheStoreIsNotChanged()
+{
+    if (!m_speicher.istServer()) {
+        QSKIP("A file is never away.");
+    }
+    QVERIFY(m_kartei->beginneNeu());
+    angelegt(QStringLiteral("Anna"));
+    m_speicher.server().halteAn();
+    angelegt(QStringLiteral("Berta"));
+    QVERIFY(!m_kartei->beginneNeu());
+    QCOMPARE(m_kartei->vorgemerkt(), 1);
+    m_speicher.server().starte();
+    m_kartei->versucheNochmals();
+    QVERIFY(m_kartei->beginneNeu());
+    QCOMPARE(m_kartei->liste().anzahl(), 2);
+}
+
+void TestKartei::theSecondDeskIsToldAndChooses()
+{
+    const QString kennung = angelegt(QStringLiteral("Anna"));
+    const Person gelesen = akte(kennung).person;
+    Person anderes = gelesen;
+    anderes.nummer = QStringLiteral("17");
+    QVERIFY(m_speicher.tisch()->sichere(anderes));
+
+    std::optional<Kollision> kollision;
+    connect(m_kartei.get(), &Kartei::kollidiert, this,
+            [&](const Kollision &eine) { kollision = eine; });
+    Person meines = gelesen;
+    meines.name = QStringLiteral("Anna Muster");
+    m_kartei->sichere({kennung, meines, Satz(gelesen)});
+    QVERIFY(kollision.has_value());
+    QCOMPARE(std::get<Person>(kollision->anderes).nummer, QStringLiteral("17"));
+    QCOMPARE(std::get<Person>(kollision->meines.neu).name, QStringLiteral("Anna Muster"));
+    QCOMPARE(akte(kennung).person.name, QStringLiteral("Anna"));
+
+    Person beide = std::get<Person>(kollision->anderes);
+    beide.name = QStringLiteral("Anna Muster");
+    m_kartei->entscheide(*kollision, beide);
+    QCOMPARE(akte(kennung).person.name, QStringLiteral("Anna Muster"));
+    QCOMPARE(akte(kennung).person.nummer, QStringLiteral("17"));
+    QCOMPARE(akte(kennung).person.fassung, 3);
+}
+
+void TestKartei::whatTheUserGivesUpIsNotWritten()
+{
+    const QString kennung = angelegt(QStringLiteral("Anna"));
+    const Person gelesen = akte(kennung).person;
+    Person anderes = gelesen;
+    anderes.name = QStringLiteral("Anders");
+    QVERIFY(m_speicher.tisch()->sichere(anderes));
+    std::optional<Kollision> kollision;
+    connect(m_kartei.get(), &Kartei::kollidiert, this,
+            [&](const Kollision &eine) { kollision = eine; });
+    Person meines = gelesen;
+    meines.name = QStringLiteral("Meine");
+    m_kartei->sichere({kennung, meines, Satz(gelesen)});
+    m_kartei->verzichte(kollision.value().meines);
+    QCOMPARE(akte(kennung).person.name, QStringLiteral("Anders"));
+    QCOMPARE(m_kartei->liste().suche({}, false).constFirst().name, QStringLiteral("Anders"));
+}
+
+void TestKartei::whatAnotherDeskDeletedIsToldOf()
+{
+    const QString kennung = angelegt(QStringLiteral("Anna"));
+    const Person gelesen = akte(kennung).person;
+    QVERIFY(m_speicher.tisch()->loesche(kennung));
+    std::optional<Schreibwunsch> wunsch;
+    connect(m_kartei.get(), &Kartei::verschwunden, this,
+            [&](const Schreibwunsch &einer) { wunsch = einer; });
+    Person meines = gelesen;
+    meines.name = QStringLiteral("Anna Muster");
+    m_kartei->sichere({kennung, meines, Satz(gelesen)});
+    QVERIFY(wunsch.has_value());
+    QCOMPARE(kennung, wunsch->person);
+    QVERIFY(!m_kartei->akte(kennung));
+    QCOMPARE(m_kartei->vorgemerkt(), 0);
+}
+
+void TestKartei::aDeletedClientComesBackWhole()
+{
+    const QString kennung = angelegt(QStringLiteral("Anna"));
+    neuerBesuch(kennung, 80, QDate(2026, 11, 23));
+    const Klientenakte vorher = akte(kennung);
+    QVERIFY(!m_kartei->kannZurueckholen());
+    QVERIFY(m_kartei->loesche(vorher));
+    QVERIFY(!m_kartei->akte(kennung));
+    QCOMPARE(m_kartei->liste().anzahl(), 0);
+    QVERIFY(m_kartei->kannZurueckholen());
+    QVERIFY(m_kartei->holeZurueck());
+    QVERIFY(akte(kennung) == vorher);
+    QCOMPARE(m_kartei->liste().anzahl(), 1);
+    QVERIFY(!m_kartei->kannZurueckholen());
+}
+
+void TestKartei::aDeletedVisitComesBack()
+{
+    const QString kennung = angelegt(QStringLiteral("Anna"));
+    neuerBesuch(kennung, 80, QDate(2026, 11, 23));
+    const Besuch besuch = akte(kennung).besuche.constFirst();
+    QVERIFY(m_kartei->loesche(kennung, besuch));
+    QVERIFY(akte(kennung).besuche.isEmpty());
+    QVERIFY(m_kartei->holeZurueck());
+    QCOMPARE(akte(kennung).besuche.constFirst().kennung, besuch.kennung);
+    QCOMPARE(akte(kennung).besuche.constFirst().gewicht, 80.0);
+}
+
+void TestKartei::onlyTheLastDeletionComesBack()
+{
+    const QString anna = angelegt(QStringLiteral("Anna"));
+    const QString berta = angelegt(QStringLiteral("Berta"));
+    QVERIFY(m_kartei->loesche(akte(anna)));
+    QVERIFY(m_kartei->loesche(akte(berta)));
+    QVERIFY(m_kartei->holeZurueck());
+    QVERIFY(!m_kartei->holeZurueck());
+    QVERIFY(m_kartei->akte(berta).has_value());
+    QVERIFY(!m_kartei->akte(anna));
+}
+
+void TestKartei::afterForgettingNothingComesBack()
+{
+    const QString anna = angelegt(QStringLiteral("Anna"));
+    QVERIFY(m_kartei->loesche(akte(anna)));
+    m_kartei->vergiss();
+    QVERIFY(!m_kartei->kannZurueckholen());
+    QVERIFY(!m_kartei->holeZurueck());
+    QVERIFY(!m_kartei->akte(anna));
+}
+
+void TestKartei::aVisitThatAnotherDeskChangedIsNotDeleted()
+{
+    const QString kennung = angelegt(QStringLiteral("Anna"));
+    neuerBesuch(kennung, 80, QDate(2026, 11, 23));
+    const Besuch gesehen = akte(kennung).besuche.constFirst();
+    Besuch anderer = gesehen;
+    anderer.gewicht = 79;
+    QVERIFY(m_speicher.tisch()->sichere(kennung, anderer));
+    QVERIFY(!m_kartei->loesche(kennung, gesehen));
+    QCOMPARE(akte(kennung).besuche.constFirst().gewicht, 79.0);
+    QVERIFY(!m_kartei->kannZurueckholen());
+}
+
+void TestKartei::whoIsHereAlreadyIsNotTakenInAgain()
+{
+    const QString kennung = angelegt(QStringLiteral("Anna"));
+    Klientenakte fremde = akte(kennung);
+    fremde.person.name = QStringLiteral("Eine andere");
+    QCOMPARE(m_kartei->nimmAuf(fremde).art, Schreibausgang::Art::Ueberholt);
+    QCOMPARE(akte(kennung).person.name, QStringLiteral("Anna"));
+    Klientenakte neue;
+    neue.person = namens(QStringLiteral("Berta"));
+    neue.person.kennung = neueKennung();
+    neue.person.fassung = 4;
+    QVERIFY(m_kartei->nimmAuf(neue));
+    QCOMPARE(m_kartei->liste().anzahl(), 2);
+    QVERIFY(akte(neue.person.kennung) == neue);
+}
+
+QTEST_GUILESS_MAIN(TestKartei)
+#include "TestKartei.moc"
