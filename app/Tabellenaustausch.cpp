@@ -240,10 +240,10 @@ Planliste Tabellenaustausch::plan() const
 Csv::Tabelle Tabellenaustausch::tabelleDesPlans() const
 {
     const Planliste zeilen = plan();
-    QList<Planposten> posten;
+    QList<Plantabellenzeile> posten;
     for (qsizetype i = 0; i < zeilen.PlanArray.size(); ++i) {
-        posten << Planposten{zeilen.PlanArray[i], zeilen.mengenarray[i],
-                             lebensmittel(zeilen.PlanArray[i])};
+        posten << Plantabellenzeile{zeilen.PlanArray[i], zeilen.mengenarray[i],
+                                    lebensmittel(zeilen.PlanArray[i])};
     }
     return plantabelle(posten);
 }

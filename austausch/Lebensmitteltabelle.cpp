@@ -64,14 +64,14 @@ Csv::Tabelle lebensmitteltabelle(const QList<Datenmodul> &lebensmittel)
     return tabelle;
 }
 
-Csv::Tabelle plantabelle(const QList<Planposten> &posten)
+Csv::Tabelle plantabelle(const QList<Plantabellenzeile> &posten)
 {
     const QStringList werte = werteUndWertungen();
     Csv::Tabelle tabelle;
     tabelle.spalten << inWorten(Spaltensinn{.art = Art::Name})
                     << QStringLiteral("%1 (g)").arg(localizedString(QStringLiteral("Menge")))
                     << werte;
-    for (const Planposten &eine : posten) {
+    for (const Plantabellenzeile &eine : posten) {
         QList<Csv::Zelle> zellen = {localizedString(eine.name), eine.gramm};
         zellen += eine.lebensmittel != nullptr
                       ? werteUndWertungen(*eine.lebensmittel, eine.gramm / 100.0F)

@@ -12,7 +12,7 @@
 Csv::Tabelle lebensmitteltabelle(const QList<Datenmodul> &lebensmittel);
 
 /// A row of a meal plan as it goes out.
-struct Planposten
+struct Plantabellenzeile
 {
     QString name;
     float gramm = 0;
@@ -21,4 +21,4 @@ struct Planposten
 
 /// A plan as a table: the foods under their shown names, the grams, and the values for so much of
 /// them. A food that no table has leaves its values empty.
-Csv::Tabelle plantabelle(const QList<Planposten> &posten);
+Csv::Tabelle plantabelle(const QList<Plantabellenzeile> &posten);
