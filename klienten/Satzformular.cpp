@@ -93,6 +93,16 @@ void Satzformular::verbinde(QWidget *feld)
     }
 }
 
+/// A new record that has got its key is the same as before.
+void Satzformular::beginne(const QString &kennung)
+{
+    if (m_kennung != kennung && !m_kennung.isNull()) {
+        m_gezeigt.clear();
+        m_fehlerhaft.clear();
+    }
+    m_kennung = kennung;
+}
+
 QWidget *Satzformular::feld(const QString &spalte) const
 {
     return m_seite.findChild<QWidget *>(spalte);
@@ -121,7 +131,7 @@ void Satzformular::zeigeFeld(const QString &spalte, const QVariant &wert)
     }
     const QScopedValueRollback stellt(m_stellt, true);
     const bool derselbe = m_gezeigt.contains(spalte) && m_gezeigt.value(spalte) == wert;
-    if (derselbe && ziel->hasFocus()) {
+    if (derselbe && (ziel->hasFocus() || m_fehlerhaft.contains(spalte))) {
         return;
     }
     m_gezeigt[spalte] = wert;
@@ -176,6 +186,11 @@ bool Satzformular::liesFeld(const QString &spalte, const char *name, const QDate
 
 void Satzformular::sageFehler(const QString &spalte, const QString &worte)
 {
+    if (worte.isEmpty()) {
+        m_fehlerhaft.remove(spalte);
+    } else {
+        m_fehlerhaft.insert(spalte);
+    }
     if (auto *ziel = m_seite.findChild<QLabel *>(spalte + QStringLiteral("Fehler"))) {
         ziel->setText(worte);
     }

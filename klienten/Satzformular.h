@@ -5,6 +5,7 @@
 #include <QDate>
 #include <QHash>
 #include <QObject>
+#include <QSet>
 #include <QTimer>
 
 #include <functional>
@@ -22,17 +23,15 @@ class Satzformular : public QObject
     Q_OBJECT
 
 public:
-    /// What a word about a field of a record is made of; empty: nothing is wrong.
-    using Fehlerworte = QHash<QString, QString>;
-
     /// The page outlives this object.
     explicit Satzformular(QWidget &seite);
 
-    /// Shows a record. Where the user is typing, the field keeps what was typed as long as the
-    /// record in it stayed the same.
+    /// Shows a record. Where the user is typing, or has typed what can't be kept, the field keeps
+    /// that as long as the same record says the same there.
     template <typename Satz>
     void zeige(const Satz &satz)
     {
+        beginne(satz.kennung);
         for (const Satzspalte<Satz> &spalte : spalten<Satz>()) {
             zeigeFeld(QLatin1String(spalte.name), spalte.lies(satz));
         }
@@ -71,12 +70,15 @@ Q_SIGNALS:
 
 private:
     void verbinde(QWidget *feld);
+    void beginne(const QString &kennung);
     void zeigeFeld(const QString &spalte, const QVariant &wert);
     bool liesFeld(const QString &spalte, const char *name, const QDate &heute, QVariant &wert);
     QWidget *feld(const QString &spalte) const;
 
     QWidget &m_seite;
+    QString m_kennung;                  ///< key of the record; null for a new one
     QHash<QString, QVariant> m_gezeigt; ///< what the record held in each field
+    QSet<QString> m_fehlerhaft;         ///< fields that hold what can't be kept
     QTimer m_pause;                     ///< behind the last letter of a note
     bool m_stellt = false;              ///< what changes now is no entry of the user's
 };

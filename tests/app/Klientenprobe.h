@@ -5,6 +5,7 @@
 #include <QApplication>
 #include <QCheckBox>
 #include <QComboBox>
+#include <QKeyEvent>
 #include <QLabel>
 #include <QTest>
 
@@ -23,6 +24,8 @@ public:
     /// Opens the window with its key.
     void oeffne()
     {
+        m_programm->Hauptfenster->activateWindow();
+        QVERIFY(QTest::qWaitForWindowActive(m_programm->Hauptfenster));
         QTest::keyClick(m_programm->Hauptfenster, Qt::Key_K, Qt::ControlModifier);
         QVERIFY(anschluss().offenes() != nullptr);
         QVERIFY(QTest::qWaitForWindowActive(&fenster()));
@@ -34,7 +37,10 @@ public:
         feld->setFocus();
         feld->selectAll();
         QTest::keyClick(feld, Qt::Key_Delete);
-        QTest::keyClicks(feld, text);
+        for (const QChar zeichen : text) { // keys of any keyboard
+            QKeyEvent taste(QEvent::KeyPress, 0, Qt::NoModifier, zeichen);
+            QApplication::sendEvent(feld, &taste);
+        }
         QTest::keyClick(feld, Qt::Key_Tab);
     }
 

@@ -51,7 +51,9 @@ private:
 void TestKlientenfenster::init()
 {
     m_heim = std::make_unique<Probeheim>();
-    m_heim->schreibeTabelle({});
+    Datenmodul apfel;
+    apfel.setName(u"Apfel"_s);
+    m_heim->schreibeTabelle({{u"Apfel"_s, apfel}});
     m_probe = std::make_unique<Klientenprobe>(*m_heim);
     m_probe->oeffne();
 }
