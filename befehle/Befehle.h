@@ -7,7 +7,7 @@
 #include <QString>
 
 /// With what the program ends.
-enum Ausgang { Erledigt = 0, Misslungen = 1, FalscherAufruf = 2 };
+enum Ausgangscode { Erledigt = 0, Misslungen = 1, FalscherAufruf = 2 };
 
 /// What the program says to a command line.
 struct Antwort

@@ -1,6 +1,7 @@
 #include "Feldworte.h"
 
 #include "Planpostentext.h"
+#include "Sportworte.h"
 #include "Zahlenform.h"
 #include "Zeichenkettentabelle.h"
 
@@ -27,6 +28,11 @@ QString anzahlZeilen(const QVariant &wert)
 {
     const std::optional<QList<Planposten>> posten = postenAusText(wert.toString().toUtf8());
     return posten ? QString::number(posten->size()) : QString();
+}
+
+QString sport(const QVariant &wert)
+{
+    return sportworte(wert.toString());
 }
 
 QString text(const QVariant &wert)
@@ -70,6 +76,7 @@ constexpr std::array feldformen = {
     Feldform{"huefte", zahl<1>, "cm"},
     Feldform{"aktivitaet", wahl<aktivitaetsworte>},
     Feldform{"reduktion", ja},
+    Feldform{"sport", sport},
     Feldform{"sportdauer", zahl<1>, "h"},
     Feldform{"posten", anzahlZeilen},
 };

@@ -205,6 +205,29 @@
  </message>
 </context>
 <context>
+ <name>FortschrittsblattGestalt</name>
+ <message>
+  <source>&amp;Pläne</source>
+  <translation>&amp;Plans</translation>
+ </message>
+ <message>
+  <source>&amp;Von</source>
+  <translation>F&amp;rom</translation>
+ </message>
+ <message>
+  <source>B&amp;esuche</source>
+  <translation>Vi&amp;sits</translation>
+ </message>
+ <message>
+  <source>B&amp;is</source>
+  <translation>T&amp;o</translation>
+ </message>
+ <message>
+  <source>Vergleich</source>
+  <translation>Comparison</translation>
+ </message>
+</context>
+<context>
  <name>HauptfensterGestalt</name>
  <message>
   <source>1 BE entspricht 12 g Kohlenhydraten; über 5,4 BE rot</source>
@@ -836,6 +859,10 @@ Nothing is worked out for children under 10 years; it resumes at 11 years.</tr
 <context>
  <name>Mahlberg</name>
  <message>
+  <source>%1 %-Punkte</source>
+  <translation>%1 % points</translation>
+ </message>
+ <message>
   <source>%1 &amp;Namen sind unter den eigenen schon vergeben:</source>
   <translation>%1 &amp;names are taken among the own foods:</translation>
  </message>
@@ -864,6 +891,18 @@ Nothing is worked out for children under 10 years; it resumes at 11 years.</tr
   <translation>%1 foods, written on %2.</translation>
  </message>
  <message>
+  <source>%1 Punkte</source>
+  <translation>%1 points</translation>
+ </message>
+ <message>
+  <source>%1 Tage</source>
+  <translation>%1 days</translation>
+ </message>
+ <message>
+  <source>%1 Tage (%2 Wochen)</source>
+  <translation>%1 days (%2 weeks)</translation>
+ </message>
+ <message>
   <source>%1 zu viel</source>
   <translation>%1 too much</translation>
  </message>
@@ -880,8 +919,16 @@ Nothing is worked out for children under 10 years; it resumes at 11 years.</tr
   <translation>%1: %2 %3 in 100 g are more than 100 g.</translation>
  </message>
  <message>
+  <source>%1: %2 Messungen, zuerst %3 am %4, zuletzt %5 am %6, %7.</source>
+  <translation>%1: %2 measurements, first %3 on %4, last %5 on %6, %7.</translation>
+ </message>
+ <message>
   <source>%1: %2 ist weniger als nichts.</source>
   <translation>%1: %2 is less than nothing.</translation>
+ </message>
+ <message>
+  <source>%1: eine Messung, %2 am %3.</source>
+  <translation>%1: one measurement, %2 on %3.</translation>
  </message>
  <message>
   <source>%1: „%2“ ist keine Wertung; es gibt +, 0 und -.</source>
@@ -1016,8 +1063,16 @@ Nothing is worked out for children under 10 years; it resumes at 11 years.</tr
   <translation>1 point</translation>
  </message>
  <message>
+  <source>1 Tag</source>
+  <translation>1 day</translation>
+ </message>
+ <message>
   <source>100 g</source>
   <translation>100 g</translation>
+ </message>
+ <message>
+  <source>7 Tage (1 Woche)</source>
+  <translation>7 days (1 week)</translation>
  </message>
  <message>
   <source>Als &amp;Tabelle kopieren</source>
@@ -1046,6 +1101,10 @@ Nothing is worked out for children under 10 years; it resumes at 11 years.</tr
  <message>
   <source>Als Tabelle sichern</source>
   <translation>Save as table</translation>
+ </message>
+ <message>
+  <source>Andere Lebensmittel und Mengen</source>
+  <translation>Other foods and amounts</translation>
  </message>
  <message>
   <source>Angekreuzt bleibt die Zeile weg.</source>
@@ -1084,6 +1143,10 @@ Nothing is worked out for children under 10 years; it resumes at 11 years.</tr
   <translation>BE and ratios</translation>
  </message>
  <message>
+  <source>BMI</source>
+  <translation>BMI</translation>
+ </message>
+ <message>
   <source>Bedeutung der Farben, von links: %1</source>
   <translation>Meaning of the colours, from the left: %1</translation>
  </message>
@@ -1114,6 +1177,10 @@ Nothing is worked out for children under 10 years; it resumes at 11 years.</tr
  <message>
   <source>Bewertungen</source>
   <translation>Ratings</translation>
+ </message>
+ <message>
+  <source>Bewertungen (geeignet / neutral / ungeeignet)</source>
+  <translation>Ratings (suitable / neutral / unsuitable)</translation>
  </message>
  <message>
   <source>Broteinheiten</source>
@@ -1184,6 +1251,10 @@ Nothing is worked out for children under 10 years; it resumes at 11 years.</tr
   <translation>There is no command “%1”.</translation>
  </message>
  <message>
+  <source>Der Energiebedarf fehlt für: %1. Er kommt aus dem Geschlecht und aus Gewicht und Tätigkeit beim letzten Besuch bis zum Tag des Plans. Ohne ihn zählen Energie, Protein, Fett und Kohlenhydrate keine Punkte.</source>
+  <translation>The energy need is missing for: %1. It comes from the gender, and from weight and activity at the last visit up to the day of the plan. Without it, energy, protein, fat and carbohydrate earn no points.</translation>
+ </message>
+ <message>
   <source>Der Name fehlt.</source>
   <translation>The name is missing.</translation>
  </message>
@@ -1198,6 +1269,18 @@ Nothing is worked out for children under 10 years; it resumes at 11 years.</tr
  <message>
   <source>Der Ordner „%1“ für „--data-dir“ ist keiner oder lässt sich nicht anlegen.</source>
   <translation>“%1” for “--data-dir” is no folder or cannot be made.</translation>
+ </message>
+ <message>
+  <source>Der letzte Wert liegt im Zielbereich (%1).</source>
+  <translation>The last value is within the target range (%1).</translation>
+ </message>
+ <message>
+  <source>Der letzte Wert liegt unter dem Zielbereich (%1).</source>
+  <translation>The last value is below the target range (%1).</translation>
+ </message>
+ <message>
+  <source>Der letzte Wert liegt über dem Zielbereich (%1).</source>
+  <translation>The last value is above the target range (%1).</translation>
  </message>
  <message>
   <source>Die Angabe „%1“ ist zu viel.</source>
@@ -1324,12 +1407,24 @@ Nothing is worked out for children under 10 years; it resumes at 11 years.</tr
   <translation>Energy in kilojoules</translation>
  </message>
  <message>
+  <source>Energiebedarf am Tag</source>
+  <translation>Daily energy need</translation>
+ </message>
+ <message>
   <source>Energiebedarf am Tag, an dem „evaluate“ den Plan misst</source>
   <translation>energy need of a day, by which “evaluate” measures the plan</translation>
  </message>
  <message>
   <source>Erscheinungsbild</source>
   <translation>Appearance</translation>
+ </message>
+ <message>
+  <source>Erst ein Besuch. Mit dem zweiten steht hier, was sich geändert hat.</source>
+  <translation>Only one visit so far. With the second one, what has changed stands here.</translation>
+ </message>
+ <message>
+  <source>Erst ein abgelegter Plan. Mit dem zweiten steht hier, worin sie sich unterscheiden.</source>
+  <translation>Only one plan kept so far. With the second one, how they differ stands here.</translation>
  </message>
  <message>
   <source>Es gibt keinen Stand, der zurückgeholt werden kann.</source>
@@ -1420,6 +1515,10 @@ Nothing is worked out for children under 10 years; it resumes at 11 years.</tr
   <translation>&amp;Add to the plan</translation>
  </message>
  <message>
+  <source>In der Schwangerschaft gilt kein Zielbereich.</source>
+  <translation>During pregnancy no target range applies.</translation>
+ </message>
+ <message>
   <source>In die eigenen Lebensmittel kommen %1: neu %2, ersetzt %3, unter neuem Namen %4. Ihres bleibt bei %5.</source>
   <translation>To the own foods come %1: %2 new, %3 replaced, %4 under a new name. Yours stays for %5.</translation>
  </message>
@@ -1470,6 +1569,14 @@ Nothing is worked out for children under 10 years; it resumes at 11 years.</tr
  <message>
   <source>Lebensmittel einlesen</source>
   <translation>Import foods</translation>
+ </message>
+ <message>
+  <source>Lebensmittel ohne Werte</source>
+  <translation>Foods without values</translation>
+ </message>
+ <message>
+  <source>Lebensmittel: in beiden Plänen dieselben Mengen</source>
+  <translation>Foods: the same amounts in both plans</translation>
  </message>
  <message>
   <source>Magnesium zu Calcium</source>
@@ -1532,6 +1639,22 @@ Nothing is worked out for children under 10 years; it resumes at 11 years.</tr
   <translation>Columns left out: %1.</translation>
  </message>
  <message>
+  <source>Noch kein Besuch. Sobald zwei da sind, stehen sie hier nebeneinander.</source>
+  <translation>No visit yet. As soon as there are two, they stand here side by side.</translation>
+ </message>
+ <message>
+  <source>Noch kein abgelegter Plan. Sobald zwei da sind, stehen sie hier nebeneinander.</source>
+  <translation>No plan kept yet. As soon as there are two, they stand here side by side.</translation>
+ </message>
+ <message>
+  <source>Noch keine Messung von Gewicht und Größe.</source>
+  <translation>No measurement of weight and height yet.</translation>
+ </message>
+ <message>
+  <source>Noch keine Messung.</source>
+  <translation>No measurement yet.</translation>
+ </message>
+ <message>
   <source>Nur %1 von %2 Feldern; die anderen sind leer.</source>
   <translation>Only %1 of %2 fields; the others are empty.</translation>
  </message>
@@ -1542,6 +1665,14 @@ Nothing is worked out for children under 10 years; it resumes at 11 years.</tr
  <message>
   <source>Nächster: %1, vorheriger: %2</source>
   <translation>Next one: %1, one before: %2</translation>
+ </message>
+ <message>
+  <source>Ohne Angabe der Größe gibt es keinen Zielbereich für das Gewicht.</source>
+  <translation>Without the height there is no target range for the weight.</translation>
+ </message>
+ <message>
+  <source>Ohne Angabe des Geschlechts gibt es keinen Zielbereich für die Taille.</source>
+  <translation>Without the gender there is no target range for the waist.</translation>
  </message>
  <message>
   <source>Ohne Energiebedarf (--energy) zählen Energie, Protein, Fett und Kohlenhydrate keine Punkte.</source>
@@ -1582,6 +1713,10 @@ Nothing is worked out for children under 10 years; it resumes at 11 years.</tr
  <message>
   <source>Punkt .</source>
   <translation>Point .</translation>
+ </message>
+ <message>
+  <source>Punkte</source>
+  <translation>Points</translation>
  </message>
  <message>
   <source>Rückgabewert: 0 erledigt, 1 nicht gelungen, 2 falscher Aufruf.</source>
@@ -1652,6 +1787,10 @@ Nothing is worked out for children under 10 years; it resumes at 11 years.</tr
   <translation>Search results</translation>
  </message>
  <message>
+  <source>Summen</source>
+  <translation>Sums</translation>
+ </message>
+ <message>
   <source>Tabellen (*.csv *.tsv *.txt);;Alle Dateien (*)</source>
   <translation>Tables (*.csv *.tsv *.txt);;All files (*)</translation>
  </message>
@@ -1664,6 +1803,10 @@ Nothing is worked out for children under 10 years; it resumes at 11 years.</tr
   <translation>Tab</translation>
  </message>
  <message>
+  <source>Taille zu Hüfte</source>
+  <translation>Waist to hip</translation>
+ </message>
+ <message>
   <source>Treffer %1 von %2</source>
   <translation>Result %1 of %2</translation>
  </message>
@@ -1672,8 +1815,16 @@ Nothing is worked out for children under 10 years; it resumes at 11 years.</tr
   <translation>Divider</translation>
  </message>
  <message>
+  <source>Unter 19 Jahren gilt der Zielbereich für Erwachsene nicht.</source>
+  <translation>Under 19 years of age the target range for adults does not apply.</translation>
+ </message>
+ <message>
   <source>Unter den Überschriften steht nichts.</source>
   <translation>Nothing stands below the headings.</translation>
+ </message>
+ <message>
+  <source>Unterschied</source>
+  <translation>Difference</translation>
  </message>
  <message>
   <source>Was daraus wird</source>
@@ -1724,8 +1875,20 @@ Nothing is worked out for children under 10 years; it resumes at 11 years.</tr
   <translation>First choose a sport.</translation>
  </message>
  <message>
+  <source>Zahl der Lebensmittel</source>
+  <translation>Number of foods</translation>
+ </message>
+ <message>
   <source>Zeile %1: %2</source>
   <translation>Line %1: %2</translation>
+ </message>
+ <message>
+  <source>Zielbereich %1</source>
+  <translation>Target range %1</translation>
+ </message>
+ <message>
+  <source>Zielbereich nach: %1</source>
+  <translation>Target range according to: %1</translation>
  </message>
  <message>
   <source>Zu der Option in „%1“ gehört keine Angabe.</source>
@@ -1738,6 +1901,10 @@ Nothing is worked out for children under 10 years; it resumes at 11 years.</tr
  <message>
   <source>Zurücknehmen</source>
   <translation>Undo</translation>
+ </message>
+ <message>
+  <source>ab %1</source>
+  <translation>from %1</translation>
  </message>
  <message>
   <source>ab %1 %</source>
@@ -1818,6 +1985,10 @@ New: %1</translation>
 4. Send it to the meal plan with %1.</translation>
  </message>
  <message>
+  <source>bis %1</source>
+  <translation>up to %1</translation>
+ </message>
+ <message>
   <source>bleibt draußen</source>
   <translation>stays out</translation>
  </message>
@@ -1886,6 +2057,10 @@ New: %1</translation>
   <translation>found out for each column</translation>
  </message>
  <message>
+  <source>keine Angabe</source>
+  <translation>not stated</translation>
+ </message>
+ <message>
   <source>keine Zahl</source>
   <translation>no number</translation>
  </message>
@@ -1938,12 +2113,20 @@ New: %1</translation>
   <translation>new names in the plan</translation>
  </message>
  <message>
+  <source>nicht im Plan</source>
+  <translation>not in the plan</translation>
+ </message>
+ <message>
   <source>noch %1</source>
   <translation>%1 left</translation>
  </message>
  <message>
   <source>noch nicht eingestellt: %1</source>
   <translation>not set yet: %1</translation>
+ </message>
+ <message>
+  <source>ohne Datum</source>
+  <translation>without a date</translation>
  </message>
  <message>
   <source>ohne Namen: bleibt draußen</source>
@@ -3313,6 +3496,614 @@ New: %1</translation>
   <source>Tätigkeit</source>
   <translation>Activity</translation>
  </message>
+ <message>
+  <source>%1 (archiviert)</source>
+  <translation>%1 (archived)</translation>
+ </message>
+ <message>
+  <source>%1 Bitte prüfen Sie die Zahl.</source>
+  <translation>%1 Please check the figure.</translation>
+ </message>
+ <message>
+  <source>%1 Was davon nicht gesichert ist, geht beim Beenden verloren.</source>
+  <translation>%1 What is not saved will be lost when you quit.</translation>
+ </message>
+ <message>
+  <source>%1 ist aufgenommen.</source>
+  <translation>%1 has been taken in.</translation>
+ </message>
+ <message>
+  <source>%1 ist gelöscht.</source>
+  <translation>%1 is deleted.</translation>
+ </message>
+ <message>
+  <source>%1 ist hier schon; es wurde nichts geändert.</source>
+  <translation>%1 is here already; nothing was changed.</translation>
+ </message>
+ <message>
+  <source>%1 ließ sich nicht aufnehmen.</source>
+  <translation>%1 could not be taken in.</translation>
+ </message>
+ <message>
+  <source>%1 sind ein ungewöhnlicher Hüftumfang.</source>
+  <translation>%1 is unusual round the hips.</translation>
+ </message>
+ <message>
+  <source>%1 sind ein ungewöhnlicher Taillenumfang.</source>
+  <translation>%1 is unusual round the waist.</translation>
+ </message>
+ <message>
+  <source>%1 sind ein ungewöhnliches Gewicht.</source>
+  <translation>%1 is an unusual weight.</translation>
+ </message>
+ <message>
+  <source>%1 sind eine ungewöhnliche Größe.</source>
+  <translation>%1 is an unusual height.</translation>
+ </message>
+ <message>
+  <source>%1 von %2 Klienten</source>
+  <translation>%1 of %2 clients</translation>
+ </message>
+ <message>
+  <source>&amp;Archivieren</source>
+  <translation>&amp;Archive</translation>
+ </message>
+ <message>
+  <source>&amp;Klient</source>
+  <translation>&amp;Client</translation>
+ </message>
+ <message>
+  <source>&amp;Klienten</source>
+  <translation>&amp;Clients</translation>
+ </message>
+ <message>
+  <source>&amp;Löschen</source>
+  <translation>De&amp;lete</translation>
+ </message>
+ <message>
+  <source>&amp;Löschen zurücknehmen</source>
+  <translation>&amp;Undo deletion</translation>
+ </message>
+ <message>
+  <source>&amp;Neuer Klient …</source>
+  <translation>&amp;New client …</translation>
+ </message>
+ <message>
+  <source>(keine Angabe)</source>
+  <translation>(nothing entered)</translation>
+ </message>
+ <message>
+  <source>Akte auf&amp;nehmen …</source>
+  <translation>&amp;Take in a client …</translation>
+ </message>
+ <message>
+  <source>Akte aufnehmen</source>
+  <translation>Take in a client</translation>
+ </message>
+ <message>
+  <source>Akte über&amp;geben …</source>
+  <translation>Hand the client &amp;over …</translation>
+ </message>
+ <message>
+  <source>Akten von Mahlberg (*.json);;Alle Dateien (*)</source>
+  <translation>Clients of Mahlberg (*.json);;All files (*)</translation>
+ </message>
+ <message>
+  <source>Als &amp;PDF sichern …</source>
+  <translation>Save as &amp;PDF …</translation>
+ </message>
+ <message>
+  <source>Alter: %1</source>
+  <translation>Age: %1</translation>
+ </message>
+ <message>
+  <source>Am Schreibtisch: %1.</source>
+  <translation>At the desk: %1.</translation>
+ </message>
+ <message>
+  <source>Am Schreibtisch: %1. Nicht bekannt: %2; der Rechner steht dafür auf seinen Anfangswerten.</source>
+  <translation>At the desk: %1. Not known: %2; there the calculator stands on its first values.</translation>
+ </message>
+ <message>
+  <source>An den Schreib&amp;tisch</source>
+  <translation>To the &amp;desk</translation>
+ </message>
+ <message>
+  <source>An zwei Plätzen geändert</source>
+  <translation>Changed at two desks</translation>
+ </message>
+ <message>
+  <source>Anderer Platz</source>
+  <translation>Other desk</translation>
+ </message>
+ <message>
+  <source>Auf einem Ser&amp;ver der Praxis (PostgreSQL)</source>
+  <translation>On a ser&amp;ver of the practice (PostgreSQL)</translation>
+ </message>
+ <message>
+  <source>Besuche</source>
+  <translation>Visits</translation>
+ </message>
+ <message>
+  <source>Bis dieses Fenster der Klienten geschlossen wird, können Sie es zurücknehmen; danach ist es aus der Datei getilgt.</source>
+  <translation>Until this window of clients is closed you can undo it; after that it is wiped out of the file.</translation>
+ </message>
+ <message>
+  <source>Das Gelöschte ist wieder da.</source>
+  <translation>What was deleted is back.</translation>
+ </message>
+ <message>
+  <source>Das Gelöschte ließ sich noch nicht zurückholen.</source>
+  <translation>What was deleted could not be brought back yet.</translation>
+ </message>
+ <message>
+  <source>Das Gewicht springt: %1 nach %2 am %3.</source>
+  <translation>The weight leaps: %1 after %2 on %3.</translation>
+ </message>
+ <message>
+  <source>Das ist kein Tag wie %1.</source>
+  <translation>This is no date such as %1.</translation>
+ </message>
+ <message>
+  <source>Das ist keine Zahl, z. B. 72,5.</source>
+  <translation>This is no number such as 72.5.</translation>
+ </message>
+ <message>
+  <source>Das ist weder der Name eines Dienstes noch eine Verbindung.</source>
+  <translation>This is neither the name of a service nor a connection.</translation>
+ </message>
+ <message>
+  <source>Dazu muss der Klient am Schreibtisch sein.</source>
+  <translation>For this the client must be at the desk.</translation>
+ </message>
+ <message>
+  <source>Der Besuch ist gelöscht.</source>
+  <translation>The visit is deleted.</translation>
+ </message>
+ <message>
+  <source>Der Besuch liegt in der Zukunft.</source>
+  <translation>The visit lies in the future.</translation>
+ </message>
+ <message>
+  <source>Der Besuch liegt vor der Geburt.</source>
+  <translation>The visit lies before the birth.</translation>
+ </message>
+ <message>
+  <source>Der Name steht noch nicht im Feld.</source>
+  <translation>The name does not stand in the field yet.</translation>
+ </message>
+ <message>
+  <source>Der Plan ist gelöscht.</source>
+  <translation>The plan is deleted.</translation>
+ </message>
+ <message>
+  <source>Der Plan ist leer; es gibt nichts abzulegen.</source>
+  <translation>The plan is empty; there is nothing to keep.</translation>
+ </message>
+ <message>
+  <source>Der Plan liegt jetzt bei %1.</source>
+  <translation>The plan is now kept with %1.</translation>
+ </message>
+ <message>
+  <source>Der Plan steht hier mit den Werten seines Tages. Seitdem anders: %1 von %2 Lebensmitteln.</source>
+  <translation>The plan stands here with the values of its day. Different since: %1 of %2 foods.</translation>
+ </message>
+ <message>
+  <source>Der Plan „%1“ vom %2 steht im Mahlzeitenplan.</source>
+  <translation>The plan “%1” of %2 is in the meal plan.</translation>
+ </message>
+ <message>
+  <source>Der Plan „%1“ vom %2 steht im Mahlzeitenplan. Was dort stand, ist abgelegt.</source>
+  <translation>The plan “%1” of %2 is in the meal plan. What stood there is kept.</translation>
+ </message>
+ <message>
+  <source>Der Server der Klienten ist nicht zu erreichen.</source>
+  <translation>The server of the clients can’t be reached.</translation>
+ </message>
+ <message>
+  <source>Der Stand ließ sich nicht zurückholen: %1</source>
+  <translation>The state could not be brought back: %1</translation>
+ </message>
+ <message>
+  <source>Der frühere Stand ist wieder da.</source>
+  <translation>The earlier state is back.</translation>
+ </message>
+ <message>
+  <source>Der frühere Stand ist wieder da. Was vorher da war, ist aufgehoben als „%1“.</source>
+  <translation>The earlier state is back. What was there before is kept as “%1”.</translation>
+ </message>
+ <message>
+  <source>Die Akte ist beschädigt.</source>
+  <translation>The client’s file is damaged.</translation>
+ </message>
+ <message>
+  <source>Die Akte liegt in „%1“.</source>
+  <translation>The client’s papers are in “%1”.</translation>
+ </message>
+ <message>
+  <source>Die Akte ließ sich nicht schreiben: %1</source>
+  <translation>The client’s papers could not be written: %1</translation>
+ </message>
+ <message>
+  <source>Die Akte stammt von einer neueren Version von Mahlberg, mit Angaben, die diese nicht kennt.</source>
+  <translation>The client’s file comes from a newer version of Mahlberg, with entries that this one does not know.</translation>
+ </message>
+ <message>
+  <source>Die Datei lässt sich nicht lesen.</source>
+  <translation>The file can’t be read.</translation>
+ </message>
+ <message>
+  <source>Die Größe springt: %1 nach %2 am %3.</source>
+  <translation>The height leaps: %1 after %2 on %3.</translation>
+ </message>
+ <message>
+  <source>Die Klienten lassen sich gerade nicht lesen oder schreiben.</source>
+  <translation>The clients can’t be read or written at the moment.</translation>
+ </message>
+ <message>
+  <source>Die Klienten lassen sich nicht lesen oder schreiben: Das System verwehrt es. Bitte prüfen Sie die Rechte des Ordners.</source>
+  <translation>The clients can’t be read or written: the system denies it. Please check the rights of the folder.</translation>
+ </message>
+ <message>
+  <source>Die Klienten sind beschädigt. Sie werden nicht angerührt; vielleicht hilft ein früherer Stand.</source>
+  <translation>The clients are damaged. They are left untouched; perhaps an earlier state helps.</translation>
+ </message>
+ <message>
+  <source>Die Klienten stehen auf einem Server; seine früheren Stände hat, wer ihn betreut.</source>
+  <translation>The clients are on a server; its earlier states are with whoever looks after it.</translation>
+ </message>
+ <message>
+  <source>Die Klienten wurden mit einer neueren Version von Mahlberg geschrieben. Sie können gelesen, aber nicht geändert werden.</source>
+  <translation>The clients were written with a newer version of Mahlberg. They can be read but not changed.</translation>
+ </message>
+ <message>
+  <source>Dieser Plan ist schon abgelegt.</source>
+  <translation>This plan is kept already.</translation>
+ </message>
+ <message>
+  <source>Dieser Tag kommt erst noch.</source>
+  <translation>This day is still to come.</translation>
+ </message>
+ <message>
+  <source>Ein Besuch hat einen Tag.</source>
+  <translation>A visit has a date.</translation>
+ </message>
+ <message>
+  <source>Ein Kennwort gehört nicht hierher; PostgreSQL liest es aus der Datei .pgpass.</source>
+  <translation>A password does not belong here; PostgreSQL reads it from the file .pgpass.</translation>
+ </message>
+ <message>
+  <source>Ein Name muss sein.</source>
+  <translation>There must be a name.</translation>
+ </message>
+ <message>
+  <source>Ein Plan hat einen Tag.</source>
+  <translation>A plan has a date.</translation>
+ </message>
+ <message>
+  <source>Ein anderer Platz hat %1 geändert, während Sie dabei waren. Es ist noch nichts überschrieben: Wählen Sie, was gelten soll.</source>
+  <translation>Another desk has changed %1 while you were at it. Nothing is overwritten yet: choose what shall count.</translation>
+ </message>
+ <message>
+  <source>Ein anderer Platz hat diesen Klienten gelöscht.</source>
+  <translation>Another desk has deleted this client.</translation>
+ </message>
+ <message>
+  <source>Ein anderer Platz hat gelöscht, was Sie ändern.</source>
+  <translation>Another desk has deleted what you are changing.</translation>
+ </message>
+ <message>
+  <source>Ein anderes Programm hält die Klienten gerade fest.</source>
+  <translation>Another program is holding the clients at the moment.</translation>
+ </message>
+ <message>
+  <source>Eine Angabe ist noch nicht gesichert: Neben ihrem Feld steht, warum. Bitte ändern oder leeren Sie sie.</source>
+  <translation>An entry is not saved yet: the reason stands beside its field. Please change or empty it.</translation>
+ </message>
+ <message>
+  <source>Eine Angabe kann nicht gesichert werden.</source>
+  <translation>An entry can’t be saved.</translation>
+ </message>
+ <message>
+  <source>Erneut versuchen</source>
+  <translation>Try again</translation>
+ </message>
+ <message>
+  <source>Es ist noch nicht alles gesichert; gewechselt wird erst danach.</source>
+  <translation>Not everything is saved yet; the change comes after that.</translation>
+ </message>
+ <message>
+  <source>Es stimmt</source>
+  <translation>It is right</translation>
+ </message>
+ <message>
+  <source>Fortschritt</source>
+  <translation>Progress</translation>
+ </message>
+ <message>
+  <source>Frühere Stän&amp;de …</source>
+  <translation>Earlier &amp;states …</translation>
+ </message>
+ <message>
+  <source>Frühere Stände der Klienten</source>
+  <translation>Earlier states of the clients</translation>
+ </message>
+ <message>
+  <source>Gelöscht lassen</source>
+  <translation>Leave it deleted</translation>
+ </message>
+ <message>
+  <source>Hier fehlt, wie der Server heißt.</source>
+  <translation>Here it is missing what the server is called.</translation>
+ </message>
+ <message>
+  <source>Ihre Angabe</source>
+  <translation>Your entry</translation>
+ </message>
+ <message>
+  <source>In den täglichen Kopien bleibt es, bis zehn jüngere da sind.</source>
+  <translation>It stays in the daily copies until there are ten later ones.</translation>
+ </message>
+ <message>
+  <source>In diesem Stand: %1 Klienten. Was jetzt da ist, wird beim Zurückholen aufgehoben.</source>
+  <translation>In this state: %1 clients. What is there now is kept when you bring it back.</translation>
+ </message>
+ <message>
+  <source>In dieser Datei steht keine Akte von Mahlberg.</source>
+  <translation>This file holds no client of Mahlberg’s.</translation>
+ </message>
+ <message>
+  <source>In einer Datei an diesem Pla&amp;tz</source>
+  <translation>In a &amp;file at this desk</translation>
+ </message>
+ <message>
+  <source>Klient &amp;löschen …</source>
+  <translation>De&amp;lete client …</translation>
+ </message>
+ <message>
+  <source>Klient löschen</source>
+  <translation>Delete client</translation>
+ </message>
+ <message>
+  <source>Klienten</source>
+  <translation>Clients</translation>
+ </message>
+ <message>
+  <source>Meine Änderung &amp;verwerfen</source>
+  <translation>&amp;Drop my change</translation>
+ </message>
+ <message>
+  <source>Neben ihrem Feld steht, warum. Beim Schließen geht sie verloren.</source>
+  <translation>The reason stands beside its field. It will be lost when you close.</translation>
+ </message>
+ <message>
+  <source>Neu &amp;lesen</source>
+  <translation>&amp;Read anew</translation>
+ </message>
+ <message>
+  <source>Neuer Klient</source>
+  <translation>New client</translation>
+ </message>
+ <message>
+  <source>Niemand heißt so.</source>
+  <translation>Nobody is called that.</translation>
+ </message>
+ <message>
+  <source>Noch keine Klienten. Mit „Neuer Klient“ legen Sie den ersten an.</source>
+  <translation>No clients yet. Begin the first one with “New client”.</translation>
+ </message>
+ <message>
+  <source>Noch nicht alles ist gesichert.</source>
+  <translation>Not everything is saved yet.</translation>
+ </message>
+ <message>
+  <source>Nr. %1</source>
+  <translation>No. %1</translation>
+ </message>
+ <message>
+  <source>Ordner, in den die Akte kommt</source>
+  <translation>Folder for the client’s papers</translation>
+ </message>
+ <message>
+  <source>Person</source>
+  <translation>Person</translation>
+ </message>
+ <message>
+  <source>Plan beim Klienten ab&amp;legen</source>
+  <translation>&amp;Keep plan with the client</translation>
+ </message>
+ <message>
+  <source>Pläne</source>
+  <translation>Plans</translation>
+ </message>
+ <message>
+  <source>S&amp;chließen</source>
+  <translation>&amp;Close</translation>
+ </message>
+ <message>
+  <source>Seitdem</source>
+  <translation>Since then</translation>
+ </message>
+ <message>
+  <source>Server der Klienten</source>
+  <translation>Server of the clients</translation>
+ </message>
+ <message>
+  <source>So &amp;sichern</source>
+  <translation>&amp;Save like this</translation>
+ </message>
+ <message>
+  <source>So alt ist niemand.</source>
+  <translation>Nobody is that old.</translation>
+ </message>
+ <message>
+  <source>Stimmt das so?</source>
+  <translation>Is this right?</translation>
+ </message>
+ <message>
+  <source>Trotzdem beenden</source>
+  <translation>Quit all the same</translation>
+ </message>
+ <message>
+  <source>Vom Schreib&amp;tisch</source>
+  <translation>From the &amp;desk</translation>
+ </message>
+ <message>
+  <source>Von jetzt an gelten die Klienten dort. Die bisherigen bleiben, wo sie sind.</source>
+  <translation>From now on the clients there count. The ones before stay where they are.</translation>
+ </message>
+ <message>
+  <source>Was Mahlberg braucht, um mit dem Speicher der Klienten zu sprechen, ist nicht eingerichtet.</source>
+  <translation>What Mahlberg needs to speak with the store of the clients is not installed.</translation>
+ </message>
+ <message>
+  <source>Was Sie eingeben, ist vorgemerkt und wird gesichert, sobald es geht.</source>
+  <translation>What you enter is noted and will be saved as soon as that is possible.</translation>
+ </message>
+ <message>
+  <source>Was Sie hier sehen, kann wieder aufgenommen werden.</source>
+  <translation>What you see here can be taken in again.</translation>
+ </message>
+ <message>
+  <source>Was an Kopien des Servers aufgehoben wird, weiß, wer ihn betreut.</source>
+  <translation>What is kept in copies of the server is known to whoever looks after it.</translation>
+ </message>
+ <message>
+  <source>Was an der Stelle der Klienten liegt, stammt von einem anderen Programm. Es wird nicht angerührt.</source>
+  <translation>What lies in the place of the clients comes from another program. It is left untouched.</translation>
+ </message>
+ <message>
+  <source>Wieder aufnehmen</source>
+  <translation>Take in again</translation>
+ </message>
+ <message>
+  <source>Wählen Sie links einen Klienten.</source>
+  <translation>Choose a client on the left.</translation>
+ </message>
+ <message>
+  <source>Wählen Sie zuerst einen Besuch.</source>
+  <translation>Choose a visit first.</translation>
+ </message>
+ <message>
+  <source>Wählen Sie zuerst einen Plan.</source>
+  <translation>Choose a plan first.</translation>
+ </message>
+ <message>
+  <source>Zum Löschen den &amp;Namen eintippen:</source>
+  <translation>Type the &amp;name to delete:</translation>
+ </message>
+ <message>
+  <source>archiviert</source>
+  <translation>archived</translation>
+ </message>
+ <message>
+  <source>damals in keiner Tabelle</source>
+  <translation>in no table then</translation>
+ </message>
+ <message>
+  <source>geändert: %1</source>
+  <translation>changed: %1</translation>
+ </message>
+ <message>
+  <source>ja</source>
+  <translation>yes</translation>
+ </message>
+ <message>
+  <source>keines von beiden</source>
+  <translation>neither of the two</translation>
+ </message>
+ <message>
+  <source>leichte Tätigkeit</source>
+  <translation>light activity</translation>
+ </message>
+ <message>
+  <source>mittlere Tätigkeit</source>
+  <translation>medium activity</translation>
+ </message>
+ <message>
+  <source>nein</source>
+  <translation>no</translation>
+ </message>
+ <message>
+  <source>nicht erfragt</source>
+  <translation>not asked</translation>
+ </message>
+ <message>
+  <source>nicht mehr in der Tabelle</source>
+  <translation>no longer in the table</translation>
+ </message>
+ <message>
+  <source>schwanger</source>
+  <translation>pregnant</translation>
+ </message>
+ <message>
+  <source>schwere Tätigkeit</source>
+  <translation>heavy activity</translation>
+ </message>
+ <message>
+  <source>stillend</source>
+  <translation>nursing</translation>
+ </message>
+ <message>
+  <source>zuletzt hier am %1</source>
+  <translation>last here on %1</translation>
+ </message>
+ <message>
+  <source>Ändern</source>
+  <translation>Change</translation>
+ </message>
+ <message>
+  <source>Über&amp;nehmen</source>
+  <translation>Appl&amp;y</translation>
+ </message>
+ <message>
+  <source>„%1“ wird mit allen Besuchen und Plänen gelöscht.</source>
+  <translation>“%1” will be deleted with all visits and plans.</translation>
+ </message>
+ <message>
+  <source>Angabe</source>
+  <translation>Detail</translation>
+ </message>
+ <message>
+  <source>Plan</source>
+  <translation>Plan</translation>
+ </message>
+ <message>
+  <source>Noch kein Besuch.</source>
+  <translation>No visit yet.</translation>
+ </message>
+ <message>
+  <source>Noch kein Plan.</source>
+  <translation>No plan yet.</translation>
+ </message>
+ <message>
+  <source>Ohne Lebensmittel.</source>
+  <translation>Without foods.</translation>
+ </message>
+ <message>
+  <source>Verlauf</source>
+  <translation>Course</translation>
+ </message>
+ <message>
+  <source>%1 (Alter %2)</source>
+  <translation>%1 (age %2)</translation>
+ </message>
+ <message>
+  <source>Akte</source>
+  <translation>Record</translation>
+ </message>
+ <message>
+  <source>Planzeilen</source>
+  <translation>Plan rows</translation>
+ </message>
+ <message>
+  <source>Im Ordner „%1“ lässt sich nichts anlegen. Vielleicht ist er nicht da, geschützt oder kein Platz mehr frei.</source>
+  <translation>Nothing can be made in the folder “%1”. It may be missing or protected, or the disk may be full.</translation>
+ </message>
+ <message>
+  <source>Der Ordner „%1“ lässt sich nicht anlegen.</source>
+  <translation>The folder “%1” cannot be made.</translation>
+ </message>
 </context>
 <context>
  <name>PlanmodulGestalt</name>
@@ -3807,6 +4598,198 @@ New: %1</translation>
  <message>
   <source>&amp;Handbuch</source>
   <translation>&amp;Handbook</translation>
+ </message>
+</context>
+<context>
+ <name>BesuchsblattGestalt</name>
+ <message>
+  <source>&amp;Hüfte (cm)</source>
+  <translation>&amp;Hips (cm)</translation>
+ </message>
+ <message>
+  <source>&amp;Taille (cm)</source>
+  <translation>Wais&amp;t (cm)</translation>
+ </message>
+ <message>
+  <source>&amp;Verlauf von</source>
+  <translation>&amp;Course of</translation>
+ </message>
+ <message>
+  <source>Besuch &amp;löschen</source>
+  <translation>&amp;Delete visit</translation>
+ </message>
+ <message>
+  <source>Besuche</source>
+  <translation>Visits</translation>
+ </message>
+ <message>
+  <source>Dat&amp;um</source>
+  <translation>Da&amp;te</translation>
+ </message>
+ <message>
+  <source>Ge&amp;wicht (kg)</source>
+  <translation>&amp;Weight (kg)</translation>
+ </message>
+ <message>
+  <source>Gewichts&amp;reduktion</source>
+  <translation>Weight &amp;reduction</translation>
+ </message>
+ <message>
+  <source>Größ&amp;e (m)</source>
+  <translation>H&amp;eight (m)</translation>
+ </message>
+ <message>
+  <source>Legt einen Besuch von heute an</source>
+  <translation>Begins a visit of today</translation>
+ </message>
+ <message>
+  <source>Neuer &amp;Besuch</source>
+  <translation>New &amp;visit</translation>
+ </message>
+ <message>
+  <source>Not&amp;iz</source>
+  <translation>Not&amp;e</translation>
+ </message>
+ <message>
+  <source>S&amp;port</source>
+  <translation>S&amp;port</translation>
+ </message>
+ <message>
+  <source>Sport am Ta&amp;g (h)</source>
+  <translation>Sport per da&amp;y (h)</translation>
+ </message>
+ <message>
+  <source>Tätig&amp;keit</source>
+  <translation>Acti&amp;vity</translation>
+ </message>
+ <message>
+  <source>Verlauf</source>
+  <translation>Course</translation>
+ </message>
+</context>
+<context>
+ <name>KlientenfensterGestalt</name>
+ <message>
+  <source>&amp;Neuer Klient …</source>
+  <translation>&amp;New client …</translation>
+ </message>
+ <message>
+  <source>An den Schreib&amp;tisch</source>
+  <translation>To the &amp;desk</translation>
+ </message>
+ <message>
+  <source>Auch ar&amp;chivierte zeigen</source>
+  <translation>Show ar&amp;chived ones too</translation>
+ </message>
+ <message>
+  <source>Klienten</source>
+  <translation>Clients</translation>
+ </message>
+ <message>
+  <source>Klienten suchen</source>
+  <translation>Search clients</translation>
+ </message>
+ <message>
+  <source>Name oder Nummer</source>
+  <translation>Name or number</translation>
+ </message>
+ <message>
+  <source>Stellt den Rechner auf diesen Klienten; sein Name steht dann über den Fenstern und auf den Ausdrucken</source>
+  <translation>Sets the calculator to this client, whose name then stands over the windows and on prints</translation>
+ </message>
+</context>
+<context>
+ <name>PersonenblattGestalt</name>
+ <message>
+  <source>&amp;Diabetes</source>
+  <translation>&amp;Diabetes</translation>
+ </message>
+ <message>
+  <source>&amp;Geburtsdatum</source>
+  <translation>Date of &amp;birth</translation>
+ </message>
+ <message>
+  <source>&amp;Name</source>
+  <translation>&amp;Name</translation>
+ </message>
+ <message>
+  <source>A&amp;rchiviert: nicht mehr in der täglichen Liste, mit allem, was aufgehoben ist</source>
+  <translation>A&amp;rchived: no longer in the daily list, with everything that is kept</translation>
+ </message>
+ <message>
+  <source>G&amp;icht</source>
+  <translation>&amp;Gout</translation>
+ </message>
+ <message>
+  <source>Geschl&amp;echt</source>
+  <translation>G&amp;ender</translation>
+ </message>
+ <message>
+  <source>Her&amp;z und Kreislauf</source>
+  <translation>&amp;Heart and circulation</translation>
+ </message>
+ <message>
+  <source>N&amp;otizen</source>
+  <translation>N&amp;otes</translation>
+ </message>
+ <message>
+  <source>N&amp;ummer</source>
+  <translation>N&amp;umber</translation>
+ </message>
+ <message>
+  <source>Schwanger oder &amp;stillend</source>
+  <translation>Pre&amp;gnant or nursing</translation>
+ </message>
+ <message>
+  <source>Worauf es ankommt</source>
+  <translation>What matters</translation>
+ </message>
+ <message>
+  <source>Ü&amp;bergewicht</source>
+  <translation>&amp;Overweight</translation>
+ </message>
+</context>
+<context>
+ <name>PlanblattGestalt</name>
+ <message>
+  <source>Abgelegte Pläne</source>
+  <translation>Plans that are kept</translation>
+ </message>
+ <message>
+  <source>Dat&amp;um</source>
+  <translation>Da&amp;te</translation>
+ </message>
+ <message>
+  <source>Hebt den Mahlzeitenplan, wie er jetzt ist, bei diesem Klienten auf</source>
+  <translation>Keeps the meal plan as it is now with this client</translation>
+ </message>
+ <message>
+  <source>Holt den ausgewählten Plan in das Fenster Mahlzeitenplan; was dort steht, wird vorher abgelegt</source>
+  <translation>Brings the chosen plan into the meal plan window; what stands there is kept first</translation>
+ </message>
+ <message>
+  <source>Lebensmittel des Plans</source>
+  <translation>Foods of the plan</translation>
+ </message>
+ <message>
+  <source>Not&amp;iz</source>
+  <translation>Not&amp;e</translation>
+ </message>
+ <message>
+  <source>Plan &amp;ablegen</source>
+  <translation>&amp;Keep plan</translation>
+ </message>
+ <message>
+  <source>Plan &amp;holen</source>
+  <translation>&amp;Fetch plan</translation>
+ </message>
+ <message>
+  <source>Plan &amp;löschen</source>
+  <translation>&amp;Delete plan</translation>
+ </message>
+ <message>
+  <source>T&amp;itel</source>
+  <translation>&amp;Title</translation>
  </message>
 </context>
 </TS>

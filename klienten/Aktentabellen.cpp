@@ -1,0 +1,142 @@
+#include "Aktentabellen.h"
+
+#include "Feldworte.h"
+#include "Zeichenkettentabelle.h"
+
+#include <QCoreApplication>
+
+namespace {
+
+QString uebersetzt(const char *text)
+{
+    return localizedString(QString::fromUtf8(text));
+}
+
+Csv::Zelle textzelle(const QString &text)
+{
+    return text.isEmpty() ? Csv::Zelle() : text;
+}
+
+/// Days stay as they are kept: a spreadsheet understands them in every country.
+Csv::Zelle zelle(const char *spalte, const QVariant &wert)
+{
+    if (wert.isNull()) {
+        return {};
+    }
+    if (wert.metaType().id() == QMetaType::Double) {
+        return wert.toDouble();
+    }
+    const QString text = wert.toString();
+    const bool tag = QDate::fromString(text, Qt::ISODate).isValid();
+    return textzelle(tag ? text : feldworte(spalte, wert));
+}
+
+template <typename Satz>
+Csv::Zelle zelle(const Satz &satz, const Satzspalte<Satz> &spalte)
+{
+    return zelle(spalte.name, spalte.lies(satz));
+}
+
+Csv::Zelle zelle(const Planablage &plan, const Satzspalte<Planablage> &spalte)
+{
+    if (qstrcmp(spalte.name, "posten") == 0) {
+        return static_cast<double>(plan.posten.size());
+    }
+    return zelle(spalte.name, spalte.lies(plan));
+}
+
+template <typename Satz>
+Csv::Tabelle tabelle(const QList<Satz> &saetze)
+{
+    Csv::Tabelle tabelle;
+    for (const Satzspalte<Satz> &spalte : spalten<Satz>()) {
+        tabelle.spalten << spaltenkopf(spalte);
+    }
+    for (const Satz &satz : saetze) {
+        QList<Csv::Zelle> zeile;
+        for (const Satzspalte<Satz> &spalte : spalten<Satz>()) {
+            zeile << zelle(satz, spalte);
+        }
+        tabelle.zeilen << zeile;
+    }
+    return tabelle;
+}
+
+/// The values for so much of the food, and what it was rated.
+QList<Csv::Zelle> werteUndWertungen(const Datenmodul &lebensmittel, float gramm)
+{
+    QList<Csv::Zelle> zellen;
+    for (const Naehrwertbeschreibung &zeile : naehrwerte) {
+        zellen << lebensmittel.wert(zeile.wert) * (gramm / 100.0F);
+    }
+    for (const Wertungsbeschreibung &zeile : wertungen) {
+        zellen << lebensmittel.wertung(zeile.wertung);
+    }
+    return zellen;
+}
+
+QStringList planzeilenkoepfe()
+{
+    QStringList koepfe = {
+        localizedString(QStringLiteral("Plan")), localizedString(QStringLiteral("Datum")),
+        localizedString(QStringLiteral("Lebensmittel")),
+        mitEinheit(localizedString(QStringLiteral("Menge")), einheitszeichen(Einheit::Gramm))};
+    for (const Naehrwertbeschreibung &zeile : naehrwerte) {
+        koepfe << mitEinheit(uebersetzt(zeile.bezeichnung), einheitszeichen(zeile.einheit));
+    }
+    for (const Wertungsbeschreibung &zeile : wertungen) {
+        koepfe << uebersetzt(zeile.bezeichnung);
+    }
+    return koepfe;
+}
+
+} // namespace
+
+QString mitEinheit(const QString &name, const QString &einheit)
+{
+    return einheit.isEmpty() ? name : QStringLiteral("%1 (%2)").arg(name, einheit);
+}
+
+QString spaltenkopf(const char *spalte, const char *beschriftung)
+{
+    return mitEinheit(uebersetzt(beschriftung), feldeinheit(spalte));
+}
+
+Csv::Tabelle personentabelle(const Person &person)
+{
+    Csv::Tabelle tabelle;
+    tabelle.spalten = {localizedString(QStringLiteral("Angabe")),
+                       localizedString(QStringLiteral("Wert"))};
+    for (const Satzspalte<Person> &spalte : spalten<Person>()) {
+        tabelle.zeilen << QList<Csv::Zelle>{spaltenkopf(spalte), zelle(person, spalte)};
+    }
+    return tabelle;
+}
+
+Csv::Tabelle besuchstabelle(const QList<Besuch> &besuche)
+{
+    return tabelle(besuche);
+}
+
+Csv::Tabelle plaenetabelle(const QList<Planablage> &plaene)
+{
+    return tabelle(plaene);
+}
+
+Csv::Tabelle planzeilentabelle(const QList<Planablage> &plaene)
+{
+    Csv::Tabelle tabelle;
+    tabelle.spalten = planzeilenkoepfe();
+    constexpr qsizetype anzahlWerte = anzahlNaehrwerte + anzahlWertungen;
+    for (const Planablage &plan : plaene) {
+        for (const Planposten &posten : plan.posten) {
+            const QList<Csv::Zelle> eine = {textzelle(plan.titel),
+                                            textzelle(plan.datum.toString(Qt::ISODate)),
+                                            localizedString(posten.schluessel), posten.gramm};
+            tabelle.zeilen << eine + (posten.eintrag
+                                          ? werteUndWertungen(*posten.eintrag, posten.gramm)
+                                          : QList<Csv::Zelle>(anzahlWerte));
+        }
+    }
+    return tabelle;
+}

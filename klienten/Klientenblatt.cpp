@@ -1,0 +1,299 @@
+#include "Klientenblatt.h"
+
+#include "Aktentabellen.h"
+#include "Angabenpruefung.h"
+#include "Druckfuss.h"
+#include "Drucksatz.h"
+#include "Feldworte.h"
+#include "Plandruckwerte.h"
+#include "Planzahlen.h"
+#include "Verlaufsmaler.h"
+#include "Zeichenkettentabelle.h"
+
+#include <QCoreApplication>
+#include <QPainter>
+#include <QPalette>
+
+#include <algorithm>
+#include <memory>
+
+namespace {
+
+constexpr Druckschrift namensschrift = {18, true};
+constexpr Druckschrift kapitelschrift = {13, true};
+constexpr Druckschrift planschrift = {10, true};
+constexpr Druckschrift bildschrift = {8};
+
+/// The sheet keeps this distance from the paper's edges, in points, whatever the printer could do.
+/// At its sides it stands as its foot does.
+constexpr QMarginsF kleinsteRaender(36, 40, 36, 44);
+
+// Of the courses, in points.
+constexpr double kleinsteBildbreite = 240;
+constexpr double bildabstand = 20;
+constexpr double bildhoehe = 150;
+constexpr double unterBild = 4;
+
+constexpr double unterNotiz = 4;
+
+QString uebersetzt(const char *text)
+{
+    return localizedString(QString::fromUtf8(text));
+}
+
+/// What is called by nothing is called that.
+QString oder(const QString &text, const QString &sonst)
+{
+    return text.trimmed().isEmpty() ? sonst : text;
+}
+
+/// The birthday with the age, which nobody wants to work out.
+QString mitAlter(const QString &worte, const QDate &geburt, const QDate &heute)
+{
+    const std::optional<int> alter = alterAm(heute, geburt);
+    return alter ? localizedString(QStringLiteral("%1 (Alter %2)"))
+                       .arg(worte, QString::number(*alter))
+                 : worte;
+}
+
+/// What there is to say of a person; what is not known or does not apply is left out.
+void setzePerson(Drucksatz &satz, const Person &person, const QDate &heute)
+{
+    satz.absatz(oder(person.name, localizedString(QStringLiteral("(ohne Namen)"))), namensschrift);
+    satz.linie();
+    for (const Satzspalte<Person> &spalte : spalten<Person>()) {
+        const QVariant wert = spalte.lies(person);
+        const bool giltNicht = wert.metaType().id() == QMetaType::Int && wert.toInt() == 0;
+        const QString worte = feldworte(spalte.name, wert);
+        if (giltNicht || worte.isEmpty() || qstrcmp(spalte.name, "name") == 0) {
+            continue;
+        }
+        const bool geburt = qstrcmp(spalte.name, "geburt") == 0;
+        satz.angabe(uebersetzt(spalte.beschriftung),
+                    geburt ? mitAlter(worte, person.geburt, heute) : worte);
+    }
+}
+
+/// What a field of a visit says below a heading that names its unit.
+QString ohneEinheit(const Besuch &besuch, const Satzspalte<Besuch> &spalte)
+{
+    const QString worte = feldworte(besuch, spalte);
+    const qsizetype einheit = feldeinheit(spalte.name).size();
+    return worte.isEmpty() || einheit == 0 ? worte : worte.chopped(einheit + 1);
+}
+
+/// The columns in which something stands. The note is none: it has a line of its own.
+QList<Satzspalte<Besuch>> besuchsspalten(const QList<Besuch> &besuche)
+{
+    QList<Satzspalte<Besuch>> gefuellte;
+    for (const Satzspalte<Besuch> &spalte : spalten<Besuch>()) {
+        const bool steht = std::any_of(besuche.begin(), besuche.end(), [&](const Besuch &besuch) {
+            return !feldworte(besuch, spalte).isEmpty();
+        });
+        if (steht && qstrcmp(spalte.name, "notiz") != 0) {
+            gefuellte << spalte;
+        }
+    }
+    return gefuellte;
+}
+
+void setzeBesuche(Drucksatz &satz, const QList<Besuch> &besuche)
+{
+    satz.ueberschrift(localizedString(QStringLiteral("Besuche")), kapitelschrift);
+    if (besuche.isEmpty()) {
+        satz.absatz(localizedString(QStringLiteral("Noch kein Besuch.")));
+        return;
+    }
+    const QList<Satzspalte<Besuch>> gefuellte = besuchsspalten(besuche);
+    Drucktabelle tabelle;
+    for (const Satzspalte<Besuch> &spalte : gefuellte) {
+        tabelle.spalten << Drucktabelle::Spalte{spaltenkopf(spalte),
+                                                !feldeinheit(spalte.name).isEmpty()};
+    }
+    for (const Besuch &besuch : besuche) {
+        Drucktabelle::Zeile zeile;
+        for (const Satzspalte<Besuch> &spalte : gefuellte) {
+            zeile.zellen << ohneEinheit(besuch, spalte);
+        }
+        zeile.darunter = besuch.notiz;
+        tabelle.zeilen << zeile;
+    }
+    satz.tabelle(tabelle);
+}
+
+/// The courses of which there is something to be seen.
+QList<Verlaufsdaten> verlaeufe(const Klientenakte &akte, const QDate &heute)
+{
+    QList<Verlaufsdaten> alle;
+    for (const Messgroesse was : {Messgroesse::Gewicht, Messgroesse::Bmi, Messgroesse::Taille}) {
+        const Verlaufsdaten daten = verlaufsdaten(akte.person, akte.besuche, was, heute);
+        if (!daten.punkte.isEmpty()) {
+            alle << daten;
+        }
+    }
+    return alle;
+}
+
+QPalette papierfarben()
+{
+    QPalette farben;
+    farben.setColor(QPalette::Window, Qt::white);
+    farben.setColor(QPalette::WindowText, Qt::black);
+    return farben;
+}
+
+/// Courses side by side, and below each what it says in words.
+Druckstreifen bilderreihe(const QList<Verlaufsdaten> &verlaeufe, double breite)
+{
+    Druckstreifen reihe{bildhoehe + unterBild, [verlaeufe, breite](QPainter &maler) {
+                            maler.scale(1.0 / druckfeinheit, 1.0 / druckfeinheit);
+                            maler.setFont(druckfont(bildschrift));
+                            QRectF platz(0, 0, breite * druckfeinheit, bildhoehe * druckfeinheit);
+                            for (const Verlaufsdaten &daten : verlaeufe) {
+                                maleVerlauf(maler, platz, daten, papierfarben());
+                                platz.translate((breite + bildabstand) * druckfeinheit, 0);
+                            }
+                        }};
+    QList<Druckzelle> worte;
+    for (qsizetype i = 0; i < verlaeufe.size(); ++i) {
+        worte << Druckzelle{.text = verlaufInWorten(verlaeufe[i]),
+                            .schrift = bildschrift,
+                            .links = static_cast<double>(i) * (breite + bildabstand),
+                            .breite = breite};
+    }
+    for (const Druckstreifen &zeile : gesetzt(worte)) {
+        reihe = verbunden(reihe, zeile);
+    }
+    return reihe;
+}
+
+/// As many side by side as the paper is wide, and which limits they were measured against.
+void setzeVerlauf(Drucksatz &satz, const Klientenakte &akte, const QDate &heute)
+{
+    const QList<Verlaufsdaten> alle = verlaeufe(akte, heute);
+    if (alle.isEmpty()) {
+        return;
+    }
+    satz.ueberschrift(localizedString(QStringLiteral("Verlauf")), kapitelschrift);
+    const auto passen =
+        static_cast<qsizetype>((satz.breite() + bildabstand) / (kleinsteBildbreite + bildabstand));
+    const qsizetype jeReihe = std::clamp<qsizetype>(passen, 1, alle.size());
+    const double breite =
+        (satz.breite() + bildabstand) / static_cast<double>(jeReihe) - bildabstand;
+    QStringList quellen;
+    for (qsizetype i = 0; i < alle.size(); i += jeReihe) {
+        satz.bild(bilderreihe(alle.mid(i, jeReihe), breite));
+        satz.abstand(bildabstand / 2);
+    }
+    for (const Verlaufsdaten &daten : alle) {
+        const QString quelle = zielbandquelle(daten.was);
+        if (daten.band && !quellen.contains(quelle)) {
+            quellen << quelle;
+            satz.absatz(localizedString(QStringLiteral("Zielbereich nach: %1")).arg(quelle),
+                        bildschrift);
+        }
+    }
+}
+
+Drucktabelle plantabelle(const QList<Planposten> &posten)
+{
+    Drucktabelle tabelle;
+    tabelle.spalten = {
+        {localizedString(QStringLiteral("Lebensmittel"))},
+        {mitEinheit(localizedString(QStringLiteral("Menge")), einheitszeichen(Einheit::Gramm)),
+         true},
+        {mitEinheit(localizedString(QStringLiteral("Energie")),
+                    einheitszeichen(Einheit::Kilokalorie)),
+         true}};
+    float gramm = 0;
+    std::int64_t energie = 0;
+    for (const Planposten &eine : posten) {
+        Drucktabelle::Zeile zeile{{localizedString(eine.schluessel), mengentext(eine.gramm)}};
+        if (eine.eintrag) {
+            const std::int32_t kal = druckwert({&*eine.eintrag, eine.gramm}, Naehrwert::kal);
+            zeile.zellen << QString::number(kal);
+            energie += kal;
+        }
+        gramm += eine.gramm;
+        tabelle.zeilen << zeile;
+    }
+    tabelle.zeilen << Drucktabelle::Zeile{
+        {localizedString(QStringLiteral("Gesamt")), mengentext(gramm), QString::number(energie)},
+        {},
+        true};
+    return tabelle;
+}
+
+void setzePlaene(Drucksatz &satz, const QList<Planablage> &plaene)
+{
+    satz.ueberschrift(localizedString(QStringLiteral("Pläne")), kapitelschrift);
+    if (plaene.isEmpty()) {
+        satz.absatz(localizedString(QStringLiteral("Noch kein Plan.")));
+    }
+    for (const Planablage &plan : plaene) {
+        const QString tag = tagesworte(plan.datum);
+        satz.ueberschrift(plan.titel.isEmpty() ? tag
+                                               : QStringLiteral("%1, %2").arg(plan.titel, tag),
+                          planschrift);
+        if (!plan.notiz.isEmpty()) {
+            satz.vorspann(plan.notiz);
+            satz.abstand(unterNotiz);
+        }
+        if (plan.posten.isEmpty()) {
+            satz.absatz(localizedString(QStringLiteral("Ohne Lebensmittel.")));
+        } else {
+            satz.tabelle(plantabelle(plan.posten));
+        }
+    }
+}
+
+QRectF satzspiegel(const QPageLayout &seite)
+{
+    constexpr double schmalste = 50; // else no word would fit
+    QRectF platz = seite.fullRect(QPageLayout::Point)
+                       .marginsRemoved(seite.margins(QPageLayout::Point) | kleinsteRaender);
+    platz.setSize(platz.size().expandedTo({schmalste, schmalste}));
+    return platz;
+}
+
+/// The sheet as it is broken into pages, anew for every paper and not for every page.
+class Papierblatt
+{
+public:
+    Papierblatt(Klientenakte akte, const QDate &heute) : m_akte(std::move(akte)), m_heute(heute) {}
+
+    const Drucksatz &auf(const QPageLayout &seite)
+    {
+        if (!m_satz || m_seite != seite) {
+            m_seite = seite;
+            m_satz.emplace(satzspiegel(seite).size(), m_akte.person.name);
+            setzePerson(*m_satz, m_akte.person, m_heute);
+            setzeBesuche(*m_satz, m_akte.besuche);
+            setzeVerlauf(*m_satz, m_akte, m_heute);
+            setzePlaene(*m_satz, m_akte.plaene);
+        }
+        return *m_satz;
+    }
+
+private:
+    Klientenakte m_akte;
+    QDate m_heute;
+    QPageLayout m_seite;
+    std::optional<Drucksatz> m_satz;
+};
+
+} // namespace
+
+Druckauftrag klientenblatt(const Klientenakte &akte, const QDate &heute)
+{
+    const auto blatt = std::make_shared<Papierblatt>(akte, heute);
+    return mitFuss(
+        {.titel = oder(akte.person.name, localizedString(QStringLiteral("(ohne Namen)"))),
+         .seitenzahl = [blatt](const QPageLayout &seite) { return blatt->auf(seite).seiten(); },
+         .male =
+             [blatt](QPainter &maler, const QPageLayout &seite, int nummer) {
+                 blatt->auf(seite).male(maler, satzspiegel(seite).topLeft(), nummer);
+             },
+         .form = localizedString(QStringLiteral("Akte")),
+         .tag = heute});
+}

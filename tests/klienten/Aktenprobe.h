@@ -1,0 +1,129 @@
+#pragma once
+
+#include "Klientendaten.h"
+
+#include <QCoreApplication>
+#include <QLocale>
+#include <QTranslator>
+
+/// Speaks a language from now on: numbers and days, and while it lives texts too.
+class Probesprache
+{
+public:
+    explicit Probesprache(QLocale::Language sprache)
+    {
+        const bool deutsch = sprache == QLocale::German;
+        QLocale::setDefault(deutsch ? QLocale(QLocale::German, QLocale::Germany)
+                                    : QLocale(QLocale::English, QLocale::UnitedKingdom));
+        if (!deutsch && m_uebersetzer.load(QStringLiteral(":/uebersetzungen/mahlberg_en.qm"))) {
+            QCoreApplication::installTranslator(&m_uebersetzer);
+        }
+    }
+    Probesprache(const Probesprache &) = delete;
+    Probesprache &operator=(const Probesprache &) = delete;
+
+private:
+    QTranslator m_uebersetzer; ///< taken away when it goes
+};
+
+/// A client of whom something is known, with two visits and a plan. What is worked out of it is
+/// worked out by hand where it is asked for.
+namespace Aktenprobe {
+
+inline const QDate heute(2026, 11, 23);
+
+inline Datenmodul speise(const QString &name, float kal, float protein)
+{
+    Datenmodul eine;
+    eine.setName(name);
+    eine.setkal(kal);
+    eine.setprotein(protein);
+    eine.setdiabetes(QStringLiteral("+"));
+    return eine;
+}
+
+inline Person person()
+{
+    Person eine;
+    eine.kennung = QStringLiteral("p");
+    eine.fassung = 3;
+    eine.name = QStringLiteral("Anna Muster");
+    eine.nummer = QStringLiteral("A-17");
+    eine.geburt = QDate(1980, 4, 3);
+    eine.geschlecht = Personengeschlecht::Frau;
+    eine.leiden[stelle(Wertung::diabetes)] = true;
+    eine.notizen = QStringLiteral("Isst gern <b>Brot</b>.\nVerträgt keine Farbstoffe.");
+    return eine;
+}
+
+inline QList<Besuch> besuche()
+{
+    Besuch erster;
+    erster.kennung = QStringLiteral("b1");
+    erster.fassung = 1;
+    erster.datum = QDate(2026, 9, 1);
+    erster.gewicht = 82.5;
+    erster.groesse = 1.68;
+    erster.taille = 98;
+    erster.aktivitaet = Aktivitaet::Mittel;
+    erster.notiz = QStringLiteral("Erstes Gespräch");
+    Besuch zweiter;
+    zweiter.kennung = QStringLiteral("b2");
+    zweiter.fassung = 2;
+    zweiter.datum = QDate(2026, 10, 6);
+    zweiter.gewicht = 80.9;
+    zweiter.taille = 95.5;
+    zweiter.reduktion = true;
+    zweiter.sport = QStringLiteral("Radfahren");
+    zweiter.sportdauer = 0.5;
+    return {erster, zweiter};
+}
+
+inline Planablage plan()
+{
+    Planablage einer;
+    einer.kennung = QStringLiteral("l");
+    einer.fassung = 1;
+    einer.titel = QStringLiteral("Erste Woche");
+    einer.datum = QDate(2026, 9, 2);
+    einer.notiz = QStringLiteral("Abends warm");
+    einer.posten = {
+        {QStringLiteral("Äpfel, roh"), 150, speise(QStringLiteral("Äpfel, roh"), 52, 0.3F)},
+        {QStringLiteral("Weißbrot"), 60.9F, speise(QStringLiteral("Weißbrot"), 255, 8)},
+        {QStringLiteral("Vergessenes"), 80, {}},
+    };
+    return einer;
+}
+
+inline Klientenakte akte()
+{
+    return {person(), besuche(), {plan()}};
+}
+
+/// So many visits, a week apart from the first of January 2025, with 90 kg at first and 0.1 kg less
+/// each time.
+inline QList<Besuch> viele(int anzahl)
+{
+    QList<Besuch> alle;
+    for (int i = 0; i < anzahl; ++i) {
+        Besuch einer;
+        einer.kennung = QStringLiteral("b%1").arg(i);
+        einer.fassung = 1;
+        einer.datum = QDate(2025, 1, 1).addDays(7 * i);
+        einer.gewicht = 90 - 0.1 * i;
+        alle << einer;
+    }
+    return alle;
+}
+
+/// Words that can be told from one another: "wort0001 wort0002" and so on.
+inline QString worte(int anzahl)
+{
+    QStringList alle;
+    for (int i = 1; i <= anzahl; ++i) {
+        alle << QStringLiteral("wort%1").arg(i, 4, 10, QLatin1Char('0'));
+    }
+    return alle.join(QLatin1Char(' '));
+}
+
+} // namespace Aktenprobe
