@@ -3,6 +3,8 @@
 #include <QPainter>
 
 #include <algorithm>
+#include <iterator>
+#include <numeric>
 #include <utility>
 
 namespace {
@@ -17,6 +19,7 @@ constexpr double spaltenabstand = 12;
 constexpr double meisteDehnung = 60; ///< by which a column is wider than it asks for
 constexpr double langesWort = 100;   ///< longer ones may be broken
 constexpr double zeilenluft = 2.5;   ///< above and below the texts of a row
+constexpr double vorDarunter = 1.5;
 constexpr double feinerStrich = 0.3;
 constexpr double strich = 0.8;
 constexpr double einzug = 12;
@@ -49,6 +52,25 @@ Druckstreifenfolge ohneEinzelne(Druckstreifenfolge folge)
     const Druckstreifen erster = folge.takeFirst();
     folge.first() = verbunden(erster, folge.constFirst());
     return folge;
+}
+
+Druckstreifen ganz(const Druckstreifenfolge &folge)
+{
+    return std::accumulate(std::next(folge.begin()), folge.end(), folge.constFirst(), verbunden);
+}
+
+/// Neither the first nor the last row stands alone below a head.
+QList<Druckstreifenfolge> ohneEinzelneReihen(QList<Druckstreifenfolge> reihen)
+{
+    if (reihen.size() > 1) {
+        const Druckstreifenfolge erste = reihen.takeFirst();
+        reihen.first() = erste + reihen.constFirst();
+    }
+    if (reihen.size() > 1) {
+        const Druckstreifenfolge letzte = reihen.takeLast();
+        reihen.last() += letzte;
+    }
+    return reihen;
 }
 
 /// A row with air around it and a line below.
@@ -86,6 +108,7 @@ Druckstreifenfolge tabellenzeile(const Drucktabelle &tabelle, const Drucktabelle
     const double breite = links - spaltenabstand;
     Druckstreifenfolge folge = gesetzt(zellen);
     if (!zeile.darunter.isEmpty()) {
+        folge.last() = verbunden(folge.constLast(), freiraum(vorDarunter));
         folge << gesetzt({{.text = zeile.darunter, .links = einzug, .breite = breite - einzug}});
     }
     return gefasst(ohneEinzelne(folge), breite, art.strich);
@@ -100,7 +123,7 @@ struct Breitenwunsch
 
 Breitenwunsch wunsch(const Drucktabelle &tabelle, qsizetype spalte, double platz)
 {
-    Breitenwunsch wunsch;
+    Breitenwunsch wunsch{0, tabelle.spalten[spalte].mindestens};
     const auto beachte = [&](const QString &text, const Druckschrift &schrift) {
         wunsch.mindestens = std::max(wunsch.mindestens, wortbreite(text, schrift));
         wunsch.gern = std::max(wunsch.gern, textbreite(text, schrift));
@@ -203,8 +226,14 @@ void Drucksatz::tabelle(const Drucktabelle &tabelle)
     }
     m_tabellenkopf = tabellenzeile(tabelle, koepfe, breiten, {kopfschrift, strich});
     m_wartend << m_tabellenkopf;
+    QList<Druckstreifenfolge> reihen;
     for (const Drucktabelle::Zeile &zeile : tabelle.zeilen) {
-        setze(tabellenzeile(tabelle, zeile, breiten, {zeile.fett ? fett : normal, feinerStrich}));
+        const Druckstreifenfolge reihe =
+            tabellenzeile(tabelle, zeile, breiten, {zeile.fett ? fett : normal, feinerStrich});
+        reihen << (istLang(reihe) ? reihe : Druckstreifenfolge{ganz(reihe)});
+    }
+    for (const Druckstreifenfolge &gruppe : ohneEinzelneReihen(reihen)) {
+        setze(gruppe);
     }
     m_tabellenkopf.clear();
 }

@@ -14,7 +14,8 @@ struct Drucktabelle
     struct Spalte
     {
         QString kopf;
-        bool zahlen = false; ///< they stand below each other at the right edge
+        bool zahlen = false;   ///< they stand below each other at the right edge
+        double mindestens = 0; ///< points that it is wide where there is room for them
     };
     struct Zeile
     {

@@ -34,6 +34,8 @@ constexpr double bildabstand = 20;
 constexpr double bildhoehe = 150;
 constexpr double unterBild = 4;
 
+// Of a plan, in points.
+constexpr double namensbreite = 260; ///< all plans have their numbers in the same place
 constexpr double unterNotiz = 4;
 
 QString uebersetzt(const char *text)
@@ -199,7 +201,7 @@ Drucktabelle plantabelle(const QList<Planposten> &posten)
 {
     Drucktabelle tabelle;
     tabelle.spalten = {
-        {localizedString(QStringLiteral("Lebensmittel"))},
+        {localizedString(QStringLiteral("Lebensmittel")), false, namensbreite},
         {mitEinheit(localizedString(QStringLiteral("Menge")), einheitszeichen(Einheit::Gramm)),
          true},
         {mitEinheit(localizedString(QStringLiteral("Energie")),
