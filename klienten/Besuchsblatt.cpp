@@ -60,7 +60,7 @@ Besuchsblatt::Besuchsblatt(Kartei &kartei, Meldungstuer melde)
     besuche->setColumnCount(static_cast<int>(spalten<Besuch>().size()));
     besuche->verticalHeader()->hide();
     besuche->verticalHeader()->setDefaultSectionSize(zeilenhoeheFuer(*besuche, zeilenhoehe));
-    besuche->horizontalHeader()->setStretchLastSection(true);
+    besuche->horizontalHeader()->setHighlightSections(false);
     Tabellenkopie::ermoegliche(*besuche);
     new Sperrgrund(besuchLoeschen,
                    localizedString(QStringLiteral("Wählen Sie zuerst einen Besuch.")));
@@ -133,7 +133,9 @@ void Besuchsblatt::fuelle()
             besuche->setCurrentCell(zeile, std::max(0, besuche->currentColumn()));
         }
     }
+    besuche->horizontalHeader()->setStretchLastSection(false);
     besuche->resizeColumnsToContents();
+    besuche->horizontalHeader()->setStretchLastSection(true);
 }
 
 void Besuchsblatt::waehle(int zeile)
@@ -222,6 +224,7 @@ bool Besuchsblatt::sichere()
 void Besuchsblatt::beginneBesuch()
 {
     if (!sichere()) {
+        Q_EMIT festgehalten();
         return;
     }
     const QDate heute = QDate::currentDate();

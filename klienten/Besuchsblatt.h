@@ -36,6 +36,8 @@ public:
 Q_SIGNALS:
     /// A visit was taken away.
     void geloescht();
+    /// What stands in the fields can't be kept, and so nothing else is shown.
+    void festgehalten();
 
 private:
     void bieteAn();

@@ -2,6 +2,7 @@
 
 #include "Angabenpruefung.h"
 #include "Feldworte.h"
+#include "Rollbereich.h"
 #include "Schriftplatz.h"
 #include "Schriftstufe.h"
 #include "Tabellenkopie.h"
@@ -69,12 +70,15 @@ Klientenfenster::Klientenfenster(Kartei &kartei, Tischklient &tisch, Klientenfen
     Tabellenkopie::ermoegliche(*liste);
     teiler->setSizes({listenbreite, width() - listenbreite});
     teiler->setStretchFactor(1, 1);
+    fusszeile->setMinimumHeight(hinweise->zweizeilig());
+    hinweise->vertritt(fusszeile); // nothing moves when a notice comes or goes
     verbinde();
     Schriftstufe::kleide(*this);
     Schriftplatz::gib(*this);
     m_kartei.lade();
     fuelleListe();
     zeigeHindernis();
+    zeigeOrt();
     zeigeAkte();
 }
 
@@ -87,7 +91,8 @@ void Klientenfenster::baueSeiten()
     const std::array<QWidget *, 4> blaetter = {personenblatt, besuchsblatt, planblatt,
                                                fortschrittsblatt};
     for (std::size_t i = 0; i < blaetter.size(); ++i) {
-        seiten->addTab(blaetter.at(i), localizedString(QString::fromUtf8(seitentitel.at(i))));
+        seiten->addTab(new Rollbereich(blaetter.at(i)),
+                       localizedString(QString::fromUtf8(seitentitel.at(i))));
     }
 }
 
@@ -122,6 +127,7 @@ void Klientenfenster::verbinde()
     });
     connect(besuchsblatt, &Besuchsblatt::geloescht, this,
             [this] { sageGeloescht(localizedString(QStringLiteral("Der Besuch ist gelöscht."))); });
+    connect(besuchsblatt, &Besuchsblatt::festgehalten, this, &Klientenfenster::sageFestgehalten);
     connect(planblatt, &Planblatt::geloescht, this,
             [this] { sageGeloescht(localizedString(QStringLiteral("Der Plan ist gelöscht."))); });
     connect(planblatt, &Planblatt::ablegenGewuenscht, &m_tisch, &Tischklient::legePlanAb);
@@ -163,17 +169,22 @@ void Klientenfenster::waehle(const QString &kennung)
     }
     if (!sichere()) {
         fuelleListe(); // chooses the one before again
-        hinweise->zeige({.kennung = hinweisUnlesbar,
-                         .text = localizedString(QStringLiteral(
-                             "Eine Angabe ist noch nicht gesichert: Neben ihrem Feld steht, warum. "
-                             "Bitte ändern oder leeren Sie sie.")),
-                         .warnung = true});
+        sageFestgehalten();
         return;
     }
     hinweise->nimmZurueck(hinweisUnlesbar);
     m_neuer = false;
     m_gewaehlt = kennung;
     zeigeAkte();
+}
+
+void Klientenfenster::sageFestgehalten()
+{
+    hinweise->zeige({.kennung = hinweisUnlesbar,
+                     .text = localizedString(QStringLiteral(
+                         "Eine Angabe ist noch nicht gesichert: Neben ihrem Feld steht, warum. "
+                         "Bitte ändern oder leeren Sie sie.")),
+                     .warnung = true});
 }
 
 bool Klientenfenster::sichere()
@@ -184,8 +195,12 @@ bool Klientenfenster::sichere()
     if (!m_neuer && !m_akte) {
         return true;
     }
-    const bool person = personenblatt->sichere();
-    return m_neuer || (besuchsblatt->sichere() && planblatt->sichere() && person) ? person : false;
+    bool gut = personenblatt->sichere();
+    if (m_akte) {
+        gut = besuchsblatt->sichere() && gut;
+        gut = planblatt->sichere() && gut;
+    }
+    return gut;
 }
 
 void Klientenfenster::zeigeAkte()
@@ -226,6 +241,16 @@ void Klientenfenster::zeigeKopf()
     zeigeLeeres();
 }
 
+/// Below everything stands where the clients are kept.
+void Klientenfenster::zeigeOrt()
+{
+    fusszeile->setText(
+        m_tueren.datei.isNull()
+            ? localizedString(QStringLiteral("Die Klienten stehen auf dem Server der Praxis."))
+            : localizedString(QStringLiteral("Die Klienten stehen in einer Datei an diesem Platz, "
+                                             "die nur Sie lesen können.")));
+}
+
 /// Where nobody is shown, it says what can be done.
 void Klientenfenster::zeigeLeeres()
 {
@@ -252,6 +277,13 @@ void Klientenfenster::folgeSprache()
     fuelleListe();
     zeigeKopf();
     zeigeHindernis();
+    zeigeOrt();
+}
+
+void Klientenfenster::setDatei(const QString &datei)
+{
+    m_tueren.datei = datei;
+    zeigeOrt();
 }
 
 /// Another desk may have changed something since this window was looked at last.

@@ -45,7 +45,7 @@ public:
     /// Another language is spoken: captions follow already, what is put together does here.
     void folgeSprache();
     /// Where the store is now; see `Klientenfenstertueren::datei`.
-    void setDatei(const QString &datei) { m_tueren.datei = datei; }
+    void setDatei(const QString &datei);
 
     // What the menu does. Without a chosen client those about one do nothing.
     void neuerKlient();
@@ -82,6 +82,7 @@ private:
     void verbinde();
     void fuelleListe();
     void zeigeLeeres();
+    void zeigeOrt();
     void waehle(const QString &kennung);
     void zeigeAkte();
     void zeigeKopf();
@@ -90,6 +91,8 @@ private:
     void zeigeVerschwundenen(const Schreibwunsch &wunsch);
     void nimmWiederAuf(const Schreibwunsch &wunsch);
     void nimmDateiAuf(const QString &path);
+    bool darfFort();
+    void sageFestgehalten();
     void sageGeloescht(const QString &was);
     void sageUebergabe(const QString &ordner);
 

@@ -110,16 +110,26 @@ void Klientenfenster::baueMenue()
     connect(handbuch, &QAction::triggered, this, &Klientenfenster::hilfeGewuenscht);
 }
 
+/// What can't be kept holds the user where it stands, with a word.
+bool Klientenfenster::darfFort()
+{
+    const bool gesichert = sichere();
+    if (!gesichert) {
+        sageFestgehalten();
+    }
+    return gesichert;
+}
+
 void Klientenfenster::neuerKlient()
 {
-    if (!m_kartei.beschreibbar() || !sichere()) {
+    if (!m_kartei.beschreibbar() || !darfFort()) {
         return;
     }
     m_gewaehlt = QString();
     m_akte.reset();
     m_neuer = true;
     liste->clearSelection();
-    seiten->setCurrentWidget(personenblatt);
+    seiten->setCurrentIndex(0);
     personenblatt->zeige(Person());
     zeigeKopf();
     personenblatt->name->setFocus();
@@ -127,7 +137,7 @@ void Klientenfenster::neuerKlient()
 
 void Klientenfenster::anDenTisch()
 {
-    if (!m_akte || !sichere()) {
+    if (!m_akte || !darfFort()) {
         return;
     }
     if (m_tisch.ist(m_gewaehlt)) {
@@ -139,7 +149,7 @@ void Klientenfenster::anDenTisch()
 
 void Klientenfenster::archiviere()
 {
-    if (m_akte && sichere()) {
+    if (m_akte && darfFort()) {
         Person neu = m_akte->person;
         neu.archiviert = !neu.archiviert;
         m_kartei.sichere({m_gewaehlt, neu, Satz(m_akte->person)});
@@ -190,21 +200,21 @@ void Klientenfenster::nimmZurueck()
 
 void Klientenfenster::drucke()
 {
-    if (m_akte && sichere() && m_tueren.drucke) {
+    if (m_akte && darfFort() && m_tueren.drucke) {
         m_tueren.drucke(this, klientenblatt(*m_akte, QDate::currentDate()));
     }
 }
 
 void Klientenfenster::alsPdfSichern()
 {
-    if (m_akte && sichere() && m_tueren.alsPdf) {
+    if (m_akte && darfFort() && m_tueren.alsPdf) {
         m_tueren.alsPdf(this, klientenblatt(*m_akte, QDate::currentDate()), [] {});
     }
 }
 
 void Klientenfenster::uebergib()
 {
-    if (!m_akte || !sichere() || !m_tueren.waehleDatei) {
+    if (!m_akte || !darfFort() || !m_tueren.waehleDatei) {
         return;
     }
     m_tueren.waehleDatei(this,

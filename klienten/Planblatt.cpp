@@ -109,8 +109,7 @@ void Planblatt::fuelle()
     const QScopedValueRollback fuellt(m_fuellt, true);
     plaene->clear();
     for (auto plan = m_akte.plaene.crbegin(); plan != m_akte.plaene.crend(); ++plan) {
-        plaene->addItem(tagesworte(plan->datum) +
-                        QStringLiteral("  ") + plan->titel);
+        plaene->addItem(tagesworte(plan->datum) + QStringLiteral("  ") + plan->titel);
         if (plan->kennung == m_gewaehlt) {
             plaene->setCurrentRow(plaene->count() - 1);
         }
@@ -177,7 +176,8 @@ void Planblatt::fuelleZeilen(const QList<Planposten> &posten)
     }
     zeilen->resizeColumnToContents(spalteGramm);
     planworte->setText(
-        geaenderte == 0
+        gewaehlter() == nullptr ? localizedString(QStringLiteral("Noch kein Plan abgelegt."))
+        : geaenderte == 0
             ? QString()
             : localizedString(QStringLiteral("Der Plan steht hier mit den Werten seines Tages. "
                                              "Seitdem anders: %1 von %2 Lebensmitteln."))

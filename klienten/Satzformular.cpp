@@ -20,6 +20,8 @@ constexpr int schreibpause = 800; // milliseconds
 /// Shows how days are typed: which of its figures is the day can't be mistaken.
 const QDate beispieltag(1980, 12, 31);
 
+constexpr double beispielzahl = 72.5;
+
 /// How a kept value stands in a field into which one types: as it is told, without its unit.
 QString alsText(const char *spalte, const QVariant &wert)
 {
@@ -57,9 +59,10 @@ bool ausText(const char *spalte, const QString &text, const QDate &heute, QVaria
 
 QString unlesbar(const char *spalte)
 {
-    return istTag(spalte) ? localizedString(QStringLiteral("Das ist kein Tag wie %1."))
-                                .arg(tagesworte(beispieltag))
-                          : localizedString(QStringLiteral("Das ist keine Zahl, z. B. 72,5."));
+    return istTag(spalte)
+               ? localizedString(QStringLiteral("Kein Tag wie %1.")).arg(tagesworte(beispieltag))
+               : localizedString(QStringLiteral("Keine Zahl wie %1."))
+                     .arg(zahlenform().toString(beispielzahl));
 }
 
 } // namespace
@@ -139,7 +142,7 @@ void Satzformular::zeigeFeld(const QString &spalte, const QVariant &wert)
     const QByteArray name = spalte.toLatin1();
     if (auto *zeile = qobject_cast<QLineEdit *>(ziel)) {
         const QString text = alsText(name.constData(), wert);
-        if (istTag(name.constData())) {
+        if (istTag(name.constData()) && zeile->isEnabled()) {
             zeile->setPlaceholderText(tagesworte(beispieltag));
         }
         if (zeile->text() != text) {

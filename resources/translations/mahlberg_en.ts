@@ -220,7 +220,7 @@
  </message>
  <message>
   <source>B&amp;is</source>
-  <translation>T&amp;o</translation>
+  <translation>&amp;To</translation>
  </message>
  <message>
   <source>Vergleich</source>
@@ -1420,11 +1420,11 @@ Nothing is worked out for children under 10 years; it resumes at 11 years.</tr
  </message>
  <message>
   <source>Erst ein Besuch. Mit dem zweiten steht hier, was sich geändert hat.</source>
-  <translation>Only one visit so far. With the second one, what has changed stands here.</translation>
+  <translation>Only one visit so far. From the second one on, what has changed is told here.</translation>
  </message>
  <message>
   <source>Erst ein abgelegter Plan. Mit dem zweiten steht hier, worin sie sich unterscheiden.</source>
-  <translation>Only one plan kept so far. With the second one, how they differ stands here.</translation>
+  <translation>Only one plan kept so far. From the second one on, how they differ is told here.</translation>
  </message>
  <message>
   <source>Es gibt keinen Stand, der zurückgeholt werden kann.</source>
@@ -1640,11 +1640,11 @@ Nothing is worked out for children under 10 years; it resumes at 11 years.</tr
  </message>
  <message>
   <source>Noch kein Besuch. Sobald zwei da sind, stehen sie hier nebeneinander.</source>
-  <translation>No visit yet. As soon as there are two, they stand here side by side.</translation>
+  <translation>No visit yet. As soon as there are two, they are compared here.</translation>
  </message>
  <message>
   <source>Noch kein abgelegter Plan. Sobald zwei da sind, stehen sie hier nebeneinander.</source>
-  <translation>No plan kept yet. As soon as there are two, they stand here side by side.</translation>
+  <translation>No plan kept yet. As soon as there are two, they are compared here.</translation>
  </message>
  <message>
   <source>Noch keine Messung von Gewicht und Größe.</source>
@@ -3641,14 +3641,6 @@ New: %1</translation>
   <translation>The weight leaps: %1 after %2 on %3.</translation>
  </message>
  <message>
-  <source>Das ist kein Tag wie %1.</source>
-  <translation>This is no date such as %1.</translation>
- </message>
- <message>
-  <source>Das ist keine Zahl, z. B. 72,5.</source>
-  <translation>This is no number such as 72.5.</translation>
- </message>
- <message>
   <source>Das ist weder der Name eines Dienstes noch eine Verbindung.</source>
   <translation>This is neither the name of a service nor a connection.</translation>
  </message>
@@ -4103,6 +4095,26 @@ New: %1</translation>
  <message>
   <source>Der Ordner „%1“ lässt sich nicht anlegen.</source>
   <translation>The folder “%1” cannot be made.</translation>
+ </message>
+ <message>
+  <source>Kein Tag wie %1.</source>
+  <translation>No date such as %1.</translation>
+ </message>
+ <message>
+  <source>Keine Zahl wie %1.</source>
+  <translation>No number such as %1.</translation>
+ </message>
+ <message>
+  <source>Die Klienten stehen auf dem Server der Praxis.</source>
+  <translation>The clients are on the server of the practice.</translation>
+ </message>
+ <message>
+  <source>Die Klienten stehen in einer Datei an diesem Platz, die nur Sie lesen können.</source>
+  <translation>The clients are in a file at this desk that only you can read.</translation>
+ </message>
+ <message>
+  <source>Noch kein Plan abgelegt.</source>
+  <translation>No plan is kept yet.</translation>
  </message>
 </context>
 <context>
@@ -4603,20 +4615,20 @@ New: %1</translation>
 <context>
  <name>BesuchsblattGestalt</name>
  <message>
-  <source>&amp;Hüfte (cm)</source>
-  <translation>&amp;Hips (cm)</translation>
+  <source>&amp;Gewicht (kg)</source>
+  <translation>Wei&amp;ght (kg)</translation>
  </message>
  <message>
-  <source>&amp;Taille (cm)</source>
-  <translation>Wais&amp;t (cm)</translation>
+  <source>&amp;Neuer Besuch</source>
+  <translation>New &amp;visit</translation>
  </message>
  <message>
   <source>&amp;Verlauf von</source>
-  <translation>&amp;Course of</translation>
+  <translation>Course o&amp;f</translation>
  </message>
  <message>
   <source>Besuch &amp;löschen</source>
-  <translation>&amp;Delete visit</translation>
+  <translation>De&amp;lete visit</translation>
  </message>
  <message>
   <source>Besuche</source>
@@ -4627,40 +4639,40 @@ New: %1</translation>
   <translation>Da&amp;te</translation>
  </message>
  <message>
-  <source>Ge&amp;wicht (kg)</source>
-  <translation>&amp;Weight (kg)</translation>
- </message>
- <message>
   <source>Gewichts&amp;reduktion</source>
   <translation>Weight &amp;reduction</translation>
  </message>
  <message>
   <source>Größ&amp;e (m)</source>
-  <translation>H&amp;eight (m)</translation>
+  <translation>He&amp;ight (m)</translation>
+ </message>
+ <message>
+  <source>Hü&amp;fte (cm)</source>
+  <translation>Hi&amp;ps (cm)</translation>
  </message>
  <message>
   <source>Legt einen Besuch von heute an</source>
   <translation>Begins a visit of today</translation>
  </message>
  <message>
-  <source>Neuer &amp;Besuch</source>
-  <translation>New &amp;visit</translation>
- </message>
- <message>
-  <source>Not&amp;iz</source>
-  <translation>Not&amp;e</translation>
+  <source>N&amp;otiz</source>
+  <translation>N&amp;ote</translation>
  </message>
  <message>
   <source>S&amp;port</source>
-  <translation>S&amp;port</translation>
+  <translation>&amp;Sport</translation>
  </message>
  <message>
-  <source>Sport am Ta&amp;g (h)</source>
-  <translation>Sport per da&amp;y (h)</translation>
+  <source>Sport a&amp;m Tag (h)</source>
+  <translation>Sport per day (h)</translation>
  </message>
  <message>
-  <source>Tätig&amp;keit</source>
-  <translation>Acti&amp;vity</translation>
+  <source>T&amp;aille (cm)</source>
+  <translation>W&amp;aist (cm)</translation>
+ </message>
+ <message>
+  <source>T&amp;ätigkeit</source>
+  <translation>Activit&amp;y</translation>
  </message>
  <message>
   <source>Verlauf</source>
@@ -4670,16 +4682,12 @@ New: %1</translation>
 <context>
  <name>KlientenfensterGestalt</name>
  <message>
-  <source>&amp;Neuer Klient …</source>
-  <translation>&amp;New client …</translation>
- </message>
- <message>
   <source>An den Schreib&amp;tisch</source>
   <translation>To the &amp;desk</translation>
  </message>
  <message>
-  <source>Auch ar&amp;chivierte zeigen</source>
-  <translation>Show ar&amp;chived ones too</translation>
+  <source>Auch archivierte &amp;zeigen</source>
+  <translation>Sho&amp;w archived ones too</translation>
  </message>
  <message>
   <source>Klienten</source>
@@ -4694,6 +4702,10 @@ New: %1</translation>
   <translation>Name or number</translation>
  </message>
  <message>
+  <source>Neuer Kl&amp;ient …</source>
+  <translation>&amp;New client …</translation>
+ </message>
+ <message>
   <source>Stellt den Rechner auf diesen Klienten; sein Name steht dann über den Fenstern und auf den Ausdrucken</source>
   <translation>Sets the calculator to this client, whose name then stands over the windows and on prints</translation>
  </message>
@@ -4701,8 +4713,12 @@ New: %1</translation>
 <context>
  <name>PersonenblattGestalt</name>
  <message>
+  <source>&amp;Archiviert: nicht mehr in der täglichen Liste, mit allem, was aufgehoben ist</source>
+  <translation>A&amp;rchived: no longer in the daily list, with everything that is kept</translation>
+ </message>
+ <message>
   <source>&amp;Diabetes</source>
-  <translation>&amp;Diabetes</translation>
+  <translation>D&amp;iabetes</translation>
  </message>
  <message>
   <source>&amp;Geburtsdatum</source>
@@ -4710,54 +4726,54 @@ New: %1</translation>
  </message>
  <message>
   <source>&amp;Name</source>
-  <translation>&amp;Name</translation>
+  <translation>N&amp;ame</translation>
  </message>
  <message>
-  <source>A&amp;rchiviert: nicht mehr in der täglichen Liste, mit allem, was aufgehoben ist</source>
-  <translation>A&amp;rchived: no longer in the daily list, with everything that is kept</translation>
- </message>
- <message>
-  <source>G&amp;icht</source>
-  <translation>&amp;Gout</translation>
+  <source>&amp;Schwanger oder stillend</source>
+  <translation>&amp;Pregnant or nursing</translation>
  </message>
  <message>
   <source>Geschl&amp;echt</source>
-  <translation>G&amp;ender</translation>
+  <translation>&amp;Gender</translation>
  </message>
  <message>
-  <source>Her&amp;z und Kreislauf</source>
-  <translation>&amp;Heart and circulation</translation>
+  <source>Gi&amp;cht</source>
+  <translation>Gou&amp;t</translation>
+ </message>
+ <message>
+  <source>Herz und Kreis&amp;lauf</source>
+  <translation>Heart and circu&amp;lation</translation>
  </message>
  <message>
   <source>N&amp;otizen</source>
-  <translation>N&amp;otes</translation>
+  <translation>Note&amp;s</translation>
  </message>
  <message>
   <source>N&amp;ummer</source>
   <translation>N&amp;umber</translation>
  </message>
  <message>
-  <source>Schwanger oder &amp;stillend</source>
-  <translation>Pre&amp;gnant or nursing</translation>
- </message>
- <message>
   <source>Worauf es ankommt</source>
   <translation>What matters</translation>
  </message>
  <message>
-  <source>Ü&amp;bergewicht</source>
+  <source>Übe&amp;rgewicht</source>
   <translation>&amp;Overweight</translation>
  </message>
 </context>
 <context>
  <name>PlanblattGestalt</name>
  <message>
+  <source>&amp;Notiz</source>
+  <translation>N&amp;ote</translation>
+ </message>
+ <message>
   <source>Abgelegte Pläne</source>
   <translation>Plans that are kept</translation>
  </message>
  <message>
   <source>Dat&amp;um</source>
-  <translation>Da&amp;te</translation>
+  <translation>D&amp;ate</translation>
  </message>
  <message>
   <source>Hebt den Mahlzeitenplan, wie er jetzt ist, bei diesem Klienten auf</source>
@@ -4772,23 +4788,19 @@ New: %1</translation>
   <translation>Foods of the plan</translation>
  </message>
  <message>
-  <source>Not&amp;iz</source>
-  <translation>Not&amp;e</translation>
- </message>
- <message>
   <source>Plan &amp;ablegen</source>
   <translation>&amp;Keep plan</translation>
  </message>
  <message>
-  <source>Plan &amp;holen</source>
+  <source>Plan &amp;löschen</source>
+  <translation>De&amp;lete plan</translation>
+ </message>
+ <message>
+  <source>Plan h&amp;olen</source>
   <translation>&amp;Fetch plan</translation>
  </message>
  <message>
-  <source>Plan &amp;löschen</source>
-  <translation>&amp;Delete plan</translation>
- </message>
- <message>
-  <source>T&amp;itel</source>
+  <source>Tit&amp;el</source>
   <translation>&amp;Title</translation>
  </message>
 </context>
