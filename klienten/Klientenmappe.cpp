@@ -86,12 +86,12 @@ bool schreibePdf(const QString &path, const Druckauftrag &auftrag)
 /// Fills a folder. The name of the file that could not be written; null when all are.
 QString fuelle(const QDir &ordner, const Klientenakte &akte, const QDate &heute)
 {
-    const QString pdf = aktenname() + QStringLiteral(".pdf");
+    QString pdf = aktenname() + QStringLiteral(".pdf");
     if (!schreibePdf(ordner.filePath(pdf), klientenblatt(akte, heute))) {
         return pdf;
     }
     for (const Mappentabelle &eine : mappentabellen) {
-        const QString csv = localizedString(QString::fromUtf8(eine.name)) + QStringLiteral(".csv");
+        QString csv = localizedString(QString::fromUtf8(eine.name)) + QStringLiteral(".csv");
         if (!schreibe(ordner.filePath(csv),
                       Csv::schreiben(eine.tabelle(akte), Csv::formDesTabellenprogramms()))) {
             return csv;

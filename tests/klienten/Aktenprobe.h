@@ -109,7 +109,7 @@ inline QList<Besuch> viele(int anzahl)
         Besuch einer;
         einer.kennung = QStringLiteral("b%1").arg(i);
         einer.fassung = 1;
-        einer.datum = QDate(2025, 1, 1).addDays(7 * i);
+        einer.datum = QDate(2025, 1, 1).addDays(7LL * i);
         einer.gewicht = 90 - 0.1 * i;
         alle << einer;
     }

@@ -208,7 +208,7 @@ void TestKlientenblatt::manyVisitsGoOverPages()
     QVERIFY(koepfe >= 2);
     QCOMPARE(reihen.size(), 120);
     for (int i = 0; i < 120; ++i) {
-        const QDate tag = QDate(2025, 1, 1).addDays(7 * i);
+        const QDate tag = QDate(2025, 1, 1).addDays(7LL * i);
         QCOMPARE(reihen[i],
                  tag.toString(u"dd.MM.yyyy"_s) + u' ' + QLocale().toString(90 - 0.1 * i, 'f', 1));
     }
