@@ -89,6 +89,7 @@ private:
     void zeigeHindernis();
     void zeigeKollision(const Kollision &kollision);
     void zeigeVerschwundenen(const Schreibwunsch &wunsch);
+    std::optional<Klientenakte> hiesigeAkte(const QString &kennung) const;
     void nimmWiederAuf(const Schreibwunsch &wunsch);
     void nimmDateiAuf(const QString &path);
     bool darfFort();

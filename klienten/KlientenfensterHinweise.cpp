@@ -6,6 +6,35 @@
 #include "Kollisionsfenster.h"
 #include "Zeichenkettentabelle.h"
 
+#include <algorithm>
+
+namespace {
+
+/// The count of writes that a record has in there; absent when it is not in it.
+template <typename Art>
+std::optional<int> fassungUnter(const QList<Art> &saetze, const Art &satz)
+{
+    const auto stelle = std::find_if(saetze.begin(), saetze.end(), [&](const Art &einer) {
+        return einer.kennung == satz.kennung;
+    });
+    return stelle != saetze.end() ? std::optional(stelle->fassung) : std::nullopt;
+}
+
+std::optional<int> fassungIn(const std::optional<Klientenakte> & /*akte*/, const Person & /*wer*/)
+{
+    return std::nullopt;
+}
+std::optional<int> fassungIn(const std::optional<Klientenakte> &akte, const Besuch &besuch)
+{
+    return akte ? fassungUnter(akte->besuche, besuch) : std::nullopt;
+}
+std::optional<int> fassungIn(const std::optional<Klientenakte> &akte, const Planablage &plan)
+{
+    return akte ? fassungUnter(akte->plaene, plan) : std::nullopt;
+}
+
+} // namespace
+
 /// What stands in the way is said as long as it does, and what that means for what was typed.
 void Klientenfenster::zeigeHindernis()
 {
@@ -73,21 +102,40 @@ void Klientenfenster::zeigeVerschwundenen(const Schreibwunsch &wunsch)
     }
 }
 
-/// Brings back what another desk has deleted: the client whole where they are gone, or one record.
+/// What this desk still has of a client: on display or at the desk. Absent when it has nothing.
+std::optional<Klientenakte> Klientenfenster::hiesigeAkte(const QString &kennung) const
+{
+    for (const std::optional<Klientenakte> &akte : {m_akte, m_tisch.akte()}) {
+        if (akte && akte->person.kennung == kennung) {
+            return akte;
+        }
+    }
+    return std::nullopt;
+}
+
+/// Brings back what another desk has deleted: the client whole where they are gone, and the record.
 void Klientenfenster::nimmWiederAuf(const Schreibwunsch &wunsch)
 {
-    const bool personDa = m_kartei.akte(wunsch.person).has_value();
-    if (!personDa && m_akte && m_gewaehlt == wunsch.person) {
-        Klientenakte akte = *m_akte;
-        if (const auto *neue = std::get_if<Person>(&wunsch.neu)) {
-            akte.person = *neue;
+    const bool personFehlt = !m_kartei.akte(wunsch.person);
+    if (personFehlt) {
+        std::optional<Klientenakte> akte = hiesigeAkte(wunsch.person);
+        if (akte && std::holds_alternative<Person>(wunsch.neu)) {
+            akte->person = std::get<Person>(wunsch.neu);
         }
-        m_kartei.nimmAuf(akte);
+        if (!akte || !m_kartei.nimmAuf(*akte)) {
+            m_kartei.verzichte(wunsch);
+            return;
+        }
     }
-    if (personDa || !std::holds_alternative<Person>(wunsch.neu)) {
+    if (!std::holds_alternative<Person>(wunsch.neu)) {
+        const std::optional<Klientenakte> akte = m_kartei.akte(wunsch.person);
         Schreibwunsch neuer = wunsch;
-        std::visit([](auto &satz) { satz.fassung = 0; }, neuer.neu);
-        neuer.alt.reset();
+        std::visit(
+            [&](auto &satz) {
+                const std::optional<int> fassung = fassungIn(akte, satz);
+                satz.fassung = fassung.value_or(0);
+            },
+            neuer.neu);
         m_kartei.sichere(neuer);
     }
 }

@@ -252,6 +252,13 @@ void Tischklient::sichere()
         return;
     }
     const Besuch jetzt = vomRechner();
+    if (jetzt == m_gestellt) {
+        return;
+    }
+    // Another desk may have begun the visit of today meanwhile.
+    if (const std::optional<Klientenakte> akte = m_kartei.akte(m_akte->person.kennung)) {
+        m_akte = akte;
+    }
     const QDate heute = m_tueren.heute();
     const auto heutiger = std::find_if(m_akte->besuche.begin(), m_akte->besuche.end(),
                                        [&](const Besuch &besuch) { return besuch.datum == heute; });
@@ -259,18 +266,14 @@ void Tischklient::sichere()
         heutiger != m_akte->besuche.end() ? std::optional<Satz>(*heutiger) : std::nullopt;
     Besuch besuch = bisher ? *heutiger : Besuch();
     besuch.datum = heute;
-    bool geaendert = false;
     for (const Satzspalte<Besuch> &spalte : spalten<Besuch>()) {
         if (spalte.lies(jetzt) != spalte.lies(m_gestellt)) {
             spalte.setze(besuch, spalte.lies(jetzt));
-            geaendert = true;
         }
     }
     m_gestellt = jetzt;
-    if (geaendert) {
-        besuch.kennung = m_kartei.sichere({m_akte->person.kennung, besuch, bisher});
-        frageNach(besuch);
-    }
+    besuch.kennung = m_kartei.sichere({m_akte->person.kennung, besuch, bisher});
+    frageNach(besuch);
 }
 
 /// What is unlikely was kept all the same; whoever slipped sees it at once.
@@ -376,7 +379,6 @@ void Tischklient::holePlan(const Planablage &plan)
                                              "dort stand, ist abgelegt."))
             : localizedString(QStringLiteral("Der Plan „%1“ vom %2 steht im Mahlzeitenplan."));
     m_tueren.sage({.kennung = hinweisPlan,
-                   .text = satz.arg(kurzerName(plan.titel),
-                                    tagesworte(plan.datum)),
+                   .text = satz.arg(kurzerName(plan.titel), tagesworte(plan.datum)),
                    .dauer = lesezeit});
 }
