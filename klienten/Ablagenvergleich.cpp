@@ -90,9 +90,15 @@ QString uebersetzt(const char *schluessel)
     return localizedString(QString::fromUtf8(schluessel));
 }
 
+/// In a narrow column no line ends within it.
+QString unteilbar(QString text)
+{
+    return text.replace(u' ', QChar(QChar::Nbsp));
+}
+
 QString mitEinheit(const QString &zahl, const char *einheit)
 {
-    return zahl + QChar(QChar::Nbsp) + QLatin1String(einheit);
+    return unteilbar(zahl + u' ' + QLatin1String(einheit));
 }
 
 QString anzahlworte(double zahl)
@@ -123,8 +129,8 @@ QString prozentworte(double zahl)
 template <int nachkommastellen>
 QString prozentpunktworte(double zahl)
 {
-    return localizedString(QStringLiteral("%1 %-Punkte"))
-        .arg(zahlenform().toString(zahl, 'f', nachkommastellen));
+    return unteilbar(localizedString(QStringLiteral("%1 %-Punkte"))
+                         .arg(zahlenform().toString(zahl, 'f', nachkommastellen)));
 }
 
 QString punkteworte(double zahl)
@@ -165,7 +171,9 @@ QString verdiktworte(const std::optional<Planbalken> &balken)
 {
     for (const Verdikt &verdikt : verdikte) {
         if (balken && balken->code == verdikt.code) {
-            return u' ' + QString::fromUtf16(verdikt.zeichen) + u' ' + uebersetzt(verdikt.wort);
+            const QString worte =
+                QString::fromUtf16(verdikt.zeichen) + u' ' + uebersetzt(verdikt.wort);
+            return u' ' + unteilbar(worte);
         }
     }
     return {};

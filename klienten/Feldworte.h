@@ -8,8 +8,8 @@
 /// choices in words, days as the country writes them. Empty for what is not known.
 QString feldworte(const char *spalte, const QVariant &wert);
 
-/// A day in figures as the country writes it, with all four digits of the year: clients were born in
-/// two centuries. Empty for a null one.
+/// A day in figures as the country writes it, with all four digits of the year: clients were born
+/// in two centuries. Empty for a null one.
 QString tagesworte(const QDate &tag);
 
 /// The unit of a field, such as "kg"; empty for one that has none.

@@ -2,13 +2,15 @@
 
 #include "Besuchsvergleich.h"
 #include "Feldworte.h"
+#include "Tabellenkopf.h"
 #include "Tabellenkopie.h"
 #include "Zeichenkettentabelle.h"
 #include "Zeilenhoehe.h"
 
 #include <QCoreApplication>
-#include <QHeaderView>
+#include <QEvent>
 #include <QSignalBlocker>
+#include <QStyledItemDelegate>
 
 namespace {
 
@@ -47,6 +49,19 @@ QString planworte(const Planablage &plan)
     return titel.isEmpty() ? datumsworte(plan.datum)
                            : QStringLiteral("%1, %2").arg(titel, datumsworte(plan.datum));
 }
+
+/// Rows of several lines keep a distance from each other.
+class Zeilenluft : public QStyledItemDelegate
+{
+public:
+    using QStyledItemDelegate::QStyledItemDelegate;
+
+    QSize sizeHint(const QStyleOptionViewItem &option, const QModelIndex &index) const override
+    {
+        constexpr int luft = 8;
+        return QStyledItemDelegate::sizeHint(option, index) + QSize(0, luft);
+    }
+};
 
 QTableWidgetItem *zelle(const QString &text)
 {
@@ -89,12 +104,17 @@ QString bedarfsworte(const QStringList &ohneBedarf)
 Fortschrittsblatt::Fortschrittsblatt(QWidget *parent) : QWidget(parent), FortschrittsblattGestalt()
 {
     setupUi(this);
-    QHeaderView *kopf = vergleich->horizontalHeader();
+    auto *kopf = new Tabellenkopf(vergleich);
+    vergleich->setHorizontalHeader(kopf);
+    kopf->setSectionsClickable(false);
     kopf->setSectionResizeMode(QHeaderView::Stretch);
+    kopf->setSectionResizeMode(spalteWas, QHeaderView::Fixed);
     kopf->setSectionResizeMode(spalteUnterschied, QHeaderView::ResizeToContents);
     kopf->setDefaultAlignment(Qt::AlignLeft | Qt::AlignVCenter);
     vergleich->verticalHeader()->setMinimumSectionSize(zeilenhoeheFuer(*vergleich, zeilenhoehe));
     vergleich->verticalHeader()->setSectionResizeMode(QHeaderView::ResizeToContents);
+    vergleich->setItemDelegate(new Zeilenluft(vergleich));
+    setzeBreite();
     Tabellenkopie::ermoegliche(*vergleich);
     connect(planwahl, &QRadioButton::toggled, this, &Fortschrittsblatt::fuelle);
     connect(von, &QComboBox::currentIndexChanged, this,
@@ -117,6 +137,23 @@ void Fortschrittsblatt::folgeSprache()
 {
     retranslateUi(this);
     fuelle();
+}
+
+void Fortschrittsblatt::changeEvent(QEvent *event)
+{
+    QWidget::changeEvent(event);
+    if (event->type() == QEvent::FontChange) {
+        setzeBreite();
+    }
+}
+
+/// The captions have their room; a longer name of a food is broken into lines, and the figures
+/// beside it are not.
+void Fortschrittsblatt::setzeBreite()
+{
+    constexpr int buchstaben = 28;
+    vergleich->horizontalHeader()->resizeSection(spalteWas,
+                                                 buchstaben * fontMetrics().averageCharWidth());
 }
 
 QList<Fortschrittsblatt::Angebot> Fortschrittsblatt::angebote() const
@@ -176,12 +213,22 @@ void Fortschrittsblatt::zeige()
     leerworte->setText(localizedString(QString::fromUtf8(anzahl == 0 ? leer.keiner : leer.einer)));
     leerworte->setVisible(!genug);
     erklaerung->clear();
-    vergleich->setHorizontalHeaderLabels({QString(), von->currentText(), bis->currentText(),
-                                          localizedString(QStringLiteral("Unterschied"))});
+    setzeKoepfe();
     setzeZeilen(!genug          ? QList<Vergleichsabschnitt>()
                 : zeigtPlaene() ? planabschnitte()
                                 : besuchsabschnitte());
     erklaerung->setVisible(!erklaerung->text().isEmpty());
+}
+
+/// A long title is cut, and stands whole in the tool tip.
+void Fortschrittsblatt::setzeKoepfe()
+{
+    vergleich->setHorizontalHeaderLabels({QString(), von->currentText(), bis->currentText(),
+                                          localizedString(QStringLiteral("Unterschied"))});
+    for (const int spalte : {spalteVon, spalteBis}) {
+        QTableWidgetItem *kopf = vergleich->horizontalHeaderItem(spalte);
+        kopf->setToolTip(QStringLiteral("<qt>%1</qt>").arg(kopf->text().toHtmlEscaped()));
+    }
 }
 
 QList<Vergleichsabschnitt> Fortschrittsblatt::besuchsabschnitte() const

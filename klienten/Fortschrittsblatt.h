@@ -24,6 +24,9 @@ public:
     /// Another language is spoken.
     void folgeSprache();
 
+protected:
+    void changeEvent(QEvent *event) override;
+
 private:
     /// A record that can be chosen.
     struct Angebot
@@ -46,6 +49,8 @@ private:
     void zeige();
     QList<Vergleichsabschnitt> besuchsabschnitte() const;
     QList<Vergleichsabschnitt> planabschnitte();
+    void setzeBreite();
+    void setzeKoepfe();
     void setzeZeilen(const QList<Vergleichsabschnitt> &abschnitte);
     void haengeAn(const QList<QTableWidgetItem *> &zellen);
 

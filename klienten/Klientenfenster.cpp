@@ -22,6 +22,7 @@ namespace {
 
 constexpr int zeilenhoehe = 26;
 constexpr int listenbreite = 300;
+constexpr int nummernbreite = 11; // letters, with the heading's
 
 const QString hinweisUnlesbar = QStringLiteral("unlesbar");
 
@@ -67,6 +68,9 @@ Klientenfenster::Klientenfenster(Kartei &kartei, Tischklient &tisch, Klientenfen
     liste->verticalHeader()->hide();
     liste->verticalHeader()->setDefaultSectionSize(zeilenhoeheFuer(*liste, zeilenhoehe));
     liste->horizontalHeader()->setSectionResizeMode(0, QHeaderView::Stretch);
+    liste->horizontalHeader()->resizeSection(
+        1, nummernbreite * liste->fontMetrics().averageCharWidth());
+    liste->horizontalHeader()->setHighlightSections(false);
     Tabellenkopie::ermoegliche(*liste);
     teiler->setSizes({listenbreite, width() - listenbreite});
     teiler->setStretchFactor(1, 1);

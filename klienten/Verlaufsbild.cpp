@@ -46,14 +46,6 @@ bool Verlaufsbild::event(QEvent *event)
     return true;
 }
 
-void Verlaufsbild::changeEvent(QEvent *event)
-{
-    if (event->type() == QEvent::LanguageChange || event->type() == QEvent::LocaleChange) {
-        update();
-    }
-    Zeichenansicht::changeEvent(event);
-}
-
 QSize Verlaufsbild::groesse(int zeichen, int zeilen) const
 {
     return {fontMetrics().averageCharWidth() * zeichen, fontMetrics().height() * zeilen};

@@ -26,7 +26,6 @@ public:
 
 protected:
     bool event(QEvent *event) override;
-    void changeEvent(QEvent *event) override;
 
 private:
     QSize groesse(int zeichen, int zeilen) const;

@@ -15,7 +15,7 @@ namespace {
 constexpr double kleineStufe = 0.9; // of the four steps of type
 
 // All lengths are parts of the height of a line of text.
-constexpr double strich = 0.07;
+constexpr double strich = 0.08;
 constexpr double kurvenstrich = 0.1;
 constexpr double markenradius = 0.25;
 constexpr double strichlaenge = 0.2; // of the marks on the axis of time
@@ -110,6 +110,7 @@ private:
     double y(double wert) const;
     double radius() const;
 
+    void ziehe(const QColor &farbe, const QPointF &von, const QPointF &bis);
     void maleKopf();
     QRectF bandplatz(const Zielband &band) const;
     void maleBandrand(const Zielband &band, const QRectF &platz);
@@ -289,14 +290,22 @@ QRectF Verlaufsmaler::bandplatz(const Zielband &band) const
             QPointF(m_feld.right(), y(band.von.value_or(m_skala.von)))};
 }
 
+/// On whole pixels a straight line is sharp, and has all of its colour.
+void Verlaufsmaler::ziehe(const QColor &farbe, const QPointF &von, const QPointF &bis)
+{
+    m_maler.setRenderHint(QPainter::Antialiasing, false);
+    m_maler.setPen(QPen(farbe, strich * m_zeile));
+    m_maler.drawLine(von, bis);
+    m_maler.setRenderHint(QPainter::Antialiasing);
+}
+
 void Verlaufsmaler::maleBandrand(const Zielband &band, const QRectF &platz)
 {
-    m_maler.setPen(QPen(m_farben.bandrand, strich * m_zeile));
     if (band.von) {
-        m_maler.drawLine(platz.bottomLeft(), platz.bottomRight());
+        ziehe(m_farben.bandrand, platz.bottomLeft(), platz.bottomRight());
     }
     if (band.bis) {
-        m_maler.drawLine(platz.topLeft(), platz.topRight());
+        ziehe(m_farben.bandrand, platz.topLeft(), platz.topRight());
     }
 }
 
@@ -305,29 +314,23 @@ void Verlaufsmaler::maleWerteachse()
     const double hoehe = m_klein.masse.height();
     for (const double stufe : m_skala.stufen()) {
         const double dort = y(stufe);
-        m_maler.setPen(QPen(m_farben.gitter, strich * m_zeile));
-        m_maler.drawLine(QPointF(m_feld.left(), dort), QPointF(m_feld.right(), dort));
+        ziehe(m_farben.gitter, QPointF(m_feld.left(), dort), QPointF(m_feld.right(), dort));
         const QRectF links(m_platz.left(), dort - hoehe / 2,
                            m_feld.left() - eng * m_zeile - m_platz.left(), hoehe);
         schreibe(m_klein, links, Qt::AlignRight | Qt::AlignVCenter | Qt::TextDontClip,
                  m_skala.beschriftung(stufe));
     }
-    m_maler.setPen(QPen(m_farben.achse, strich * m_zeile));
-    m_maler.drawLine(m_feld.topLeft(), m_feld.bottomLeft());
+    ziehe(m_farben.achse, m_feld.topLeft(), m_feld.bottomLeft());
 }
 
 void Verlaufsmaler::maleZeitachse()
 {
-    const QList<Zeitstrich> striche =
-        zeitstriche(m_daten.punkte.first().tag, m_daten.punkte.last().tag,
-                    [this](const QList<Zeitstrich> &alle) { return passen(alle); });
-    m_maler.setPen(QPen(m_farben.achse, strich * m_zeile));
-    m_maler.drawLine(m_feld.bottomLeft(), m_feld.bottomRight());
-    for (const Zeitstrich &einer : striche) {
-        const double dort = x(einer.tag);
-        m_maler.setPen(QPen(m_farben.achse, strich * m_zeile));
-        m_maler.drawLine(QPointF(dort, m_feld.bottom()),
-                         QPointF(dort, m_feld.bottom() + strichlaenge * m_zeile));
+    ziehe(m_farben.achse, m_feld.bottomLeft(), m_feld.bottomRight());
+    for (const Zeitstrich &einer :
+         zeitstriche(m_daten.punkte.first().tag, m_daten.punkte.last().tag,
+                     [this](const QList<Zeitstrich> &alle) { return passen(alle); })) {
+        const QPointF dort(x(einer.tag), m_feld.bottom());
+        ziehe(m_farben.achse, dort, dort + QPointF(0, strichlaenge * m_zeile));
         schreibe(m_klein, platzFuer(einer), Qt::AlignCenter | Qt::TextDontClip, einer.text);
     }
 }
@@ -385,9 +388,9 @@ void Verlaufsmaler::maleLetzten()
     m_maler.drawEllipse(mitte, markenradius * m_zeile, markenradius * m_zeile);
     const QString wert = messzahl(m_daten.was, letzter.wert);
     const double hoehe = m_fett.masse.height();
-    const double oben = std::min(mitte.y() - hoehe / 2, m_feld.bottom() - hoehe);
     schreibe(m_fett,
-             QRectF(mitte.x() + (markenradius + eng) * m_zeile, oben, m_fett.breite(wert), hoehe),
+             QRectF(mitte.x() + (markenradius + eng) * m_zeile, mitte.y() - hoehe / 2,
+                    m_fett.breite(wert), hoehe),
              Qt::AlignLeft | Qt::AlignVCenter | Qt::TextDontClip, wert);
 }
 

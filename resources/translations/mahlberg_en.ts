@@ -220,7 +220,7 @@
  </message>
  <message>
   <source>B&amp;is</source>
-  <translation>&amp;To</translation>
+  <translation>&amp;Up to</translation>
  </message>
  <message>
   <source>Vergleich</source>

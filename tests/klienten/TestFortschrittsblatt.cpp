@@ -28,6 +28,8 @@ private Q_SLOTS:
     void aPlanIsMeasuredAgainstTheVisitBefore();
     void aMissingRequirementIsExplained();
     void titlesAndDaysNameThePlans();
+    void aLongTitleStandsWholeInItsToolTip();
+    void rowsOfSeveralLinesAreAsHighAsTheyNeedToBe();
     void whatIsChosenStays();
     void aSideThatWasNotChosenFollowsANewVisit();
     void whatIsGoneIsNotChosenAnyMore();
@@ -289,6 +291,35 @@ void TestFortschrittsblatt::titlesAndDaysNameThePlans()
     QCOMPARE(alle, worte("Vorher, 05.01.2026|Nachher, 09.03.2026|10.03.2026|Ohne Tag, ohne Datum"));
 }
 
+void TestFortschrittsblatt::aLongTitleStandsWholeInItsToolTip()
+{
+    Klientenakte eine = akte();
+    eine.plaene[0].titel = deutsch("Was <b>bisher</b> auf den Tisch kam & noch viel mehr");
+    m_blatt->setze(eine);
+    zeigePlaene();
+    QCOMPARE(m_blatt->vergleich->horizontalHeaderItem(1)->toolTip(),
+             deutsch("<qt>Was &lt;b&gt;bisher&lt;/b&gt; auf den Tisch kam &amp; noch viel mehr, "
+                     "05.01.2026</qt>"));
+}
+
+void TestFortschrittsblatt::rowsOfSeveralLinesAreAsHighAsTheyNeedToBe()
+{
+    Klientenakte eine = akte();
+    m_blatt->setze(eine);
+    const int letzte = m_blatt->vergleich->rowCount() - 1;
+    eine.besuche[0].notiz = deutsch("Erste Zeile\nzweite Zeile\ndritte Zeile");
+    m_blatt->setze(eine);
+    QCOMPARE(m_blatt->vergleich->item(letzte, 0)->text(), deutsch("Notiz"));
+    const int zeilenabstand = m_blatt->vergleich->fontMetrics().lineSpacing();
+    QVERIFY(m_blatt->vergleich->rowHeight(letzte) >= 3 * zeilenabstand + 8); // with air around
+    // Larger letters get wider captions.
+    const int schmal = m_blatt->vergleich->columnWidth(0);
+    QFont schrift = m_blatt->font();
+    schrift.setPointSize(2 * schrift.pointSize());
+    m_blatt->setFont(schrift);
+    QVERIFY(m_blatt->vergleich->columnWidth(0) > schmal * 3 / 2);
+}
+
 void TestFortschrittsblatt::whatIsChosenStays()
 {
     Klientenakte eine = akte();
@@ -380,7 +411,7 @@ void TestFortschrittsblatt::theKeyboardGoesThroughThePage()
     m_blatt->setze(akte());
     QVERIFY(QTest::qWaitForWindowActive(m_blatt.get()));
     m_blatt->besuchswahl->setFocus();
-    QTest::keyClick(m_blatt->besuchswahl, Qt::Key_Down);
+    QTest::keyClick(m_blatt->besuchswahl, Qt::Key_Right);
     QVERIFY(m_blatt->planwahl->isChecked());
     for (QWidget *naechstes : QWidgetList{m_blatt->von, m_blatt->bis, m_blatt->vergleich}) {
         QTest::keyClick(QApplication::focusWidget(), Qt::Key_Tab);

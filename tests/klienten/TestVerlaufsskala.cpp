@@ -5,6 +5,8 @@
 #include <QLocale>
 #include <QTest>
 
+#include <algorithm>
+
 namespace {
 
 /// As many marks as there is room for.
@@ -41,6 +43,7 @@ private Q_SLOTS:
     void marksGoByTheSpan();
     void marksStandOnTheirDays();
     void theFinestMarksThatFitAreTaken();
+    void marksThatNoAxisHasRoomForAreNotMade();
     void everySpanHasMarks_data();
     void everySpanHasMarks();
     void marksAreInTheLanguageOnScreen();
@@ -56,6 +59,7 @@ void TestVerlaufsskala::valuesGetRoundSteps_data()
     QTest::addColumn<double>("schritt");
     QTest::newRow("70 to 90 in five") << 70.0 << 90.0 << 5 << 70.0 << 90.0 << 5.0;
     QTest::newRow("70 to 90 in three") << 70.0 << 90.0 << 3 << 70.0 << 90.0 << 10.0;
+    QTest::newRow("90 to 98 in five") << 90.0 << 98.0 << 5 << 90.0 << 98.0 << 2.0;
     QTest::newRow("54.7 to 82.4 in five") << 54.7 << 82.4 << 5 << 50.0 << 90.0 << 10.0;
     QTest::newRow("54.7 to 82.4 in eight") << 54.7 << 82.4 << 8 << 50.0 << 85.0 << 5.0;
     QTest::newRow("55 to 350 in six") << 55.0 << 350.0 << 6 << 50.0 << 350.0 << 50.0;
@@ -182,6 +186,16 @@ void TestVerlaufsskala::theFinestMarksThatFitAreTaken()
              (QStringList{QStringLiteral("01.11.26"), QStringLiteral("08.11.26")}));
     QCOMPARE(texte(zeitstriche(von, von.addDays(9), hoechstens(1))),
              QStringList{QStringLiteral("10.11.26")});
+}
+
+void TestVerlaufsskala::marksThatNoAxisHasRoomForAreNotMade()
+{
+    qsizetype meiste = 0;
+    zeitstriche(QDate(1926, 1, 1), QDate(2026, 1, 1), [&meiste](const QList<Zeitstrich> &striche) {
+        meiste = std::max(meiste, striche.size());
+        return false;
+    });
+    QVERIFY2(meiste > 10 && meiste <= 51, qPrintable(QString::number(meiste)));
 }
 
 void TestVerlaufsskala::everySpanHasMarks_data()
