@@ -16,7 +16,7 @@ QString unterschiedsworte(std::optional<double> links, std::optional<double> rec
     const double mehr = *rechts - *links;
     const double groesster = std::max(std::abs(*links), std::abs(*rechts));
     QString betrag = worte(std::abs(mehr));
-    const QString nichts = worte(0);
+    QString nichts = worte(0);
     if (betrag == nichts || std::abs(mehr) <= genauigkeit * groesster) {
         return nichts;
     }
