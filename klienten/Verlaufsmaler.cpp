@@ -28,7 +28,7 @@ constexpr double kleinsteHoehe = 2.5;
 constexpr double kleinsteBreite = 4;
 constexpr int meisteStufen = 8;
 
-// How much of the colour is left of what lies behind.
+// How much of a colour is mixed into the ground.
 constexpr double bandton = 0.16;
 constexpr double gitterton = 0.15;
 constexpr double achsenton = 0.55;

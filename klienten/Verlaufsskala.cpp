@@ -131,7 +131,7 @@ QList<Zeitstrich> zeitstriche(const QDate &von, const QDate &bis,
         if (spanne / schrittTage > meisteStriche) {
             continue;
         }
-        const QList<Zeitstrich> alle = striche(von, bis, schritt);
+        QList<Zeitstrich> alle = striche(von, bis, schritt);
         if (alle.size() > 1 && passen(alle)) {
             return alle;
         }
