@@ -20,9 +20,6 @@ Csv::Zelle textzelle(const QString &text)
 /// Days stay as they are kept: a spreadsheet understands them in every country.
 Csv::Zelle zelle(const char *spalte, const QVariant &wert)
 {
-    if (wert.isNull()) {
-        return {};
-    }
     if (wert.metaType().id() == QMetaType::Double) {
         return wert.toDouble();
     }

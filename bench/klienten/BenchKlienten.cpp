@@ -8,9 +8,13 @@
 #include "Klientenfenster.h"
 #include "Klientenliste.h"
 #include "Klientenspeicher.h"
+#include "Verlaufsmaler.h"
 
 #include <QApplication>
 #include <QFile>
+#include <QImage>
+#include <QPainter>
+#include <QSettings>
 #include <QSqlDatabase>
 #include <QSqlQuery>
 #include <QTemporaryDir>
@@ -26,6 +30,7 @@ constexpr int anzahlKlienten = 10000;
 constexpr int anzahlBesuche = 20;
 constexpr int anzahlPlaene = 5;
 constexpr int anzahlZeilen = 10;
+constexpr int vieleBesuche = 1000;
 
 Klientenakte erfundeneAkte(int nummer)
 {
@@ -249,8 +254,44 @@ void speicher(benchmark::State &state)
     state.counters["MiB"] = mehr;
 }
 
+/// A plain line through so many points.
+void rohesZeichnen(benchmark::State &state)
+{
+    QImage bild(900, 400, QImage::Format_ARGB32_Premultiplied);
+    for (auto _ : state) {
+        QPainter maler(&bild);
+        for (int i = 1; i < vieleBesuche; ++i) {
+            maler.drawLine(QPointF(i * 0.9, 200 + i % 7),
+                           QPointF(i * 0.9 + 0.9, 200 + (i + 1) % 7));
+        }
+    }
+}
+
+/// The course of twenty years with a visit every week.
+void verlaufZeichnen(benchmark::State &state)
+{
+    QList<Besuch> besuche;
+    for (int i = 0; i < vieleBesuche; ++i) {
+        Besuch besuch;
+        besuch.datum = QDate(2006, 1, 1).addDays(i * 7);
+        besuch.gewicht = 80 + i % 7;
+        besuch.groesse = 1.7;
+        besuche << besuch;
+    }
+    const Verlaufsdaten daten =
+        verlaufsdaten(Person(), besuche, Messgroesse::Gewicht, QDate(2026, 1, 1));
+    QImage bild(900, 400, QImage::Format_ARGB32_Premultiplied);
+    for (auto _ : state) {
+        bild.fill(Qt::white);
+        QPainter maler(&bild);
+        maleVerlauf(maler, bild.rect(), daten, QApplication::palette());
+    }
+}
+
 } // namespace
 
+BENCHMARK(rohesZeichnen)->Unit(benchmark::kMillisecond);
+BENCHMARK(verlaufZeichnen)->Unit(benchmark::kMillisecond);
 BENCHMARK(speicher)->Unit(benchmark::kMillisecond)->Iterations(1);
 BENCHMARK(rohesLesen)->Unit(benchmark::kMillisecond);
 BENCHMARK(bisZurListe)->Unit(benchmark::kMillisecond);

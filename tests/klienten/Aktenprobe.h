@@ -15,15 +15,18 @@ public:
         const bool deutsch = sprache == QLocale::German;
         QLocale::setDefault(deutsch ? QLocale(QLocale::German, QLocale::Germany)
                                     : QLocale(QLocale::English, QLocale::UnitedKingdom));
-        if (!deutsch && m_uebersetzer.load(QStringLiteral(":/uebersetzungen/mahlberg_en.qm"))) {
-            QCoreApplication::installTranslator(&m_uebersetzer);
+        if (!deutsch && m_fenster.load(QStringLiteral(":/uebersetzungen/mahlberg_en.qm")) &&
+            m_speisen.load(QStringLiteral(":/uebersetzungen/lebensmittel_en.qm"))) {
+            QCoreApplication::installTranslator(&m_fenster);
+            QCoreApplication::installTranslator(&m_speisen);
         }
     }
     Probesprache(const Probesprache &) = delete;
     Probesprache &operator=(const Probesprache &) = delete;
 
 private:
-    QTranslator m_uebersetzer; ///< taken away when it goes
+    QTranslator m_fenster; ///< taken away when it goes
+    QTranslator m_speisen; ///< names of foods; taken away as well
 };
 
 /// A client of whom something is known, with two visits and a plan. What is worked out of it is

@@ -241,6 +241,10 @@ void TestAktentabellen::inEnglishAllIsEnglish()
              "Sport,Sport a day (h),Note\r\n"
              "2026-09-01,82.5,1.68,98,,medium activity,,,,Erstes Gespräch\r\n"
              "2026-10-06,80.9,,95.5,,,yes,bicycling,0.5,\r\n"_s);
+    Planablage plan = Aktenprobe::plan();
+    plan.posten = {{u"Haferflocken"_s, 100, {}}};
+    QCOMPARE(planzeilentabelle({plan}).zeilen[0].value(2),
+             Csv::Zelle(u"Oats (rolled oats, porridge oats, oat flakes)"_s));
     QVERIFY(personentabelle(Aktenprobe::person())
                 .zeilen.contains(QList<Csv::Zelle>{u"Gender"_s, u"Woman"_s}));
     QCOMPARE(planzeilentabelle({}).spalten.first(5),

@@ -5,8 +5,10 @@
 #include "Aktenprobe.h"
 #include "Druckprobe.h"
 
+#include <QGlyphRun>
 #include <QPainter>
 #include <QTest>
+#include <QTextLayout>
 
 using namespace Qt::StringLiterals;
 
@@ -155,11 +157,20 @@ void TestDruckzeilen::lettersHaveTheSizeThatWasAskedFor()
     QCOMPARE(probe.schriften().filter(u"Bold"_s).size(), 1);
 }
 
-/// Letters that are joined to one sign are not found.
+/// Letters that are joined to one sign are not found: each is a sign of its own.
 void TestDruckzeilen::aWordOnPaperCanBeSearchedFor()
 {
-    QCOMPARE(zeilen({{.text = u"Farbstoffe fließen"_s, .breite = 200}}),
-             QStringList{u"Farbstoffe fließen"_s});
+    const QString text = u"Farbstoffe fließen, Filet, Pfiff, Kaffee"_s;
+    QCOMPARE(zeilen({{.text = text, .breite = 300}}), QStringList{text});
+    QTextLayout satz(text, druckfont({}));
+    satz.beginLayout();
+    satz.createLine().setLineWidth(1e6);
+    satz.endLayout();
+    qsizetype zeichen = 0;
+    for (const QGlyphRun &lauf : satz.glyphRuns()) {
+        zeichen += lauf.glyphIndexes().size();
+    }
+    QCOMPARE(zeichen, text.size());
 }
 
 void TestDruckzeilen::widthsAreThoseOnPaper()

@@ -464,12 +464,14 @@ void TestKlientenblatt::aDarkDesktopPrintsTheSame()
 void TestKlientenblatt::inEnglishAllIsEnglish()
 {
     m_sprache = std::make_unique<Probesprache>(QLocale::English);
-    drucke(Aktenprobe::akte(), Druckprobe::papier(QPageSize::Letter, QPageLayout::Landscape));
+    Klientenakte akte = Aktenprobe::akte();
+    akte.plaene[0].posten[2].schluessel = u"Haferflocken"_s;
+    drucke(akte, Druckprobe::papier(QPageSize::Letter, QPageLayout::Landscape));
     const QString alles = alleZeilen().join(u'\n').replace(QChar(QChar::Nbsp), u' ');
     for (const QString &teil :
          {u"Date of birth 03/04/1980 (age 46)"_s, u"Gender Woman"_s, u"\nVisits\n"_s,
           u"01/09/2026 82.5 1.68 98.0"_s, u"bicycling"_s, u"\nCourse\n"_s, u"\nPlans\n"_s,
-          u"Food Amount (g) Energy (kcal)"_s, u"Total 290.9 233"_s}) {
+          u"Food Amount (g) Energy (kcal)"_s, u"oat flakes) 80"_s, u"Total 290.9 233"_s}) {
         QVERIFY2(alles.contains(teil), qPrintable(alles));
     }
     QCOMPARE(m_probe->name, u"Anna Muster 2026-11-23 Record"_s);

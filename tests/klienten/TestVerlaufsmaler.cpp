@@ -5,7 +5,6 @@
 #include "Verlaufsprobe.h"
 
 #include <QBuffer>
-#include <QElapsedTimer>
 #include <QLocale>
 #include <QPdfWriter>
 #include <QPicture>
@@ -51,7 +50,6 @@ private Q_SLOTS:
     void twiceThePixelsShowTheSamePicture();
     void aTinyPictureHasTheLastMeasure();
     void withoutMeasuresItSaysSo();
-    void aThousandVisitsAreDrawnAtOnce();
     void paperGetsThePicture_data();
     void paperGetsThePicture();
 };
@@ -356,17 +354,6 @@ void TestVerlaufsmaler::withoutMeasuresItSaysSo()
     QCOMPARE(texte.first().text, QStringLiteral("Noch keine Messung."));
     QVERIFY(qAbs(texte.first().platz.center().x() - gross.width() / 2.0) < 2);
     QVERIFY(qAbs(texte.first().platz.center().y() - gross.height() / 2.0) < 2);
-}
-
-void TestVerlaufsmaler::aThousandVisitsAreDrawnAtOnce()
-{
-    const Verlaufsdaten daten = langerVerlauf(1000, 20 * 365);
-    QCOMPARE(daten.punkte.size(), 1000);
-    bildVon(daten, gross); // fonts are loaded with the first picture
-    QElapsedTimer uhr;
-    uhr.start();
-    bildVon(daten, gross);
-    QVERIFY2(uhr.elapsed() < 200, qPrintable(QString::number(uhr.elapsed())));
 }
 
 void TestVerlaufsmaler::paperGetsThePicture_data()
