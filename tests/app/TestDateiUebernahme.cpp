@@ -50,11 +50,11 @@ private:
 namespace {
 
 /// What keeps the file of the own foods from being written.
-enum class Hindernis { Voll, Geschuetzt, Ordner };
+enum class Schreibhindernis { Voll, Geschuetzt, Ordner };
 
 } // namespace
 
-Q_DECLARE_METATYPE(Hindernis)
+Q_DECLARE_METATYPE(Schreibhindernis)
 
 void TestDateiUebernahme::allFoodsComeToTheOwnOnes_data()
 {
@@ -277,26 +277,27 @@ void TestDateiUebernahme::theFileIsWrittenOnce()
 
 void TestDateiUebernahme::aFailingWriteIsTold_data()
 {
-    QTest::addColumn<Hindernis>("hindernis");
-    QTest::newRow("a full disk") << Hindernis::Voll;
-    QTest::newRow("a protected folder") << Hindernis::Geschuetzt;
-    QTest::newRow("a folder in the place of the file") << Hindernis::Ordner;
+    QTest::addColumn<Schreibhindernis>("hindernis");
+    QTest::newRow("a full disk") << Schreibhindernis::Voll;
+    QTest::newRow("a protected folder") << Schreibhindernis::Geschuetzt;
+    QTest::newRow("a folder in the place of the file") << Schreibhindernis::Ordner;
 }
 
 /// The foods are in the list, the file is as it was, and the next save brings all of them there.
 void TestDateiUebernahme::aFailingWriteIsTold()
 {
-    QFETCH(Hindernis, hindernis);
+    QFETCH(Schreibhindernis, hindernis);
     const QString datei = m_probe->heim.eigeneDatei();
     const QByteArray ordner = QFile::encodeName(QFileInfo(datei).path());
     m_probe->oeffne({m_probe->lege(u"a.daten"_s, {lebensmittel(u"A"_s)})});
-    QVERIFY(hindernis != Hindernis::Ordner || (QFile::remove(datei) && QDir().mkpath(datei)));
+    QVERIFY(hindernis != Schreibhindernis::Ordner ||
+            (QFile::remove(datei) && QDir().mkpath(datei)));
     {
         std::optional<VolleFestplatte> voll;
         std::optional<OhneRechte> einfach;
-        if (hindernis == Hindernis::Voll) {
+        if (hindernis == Schreibhindernis::Voll) {
             voll.emplace(20);
-        } else if (hindernis == Hindernis::Geschuetzt) {
+        } else if (hindernis == Schreibhindernis::Geschuetzt) {
             QCOMPARE(chmod(ordner.constData(), 0555), 0);
             einfach.emplace();
             QVERIFY(einfach->gelungen());
@@ -314,7 +315,7 @@ void TestDateiUebernahme::aFailingWriteIsTold()
         texte.contains(u"Aus „a.daten“ in der Liste, aber nicht gesichert: neu 1, ersetzt 0."_s),
         qPrintable(texte.join(u'\n')));
 
-    if (hindernis == Hindernis::Ordner) {
+    if (hindernis == Schreibhindernis::Ordner) {
         QVERIFY(QFileInfo(datei).isDir());
         QVERIFY(QDir().rmdir(datei));
     } else {
