@@ -115,10 +115,9 @@ void Klientenanschluss::baueMenue()
 
 void Klientenanschluss::bereitePlan()
 {
-    QMainWindow &plan = *m_hauptfenster.planmodul->window();
-    auto *menue = plan.findChild<QMenu *>(QStringLiteral("menueAblage"));
-    QAction *ablegen =
-        menue->addAction(localizedString(QStringLiteral("Plan beim Klienten ab&legen")));
+    const Planmodul &plan = *m_hauptfenster.planmodul;
+    auto *ablegen = new QAction(localizedString(QStringLiteral("Plan beim Klienten ab&legen")),
+                                plan.menueAblage);
     ablegen->setObjectName(QStringLiteral("aktionAblegen"));
     ablegen->setShortcut(QKeySequence::Save);
     connect(ablegen, &QAction::triggered, this, [this] {
@@ -128,9 +127,11 @@ void Klientenanschluss::bereitePlan()
             fenster().zeige();
         }
     });
-    QAction *klienten = menue->addAction(localizedString(QStringLiteral("&Klienten")));
+    auto *klienten = new QAction(localizedString(QStringLiteral("&Klienten")), plan.menueAblage);
     klienten->setShortcut(QKeySequence(QStringLiteral("Ctrl+K")));
     connect(klienten, &QAction::triggered, this, [this] { fenster().zeige(); });
+    plan.menueAblage->insertActions(plan.aktionSchliessen, {ablegen, klienten});
+    plan.menueAblage->insertSeparator(plan.aktionSchliessen);
     betitle();
 }
 

@@ -1,6 +1,7 @@
 #include "Speicherwahl.h"
 
 #include "Serverangabe.h"
+#include "Sperrgrund.h"
 #include "Zeichenkettentabelle.h"
 
 #include <QCoreApplication>
@@ -47,11 +48,14 @@ Speicherwahl::Speicherwahl(QSettings &einstellungen, Wechsel wechsle)
     m_server->setObjectName(QStringLiteral("klientenserver"));
     m_angabe->setObjectName(QStringLiteral("serverangabe"));
     m_angabe->setAccessibleName(localizedString(QStringLiteral("Server der Klienten")));
-    m_angabe->setPlaceholderText(QStringLiteral("service=praxis, host=server dbname=klienten"));
+    m_angabe->setPlaceholderText(QStringLiteral("host=… dbname=…"));
     m_uebernehmen->setObjectName(QStringLiteral("speicheruebernehmen"));
     m_worte->setObjectName(QStringLiteral("speicherworte"));
     m_worte->setTextFormat(Qt::PlainText);
     m_worte->setWordWrap(true);
+    new Sperrgrund(m_uebernehmen, localizedString(QStringLiteral("So ist es schon eingestellt.")));
+    new Sperrgrund(m_angabe,
+                   localizedString(QStringLiteral("Wählen Sie zuerst den Server der Praxis.")));
     auto *zeile = new QHBoxLayout;
     zeile->addWidget(m_angabe, 1);
     zeile->addWidget(m_uebernehmen);

@@ -4116,6 +4116,10 @@ New: %1</translation>
   <source>Noch kein Plan abgelegt.</source>
   <translation>No plan is kept yet.</translation>
  </message>
+ <message>
+  <source>Wählen Sie zuerst den Server der Praxis.</source>
+  <translation>Choose the server of the practice first.</translation>
+ </message>
 </context>
 <context>
  <name>PlanmodulGestalt</name>
