@@ -189,7 +189,8 @@ void TestEinstellungsfenster::theLanguageHoldsAtOnce()
     for (const auto *gruppe : fenster().findChildren<QGroupBox *>()) {
         titel << gruppe->title();
     }
-    QCOMPARE(titel, (QStringList{u"Language"_s, u"Appearance"_s, u"Folder for PDFs"_s}));
+    QCOMPARE(titel,
+             (QStringList{u"Language"_s, u"Appearance"_s, u"Folder for PDFs"_s, u"Clients"_s}));
     QVERIFY(wahl(u"Like the system"_s) != nullptr);
     QCOMPARE(knopf("ordnerwaehlen")->text(), u"&Choose folder …"_s);
     QCOMPARE(fenster().findChild<QLineEdit *>(u"pdfordner"_s)->accessibleName(),
@@ -220,7 +221,8 @@ void TestEinstellungsfenster::theKeyboardBeginsAtTheFirstChoice()
         fenster().findChild<QDialogButtonBox *>()->button(QDialogButtonBox::Close);
     const QWidgetList folge = {wahl(u"Deutsch"_s), wahl(u"Wie das System"_s),
                                fenster().findChild<QLineEdit *>(u"pdfordner"_s),
-                               knopf("ordnerwaehlen")};
+                               knopf("ordnerwaehlen"),
+                               fenster().findChild<QRadioButton *>(u"klientendatei"_s)};
     QTRY_COMPARE(QApplication::focusWidget(), folge.first());
     for (const QWidget *halt : folge) {
         QCOMPARE(QApplication::focusWidget(), halt);
