@@ -64,10 +64,12 @@ QList<Csv::Zelle> werteUndWertungen(const Datenmodul &lebensmittel, float gramm)
 {
     QList<Csv::Zelle> zellen;
     for (const Naehrwertbeschreibung &zeile : naehrwerte) {
-        zellen << lebensmittel.wert(zeile.wert) * (gramm / 100.0F);
+        const Csv::Zelle wert = lebensmittel.wert(zeile.wert) * (gramm / 100.0F);
+        zellen << wert;
     }
     for (const Wertungsbeschreibung &zeile : wertungen) {
-        zellen << lebensmittel.wertung(zeile.wertung);
+        const Csv::Zelle wertung = lebensmittel.wertung(zeile.wertung);
+        zellen << wertung;
     }
     return zellen;
 }
