@@ -257,8 +257,7 @@ QList<Vergleichsabschnitt> Fortschrittsblatt::planabschnitte()
 
 void Fortschrittsblatt::setzeZeilen(const QList<Vergleichsabschnitt> &abschnitte)
 {
-    vergleich->clearSpans();
-    vergleich->setRowCount(0);
+    vergleich->setRowCount(0); // the spans go with their rows
     for (const Vergleichsabschnitt &abschnitt : abschnitte) {
         if (!abschnitt.titel.isNull()) {
             haengeAn({ueberschrift(abschnitt.titel)});

@@ -337,11 +337,13 @@ void TestAblagenvergleich::likePlansDifferInNoFood()
 void TestAblagenvergleich::whatRanOverIsNoNumber()
 {
     Datenmodul zuViel;
+    zuViel.setprotein(std::numeric_limits<float>::max());
     zuViel.setbs(std::numeric_limits<float>::max());
     const Ablagenseite links = {ablage({posten("Stroh", 1000, zuViel)}), bedarf};
     const Ablagenseite rechts = {ablage({posten("Brot", 200, brot())}), bedarf};
-    QCOMPARE(zeile(abschnitt(summen, links, rechts), "Ballaststoffe"),
-             deutsch("- g, –|16,0 g, 53,3 % ≈ knapp daneben|–"));
+    const Vergleichsabschnitt alle = abschnitt(summen, links, rechts);
+    QCOMPARE(zeile(alle, "Protein"), deutsch("- g, –|20,0 g, 16,0 % ✗ verfehlt|–"));
+    QCOMPARE(zeile(alle, "Ballaststoffe"), deutsch("- g, –|16,0 g, 53,3 % ≈ knapp daneben|–"));
 }
 
 QTEST_APPLESS_MAIN(TestAblagenvergleich)
