@@ -134,7 +134,7 @@ QString Kartei::sichere(Schreibwunsch wunsch)
             }
         },
         wunsch.neu);
-    const QString schluessel = kennung(wunsch.neu);
+    QString schluessel = kennung(wunsch.neu);
     if (std::holds_alternative<Person>(wunsch.neu)) {
         wunsch.person = schluessel;
     }
@@ -309,7 +309,7 @@ void Kartei::vergiss()
 
 Schreibausgang Kartei::nimmAuf(const Klientenakte &akte)
 {
-    const Schreibausgang ausgang = m_speicher->nimmAuf(akte);
+    Schreibausgang ausgang = m_speicher->nimmAuf(akte);
     merkeHindernis(ausgang.hindernis);
     if (ausgang) {
         zeigeInListe(akte.person);

@@ -74,7 +74,7 @@ Ausgang holeStand(const QString &datei, const QString &kopie, const QDateTime &j
     beiseite = QString();
     const QString neue = datei + QStringLiteral(".zurueck");
     QFile::remove(neue);
-    if (const Ausgang geschrieben = schreibeAb(kopie, neue); !geschrieben) {
+    if (Ausgang geschrieben = schreibeAb(kopie, neue); !geschrieben) {
         return geschrieben;
     }
     if (QFileInfo::exists(datei)) {

@@ -105,7 +105,7 @@ QString TestTischklient::klient(const QString &name, const QList<Besuch> &besuch
     if (aendere) {
         aendere(person);
     }
-    const QString kennung = m_probe->kartei().sichere({QString(), person, {}});
+    QString kennung = m_probe->kartei().sichere({QString(), person, {}});
     for (const Besuch &besuch : besuche) {
         m_probe->kartei().sichere({kennung, besuch, {}});
     }
