@@ -253,17 +253,20 @@ void TestKlientenblatt::aCourseIsDrawnInLines()
     for (const QString &name : m_probe->schriften()) {
         QVERIFY2(name.contains(u"NimbusSans"_s), qPrintable(name));
     }
-    // Between the captions and what stands below the pictures there are lines and dots.
+    // Below the heading there are lines and dots, of the weight at the left and beside it of the
+    // body mass index.
     const QImage bild = m_probe->bild(1, 1);
     const Druckwort verlauf = wort(u"Verlauf"_s);
     QVERIFY(verlauf.seite == 1);
-    int schwarze = 0;
-    for (int y = static_cast<int>(verlauf.grundlinie) + 20; y < verlauf.grundlinie + 140; ++y) {
-        for (int x = 40; x < 280; ++x) {
-            schwarze += bild.pixelColor(x, y).lightness() < 100 ? 1 : 0;
+    for (const int links : {40, 320}) {
+        int schwarze = 0;
+        for (int y = static_cast<int>(verlauf.grundlinie) + 20; y < verlauf.grundlinie + 140; ++y) {
+            for (int x = links; x < links + 200; ++x) {
+                schwarze += bild.pixelColor(x, y).lightness() < 100 ? 1 : 0;
+            }
         }
+        QVERIFY2(schwarze > 100, qPrintable(QString::number(schwarze)));
     }
-    QVERIFY2(schwarze > 100, qPrintable(QString::number(schwarze)));
 }
 
 /// 150 g of apples have 52 x 1.5 = 78 kcal, 60.9 g of bread 255 x 0.609 = 155.3; the fraction falls
