@@ -136,21 +136,34 @@ Breitenwunsch wunsch(const Drucktabelle &tabelle, qsizetype spalte, double platz
             std::min(wunsch.gern, platz) + aufgerundet};
 }
 
+QList<Breitenwunsch> wuensche(const Drucktabelle &tabelle, double platz)
+{
+    QList<Breitenwunsch> alle;
+    for (qsizetype i = 0; i < tabelle.spalten.size(); ++i) {
+        alle << wunsch(tabelle, i, platz);
+    }
+    return alle;
+}
+
+double luecken(const Drucktabelle &tabelle)
+{
+    return spaltenabstand * static_cast<double>(tabelle.spalten.size() - 1);
+}
+
 /// Each column gets what it asks for and some of what is left; where that is not there, each gets
 /// what its longest word needs and a part of the rest, and less when not even that is there.
 QList<double> spaltenbreiten(const Drucktabelle &tabelle, double breite)
 {
     const auto anzahl = static_cast<double>(tabelle.spalten.size());
-    const double platz = breite - spaltenabstand * (anzahl - 1);
-    QList<Breitenwunsch> wuensche;
+    const double platz = breite - luecken(tabelle);
+    const QList<Breitenwunsch> einzelne = wuensche(tabelle, platz);
     Breitenwunsch alle;
-    for (qsizetype i = 0; i < tabelle.spalten.size(); ++i) {
-        wuensche << wunsch(tabelle, i, platz);
-        alle.mindestens += wuensche.last().mindestens;
-        alle.gern += wuensche.last().gern;
+    for (const Breitenwunsch &einer : einzelne) {
+        alle.mindestens += einer.mindestens;
+        alle.gern += einer.gern;
     }
     QList<double> breiten;
-    for (const Breitenwunsch &einer : std::as_const(wuensche)) {
+    for (const Breitenwunsch &einer : einzelne) {
         if (alle.gern <= platz) {
             breiten << einer.gern + std::min(meisteDehnung, (platz - alle.gern) / anzahl);
         } else if (alle.mindestens <= platz) {
@@ -161,6 +174,30 @@ QList<double> spaltenbreiten(const Drucktabelle &tabelle, double breite)
         }
     }
     return breiten;
+}
+
+/// How many times as large a table is set: on narrow paper smaller, so that dates and numbers stay
+/// whole, but never too small to be read.
+double tabellenmass(const Drucktabelle &tabelle, double breite)
+{
+    constexpr double kleinstes = 0.6;
+    double mindestens = luecken(tabelle);
+    for (const Breitenwunsch &einer : wuensche(tabelle, breite)) {
+        mindestens += einer.mindestens;
+    }
+    return std::clamp(breite / mindestens, kleinstes, 1.0);
+}
+
+Druckstreifenfolge verkleinert(const Druckstreifenfolge &folge, double mass)
+{
+    Druckstreifenfolge kleine;
+    for (const Druckstreifen &streifen : folge) {
+        kleine << Druckstreifen{streifen.hoehe * mass, [streifen, mass](QPainter &maler) {
+                                    maler.scale(mass, mass);
+                                    streifen.male(maler);
+                                }};
+    }
+    return kleine;
 }
 
 } // namespace
@@ -219,17 +256,20 @@ void Drucksatz::abstand(double hoehe)
 
 void Drucksatz::tabelle(const Drucktabelle &tabelle)
 {
-    const QList<double> breiten = spaltenbreiten(tabelle, breite());
+    const double mass = tabellenmass(tabelle, breite());
+    const QList<double> breiten = spaltenbreiten(tabelle, breite() / mass);
     Drucktabelle::Zeile koepfe;
     for (const Drucktabelle::Spalte &spalte : tabelle.spalten) {
         koepfe.zellen << spalte.kopf;
     }
-    m_tabellenkopf = tabellenzeile(tabelle, koepfe, breiten, {kopfschrift, strich});
+    m_tabellenkopf =
+        verkleinert(tabellenzeile(tabelle, koepfe, breiten, {kopfschrift, strich}), mass);
     m_wartend << m_tabellenkopf;
     QList<Druckstreifenfolge> reihen;
     for (const Drucktabelle::Zeile &zeile : tabelle.zeilen) {
-        const Druckstreifenfolge reihe =
-            tabellenzeile(tabelle, zeile, breiten, {zeile.fett ? fett : normal, feinerStrich});
+        const Druckstreifenfolge reihe = verkleinert(
+            tabellenzeile(tabelle, zeile, breiten, {zeile.fett ? fett : normal, feinerStrich}),
+            mass);
         reihen << (istLang(reihe) ? reihe : Druckstreifenfolge{ganz(reihe)});
     }
     for (const Druckstreifenfolge &gruppe : ohneEinzelneReihen(reihen)) {

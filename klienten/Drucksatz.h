@@ -8,7 +8,7 @@
 class QPointF;
 
 /// A table on paper. Columns are as wide as their texts ask for; where there is no room for that,
-/// the wordy ones are broken into lines.
+/// the wordy ones are broken into lines, and on narrow paper the table is set smaller.
 struct Drucktabelle
 {
     struct Spalte

@@ -36,6 +36,7 @@ private Q_SLOTS:
     void aColumnIsAsWideAsItIsMeantToBe();
     void whereThereIsNoRoomTheWordyColumnIsBroken();
     void aVeryLongWordTakesTheOthersNoRoom();
+    void onNarrowPaperATableIsSetSmaller();
     void onPaperThatIsTooNarrowWordsAreBroken();
     void aNameStandsBesideWhatThereIsToSay();
     void aPictureStaysWhole();
@@ -382,6 +383,33 @@ void TestDrucksatz::aVeryLongWordTakesTheOthersNoRoom()
     QCOMPARE(zeilen(1).join(QString()).count(u'x'), 300);
 }
 
+/// Dates and numbers stay whole; what stands in no table has its size.
+void TestDrucksatz::onNarrowPaperATableIsSetSmaller()
+{
+    const Drucktabelle tabelle{{{u"Datum"_s}, {u"Gewichtsreduktion"_s}, {u"Taille"_s, true}},
+                               {{{u"01.09.2026"_s, u"ja"_s, u"95,5"_s}, u"Gespräch"_s}}};
+    Drucksatz satz({140, 200}, QString());
+    satz.absatz(u"darüber"_s);
+    satz.tabelle(tabelle);
+    drucke(satz);
+    QCOMPARE(zeilen(1), QStringList({u"darüber"_s, u"Datum Gewichtsreduktion Taille"_s,
+                                     u"01.09.2026 ja 95,5"_s, u"Gespräch"_s}));
+    for (const Druckwort &wort : std::as_const(m_worte)) {
+        QVERIFY2(wort.rechts <= ecke.x() + 140.5, qPrintable(wort.text));
+    }
+    QVERIFY(qAbs(wort(u"darüber"_s).groesse - 9) < 0.2);
+    QVERIFY(wort(u"95,5"_s).groesse < 8.5 && wort(u"95,5"_s).groesse > 0.6 * 9);
+    const auto zeilenabstand = [this] {
+        return wort(u"Gespräch"_s).grundlinie - wort(u"95,5"_s).grundlinie;
+    };
+    const double enger = zeilenabstand();
+    Drucksatz weiter(seite, QString());
+    weiter.tabelle(tabelle);
+    drucke(weiter);
+    QVERIFY(enger < 0.95 * zeilenabstand());
+    QVERIFY(qAbs(wort(u"95,5"_s).groesse - 9) < 0.2);
+}
+
 void TestDrucksatz::onPaperThatIsTooNarrowWordsAreBroken()
 {
     Drucksatz satz({60, 200}, QString());
@@ -389,6 +417,7 @@ void TestDrucksatz::onPaperThatIsTooNarrowWordsAreBroken()
     drucke(satz);
     for (const Druckwort &wort : std::as_const(m_worte)) {
         QVERIFY2(wort.rechts <= ecke.x() + 60.5, qPrintable(wort.text));
+        QVERIFY2(wort.groesse > 0.55 * 8, qPrintable(wort.text)); // still to be read
     }
     QString alles = zeilen(1).join(QString()).remove(u' ');
     QCOMPARE(alles.size(), u"ErnährungGewichtsreduktionvielwenig"_s.size());
