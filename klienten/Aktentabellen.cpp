@@ -64,12 +64,10 @@ QList<Csv::Zelle> werteUndWertungen(const Datenmodul &lebensmittel, float gramm)
 {
     QList<Csv::Zelle> zellen;
     for (const Naehrwertbeschreibung &zeile : naehrwerte) {
-        const Csv::Zelle wert = lebensmittel.wert(zeile.wert) * (gramm / 100.0F);
-        zellen << wert;
+        zellen.emplaceBack(lebensmittel.wert(zeile.wert) * (gramm / 100.0F));
     }
     for (const Wertungsbeschreibung &zeile : wertungen) {
-        const Csv::Zelle wertung = lebensmittel.wertung(zeile.wertung);
-        zellen << wertung;
+        zellen.emplaceBack(lebensmittel.wertung(zeile.wertung));
     }
     return zellen;
 }

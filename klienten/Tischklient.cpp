@@ -262,9 +262,12 @@ void Tischklient::sichere()
     const QDate heute = m_tueren.heute();
     const auto heutiger = std::find_if(m_akte->besuche.begin(), m_akte->besuche.end(),
                                        [&](const Besuch &besuch) { return besuch.datum == heute; });
-    const std::optional<Satz> bisher =
-        heutiger != m_akte->besuche.end() ? std::optional<Satz>(*heutiger) : std::nullopt;
-    Besuch besuch = bisher ? *heutiger : Besuch();
+    Besuch besuch;
+    Schreibwunsch wunsch = {m_akte->person.kennung, besuch, {}};
+    if (heutiger != m_akte->besuche.end()) {
+        besuch = *heutiger;
+        wunsch.alt.emplace(besuch);
+    }
     besuch.datum = heute;
     for (const Satzspalte<Besuch> &spalte : spalten<Besuch>()) {
         if (spalte.lies(jetzt) != spalte.lies(m_gestellt)) {
@@ -272,7 +275,8 @@ void Tischklient::sichere()
         }
     }
     m_gestellt = jetzt;
-    besuch.kennung = m_kartei.sichere({m_akte->person.kennung, besuch, bisher});
+    wunsch.neu = besuch;
+    besuch.kennung = m_kartei.sichere(wunsch);
     frageNach(besuch);
 }
 
