@@ -68,8 +68,8 @@ Klientenfenster::Klientenfenster(Kartei &kartei, Tischklient &tisch, Klientenfen
     liste->verticalHeader()->hide();
     liste->verticalHeader()->setDefaultSectionSize(zeilenhoeheFuer(*liste, zeilenhoehe));
     liste->horizontalHeader()->setSectionResizeMode(0, QHeaderView::Stretch);
-    liste->horizontalHeader()->resizeSection(
-        1, nummernbreite * liste->fontMetrics().averageCharWidth());
+    liste->horizontalHeader()->resizeSection(1, nummernbreite *
+                                                    liste->fontMetrics().averageCharWidth());
     liste->horizontalHeader()->setHighlightSections(false);
     Tabellenkopie::ermoegliche(*liste);
     teiler->setSizes({listenbreite, width() - listenbreite});
