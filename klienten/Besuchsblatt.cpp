@@ -13,10 +13,15 @@
 #include <QScopedValueRollback>
 
 #include <algorithm>
+#include <array>
 
 namespace {
 
 constexpr int zeilenhoehe = 26;
+
+/// The field that each doubt is about, in the order of Zweifel::Art.
+constexpr std::array<const char *, 8> zweifelsfelder = {"gewicht", "groesse", "taille", "huefte",
+                                                        "gewicht", "groesse", "datum",  "datum"};
 
 QWidget &eingerichtet(Besuchsblatt &blatt)
 {
@@ -38,6 +43,11 @@ std::pair<QStringList, QVariantList> sportangebot()
         }
     }
     return {worte, werte};
+}
+
+QString zweifelsfeld(const Zweifel &einer)
+{
+    return QLatin1String(zweifelsfelder.at(static_cast<std::size_t>(einer.art)));
 }
 
 QTableWidgetItem *zelle(const QString &spalte, const QString &text)
@@ -171,27 +181,33 @@ void Besuchsblatt::zeigeVerlauf()
 /// Asks about what is unlikely, once for each figure.
 bool Besuchsblatt::bestaetigt(const Besuch &besuch)
 {
-    QStringList saetze;
-    QStringList neue;
-    for (const Zweifel &einer :
-         zweifel(besuch, m_akte.besuche, m_akte.person.geburt, QDate::currentDate())) {
-        const QString satz = inWorten(einer);
-        const QString zeichen = besuch.kennung + satz;
-        if (!m_gefragt.contains(zeichen)) {
-            saetze << satz;
-            neue << zeichen;
-        }
-    }
-    if (saetze.isEmpty()) {
+    QList<Zweifel> offene =
+        zweifel(besuch, m_akte.besuche, m_akte.person.geburt, QDate::currentDate());
+    const auto zeichen = [&besuch](const Zweifel &einer) {
+        return besuch.kennung + inWorten(einer);
+    };
+    offene.removeIf([&](const Zweifel &einer) { return m_gefragt.contains(zeichen(einer)); });
+    if (offene.isEmpty()) {
         return true;
+    }
+    QStringList saetze;
+    for (const Zweifel &einer : std::as_const(offene)) {
+        saetze << inWorten(einer);
     }
     const bool gemeint =
         m_melde(window(), {.text = localizedString(QStringLiteral("Stimmt das so?")),
                            .erklaerung = saetze.join(u'\n'),
                            .knoepfe = {localizedString(QStringLiteral("Ändern")),
                                        localizedString(QStringLiteral("Es stimmt"))}}) == 1;
-    if (gemeint) {
-        m_gefragt += QSet<QString>(neue.begin(), neue.end());
+    for (const Zweifel &einer : std::as_const(offene)) {
+        if (gemeint) {
+            m_gefragt.insert(zeichen(einer));
+        } else {
+            m_formular.sageFehler(zweifelsfeld(einer), inWorten(einer));
+        }
+    }
+    if (!gemeint) {
+        m_formular.gehZu(zweifelsfeld(offene.constFirst()));
     }
     return gemeint;
 }

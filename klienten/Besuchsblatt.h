@@ -2,15 +2,15 @@
 
 #include "Kartei.h"
 #include "Meldung.h"
+#include "Rollseite.h"
 #include "Satzformular.h"
 #include "ui_Besuchsblatt.h"
 
 #include <QSet>
-#include <QWidget>
 
 /// The page about a client's visits: a table of them, the course of a measure, and the chosen visit
 /// to be filled in. An unlikely measure is asked about once, and kept when it is meant.
-class Besuchsblatt : public QWidget, public Ui::BesuchsblattGestalt
+class Besuchsblatt : public Rollseite, public Ui::BesuchsblattGestalt
 {
     Q_OBJECT
 

@@ -101,7 +101,9 @@ QString bedarfsworte(const QStringList &ohneBedarf)
 
 } // namespace
 
-Fortschrittsblatt::Fortschrittsblatt(QWidget *parent) : QWidget(parent), FortschrittsblattGestalt()
+Fortschrittsblatt::Fortschrittsblatt(QWidget *parent)
+    : Rollseite(parent)
+    , FortschrittsblattGestalt()
 {
     setupUi(this);
     auto *kopf = new Tabellenkopf(vergleich);

@@ -2,15 +2,14 @@
 
 #include "Ablagenvergleich.h"
 #include "Klientendaten.h"
+#include "Rollseite.h"
 #include "ui_Fortschrittsblatt.h"
-
-#include <QWidget>
 
 #include <array>
 
 /// The page about a client's progress: two visits or two plans side by side, and what lies between
 /// them. Where there are no two, it says what is missing.
-class Fortschrittsblatt : public QWidget, public Ui::FortschrittsblattGestalt
+class Fortschrittsblatt : public Rollseite, public Ui::FortschrittsblattGestalt
 {
     Q_OBJECT
 

@@ -1,14 +1,13 @@
 #pragma once
 
 #include "Kartei.h"
+#include "Rollseite.h"
 #include "Satzformular.h"
 #include "ui_Personenblatt.h"
 
-#include <QWidget>
-
 /// The page about a client as a person. What is entered is kept at once; what can't be kept stays
 /// in its field, with a word beside it.
-class Personenblatt : public QWidget, public Ui::PersonenblattGestalt
+class Personenblatt : public Rollseite, public Ui::PersonenblattGestalt
 {
     Q_OBJECT
 

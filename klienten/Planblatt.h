@@ -1,16 +1,15 @@
 #pragma once
 
 #include "Kartei.h"
+#include "Rollseite.h"
 #include "Satzformular.h"
 #include "ui_Planblatt.h"
-
-#include <QWidget>
 
 #include <functional>
 
 /// The page about the plans that are kept of a client: their list, and the chosen one with its
 /// foods as they were on its day. A food that has changed since is marked.
-class Planblatt : public QWidget, public Ui::PlanblattGestalt
+class Planblatt : public Rollseite, public Ui::PlanblattGestalt
 {
     Q_OBJECT
 

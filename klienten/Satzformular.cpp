@@ -10,6 +10,7 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QPlainTextEdit>
+#include <QRegularExpression>
 #include <QScopedValueRollback>
 
 namespace {
@@ -33,6 +34,9 @@ QString alsText(const char *spalte, const QVariant &wert)
     }
     return zahlenform().toString(wert.toDouble(), 'g', 6);
 }
+
+/// The labels that tell what is wrong with a field are called as it is, and this.
+const QRegularExpression fehlerworte(QStringLiteral("Fehler$"));
 
 bool istTag(const char *spalte)
 {
@@ -76,6 +80,12 @@ Satzformular::Satzformular(QWidget &seite) : m_seite(seite)
         if (!feld->objectName().isEmpty()) {
             verbinde(feld);
         }
+    }
+    // A label takes part in breaking lines from its first words on, and that divides the page anew:
+    // better now than when something is wrong.
+    for (QLabel *worte : seite.findChildren<QLabel *>(fehlerworte)) {
+        worte->setText(QStringLiteral(" "));
+        worte->setText(QString());
     }
 }
 
@@ -199,6 +209,14 @@ void Satzformular::sageFehler(const QString &spalte, const QString &worte)
     }
     if (QWidget *quelle = feld(spalte)) {
         quelle->setAccessibleDescription(worte);
+    }
+}
+
+void Satzformular::gehZu(const QString &spalte)
+{
+    if (auto *zeile = qobject_cast<QLineEdit *>(feld(spalte))) {
+        zeile->setFocus();
+        zeile->selectAll();
     }
 }
 

@@ -57,6 +57,9 @@ public:
     /// Says beside a field what is wrong with it; an empty text takes it back.
     void sageFehler(const QString &spalte, const QString &worte);
 
+    /// Leads the user back into a field, to type it anew.
+    void gehZu(const QString &spalte);
+
     /// What a choice offers, and what is kept for each. With `auchNichts` the first is no answer.
     void bieteAn(const QString &spalte, const QStringList &worte, const QVariantList &werte,
                  bool auchNichts);

@@ -29,6 +29,9 @@ private Q_SLOTS:
     void archivedOnesAreOutOfTheList();
     void aVisitIsKeptFieldByField();
     void anUnlikelyMeasureIsAskedAboutOnce();
+    void aDoubtLeadsBackToItsField_data();
+    void aDoubtLeadsBackToItsField();
+    void wordsBesideAFieldMoveNothing();
     void aMeasureThatIsNoneIsSaid();
     void theDayOfAVisitIsNeverEmpty();
     void todayHasOneVisit();
@@ -235,13 +238,73 @@ void TestKlientenfenster::anUnlikelyMeasureIsAskedAboutOnce()
              u"8,0 kg sind ein ungewöhnliches Gewicht."_s);
     QVERIFY(!m_probe->akte().besuche.value(0).gewicht);
     QCOMPARE(blatt.gewicht->text(), u"8"_s);
+    QCOMPARE(worteBei("gewichtFehler"), u"8,0 kg sind ein ungewöhnliches Gewicht."_s);
+    QCOMPARE(fenster().focusWidget(), blatt.gewicht);
+    QCOMPARE(blatt.gewicht->selectedText(), u"8"_s);
     m_heim->antworten = {1}; // it is meant
     Klientenprobe::tippe(blatt.gewicht, u"8"_s);
     QCOMPARE(m_heim->meldungen.size(), 2);
     QCOMPARE(m_probe->akte().besuche.value(0).gewicht, 8.0);
+    QCOMPARE(worteBei("gewichtFehler"), QString());
     Klientenprobe::tippe(blatt.taille, u"60"_s);
     QCOMPARE(m_heim->meldungen.size(), 2);
     QCOMPARE(m_probe->akte().besuche.value(0).taille, 60.0);
+}
+
+/// Each doubt leads back to the field that it is about.
+void TestKlientenfenster::aDoubtLeadsBackToItsField_data()
+{
+    QTest::addColumn<QString>("feld");
+    QTest::addColumn<QString>("text");
+    QTest::addColumn<QString>("worte");
+    QTest::newRow("weight") << u"gewicht"_s << u"400"_s
+                            << u"400,0 kg sind ein ungewöhnliches Gewicht."_s;
+    QTest::newRow("height") << u"groesse"_s << u"3"_s << u"3,00 m sind eine ungewöhnliche Größe."_s;
+    QTest::newRow("waist") << u"taille"_s << u"5"_s
+                           << u"5,0 cm sind ein ungewöhnlicher Taillenumfang."_s;
+    QTest::newRow("hip") << u"huefte"_s << u"5"_s
+                         << u"5,0 cm sind ein ungewöhnlicher Hüftumfang."_s;
+    QTest::newRow("a day to come") << u"datum"_s << u"1.1.2190"_s << QString();
+}
+
+void TestKlientenfenster::aDoubtLeadsBackToItsField()
+{
+    QFETCH(QString, feld);
+    QFETCH(QString, text);
+    QFETCH(QString, worte);
+    m_probe->legeAn(u"Anna"_s);
+    fenster().seiten->setCurrentIndex(1);
+    Besuchsblatt &blatt = *fenster().besuchsblatt;
+    QTest::mouseClick(blatt.neuerBesuch, Qt::LeftButton);
+    m_heim->antworten = {0}; // change
+    auto *zeile = blatt.formular->findChild<QLineEdit *>(feld);
+    Klientenprobe::tippe(zeile, text);
+    QCOMPARE(m_heim->meldungen.size(), 1);
+    QCOMPARE(fenster().focusWidget(), zeile);
+    const QString gesagt = blatt.findChild<QLabel *>(feld + u"Fehler"_s)->text();
+    QVERIFY(!gesagt.isEmpty());
+    QCOMPARE(gesagt, worte.isEmpty() ? m_heim->meldungen.constLast().erklaerung : worte);
+    Q_EMIT m_probe->kartei().akteGeaendert(m_probe->akte().person.kennung);
+    QCOMPARE(zeile->text(), text);
+}
+
+void TestKlientenfenster::wordsBesideAFieldMoveNothing()
+{
+    m_probe->legeAn(u"Anna"_s);
+    fenster().seiten->setCurrentIndex(1);
+    Besuchsblatt &blatt = *fenster().besuchsblatt;
+    // Less room than all parts of the page would like to have.
+    const int uebrig = blatt.height() - blatt.minimumSizeHint().height();
+    fenster().resize(fenster().width(), fenster().height() - uebrig + 100);
+    const auto stelle = [&] {
+        QCoreApplication::processEvents();
+        return blatt.neuerBesuch->mapTo(&fenster(), QPoint());
+    };
+    const QPoint vorher = stelle();
+    QTest::mouseClick(blatt.neuerBesuch, Qt::LeftButton);
+    QCOMPARE(stelle(), vorher);
+    Klientenprobe::tippe(blatt.gewicht, u"viel"_s);
+    QCOMPARE(stelle(), vorher);
 }
 
 void TestKlientenfenster::aMeasureThatIsNoneIsSaid()

@@ -1,9 +1,11 @@
 #include "Auswahlfeld.h"
 #include "Rollbereich.h"
+#include "Rollseite.h"
 #include "Schieber.h"
 
 #include <QDoubleSpinBox>
 #include <QLabel>
+#include <QPlainTextEdit>
 #include <QScrollBar>
 #include <QSlider>
 #include <QTest>
@@ -27,6 +29,8 @@ private Q_SLOTS:
     void theWheelRollsThePageAndChangesNothing();
     void aFieldWithTheFocusFollowsTheWheel();
     void theTabKeyBringsAFieldIntoSight();
+    void aPageThatGivesWayStaysAsHighAsTheWindow();
+    void aPageThatGivesWayRollsWhereItNeedsMore();
     void thePageMayGoFirst();
 
 private:
@@ -159,6 +163,51 @@ void TestRollbereich::theTabKeyBringsAFieldIntoSight()
     QTest::keyClick(m_auswahl, Qt::Key_Tab);
     QVERIFY(m_unten->regler()->hasFocus());
     QVERIFY(!m_unten->visibleRegion().isEmpty());
+}
+
+namespace {
+
+/// A page of a field for notes, which likes to be high, and a sentence of several lines below it.
+struct Nachgiebige
+{
+    Nachgiebige()
+    {
+        auto *anordnung = new QVBoxLayout(seite);
+        notiz->setMinimumHeight(60);
+        worte->setWordWrap(true);
+        anordnung->addWidget(notiz);
+        anordnung->addWidget(worte);
+        bereich.resize(200, 120);
+        bereich.show();
+    }
+
+    Rollseite *seite = new Rollseite;
+    QPlainTextEdit *notiz = new QPlainTextEdit;
+    QLabel *worte = new QLabel;
+    Rollbereich bereich{seite};
+};
+
+} // namespace
+
+void TestRollbereich::aPageThatGivesWayStaysAsHighAsTheWindow()
+{
+    Nachgiebige nachgiebige;
+    nachgiebige.worte->setText(QStringLiteral("kurz"));
+    QCoreApplication::processEvents();
+    QVERIFY(nachgiebige.notiz->sizeHint().height() > 120);
+    QCOMPARE(nachgiebige.bereich.verticalScrollBar()->maximum(), 0);
+    QCOMPARE(nachgiebige.seite->height(), 120);
+}
+
+void TestRollbereich::aPageThatGivesWayRollsWhereItNeedsMore()
+{
+    Nachgiebige nachgiebige;
+    nachgiebige.worte->setText(QStringLiteral("lang ").repeated(100));
+    QCoreApplication::processEvents();
+    const int breite = nachgiebige.worte->width();
+    QCOMPARE(nachgiebige.worte->height(), nachgiebige.worte->heightForWidth(breite));
+    QVERIFY(nachgiebige.notiz->height() >= 60);
+    QVERIFY(nachgiebige.bereich.verticalScrollBar()->maximum() > 0);
 }
 
 void TestRollbereich::thePageMayGoFirst()
