@@ -39,7 +39,8 @@ constexpr Tagesration guterTag[] = {
 } // namespace
 
 Rundgang::Rundgang(Oberflaeche &oberflaeche, const QDir &ordner, QStringList *meldungen)
-    : m_controller(oberflaeche.hauptfenster)
+    : m_oberflaeche(oberflaeche)
+    , m_controller(oberflaeche.hauptfenster)
     , m_rechner(oberflaeche.rechner)
     , m_ordner(ordner)
     , m_meldungen(meldungen)
@@ -72,6 +73,7 @@ bool Rundgang::gehen()
     sichereEigenes();
     rechne();
     plane();
+    berate();
     m_controller.zeigeAnsicht(AppController::ansichten.first());
     zeigeErscheinungsbild(Erscheinungsbild::Dunkel);
     halt(QStringLiteral("dark"), QStringLiteral("Switched to the dark appearance."));

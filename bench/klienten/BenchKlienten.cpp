@@ -3,11 +3,14 @@
 // display, and the memory that all of it takes, each beside a plain baseline or an empty store in
 // the same run.
 
+#include "AnthroController.h"
 #include "Dateidatenbank.h"
 #include "Erfundenes.h"
 #include "Klientenfenster.h"
 #include "Klientenliste.h"
 #include "Klientenspeicher.h"
+#include "Planmodul.h"
+#include "Tischklient.h"
 #include "Verlaufsmaler.h"
 
 #include <QApplication>

@@ -18,6 +18,7 @@ class TestRundgang : public QObject
 private Q_SLOTS:
     void everyStopHasItsPictureAndItsWords();
     void theSummaryTellsWhatIsSeen();
+    void theClientIsNotLeftAtTheDesk();
     void itLeavesTheSettingsAndFilesAlone();
     void itGoesAlsoWithoutFoods();
     void aFolderThatCantBeMadeIsReported();
@@ -61,11 +62,13 @@ void TestRundgang::everyStopHasItsPictureAndItsWords()
         QVERIFY(bilder[i].startsWith(QStringLiteral("%1-").arg(i + 1, 2, 10, QLatin1Char('0'))));
         QVERIFY(worte[i].startsWith(QStringLiteral("%1. ").arg(i + 1)));
         const QImage bild(ordner.filePath(bilder[i]));
-        const bool vomPlan = bilder[i].contains(QStringLiteral("plan"));
+        const bool vomKlienten = bilder[i].contains(QStringLiteral("client"));
+        const bool vomPlan = !vomKlienten && bilder[i].contains(QStringLiteral("plan"));
         const bool vomBlatt = bilder[i].contains(QStringLiteral("sheet"));
-        QCOMPARE(bild.size(), vomPlan    ? fenster->planmodul->window()->size()
-                              : vomBlatt ? fenster->einfenster->size()
-                                         : fenster->Hauptfenster->size());
+        QCOMPARE(bild.size(), vomPlan       ? fenster->planmodul->window()->size()
+                              : vomBlatt    ? fenster->einfenster->size()
+                              : vomKlienten ? fenster.oberflaeche().klienten.fenster().size()
+                                            : fenster->Hauptfenster->size());
         gesehen << bild;
     }
     for (qsizetype i = 1; i < gesehen.size(); ++i) {
@@ -103,7 +106,30 @@ void TestRundgang::theSummaryTellsWhatIsSeen()
     QVERIFY(bericht.contains(QStringLiteral("Energie: 48 kcal")));
     QVERIFY(bericht.contains(QStringLiteral("BMI 24,69, 2112 kcal per day")));
     QVERIFY(bericht.contains(QStringLiteral("20,0 g of alcohol for 5,0 h")));
+    QVERIFY(bericht.contains(QStringLiteral("Entered a client: Erika Beispiel, Nr. K-017")));
+    const auto tag = [](int wochen) {
+        return QDate::currentDate().addDays(-7 * wochen).toString(QStringLiteral("dd.MM.yyyy"));
+    };
+    const QString dritter = bericht.section(QStringLiteral("Measured again at the desk"), 1);
+    QVERIFY(dritter.contains(QStringLiteral("   %1 84,9 kg\n   %2 86,2 kg\n   %3 88,6 kg")
+                                 .arg(tag(0), tag(6), tag(12))));
     QVERIFY(heim.meldungen.isEmpty());
+}
+
+void TestRundgang::theClientIsNotLeftAtTheDesk()
+{
+    Probeheim heim;
+    heim.schreibeTabelle(zaehltabelle(40));
+    const Probefenster fenster(heim);
+    QVERIFY(Rundgang(fenster.oberflaeche(), QDir(heim.pfad(QStringLiteral("tour")))).gehen());
+    QVERIFY(!fenster.oberflaeche().klienten.tisch.akte());
+    QVERIFY(!fenster.oberflaeche().klienten.fenster().isVisible());
+    const QList<Personenzeile> alle = fenster.oberflaeche().klienten.kartei.liste().suche({}, true);
+    QCOMPARE(alle.size(), 1);
+    const auto akte = fenster.oberflaeche().klienten.kartei.akte(alle.constFirst().kennung);
+    QVERIFY(akte);
+    QCOMPARE(akte->besuche.size(), 3);
+    QVERIFY(akte->plaene.isEmpty()); // this table has no food of the day that is planned
 }
 
 void TestRundgang::itLeavesTheSettingsAndFilesAlone()
