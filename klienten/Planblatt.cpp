@@ -62,6 +62,7 @@ Planblatt::Planblatt(Kartei &kartei, Nachschlagen heute)
     zeilen->setColumnCount(anzahlSpalten);
     zeilen->verticalHeader()->hide();
     zeilen->verticalHeader()->setDefaultSectionSize(zeilenhoeheFuer(*zeilen, zeilenhoehe));
+    zeilen->setWordWrap(false); // or a long name would be cut at a word
     zeilen->horizontalHeader()->setSectionResizeMode(spalteName, QHeaderView::Stretch);
     zeilen->horizontalHeader()->setSectionResizeMode(spalteSeitdem, QHeaderView::Stretch);
     Tabellenkopie::ermoegliche(*zeilen);
@@ -166,7 +167,9 @@ void Planblatt::fuelleZeilen(const QList<Planposten> &posten)
     for (int zeile = 0; zeile < posten.size(); ++zeile) {
         const QString worte = seitdem(posten[zeile]);
         geaenderte += worte.isEmpty() ? 0 : 1;
-        zeilen->setItem(zeile, spalteName, zelle(localizedString(posten[zeile].schluessel)));
+        const QString name = localizedString(posten[zeile].schluessel);
+        zeilen->setItem(zeile, spalteName, zelle(name));
+        zeilen->item(zeile, spalteName)->setToolTip(name);
         zeilen->setItem(
             zeile, spalteGramm,
             zelle(wertText(static_cast<double>(posten[zeile].gramm), 0) + QStringLiteral(" g"),
