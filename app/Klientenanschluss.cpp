@@ -7,6 +7,7 @@
 #include "Druckkopf.h"
 #include "Einstellungen.h"
 #include "Feldworte.h"
+#include "Fensterplatz.h"
 #include "Klientenstand.h"
 #include "Klientenstandfenster.h"
 #include "Planzeilen.h"
@@ -175,6 +176,11 @@ Klientenfenster &Klientenanschluss::fenster()
                 &Klientenanschluss::zeigeFruehereStaende);
         connect(m_fenster.get(), &Klientenfenster::hilfeGewuenscht, this,
                 [this] { Q_EMIT hilfeGewuenscht(m_fenster.get()); });
+        Fensterplatz::lasseRollen(*m_fenster->anordnung1, *m_fenster->teiler);
+        m_platz = std::make_unique<Platzgedaechtnis>(*m_fenster, *m_tueren.einstellungen,
+                                                     QStringLiteral("Klientenfenster"),
+                                                     Platzgedaechtnis::Umfang::Platz, nullptr);
+        m_platz->stelleWiederHer();
     }
     return *m_fenster;
 }

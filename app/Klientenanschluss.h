@@ -2,6 +2,7 @@
 
 #include "Kartei.h"
 #include "Klientenfenster.h"
+#include "Platzgedaechtnis.h"
 #include "Tischklient.h"
 #include "Tueren.h"
 
@@ -75,4 +76,5 @@ public:
 
 private:
     std::unique_ptr<Klientenfenster> m_fenster;
+    std::unique_ptr<Platzgedaechtnis> m_platz; ///< of that window; goes before it
 };

@@ -14,7 +14,9 @@ QString spaltenname(const char *text)
     return localizedString(QString::fromUtf8(text));
 }
 
-QStringList werteUndWertungen()
+} // namespace
+
+QStringList wertekoepfe()
 {
     QStringList spalten;
     for (const auto &zeile : naehrwerte) {
@@ -27,8 +29,7 @@ QStringList werteUndWertungen()
     return spalten;
 }
 
-/// `anteil`: how much of 100 g is meant.
-QList<Csv::Zelle> werteUndWertungen(const Datenmodul &lebensmittel, float anteil)
+QList<Csv::Zelle> wertezellen(const Datenmodul &lebensmittel, float anteil)
 {
     QList<Csv::Zelle> zellen;
     for (const auto &zeile : naehrwerte) {
@@ -39,8 +40,6 @@ QList<Csv::Zelle> werteUndWertungen(const Datenmodul &lebensmittel, float anteil
     }
     return zellen;
 }
-
-} // namespace
 
 Csv::Tabelle lebensmitteltabelle(const QList<Datenmodul> &lebensmittel)
 {
@@ -53,20 +52,20 @@ Csv::Tabelle lebensmitteltabelle(const QList<Datenmodul> &lebensmittel)
     if (andersGezeigt) {
         tabelle.spalten << localizedString(QStringLiteral("Angezeigt als"));
     }
-    tabelle.spalten << werteUndWertungen();
+    tabelle.spalten << wertekoepfe();
     for (const Datenmodul &eines : lebensmittel) {
         QList<Csv::Zelle> zellen = {eines.name()};
         if (andersGezeigt) {
             zellen << localizedString(eines.name());
         }
-        tabelle.zeilen << zellen + werteUndWertungen(eines, 1);
+        tabelle.zeilen << zellen + wertezellen(eines, 1);
     }
     return tabelle;
 }
 
 Csv::Tabelle plantabelle(const QList<Plantabellenzeile> &posten)
 {
-    const QStringList werte = werteUndWertungen();
+    const QStringList werte = wertekoepfe();
     Csv::Tabelle tabelle;
     tabelle.spalten << inWorten(Spaltensinn{.art = Art::Name})
                     << QStringLiteral("%1 (g)").arg(localizedString(QStringLiteral("Menge")))
@@ -74,7 +73,7 @@ Csv::Tabelle plantabelle(const QList<Plantabellenzeile> &posten)
     for (const Plantabellenzeile &eine : posten) {
         QList<Csv::Zelle> zellen = {localizedString(eine.name), eine.gramm};
         zellen += eine.lebensmittel != nullptr
-                      ? werteUndWertungen(*eine.lebensmittel, eine.gramm / 100.0F)
+                      ? wertezellen(*eine.lebensmittel, eine.gramm / 100.0F)
                       : QList<Csv::Zelle>(werte.size());
         tabelle.zeilen << zellen;
     }

@@ -1,6 +1,7 @@
 #include "Aktentabellen.h"
 
 #include "Feldworte.h"
+#include "Lebensmitteltabelle.h"
 #include "Zeichenkettentabelle.h"
 
 #include <QCoreApplication>
@@ -59,32 +60,13 @@ Csv::Tabelle tabelle(const QList<Satz> &saetze)
     return tabelle;
 }
 
-/// The values for so much of the food, and what it was rated.
-QList<Csv::Zelle> werteUndWertungen(const Datenmodul &lebensmittel, float gramm)
-{
-    QList<Csv::Zelle> zellen;
-    for (const Naehrwertbeschreibung &zeile : naehrwerte) {
-        zellen.emplaceBack(lebensmittel.wert(zeile.wert) * (gramm / 100.0F));
-    }
-    for (const Wertungsbeschreibung &zeile : wertungen) {
-        zellen.emplaceBack(lebensmittel.wertung(zeile.wertung));
-    }
-    return zellen;
-}
-
 QStringList planzeilenkoepfe()
 {
-    QStringList koepfe = {
+    const QStringList koepfe = {
         localizedString(QStringLiteral("Plan")), localizedString(QStringLiteral("Datum")),
         localizedString(QStringLiteral("Lebensmittel")),
         mitEinheit(localizedString(QStringLiteral("Menge")), einheitszeichen(Einheit::Gramm))};
-    for (const Naehrwertbeschreibung &zeile : naehrwerte) {
-        koepfe << mitEinheit(uebersetzt(zeile.bezeichnung), einheitszeichen(zeile.einheit));
-    }
-    for (const Wertungsbeschreibung &zeile : wertungen) {
-        koepfe << uebersetzt(zeile.bezeichnung);
-    }
-    return koepfe;
+    return koepfe + wertekoepfe();
 }
 
 } // namespace
@@ -131,7 +113,7 @@ Csv::Tabelle planzeilentabelle(const QList<Planablage> &plaene)
                                             textzelle(plan.datum.toString(Qt::ISODate)),
                                             localizedString(posten.schluessel), posten.gramm};
             tabelle.zeilen << eine + (posten.eintrag
-                                          ? werteUndWertungen(*posten.eintrag, posten.gramm)
+                                          ? wertezellen(*posten.eintrag, posten.gramm / 100.0F)
                                           : QList<Csv::Zelle>(anzahlWerte));
         }
     }

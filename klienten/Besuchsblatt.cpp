@@ -4,12 +4,12 @@
 #include "Feldworte.h"
 #include "Sperrgrund.h"
 #include "Sportarten.h"
+#include "Sportworte.h"
 #include "Tabellenkopie.h"
 #include "Zeichenkettentabelle.h"
 #include "Zeilenhoehe.h"
 
 #include <QHeaderView>
-#include <QLocale>
 #include <QScopedValueRollback>
 
 #include <algorithm>
@@ -32,14 +32,13 @@ QWidget &eingerichtet(Besuchsblatt &blatt)
 /// The sports in the language on screen, and what is kept of each.
 std::pair<QStringList, QVariantList> sportangebot()
 {
-    const bool englisch = QLocale().language() == QLocale::English;
-    QStringList worte = {localizedString(QStringLiteral("kein Sport"))};
+    QStringList worte = {sportworte(QString())};
     QVariantList werte = {QStringLiteral("")};
-    for (const auto &zeile : sportarten) {
-        if (!zeile.deutsch.isEmpty()) {
-            const bool uebersetzt = englisch && !zeile.englisch.isNull();
-            worte << (uebersetzt ? zeile.englisch : zeile.deutsch).toString();
-            werte << zeile.deutsch.toString();
+    for (const Sportart &eine : sportarten) {
+        if (!eine.deutsch.isEmpty()) {
+            const QString kennung = eine.deutsch.toString();
+            worte << sportworte(kennung);
+            werte << kennung;
         }
     }
     return {worte, werte};

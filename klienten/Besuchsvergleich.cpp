@@ -7,6 +7,7 @@
 #include "Ganzzahl.h"
 #include "Geschlecht.h"
 #include "Koerpermasse.h"
+#include "Messreihe.h"
 #include "Sportarten.h"
 #include "Zahlenform.h"
 #include "Zeichenkettentabelle.h"
@@ -30,12 +31,6 @@ std::optional<float> faktorVon(Personengeschlecht geschlecht)
 {
     return geschlechtsfaktor(static_cast<int>(geschlecht) -
                              static_cast<int>(Personengeschlecht::Mann));
-}
-
-/// A height that one can divide by.
-bool hatGroesse(const Besuch &besuch)
-{
-    return besuch.groesse.value_or(0) > 0;
 }
 
 std::optional<double> bodyMassIndex(const Klientenakte &akte, const Besuch &besuch)
@@ -157,21 +152,6 @@ Vergleichszeile zeileFuer(const Folgezahl &art, const Klientenakte &akte, const 
 }
 
 } // namespace
-
-std::optional<double> groesseBei(const Besuch &besuch, const QList<Besuch> &besuche)
-{
-    if (hatGroesse(besuch)) {
-        return besuch.groesse;
-    }
-    std::optional<double> groesse;
-    for (const Besuch &einer : besuche) {
-        const bool bisDahin = einer.datum <= besuch.datum;
-        if (hatGroesse(einer) && (bisDahin || !groesse)) {
-            groesse = einer.groesse;
-        }
-    }
-    return groesse;
-}
 
 std::optional<std::int32_t> energiebedarfBei(const Person &person, const Besuch &besuch)
 {

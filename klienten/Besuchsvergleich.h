@@ -5,10 +5,6 @@
 
 #include <cstdint>
 
-/// The height that counts for a visit, in m: its own, else the latest that was measured until that
-/// day, else the first one after it. `besuche` has the oldest first. Absent where none was taken.
-std::optional<double> groesseBei(const Besuch &besuch, const QList<Besuch> &besuche);
-
 /// The energy requirement at a visit in whole kcal per day, as the calculator works it out: of the
 /// hours of sport only whole ones count, and a sport that is in no table adds nothing. What was not
 /// told of sport and reduction counts as none. Absent where weight, activity or gender are not

@@ -132,14 +132,17 @@ std::optional<double> groesseAm(const QDate &tag, const QList<Messpunkt> &groess
     return danach != groessen.begin() ? std::prev(danach)->wert : danach->wert;
 }
 
+std::optional<double> groesseZu(const Besuch &besuch, const QList<Messpunkt> &groessen)
+{
+    const std::optional<double> eigene = brauchbareGroesse(besuch);
+    return eigene ? eigene : groesseAm(besuch.datum, groessen);
+}
+
 QList<Messpunkt> bmireihe(const QList<Besuch> &besuche)
 {
     const QList<Messpunkt> groessen = reihe(besuche, brauchbareGroesse);
     return reihe(besuche, [&groessen](const Besuch &besuch) -> std::optional<double> {
-        std::optional<double> groesse = brauchbareGroesse(besuch);
-        if (!groesse) {
-            groesse = groesseAm(besuch.datum, groessen);
-        }
+        const std::optional<double> groesse = groesseZu(besuch, groessen);
         if (!besuch.gewicht || !groesse) {
             return std::nullopt;
         }
@@ -191,6 +194,11 @@ QList<Messpunkt> messreihe(const QList<Besuch> &besuche, Messgroesse was)
 {
     const auto mass = messart(was).mass;
     return mass != nullptr ? reihe(besuche, std::mem_fn(mass)) : bmireihe(besuche);
+}
+
+std::optional<double> groesseBei(const Besuch &besuch, const QList<Besuch> &besuche)
+{
+    return groesseZu(besuch, reihe(besuche, brauchbareGroesse));
 }
 
 std::optional<Bandmangel> bandmangel(Messgroesse was, const Person &person,

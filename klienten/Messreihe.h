@@ -54,6 +54,10 @@ struct Messpunkt
 /// after that day will do: that of adults hardly changes.
 QList<Messpunkt> messreihe(const QList<Besuch> &besuche, Messgroesse was);
 
+/// The height that counts for a visit, in m: its own, else the latest that was measured until that
+/// day, else the first one after it. `besuche` has the oldest first. Absent where none was taken.
+std::optional<double> groesseBei(const Besuch &besuch, const QList<Besuch> &besuche);
+
 /// The measures that are aimed at; a limit that is absent is none.
 struct Zielband
 {

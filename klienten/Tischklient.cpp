@@ -8,10 +8,10 @@
 #include "Planpostentext.h"
 #include "Satzspalten.h"
 #include "Sportarten.h"
+#include "Sportworte.h"
 #include "Zeichenkettentabelle.h"
 
 #include <QCryptographicHash>
-#include <QLocale>
 #include <QScopedValueRollback>
 #include <QSettings>
 
@@ -57,16 +57,6 @@ std::optional<QString> sportAufDeutsch(const QString &name)
         return eine.deutsch == name || (!eine.englisch.isNull() && eine.englisch == name);
     });
     return zeile != sportarten.end() ? std::optional(zeile->deutsch.toString()) : std::nullopt;
-}
-
-QString sportInSprache(const QString &deutsch)
-{
-    const auto zeile = std::find_if(sportarten.begin(), sportarten.end(),
-                                    [&](const auto &eine) { return eine.deutsch == deutsch; });
-    const bool englisch = QLocale().language() == QLocale::English;
-    return zeile != sportarten.end() && englisch && !zeile->englisch.isNull()
-               ? zeile->englisch.toString()
-               : deutsch;
 }
 
 /// What is known of each field at the last visit at which it was told.
@@ -198,7 +188,7 @@ void Tischklient::stelleSport(const Besuch &letzter)
 {
     AnthroController &rechner = m_tueren.rechner;
     const QString sport = letzter.sport.value_or(QString());
-    rechner.sport->setStringValue(sportInSprache(sport));
+    rechner.sport->setStringValue(sport.isEmpty() ? QString() : sportworte(sport));
     rechner.welchersport(*rechner.sport);
     rechner.sportmenge->setDoubleValue(sport.isEmpty() ? 0 : letzter.sportdauer.value_or(0));
     rechner.wievielsport(*rechner.sportmenge);

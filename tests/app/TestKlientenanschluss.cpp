@@ -22,6 +22,8 @@ private Q_SLOTS:
     void cleanup();
 
     void theMenuOpensTheWindow();
+    void theWindowStandsWhereItWasLeft();
+    void theWindowRollsWhereTheScreenIsSmall();
     void printsCarryNameAndDay();
     void withoutAClientPrintsAreAsBefore();
     void thePlansKeyKeepsThePlan();
@@ -85,6 +87,40 @@ void TestKlientenanschluss::theMenuOpensTheWindow()
     eintrag->trigger();
     QVERIFY(m_probe->fenster().isVisible());
     QVERIFY(!QFile::exists(datei()));
+}
+
+void TestKlientenanschluss::theWindowStandsWhereItWasLeft()
+{
+    const QRect platz(40, 50, 620, 500);
+    oeffne();
+    m_probe->oeffne();
+    m_probe->fenster().setGeometry(platz);
+    m_probe->fenster().close();
+    m_probe.reset();
+    oeffne();
+    m_probe->oeffne();
+    QCOMPARE(m_probe->fenster().geometry(), platz);
+}
+
+/// A screen of 1366 x 768 at twice the scale has half as many points.
+void TestKlientenanschluss::theWindowRollsWhereTheScreenIsSmall()
+{
+    oeffne();
+    m_probe->oeffne();
+    m_probe->legeAn(u"Anna"_s);
+    Klientenfenster &fenster = m_probe->fenster();
+    QVERIFY(fenster.minimumSizeHint().width() <= 683);
+    QVERIFY(fenster.minimumSizeHint().height() <= 384);
+    fenster.resize(fenster.minimumSizeHint());
+    QCoreApplication::processEvents();
+    QCOMPARE(fenster.size(), fenster.minimumSizeHint());
+    for (int seite = 0; seite < fenster.seiten->count(); ++seite) {
+        fenster.seiten->setCurrentIndex(seite);
+        QCoreApplication::processEvents();
+        const QWidget &blatt = *fenster.seiten->currentWidget();
+        QVERIFY2(blatt.width() >= blatt.minimumSizeHint().width(),
+                 qPrintable(QString::number(seite)));
+    }
 }
 
 void TestKlientenanschluss::printsCarryNameAndDay()

@@ -2,6 +2,7 @@
 // that is needed.
 
 #include "Besuchsvergleich.h"
+#include "Messreihe.h"
 #include "Satzspalten.h"
 
 #include <QLocale>
