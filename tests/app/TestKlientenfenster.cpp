@@ -32,6 +32,8 @@ private Q_SLOTS:
     void aDoubtLeadsBackToItsField_data();
     void aDoubtLeadsBackToItsField();
     void wordsBesideAFieldMoveNothing();
+    void aFigureWithMoreDigitsThanAreShownStaysAsItIs();
+    void aNoteIsKeptWhenAnotherVisitIsChosenAtOnce();
     void aMeasureThatIsNoneIsSaid();
     void theDayOfAVisitIsNeverEmpty();
     void todayHasOneVisit();
@@ -305,6 +307,49 @@ void TestKlientenfenster::wordsBesideAFieldMoveNothing()
     QCOMPARE(stelle(), vorher);
     Klientenprobe::tippe(blatt.gewicht, u"viel"_s);
     QCOMPARE(stelle(), vorher);
+}
+
+void TestKlientenfenster::aFigureWithMoreDigitsThanAreShownStaysAsItIs()
+{
+    Klientenakte akte;
+    akte.person.kennung = u"anna"_s;
+    akte.person.name = u"Anna"_s;
+    Besuch besuch;
+    besuch.kennung = u"montag"_s;
+    besuch.datum = QDate(2026, 11, 16);
+    besuch.gewicht = 82.1234567; // from a file, as 181 lb is
+    akte.besuche = {besuch};
+    QVERIFY(m_probe->kartei().nimmAuf(akte));
+    m_probe->klicke(0);
+    fenster().seiten->setCurrentIndex(1);
+    Besuchsblatt &blatt = *fenster().besuchsblatt;
+    QCOMPARE(blatt.gewicht->text(), u"82,1235"_s);
+    Klientenprobe::tippe(blatt.taille, u"95"_s);
+    QCOMPARE(m_probe->akte().besuche.value(0).taille, 95.0);
+    QCOMPARE(m_probe->akte().besuche.value(0).gewicht, 82.1234567);
+}
+
+void TestKlientenfenster::aNoteIsKeptWhenAnotherVisitIsChosenAtOnce()
+{
+    Klientenakte akte;
+    akte.person.kennung = u"anna"_s;
+    akte.person.name = u"Anna"_s;
+    for (const int tag : {9, 16}) {
+        Besuch besuch;
+        besuch.kennung = QString::number(tag);
+        besuch.datum = QDate(2026, 11, tag);
+        akte.besuche << besuch;
+    }
+    QVERIFY(m_probe->kartei().nimmAuf(akte));
+    m_probe->klicke(0);
+    fenster().seiten->setCurrentIndex(1);
+    Besuchsblatt &blatt = *fenster().besuchsblatt;
+    blatt.notiz->setFocus();
+    QTest::keyClicks(blatt.notiz, u"isst gern spaet"_s);
+    blatt.besuche->setCurrentCell(1, 0);
+    QCOMPARE(m_probe->akte().besuche.value(1).notiz, u"isst gern spaet"_s);
+    QCOMPARE(m_probe->akte().besuche.value(0).notiz, QString());
+    QCOMPARE(blatt.notiz->toPlainText(), QString());
 }
 
 void TestKlientenfenster::aMeasureThatIsNoneIsSaid()

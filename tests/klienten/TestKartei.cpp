@@ -21,6 +21,9 @@ private Q_SLOTS:
     void whileTheServerIsAwayWhatIsEnteredWaits();
     void aClientWhoWaitsCanBeShownAndGivenAVisit();
     void whatWaitsIsChangedAndNotDoubled();
+    void visitsThatWaitStandInTheirOrder();
+    void whatWaitsForOneIsNotShownAtAnother();
+    void whatWaitsKeepsTheGroundItWasChangedFrom();
     void whileSomethingWaitsTheStoreIsNotChanged();
     void theSecondDeskIsToldAndChooses();
     void whatTheUserGivesUpIsNotWritten();
@@ -158,6 +161,73 @@ void TestKartei::whatWaitsIsChangedAndNotDoubled()
     QCOMPARE(m_kartei->liste().suche({}, false).size(), 2);
     QCOMPARE(akte(kennung).person.name, QStringLiteral("Anna Muster"));
     QCOMPARE(akte(kennung).person.fassung, 1);
+}
+
+void TestKartei::visitsThatWaitStandInTheirOrder()
+{
+    if (!m_speicher.istServer()) {
+        QSKIP("A file is never away.");
+    }
+    const QString kennung = angelegt(QStringLiteral("Anna"));
+    neuerBesuch(kennung, 80, QDate(2026, 11, 16));
+    m_speicher.server().halteAn();
+    neuerBesuch(kennung, 79, QDate(2026, 11, 23));
+    neuerBesuch(kennung, 82, QDate(2026, 11, 2));
+    m_speicher.server().starte();
+    QList<double> gewichte;
+    for (const Besuch &besuch : akte(kennung).besuche) {
+        gewichte << besuch.gewicht.value_or(0);
+    }
+    QCOMPARE(m_kartei->vorgemerkt(), 2);
+    QCOMPARE(gewichte, (QList<double>{82, 80, 79}));
+}
+
+void TestKartei::whatWaitsForOneIsNotShownAtAnother()
+{
+    if (!m_speicher.istServer()) {
+        QSKIP("A file is never away.");
+    }
+    const QString zoe = angelegt(QStringLiteral("Zoe"));
+    const QString anna = angelegt(QStringLiteral("Anna"));
+    m_speicher.server().halteAn();
+    neuerBesuch(anna, 80, QDate(2026, 11, 23));
+    m_speicher.server().starte();
+    QCOMPARE(m_kartei->vorgemerkt(), 1);
+    QVERIFY(akte(zoe).besuche.isEmpty());
+    QCOMPARE(akte(zoe).person.name, QStringLiteral("Zoe"));
+    QCOMPARE(akte(anna).besuche.size(), 1);
+}
+
+/// Whoever types on while the store is away has still begun from what was read before: another desk
+/// may have written meanwhile, and the choice between the two needs to know what was there first.
+void TestKartei::whatWaitsKeepsTheGroundItWasChangedFrom()
+{
+    if (!m_speicher.istServer()) {
+        QSKIP("A file is never away.");
+    }
+    const QString kennung = angelegt(QStringLiteral("Anna"));
+    const Person gelesen = akte(kennung).person;
+    Person anderes = gelesen;
+    anderes.nummer = QStringLiteral("17");
+    QVERIFY(m_speicher.tisch()->sichere(anderes));
+
+    m_speicher.server().halteAn();
+    Person erste = gelesen;
+    erste.name = QStringLiteral("Anna M");
+    m_kartei->sichere({kennung, erste, Satz(gelesen)});
+    Person zweite = erste;
+    zweite.name = QStringLiteral("Anna Muster");
+    m_kartei->sichere({kennung, zweite, Satz(erste)});
+    m_speicher.server().starte();
+
+    std::optional<Kollision> kollision;
+    connect(m_kartei.get(), &Kartei::kollidiert, this,
+            [&](const Kollision &eine) { kollision = eine; });
+    m_kartei->versucheNochmals();
+    QVERIFY(kollision.has_value());
+    QCOMPARE(std::get<Person>(kollision->meines.neu).name, QStringLiteral("Anna Muster"));
+    QVERIFY(kollision->meines.alt.has_value());
+    QCOMPARE(std::get<Person>(*kollision->meines.alt).name, QStringLiteral("Anna"));
 }
 
 void TestKartei::whileSomethingWaitsTheStoreIsNotChanged()
