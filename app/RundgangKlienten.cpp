@@ -39,7 +39,7 @@ void nimm(QComboBox &feld, int stelle)
 void lege(Besuchsblatt &blatt, const Tourbesuch &besuch, const QDate &heute)
 {
     blatt.neuerBesuch->click();
-    tippe(*blatt.datum, heute.addDays(-7 * besuch.wochen).toString(Qt::ISODate));
+    tippe(*blatt.datum, heute.addDays(besuch.wochen * -7LL).toString(Qt::ISODate));
     tippe(*blatt.gewicht, QString::fromLatin1(besuch.gewicht));
     tippe(*blatt.groesse, QStringLiteral("1,68"));
     tippe(*blatt.taille, QString::fromLatin1(besuch.taille));

@@ -108,7 +108,7 @@ void TestRundgang::theSummaryTellsWhatIsSeen()
     QVERIFY(bericht.contains(QStringLiteral("20,0 g of alcohol for 5,0 h")));
     QVERIFY(bericht.contains(QStringLiteral("Entered a client: Erika Beispiel, Nr. K-017")));
     const auto tag = [](int wochen) {
-        return QDate::currentDate().addDays(-7 * wochen).toString(QStringLiteral("dd.MM.yyyy"));
+        return QDate::currentDate().addDays(wochen * -7LL).toString(QStringLiteral("dd.MM.yyyy"));
     };
     const QString dritter = bericht.section(QStringLiteral("Measured again at the desk"), 1);
     QVERIFY(dritter.contains(QStringLiteral("   %1 84,9 kg\n   %2 86,2 kg\n   %3 88,6 kg")
