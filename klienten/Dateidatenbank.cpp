@@ -89,7 +89,7 @@ bool Dateidatenbank::vorhanden() const
 
 Ausgang Dateidatenbank::verbinde()
 {
-    const Ausgang datei = vorhanden() ? pruefeKopf(m_path) : machLeere(m_path);
+    Ausgang datei = vorhanden() ? pruefeKopf(m_path) : machLeere(m_path);
     if (!datei) {
         return datei;
     }
@@ -101,7 +101,7 @@ Ausgang Dateidatenbank::verbinde()
     const bool leer = QFileInfo(m_path).size() == 0;
     const bool unterbrochen = QFileInfo(m_path + QStringLiteral("-journal")).size() > 0;
     if (!leer && !unterbrochen) {
-        const Ausgang gelesen = oeffneDatei(true);
+        Ausgang gelesen = oeffneDatei(true);
         if (!gelesen || istNeuer()) {
             return gelesen;
         }
@@ -224,7 +224,7 @@ Ausgang Dateidatenbank::kopiere(const QString &nach)
 
 Ausgang Dateidatenbank::schreibeKopie(const QString &nach)
 {
-    if (const Ausgang leere = machLeere(nach); !leere) {
+    if (Ausgang leere = machLeere(nach); !leere) {
         return leere;
     }
     Gespraech gespraech(verbindung());

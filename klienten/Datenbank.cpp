@@ -87,14 +87,14 @@ Ausgang Datenbank::schreibe(const Schritt &schritt)
 {
     return mitVerbindung([&]() -> Ausgang {
         if (m_fassung == 0) {
-            if (const Ausgang aufbau = baueAuf(); !aufbau) {
+            if (Ausgang aufbau = baueAuf(); !aufbau) {
                 return aufbau;
             }
         }
         vorSchreiben();
         // Another desk may have a newer version since, and have changed the tables. Where they are
         // older or gone, somebody has put something else there: it is opened anew.
-        const Ausgang ausgang = laufe(schreibbeginn(), [&](Gespraech &gespraech) {
+        Ausgang ausgang = laufe(schreibbeginn(), [&](Gespraech &gespraech) {
             return liesFassung(gespraech) && m_fassung == Klientenschema::fassung &&
                    schritt(gespraech);
         });
@@ -160,7 +160,7 @@ Ausgang Datenbank::laufe(const QString &beginn, const Schritt &schritt)
     if (gelungen && rahmen.fuehre(QStringLiteral("COMMIT"))) {
         return {};
     }
-    const Ausgang ausgang = bemaengelt ? Ausgang{Hindernis::Beschaedigt, fehler.databaseText()}
+    Ausgang ausgang = bemaengelt ? Ausgang{Hindernis::Beschaedigt, fehler.databaseText()}
                             : fehler.isValid()          ? misslungen(fehler)
                             : rahmen.fehler().isValid() ? misslungen(rahmen.fehler())
                                                         : Ausgang{};
@@ -189,7 +189,7 @@ bool Datenbank::liesFassung(Gespraech &gespraech)
 
 Ausgang Datenbank::pruefeFassung()
 {
-    const Ausgang ausgang = laufe(QStringLiteral("BEGIN"),
+    Ausgang ausgang = laufe(QStringLiteral("BEGIN"),
                                   [this](Gespraech &gespraech) { return liesFassung(gespraech); });
     if (!ausgang) {
         return ausgang;
@@ -211,12 +211,12 @@ Ausgang Datenbank::pruefeFassung()
 Ausgang Datenbank::baueAuf()
 {
     if (!verbindung().isOpen()) {
-        if (const Ausgang ausgang = stelleVerbindungHer(); !ausgang) {
+        if (Ausgang ausgang = stelleVerbindungHer(); !ausgang) {
             return ausgang;
         }
         m_offen = true;
     }
-    const Ausgang ausgang = laufe(schreibbeginn(), [this](Gespraech &gespraech) {
+    Ausgang ausgang = laufe(schreibbeginn(), [this](Gespraech &gespraech) {
         if (!sperreUmbau(gespraech) || !liesFassung(gespraech) ||
             (m_fassung == 0 && !lege(gespraech))) {
             return false;

@@ -85,8 +85,9 @@ Satz satzAus(const QJsonValue &wert, QString &stelle)
 template <typename Satz>
 QList<Satz> saetzeAus(const QJsonObject &alles, const QString &feld, QString &stelle)
 {
+    const QJsonArray werte = alles.value(feld).toArray();
     QList<Satz> saetze;
-    for (const QJsonValue &wert : alles.value(feld).toArray()) {
+    for (const auto &wert : werte) {
         QString mangel;
         saetze << satzAus<Satz>(wert, mangel);
         if (!mangel.isEmpty()) {

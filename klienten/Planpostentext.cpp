@@ -123,8 +123,9 @@ std::optional<QList<Planposten>> postenAusText(const QByteArray &text)
     if (!dokument.isArray()) {
         return std::nullopt;
     }
+    const QJsonArray zeilen = dokument.array();
     QList<Planposten> posten;
-    for (const QJsonValue &zeile : dokument.array()) {
+    for (const auto &zeile : zeilen) {
         const std::optional<Planposten> eine = postenAus(zeile.toObject());
         if (!eine) {
             return std::nullopt;

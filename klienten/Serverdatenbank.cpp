@@ -47,7 +47,7 @@ Ausgang Serverdatenbank::verbinde()
         return misslungen(datenbank.lastError());
     }
     // The tables lie in a room of their own, whatever else the practice keeps in that database.
-    const Ausgang eingestellt = fuehreEinzeln({
+    Ausgang eingestellt = fuehreEinzeln({
         QStringLiteral("SET search_path TO mahlberg"),
         QStringLiteral("SET lock_timeout TO 2000"),
         QStringLiteral("SET statement_timeout TO 10000"),
