@@ -15,6 +15,7 @@
 #include "Speicherwahl.h"
 #include "Zeichenkettentabelle.h"
 
+#include <QCryptographicHash>
 #include <QDir>
 #include <QEvent>
 #include <QFileInfo>
@@ -24,8 +25,11 @@
 namespace {
 
 constexpr auto klientendatei = "MahlbergKlienten.sqlite";
+const QString vormerkname = QStringLiteral("MahlbergVorgemerkt%1.json");
 
 const QString hinweisStand = QStringLiteral("klientenstand");
+const QString hinweisVorgemerkt = QStringLiteral("klientenvorgemerkt");
+const QString hinweisBeiseite = QStringLiteral("vorgemerktbeiseite");
 
 /// The menu of a window in which other windows are opened: the last but the one for help.
 QMenu *fenstermenue(const QMainWindow &fenster)
@@ -59,7 +63,7 @@ Klientenanschluss::Klientenanschluss(AppController &hauptfenster, AnthroControll
     : m_hauptfenster(hauptfenster)
     , m_tueren(std::move(tueren))
     , m_kopfzeile(std::move(kopfzeile))
-    , kartei([this] { return neuerSpeicher(); })
+    , kartei([this] { return neuerOrt(); })
     , tisch(kartei,
             {.rechner = rechner,
              .plan =
@@ -84,14 +88,20 @@ QString Klientenanschluss::datei() const
     return QFileInfo(eigene).dir().filePath(QLatin1String(klientendatei));
 }
 
-std::unique_ptr<Klientenspeicher> Klientenanschluss::neuerSpeicher() const
+/// What waits for one store is nothing for another one, so each has a file of its own for it.
+Kartei::Ort Klientenanschluss::neuerOrt() const
 {
     const QString server = klientenserver(*m_tueren.einstellungen);
     const Serverangabe angabe = leseServerangabe(server);
+    const QDir ordner = QFileInfo(datei()).dir();
     if (server.isEmpty() || angabe.fehler) {
-        return std::make_unique<Klientenspeicher>(std::make_unique<Dateidatenbank>(datei()));
+        return {std::make_unique<Klientenspeicher>(std::make_unique<Dateidatenbank>(datei())),
+                ordner.filePath(vormerkname.arg(QString()))};
     }
-    return std::make_unique<Klientenspeicher>(std::make_unique<Serverdatenbank>(angabe));
+    const QByteArray merkmal =
+        QCryptographicHash::hash(server.toUtf8(), QCryptographicHash::Sha256).toHex().left(8);
+    return {std::make_unique<Klientenspeicher>(std::make_unique<Serverdatenbank>(angabe)),
+            ordner.filePath(vormerkname.arg(u'-' + QString::fromLatin1(merkmal)))};
 }
 
 void Klientenanschluss::beginne()
@@ -103,6 +113,45 @@ void Klientenanschluss::beginne()
     if (m_hauptfenster.planmodul != nullptr) {
         bereitePlan();
     }
+    nimmVorgemerktesAuf();
+}
+
+/// What waited when the program last ended is tried again without anybody asking for it. The
+/// window is there for it, since another desk may have changed the same.
+void Klientenanschluss::nimmVorgemerktesAuf()
+{
+    const Vormerkdatei &vorgemerktes = kartei.vormerkdatei();
+    if (vorgemerktes.istGesperrt() || !vorgemerktes.beiseite().isNull()) {
+        m_hauptfenster.hinweise->zeige(
+            {.kennung = hinweisBeiseite,
+             .text = vorgemerktes.beiseite().isNull()
+                         ? localizedString(QStringLiteral(
+                               "Was bei den Klienten noch zu sichern war, ist nicht zu lesen."))
+                         : localizedString(
+                               QStringLiteral("Was bei den Klienten noch zu sichern war, ist nicht "
+                                              "ganz zu lesen; aufgehoben ist es als „%1“."))
+                               .arg(QFileInfo(vorgemerktes.beiseite()).fileName()),
+             .warnung = true});
+    }
+    if (kartei.offene() > 0) {
+        fenster();
+        connect(&kartei, &Kartei::akteGeaendert, this, &Klientenanschluss::sageVorgemerktes);
+        sageVorgemerktes();
+    }
+}
+
+void Klientenanschluss::sageVorgemerktes()
+{
+    if (kartei.offene() == 0) {
+        m_hauptfenster.hinweise->nimmZurueck(hinweisVorgemerkt);
+        disconnect(&kartei, &Kartei::akteGeaendert, this, &Klientenanschluss::sageVorgemerktes);
+        return;
+    }
+    m_hauptfenster.hinweise->zeige(
+        {.kennung = hinweisVorgemerkt,
+         .text = localizedString(
+             QStringLiteral("Bei den Klienten ist vom letzten Mal noch etwas vorgemerkt; es wird "
+                            "gesichert, sobald es geht."))});
 }
 
 void Klientenanschluss::baueMenue()
@@ -257,7 +306,8 @@ bool Klientenanschluss::eventFilter(QObject *watched, QEvent *event)
     return QObject::eventFilter(watched, event);
 }
 
-/// What waits to be written would be lost with the program.
+/// What waits to be written is not with the other desks yet; where it could not even be kept here,
+/// it would be lost with the program.
 bool Klientenanschluss::darfEnden()
 {
     if (m_fenster != nullptr) {
@@ -267,15 +317,20 @@ bool Klientenanschluss::darfEnden()
     if (kartei.vorgemerkt() > 0) {
         kartei.versucheNochmals();
     }
-    return kartei.vorgemerkt() == 0 ||
-           m_tueren.melde(
+    if (kartei.offene() == 0) {
+        return true;
+    }
+    const QString folge =
+        kartei.istFestgehalten()
+            ? localizedString(QStringLiteral("%1 Es bleibt an diesem Platz vorgemerkt und wird "
+                                             "beim nächsten Start gesichert."))
+            : localizedString(QStringLiteral("%1 Was davon nicht gesichert ist, geht beim "
+                                             "Beenden verloren."));
+    return m_tueren.melde(
                m_hauptfenster.Hauptfenster,
                {.text = localizedString(QStringLiteral("Noch nicht alles ist gesichert.")),
-                .erklaerung =
-                    localizedString(QStringLiteral("%1 Was davon nicht gesichert ist, geht beim "
-                                                   "Beenden verloren."))
-                        .arg(inWorten(kartei.hindernis())),
+                .erklaerung = folge.arg(inWorten(kartei.hindernis())).trimmed(),
                 .knoepfe = {localizedString(QStringLiteral("Zurück")),
                             localizedString(QStringLiteral("Trotzdem beenden"))},
-                .gefahr = true}) == 1;
+                .gefahr = !kartei.istFestgehalten()}) == 1;
 }

@@ -55,8 +55,10 @@ Q_SIGNALS:
     void hilfeGewuenscht(const QWidget *fenster);
 
 private:
-    std::unique_ptr<Klientenspeicher> neuerSpeicher() const;
+    Kartei::Ort neuerOrt() const;
     QString datei() const;
+    void nimmVorgemerktesAuf();
+    void sageVorgemerktes();
     void baueMenue();
     void bereitePlan();
     void betitle();

@@ -160,10 +160,10 @@ Ausgang Datenbank::laufe(const QString &beginn, const Schritt &schritt)
     if (gelungen && rahmen.fuehre(QStringLiteral("COMMIT"))) {
         return {};
     }
-    Ausgang ausgang = bemaengelt ? Ausgang{Hindernis::Beschaedigt, fehler.databaseText()}
-                            : fehler.isValid()          ? misslungen(fehler)
-                            : rahmen.fehler().isValid() ? misslungen(rahmen.fehler())
-                                                        : Ausgang{};
+    Ausgang ausgang = bemaengelt         ? Ausgang{Hindernis::Beschaedigt, fehler.databaseText()}
+                      : fehler.isValid() ? misslungen(fehler)
+                      : rahmen.fehler().isValid() ? misslungen(rahmen.fehler())
+                                                  : Ausgang{};
     Gespraech(verbindung()).fuehre(QStringLiteral("ROLLBACK"));
     return ausgang;
 }
@@ -190,7 +190,7 @@ bool Datenbank::liesFassung(Gespraech &gespraech)
 Ausgang Datenbank::pruefeFassung()
 {
     Ausgang ausgang = laufe(QStringLiteral("BEGIN"),
-                                  [this](Gespraech &gespraech) { return liesFassung(gespraech); });
+                            [this](Gespraech &gespraech) { return liesFassung(gespraech); });
     if (!ausgang) {
         return ausgang;
     }

@@ -43,24 +43,32 @@ void lege(QList<Art> &saetze, const Art &satz)
 
 } // namespace
 
-QString kennung(const Satz &satz)
-{
-    return std::visit([](const auto &einer) { return einer.kennung; }, satz);
-}
-
-Kartei::Kartei(Speichermacher macher) : m_macher(std::move(macher)), m_speicher(m_macher())
+Kartei::Kartei(Speichermacher macher) : m_macher(std::move(macher))
 {
     m_uhr.setInterval(wartezeit);
     connect(&m_uhr, &QTimer::timeout, this, &Kartei::versucheNochmals);
+    beginneMit(m_macher());
+}
+
+/// What waited for this store when the program last ended waits on.
+void Kartei::beginneMit(Ort ort)
+{
+    m_speicher = std::move(ort.speicher);
+    m_datei = std::make_unique<Vormerkdatei>(std::move(ort.vormerkdatei));
+    m_vorgemerkt = m_datei->lies(QDateTime::currentDateTime());
+    m_festgehalten = true;
+    if (!m_vorgemerkt.isEmpty()) {
+        m_uhr.start();
+    }
 }
 
 bool Kartei::beginneNeu()
 {
-    if (!m_vorgemerkt.isEmpty()) {
+    if (offene() > 0) {
         return false;
     }
     m_geloescht.reset();
-    m_speicher = m_macher();
+    beginneMit(m_macher());
     m_liste.setze(QList<Personenzeile>());
     lade();
     return true;
@@ -143,9 +151,10 @@ QString Kartei::sichere(Schreibwunsch wunsch)
                      [&](const Schreibwunsch &einer) { return kennung(einer.neu) == schluessel; });
     if (wartender != m_vorgemerkt.end()) {
         wunsch.alt = wartender->alt;
-        m_vorgemerkt.erase(wartender);
     }
-    folge(schreibe(wunsch), wunsch);
+    const Schreibausgang ausgang = schreibe(wunsch);
+    entlasse(schluessel);
+    folge(ausgang, wunsch);
     return schluessel;
 }
 
@@ -164,6 +173,7 @@ void Kartei::folge(const Schreibausgang &ausgang, const Schreibwunsch &wunsch)
 {
     switch (ausgang.art) {
     case Schreibausgang::Art::Gelungen:
+        halteFest();
         merkeHindernis({});
         if (const auto *person = std::get_if<Person>(&wunsch.neu)) {
             zeigeInListe(*person);
@@ -180,6 +190,8 @@ void Kartei::folge(const Schreibausgang &ausgang, const Schreibwunsch &wunsch)
             },
             wunsch.neu);
         if (anderes) {
+            m_strittig << wunsch;
+            halteFest();
             Q_EMIT kollidiert({wunsch, *anderes});
         } else {
             merkeVor(wunsch); // gone meanwhile, or not to be read: the next try will tell
@@ -187,6 +199,8 @@ void Kartei::folge(const Schreibausgang &ausgang, const Schreibwunsch &wunsch)
         break;
     }
     case Schreibausgang::Art::Verschwunden:
+        m_strittig << wunsch;
+        halteFest();
         Q_EMIT verschwunden(wunsch);
         break;
     case Schreibausgang::Art::Nichtgelungen:
@@ -199,7 +213,9 @@ void Kartei::folge(const Schreibausgang &ausgang, const Schreibwunsch &wunsch)
 
 void Kartei::merkeVor(const Schreibwunsch &wunsch)
 {
+    entlasse(kennung(wunsch.neu));
     m_vorgemerkt << wunsch;
+    halteFest();
     if (const auto *person = std::get_if<Person>(&wunsch.neu)) {
         zeigeInListe(*person);
         Q_EMIT listeGeaendert();
@@ -207,22 +223,42 @@ void Kartei::merkeVor(const Schreibwunsch &wunsch)
     m_uhr.start();
 }
 
+/// Nothing is wanted of this record any more, or something else.
+void Kartei::entlasse(const QString &schluessel)
+{
+    const auto dieser = [&](const Schreibwunsch &einer) {
+        return kennung(einer.neu) == schluessel;
+    };
+    m_vorgemerkt.removeIf(dieser);
+    m_strittig.removeIf(dieser);
+}
+
+/// The file of this desk follows what waits. Where that fails, the next change tries it again.
+void Kartei::halteFest()
+{
+    m_festgehalten = m_datei->schreibe(m_strittig + m_vorgemerkt);
+}
+
 /// Those of one client are written in the order in which they came: the client before the visits.
+/// In the file they stay until they are written.
 void Kartei::versucheNochmals()
 {
     m_uhr.stop();
     QElapsedTimer dauer;
     dauer.start();
-    const QList<Schreibwunsch> wartende = std::exchange(m_vorgemerkt, {});
-    for (qsizetype i = 0; i < wartende.size(); ++i) {
-        Schreibwunsch wunsch = wartende[i];
-        folge(schreibe(wunsch), wunsch);
-        if (!m_hindernis) {
-            m_vorgemerkt << wartende.sliced(i + 1); // one answer is enough
-            break;
+    const qsizetype wartende = m_vorgemerkt.size();
+    for (qsizetype i = 0; i < wartende && !m_vorgemerkt.isEmpty(); ++i) {
+        Schreibwunsch wunsch = m_vorgemerkt.constFirst();
+        const Schreibausgang ausgang = schreibe(wunsch);
+        if (ausgang.art == Schreibausgang::Art::Nichtgelungen) {
+            halteFest(); // perhaps there is room on the disk again
+            merkeHindernis(ausgang.hindernis);
+            break; // one answer is enough
         }
+        entlasse(kennung(wunsch.neu));
+        folge(ausgang, wunsch);
     }
-    if (wartende.isEmpty() && !m_hindernis) {
+    if (wartende == 0 && !m_hindernis) {
         lade();
     }
     m_uhr.setInterval(std::max(wartezeit, ruhe * static_cast<int>(dauer.elapsed())));
@@ -241,8 +277,8 @@ void Kartei::entscheide(const Kollision &kollision, const Satz &entschieden)
 
 void Kartei::verzichte(const Schreibwunsch &wunsch)
 {
-    m_vorgemerkt.removeIf(
-        [&](const Schreibwunsch &einer) { return kennung(einer.neu) == kennung(wunsch.neu); });
+    entlasse(kennung(wunsch.neu));
+    halteFest();
     lade();
     Q_EMIT akteGeaendert(wunsch.person);
 }
@@ -255,7 +291,12 @@ bool Kartei::loesche(const Klientenakte &akte)
     if (!ausgang) {
         return false;
     }
-    m_vorgemerkt.removeIf([&](const Schreibwunsch &einer) { return einer.person == schluessel; });
+    const auto davon = [&](const Schreibwunsch &einer) {
+        return einer.person == schluessel;
+    };
+    m_vorgemerkt.removeIf(davon);
+    m_strittig.removeIf(davon);
+    halteFest();
     m_geloescht = Geloeschtes{schluessel, akte};
     m_liste.entferne(schluessel);
     Q_EMIT listeGeaendert();
@@ -273,6 +314,8 @@ bool Kartei::loesche(const QString &person, const Satz &satz)
     }
     merkeHindernis(ausgang.hindernis);
     if (ausgang) {
+        entlasse(kennung(satz));
+        halteFest();
         m_geloescht = Geloeschtes{person, satz};
     }
     Q_EMIT akteGeaendert(person); // another desk may have changed it, which is seen then
@@ -312,6 +355,8 @@ Schreibausgang Kartei::nimmAuf(const Klientenakte &akte)
     Schreibausgang ausgang = m_speicher->nimmAuf(akte);
     merkeHindernis(ausgang.hindernis);
     if (ausgang) {
+        entlasse(akte.person.kennung);
+        halteFest();
         zeigeInListe(akte.person);
         Q_EMIT listeGeaendert();
         Q_EMIT akteGeaendert(akte.person.kennung);

@@ -2,6 +2,7 @@
 
 #include "Klientenliste.h"
 #include "Klientenspeicher.h"
+#include "Vormerkdatei.h"
 
 #include <QObject>
 #include <QTimer>
@@ -9,21 +10,6 @@
 #include <functional>
 #include <memory>
 #include <optional>
-#include <variant>
-
-/// A record of any kind.
-using Satz = std::variant<Person, Besuch, Planablage>;
-
-/// The key of a record.
-QString kennung(const Satz &satz);
-
-/// A record as it is to be written, and what it was made from.
-struct Schreibwunsch
-{
-    QString person;               ///< key of the person to whom it belongs, or who it is
-    Satz neu;                     ///< as it is wanted
-    std::optional<Satz> alt = {}; ///< as it was read; absent for a new one
-};
 
 /// Two desks have changed one record: what this one wants, and what the other one has written.
 struct Kollision
@@ -33,15 +19,22 @@ struct Kollision
 };
 
 /// The cabinet with the clients, for all windows of the program: it reads and writes the store and
-/// tells what changed. What could not be written is kept and tried again until it is; nothing that
-/// was typed gets lost on the way. Where another desk was faster, it asks what shall count.
+/// tells what changed. What could not be written is kept, also in a file of this desk, and tried
+/// again until it is; nothing that was typed gets lost on the way, not even with the end of the
+/// program. Where another desk was faster, it asks what shall count.
 class Kartei : public QObject
 {
     Q_OBJECT
 
 public:
+    /// A store, and the path of the file in which this desk keeps what waits to be written to it.
+    struct Ort
+    {
+        std::unique_ptr<Klientenspeicher> speicher;
+        QString vormerkdatei;
+    };
     /// Makes the store that the settings name.
-    using Speichermacher = std::function<std::unique_ptr<Klientenspeicher>()>;
+    using Speichermacher = std::function<Ort()>;
 
     explicit Kartei(Speichermacher macher);
 
@@ -60,6 +53,12 @@ public:
     bool beschreibbar() const;
     /// How many records wait to be written.
     qsizetype vorgemerkt() const { return m_vorgemerkt.size(); }
+    /// How many records are not written yet: those, and what the user has still to decide about.
+    qsizetype offene() const { return m_vorgemerkt.size() + m_strittig.size(); }
+    /// Whether they outlast the end of the program: they are kept in a file of this desk, too.
+    bool istFestgehalten() const { return m_festgehalten; }
+    /// That file, and what became of one that could not be read.
+    const Vormerkdatei &vormerkdatei() const { return *m_datei; }
 
     /// Everything that is kept of a client, with what waits to be written laid over it. Absent when
     /// there is none of this key, or when the store can't be read.
@@ -74,6 +73,8 @@ public:
     /// What the user has decided about a collision: this is to be written over what the other desk
     /// has written.
     void entscheide(const Kollision &kollision, const Satz &entschieden);
+    /// This is to be written as soon as the store lets it; until then it waits.
+    void merkeVor(const Schreibwunsch &wunsch);
     /// Nothing of this record is to be written any more: what the other desk made of it counts.
     void verzichte(const Schreibwunsch &wunsch);
 
@@ -115,16 +116,21 @@ private:
 
     Schreibausgang schreibe(Schreibwunsch &wunsch);
     void folge(const Schreibausgang &ausgang, const Schreibwunsch &wunsch);
-    void merkeVor(const Schreibwunsch &wunsch);
+    void beginneMit(Ort ort);
+    void entlasse(const QString &schluessel);
+    void halteFest();
     void merkeHindernis(const Ausgang &ausgang);
     void ueberlagere(Klientenakte &akte) const;
     void zeigeInListe(const Person &person);
 
     Speichermacher m_macher;
     std::unique_ptr<Klientenspeicher> m_speicher;
+    std::unique_ptr<Vormerkdatei> m_datei;
     Klientenliste m_liste;
     Ausgang m_hindernis;
     QList<Schreibwunsch> m_vorgemerkt; ///< one for each record, the oldest first
+    QList<Schreibwunsch> m_strittig;   ///< what the user was asked about and has not answered yet
+    bool m_festgehalten = true;
     std::optional<Geloeschtes> m_geloescht;
     QTimer m_uhr; ///< tries again
 };

@@ -122,8 +122,12 @@ void Klientenfenster::nimmWiederAuf(const Schreibwunsch &wunsch)
         if (akte && std::holds_alternative<Person>(wunsch.neu)) {
             akte->person = std::get<Person>(wunsch.neu);
         }
-        if (!akte || !m_kartei.nimmAuf(*akte)) {
+        if (!akte) {
             m_kartei.verzichte(wunsch);
+            return;
+        }
+        if (!m_kartei.nimmAuf(*akte)) {
+            m_kartei.merkeVor(wunsch); // and is asked about again as soon as the store is back
             return;
         }
     }

@@ -12,10 +12,10 @@
 #include <QDir>
 #include <QFileInfo>
 #include <QPrinter>
-#include <QTemporaryDir>
 
 #include <algorithm>
 #include <array>
+#include <utility>
 
 namespace {
 
@@ -115,6 +115,28 @@ QString freierPfad(const QDir &in, const QString &name)
     return path;
 }
 
+/// A folder that is gone with this unless it got its proper name meanwhile.
+class Entwurf
+{
+public:
+    explicit Entwurf(QString path) : m_path(std::move(path)), m_angelegt(QDir().mkdir(m_path)) {}
+    ~Entwurf()
+    {
+        if (m_angelegt) {
+            QDir(m_path).removeRecursively();
+        }
+    }
+    Entwurf(const Entwurf &) = delete;
+    Entwurf &operator=(const Entwurf &) = delete;
+
+    const QString &path() const { return m_path; }
+    bool angelegt() const { return m_angelegt; }
+
+private:
+    QString m_path;
+    bool m_angelegt;
+};
+
 Mappenausgang misslungen(const QString &satz, const QString &path)
 {
     return {.grund = satz.arg(QDir::toNativeSeparators(path))};
@@ -147,9 +169,11 @@ Mappenausgang schreibeMappe(const QString &in, const Klientenakte &akte, const Q
     const EngeRechte enge;
     const QDir dort(in);
     const QString ziel = freierPfad(dort, mappenname(akte.person.name, heute));
-    // Beside its place, so that it gets there by its name alone; out of sight until it is whole.
-    QTemporaryDir entwurf(dort.filePath(QStringLiteral(".Mahlberg-XXXXXX")));
-    if (!entwurf.isValid()) {
+    // Beside its place, so that it gets there by its name alone. Until it is whole its name says
+    // that it is not: should the power go meanwhile, whoever finds it knows what it is.
+    const Entwurf entwurf(
+        freierPfad(dort, localizedString(QStringLiteral("Akte (unvollständig)"))));
+    if (!entwurf.angelegt()) {
         return misslungen(localizedString(QStringLiteral(
                               "Im Ordner „%1“ lässt sich nichts anlegen. Vielleicht "
                               "ist er nicht da, geschützt oder kein Platz mehr frei.")),
@@ -166,6 +190,5 @@ Mappenausgang schreibeMappe(const QString &in, const Klientenakte &akte, const Q
         return misslungen(
             localizedString(QStringLiteral("Der Ordner „%1“ lässt sich nicht anlegen.")), ziel);
     }
-    entwurf.setAutoRemove(false);
     return {.gelungen = true, .ordner = ziel};
 }

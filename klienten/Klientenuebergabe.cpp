@@ -1,7 +1,6 @@
 #include "Klientenuebergabe.h"
 
-#include "Planpostentext.h"
-#include "Satzspalten.h"
+#include "Satztext.h"
 
 #include <QJsonArray>
 #include <QJsonDocument>
@@ -17,37 +16,8 @@ constexpr int form = 1;
 const QString personenfeld = QStringLiteral("person");
 const QString besuchsfeld = QStringLiteral("besuche");
 const QString planfeld = QStringLiteral("plaene");
-const QString postenfeld = QStringLiteral("posten");
-const QString kennungsfeld = QStringLiteral("kennung");
-const QString fassungsfeld = QStringLiteral("fassung");
-
-/// A field of a record; the rows of a plan are JSON already.
-QJsonValue feldAlsJson(const QString &name, const QVariant &wert)
-{
-    if (name == postenfeld) {
-        return QJsonDocument::fromJson(wert.toString().toUtf8()).array();
-    }
-    return wert.isNull() ? QJsonValue(QJsonValue::Null) : QJsonValue::fromVariant(wert);
-}
-
-QVariant feldAusJson(const QString &name, const QJsonValue &wert)
-{
-    if (name == postenfeld) {
-        return QString::fromUtf8(QJsonDocument(wert.toArray()).toJson(QJsonDocument::Compact));
-    }
-    return wert.isNull() || wert.isUndefined() ? QVariant() : wert.toVariant();
-}
-
-template <typename Satz>
-QJsonObject alsJson(const Satz &satz)
-{
-    QJsonObject felder{{kennungsfeld, satz.kennung}, {fassungsfeld, satz.fassung}};
-    for (const Satzspalte<Satz> &spalte : spalten<Satz>()) {
-        const QString name = QLatin1String(spalte.name);
-        felder.insert(name, feldAlsJson(name, spalte.lies(satz)));
-    }
-    return felder;
-}
+/// Whoever goes from one desk to another was kept at least once.
+constexpr int mindestfassung = 1;
 
 template <typename Satz>
 QJsonArray alsJson(const QList<Satz> &saetze)
@@ -59,29 +29,6 @@ QJsonArray alsJson(const QList<Satz> &saetze)
     return alle;
 }
 
-/// Reads a record. The name of the field that can't be read is put behind `stelle`; it stays empty
-/// when all is well.
-template <typename Satz>
-Satz satzAus(const QJsonValue &wert, QString &stelle)
-{
-    const QJsonObject felder = wert.toObject();
-    Satz satz;
-    satz.kennung = felder.value(kennungsfeld).toString();
-    satz.fassung = felder.value(fassungsfeld).toInt();
-    if (satz.kennung.isEmpty() || satz.fassung < 1) {
-        stelle = satz.kennung.isEmpty() ? kennungsfeld : fassungsfeld;
-        return satz;
-    }
-    for (const Satzspalte<Satz> &spalte : spalten<Satz>()) {
-        const QString name = QLatin1String(spalte.name);
-        if (!spalte.setze(satz, feldAusJson(name, felder.value(name)))) {
-            stelle = name;
-            return satz;
-        }
-    }
-    return satz;
-}
-
 template <typename Satz>
 QList<Satz> saetzeAus(const QJsonObject &alles, const QString &feld, QString &stelle)
 {
@@ -89,7 +36,7 @@ QList<Satz> saetzeAus(const QJsonObject &alles, const QString &feld, QString &st
     QList<Satz> saetze;
     for (const auto &wert : werte) {
         QString mangel;
-        saetze << satzAus<Satz>(wert, mangel);
+        saetze << satzAus<Satz>(wert, mindestfassung, mangel);
         if (!mangel.isEmpty()) {
             stelle = QStringLiteral("%1[%2].%3").arg(feld).arg(saetze.size() - 1).arg(mangel);
             break;
@@ -124,7 +71,7 @@ Uebergabe leseAkte(const QByteArray &text)
     }
     QString stelle;
     Klientenakte akte;
-    akte.person = satzAus<Person>(alles.value(personenfeld), stelle);
+    akte.person = satzAus<Person>(alles.value(personenfeld), mindestfassung, stelle);
     if (!stelle.isEmpty()) {
         return {Zustand::Beschaedigt, {}, personenfeld + QLatin1Char('.') + stelle};
     }

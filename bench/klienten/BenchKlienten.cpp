@@ -106,7 +106,9 @@ double speicherbedarf()
 struct Praxis
 {
     explicit Praxis(const QString &datei)
-        : kartei([datei] { return speicherVon(datei); })
+        : kartei([datei] {
+            return Kartei::Ort{speicherVon(datei), datei + QStringLiteral(".json")};
+        })
         , plan(Plantueren{
               .eingebauteTabelle = {}, .datenordner = Datenordner(heim.path()), .melde = {}})
         , rechner({.einstellungen = &einstellungen,
@@ -167,7 +169,9 @@ void bisZurListe(benchmark::State &state)
 {
     bestand();
     for (auto _ : state) {
-        Kartei kartei([] { return speicherVon(bestand()); });
+        Kartei kartei([] {
+            return Kartei::Ort{speicherVon(bestand()), bestand() + QStringLiteral(".json")};
+        });
         kartei.lade();
         benchmark::DoNotOptimize(kartei.liste().suche({}, false));
     }

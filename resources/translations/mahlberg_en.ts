@@ -4120,6 +4120,26 @@ New: %1</translation>
   <source>Wählen Sie zuerst den Server der Praxis.</source>
   <translation>Choose the server of the practice first.</translation>
  </message>
+ <message>
+  <source>Akte (unvollständig)</source>
+  <translation>Record (incomplete)</translation>
+ </message>
+ <message>
+  <source>%1 Es bleibt an diesem Platz vorgemerkt und wird beim nächsten Start gesichert.</source>
+  <translation>%1 It stays noted at this desk and will be saved at the next start.</translation>
+ </message>
+ <message>
+  <source>Bei den Klienten ist vom letzten Mal noch etwas vorgemerkt; es wird gesichert, sobald es geht.</source>
+  <translation>Of the clients, something is still noted from last time; it will be saved as soon as that is possible.</translation>
+ </message>
+ <message>
+  <source>Was bei den Klienten noch zu sichern war, ist nicht ganz zu lesen; aufgehoben ist es als „%1“.</source>
+  <translation>What was still to be saved of the clients can’t be read in full; it is kept as “%1”.</translation>
+ </message>
+ <message>
+  <source>Was bei den Klienten noch zu sichern war, ist nicht zu lesen.</source>
+  <translation>What was still to be saved of the clients can’t be read.</translation>
+ </message>
 </context>
 <context>
  <name>PlanmodulGestalt</name>

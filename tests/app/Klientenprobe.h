@@ -88,15 +88,20 @@ public:
     }
 
     /// The notices of the clients' window, the newest first.
-    QStringList hinweise()
+    QStringList hinweise() { return saetze(*fenster().hinweise); }
+    /// Those of the main window.
+    QStringList hauptsaetze() { return saetze(*m_programm->hinweise); }
+
+private:
+    template <typename Leiste>
+    static QStringList saetze(const Leiste &leiste)
     {
         QStringList texte;
-        for (const Hinweis &hinweis : fenster().hinweise->hinweise()) {
+        for (const Hinweis &hinweis : leiste.hinweise()) {
             texte << hinweis.text;
         }
         return texte;
     }
 
-private:
     Probefenster m_programm;
 };

@@ -33,12 +33,19 @@ private Q_SLOTS:
     void aNewerStoreIsShownAndNotChanged();
     void theEndKeepsWhatWasMeasured();
     void whatCanNotBeSavedHoldsTheEndUp();
+    void whatCouldNotBeKeptWouldBeLost();
+    void whatWaitedIsSavedAtTheNextStart();
+    void whatWaitedAndCanNotBeReadIsKeptBeside();
     void theLanguageChangesTheWindowToo();
 
 private:
     QString datei() const
     {
         return QFileInfo(m_heim->eigeneDatei()).dir().filePath(u"MahlbergKlienten.sqlite"_s);
+    }
+    QString vormerkdatei() const
+    {
+        return QFileInfo(datei()).dir().filePath(u"MahlbergVorgemerkt.json"_s);
     }
     void oeffne() { m_probe = std::make_unique<Klientenprobe>(*m_heim); }
     static QByteArray bytes(const QString &path)
@@ -280,6 +287,9 @@ void TestKlientenanschluss::whatCanNotBeSavedHoldsTheEndUp()
         }();
         [&] {
             QCOMPARE(m_heim->meldungen.constFirst().text, u"Noch nicht alles ist gesichert."_s);
+            QVERIFY(m_heim->meldungen.constFirst().erklaerung.endsWith(
+                u" Es bleibt an diesem Platz vorgemerkt und wird beim nächsten Start gesichert."_s));
+            QVERIFY(!m_heim->meldungen.constFirst().gefahr);
         }();
         return true;
     }));
@@ -289,6 +299,65 @@ void TestKlientenanschluss::whatCanNotBeSavedHoldsTheEndUp()
     oeffne();
     m_probe->oeffne();
     QCOMPARE(m_probe->liste(), QStringList({u"Anna"_s, u"Berta"_s}));
+}
+
+void TestKlientenanschluss::whatCouldNotBeKeptWouldBeLost()
+{
+    oeffne();
+    klient(u"Anna"_s);
+    QVERIFY(QDir().mkdir(vormerkdatei()));
+    Dateidatenbank andere(datei());
+    QVERIFY(andere.schreibe([&](Gespraech &) {
+        klient(u"Berta"_s);
+        m_heim->meldungen.clear();
+        m_heim->antworten = {1};
+        return m_probe->programm()->Hauptfenster->close();
+    }));
+    QVERIFY(m_heim->meldungen.constFirst().erklaerung.endsWith(
+        u" Was davon nicht gesichert ist, geht beim Beenden verloren."_s));
+    QVERIFY(m_heim->meldungen.constFirst().gefahr);
+}
+
+void TestKlientenanschluss::whatWaitedIsSavedAtTheNextStart()
+{
+    const QString satz =
+        u"Bei den Klienten ist vom letzten Mal noch etwas vorgemerkt; es wird gesichert, sobald es "
+        u"geht."_s;
+    oeffne();
+    klient(u"Anna"_s);
+    Dateidatenbank andere(datei());
+    QVERIFY(andere.schreibe([&](Gespraech &) {
+        klient(u"Berta"_s);
+        m_heim->antworten = {1};
+        const bool beendet = m_probe->programm()->Hauptfenster->close();
+        m_probe.reset();
+        oeffne();
+        m_probe->kartei().versucheNochmals();
+        return beendet;
+    }));
+    QVERIFY(m_probe->hauptsaetze().contains(satz));
+    QVERIFY(!m_probe->fenster().isVisible());
+    m_probe->kartei().versucheNochmals();
+    QVERIFY(!m_probe->hauptsaetze().contains(satz));
+    QVERIFY(!QFileInfo::exists(vormerkdatei()));
+    m_probe->oeffne();
+    QCOMPARE(m_probe->liste(), QStringList({u"Anna"_s, u"Berta"_s}));
+}
+
+void TestKlientenanschluss::whatWaitedAndCanNotBeReadIsKeptBeside()
+{
+    QDir().mkpath(QFileInfo(vormerkdatei()).path());
+    schreibe(vormerkdatei(), "Liebe Frau Muster,\n");
+    oeffne();
+    const QString satz = m_probe->hauptsaetze().join(u'\n');
+    QVERIFY2(satz.contains(u"nicht ganz zu lesen; aufgehoben ist es als „MahlbergVorgemerkt "_s),
+             qUtf8Printable(satz));
+    m_probe.reset();
+    QVERIFY(QFile::remove(vormerkdatei()));
+    QVERIFY(QDir().mkdir(vormerkdatei()));
+    oeffne();
+    QVERIFY(m_probe->hauptsaetze().contains(
+        u"Was bei den Klienten noch zu sichern war, ist nicht zu lesen."_s));
 }
 
 void TestKlientenanschluss::theLanguageChangesTheWindowToo()

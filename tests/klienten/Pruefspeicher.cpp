@@ -50,6 +50,33 @@ std::unique_ptr<Klientenspeicher> Pruefspeicher::tisch()
     return std::make_unique<Klientenspeicher>(datenbank());
 }
 
+Kartei::Ort Pruefspeicher::ort()
+{
+    return {tisch(), vormerkdatei()};
+}
+
+void Pruefspeicher::nimmWeg()
+{
+    if (istServer()) {
+        m_server->halteAn();
+        return;
+    }
+    m_halter = QSqlDatabase::addDatabase(QStringLiteral("QSQLITE"), QStringLiteral("halter"));
+    m_halter.setDatabaseName(datei());
+    QVERIFY(m_halter.open());
+    QVERIFY(m_halter.exec(QStringLiteral("BEGIN IMMEDIATE")).isActive());
+}
+
+void Pruefspeicher::gibZurueck()
+{
+    if (istServer()) {
+        m_server->starte();
+        return;
+    }
+    m_halter = QSqlDatabase();
+    QSqlDatabase::removeDatabase(QStringLiteral("halter"));
+}
+
 QVariant Pruefspeicher::frage(const QString &anweisung)
 {
     const QString name = QStringLiteral("vorbei");

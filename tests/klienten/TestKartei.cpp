@@ -4,6 +4,8 @@
 #include "Kartei.h"
 #include "Pruefspeicher.h"
 
+#include <QDir>
+#include <QFileInfo>
 #include <QSignalSpy>
 #include <QTest>
 
@@ -18,13 +20,17 @@ private Q_SLOTS:
 
     void aNewClientGetsAKeyAndStandsInTheList();
     void aVisitIsToldOfToWhoeverShowsTheClient();
-    void whileTheServerIsAwayWhatIsEnteredWaits();
+    void whileTheStoreIsAwayWhatIsEnteredWaits();
     void aClientWhoWaitsCanBeShownAndGivenAVisit();
     void whatWaitsIsChangedAndNotDoubled();
     void visitsThatWaitStandInTheirOrder();
     void whatWaitsForOneIsNotShownAtAnother();
     void whatWaitsKeepsTheGroundItWasChangedFrom();
     void whileSomethingWaitsTheStoreIsNotChanged();
+    void whatWaitsOutlivesTheProgram();
+    void whatTheUserWasAskedAboutOutlivesTheProgramToo();
+    void whatIsTakenAwayWaitsNoMore();
+    void whatCanNotBeKeptInTheFileWaitsAllTheSame();
     void theSecondDeskIsToldAndChooses();
     void whatTheUserGivesUpIsNotWritten();
     void whatAnotherDeskDeletedIsToldOf();
@@ -50,7 +56,7 @@ Q_DECLARE_METATYPE(Schreibwunsch)
 void TestKartei::init()
 {
     m_speicher.beginne();
-    m_kartei = std::make_unique<Kartei>([this] { return m_speicher.tisch(); });
+    m_kartei = std::make_unique<Kartei>([this] { return m_speicher.ort(); });
     m_kartei->lade();
 }
 
@@ -81,7 +87,7 @@ void TestKartei::aNewClientGetsAKeyAndStandsInTheList()
     QCOMPARE(m_kartei->liste().suche({}, false).size(), 1);
     QCOMPARE(m_kartei->liste().suche({}, false).constFirst().kennung, kennung);
     QCOMPARE(akte(kennung).person.fassung, 1);
-    Kartei andere([this] { return m_speicher.tisch(); });
+    Kartei andere([this] { return m_speicher.ort(); });
     andere.lade();
     QCOMPARE(andere.liste().suche({}, false).constFirst().name, QStringLiteral("Anna"));
 }
@@ -96,14 +102,11 @@ void TestKartei::aVisitIsToldOfToWhoeverShowsTheClient()
     QCOMPARE(akte(kennung).besuche.constFirst().gewicht, 80.0);
 }
 
-void TestKartei::whileTheServerIsAwayWhatIsEnteredWaits()
+void TestKartei::whileTheStoreIsAwayWhatIsEnteredWaits()
 {
-    if (!m_speicher.istServer()) {
-        QSKIP("A file is never away.");
-    }
     const QString kennung = angelegt(QStringLiteral("Anna"));
     const QSignalSpy hindernis(m_kartei.get(), &Kartei::hindernisGeaendert);
-    m_speicher.server().halteAn();
+    m_speicher.nimmWeg();
     const Person vorher = namens(QStringLiteral("Anna"));
     Person neu = vorher;
     neu.kennung = kennung;
@@ -111,13 +114,14 @@ void TestKartei::whileTheServerIsAwayWhatIsEnteredWaits()
     neu.name = QStringLiteral("Anna Muster");
     m_kartei->sichere({kennung, neu, Satz(vorher)});
     QCOMPARE(m_kartei->vorgemerkt(), 1);
-    QCOMPARE(m_kartei->hindernis().hindernis, Hindernis::Getrennt);
+    QCOMPARE(m_kartei->hindernis().hindernis,
+             m_speicher.istServer() ? Hindernis::Getrennt : Hindernis::Gesperrt);
     QCOMPARE(hindernis.count(), 1);
     QVERIFY(m_kartei->beschreibbar());
     QCOMPARE(m_kartei->liste().suche({}, false).constFirst().name, QStringLiteral("Anna Muster"));
     m_kartei->versucheNochmals();
     QCOMPARE(m_kartei->vorgemerkt(), 1);
-    m_speicher.server().starte();
+    m_speicher.gibZurueck();
     m_kartei->versucheNochmals();
     QCOMPARE(m_kartei->vorgemerkt(), 0);
     QCOMPARE(m_kartei->hindernis().hindernis, Hindernis::Keines);
@@ -128,15 +132,12 @@ void TestKartei::whileTheServerIsAwayWhatIsEnteredWaits()
 
 void TestKartei::aClientWhoWaitsCanBeShownAndGivenAVisit()
 {
-    if (!m_speicher.istServer()) {
-        QSKIP("A file is never away.");
-    }
     angelegt(QStringLiteral("Zoe")); // so that the tables are there
-    m_speicher.server().halteAn();
+    m_speicher.nimmWeg();
     const QString kennung = angelegt(QStringLiteral("Anna"));
     neuerBesuch(kennung, 80, QDate(2026, 11, 23));
     QCOMPARE(m_kartei->vorgemerkt(), 2);
-    m_speicher.server().starte();
+    m_speicher.gibZurueck();
     QCOMPARE(akte(kennung).person.name, QStringLiteral("Anna"));
     QCOMPARE(akte(kennung).besuche.size(), 1);
     m_kartei->versucheNochmals();
@@ -146,17 +147,14 @@ void TestKartei::aClientWhoWaitsCanBeShownAndGivenAVisit()
 
 void TestKartei::whatWaitsIsChangedAndNotDoubled()
 {
-    if (!m_speicher.istServer()) {
-        QSKIP("A file is never away.");
-    }
     angelegt(QStringLiteral("Zoe"));
-    m_speicher.server().halteAn();
+    m_speicher.nimmWeg();
     const QString kennung = angelegt(QStringLiteral("Anna"));
     Person neu = namens(QStringLiteral("Anna Muster"));
     neu.kennung = kennung;
     QCOMPARE(m_kartei->sichere({kennung, neu, {}}), kennung);
     QCOMPARE(m_kartei->vorgemerkt(), 1);
-    m_speicher.server().starte();
+    m_speicher.gibZurueck();
     m_kartei->versucheNochmals();
     QCOMPARE(m_kartei->liste().suche({}, false).size(), 2);
     QCOMPARE(akte(kennung).person.name, QStringLiteral("Anna Muster"));
@@ -165,15 +163,12 @@ void TestKartei::whatWaitsIsChangedAndNotDoubled()
 
 void TestKartei::visitsThatWaitStandInTheirOrder()
 {
-    if (!m_speicher.istServer()) {
-        QSKIP("A file is never away.");
-    }
     const QString kennung = angelegt(QStringLiteral("Anna"));
     neuerBesuch(kennung, 80, QDate(2026, 11, 16));
-    m_speicher.server().halteAn();
+    m_speicher.nimmWeg();
     neuerBesuch(kennung, 79, QDate(2026, 11, 23));
     neuerBesuch(kennung, 82, QDate(2026, 11, 2));
-    m_speicher.server().starte();
+    m_speicher.gibZurueck();
     QList<double> gewichte;
     for (const Besuch &besuch : akte(kennung).besuche) {
         gewichte << besuch.gewicht.value_or(0);
@@ -184,14 +179,11 @@ void TestKartei::visitsThatWaitStandInTheirOrder()
 
 void TestKartei::whatWaitsForOneIsNotShownAtAnother()
 {
-    if (!m_speicher.istServer()) {
-        QSKIP("A file is never away.");
-    }
     const QString zoe = angelegt(QStringLiteral("Zoe"));
     const QString anna = angelegt(QStringLiteral("Anna"));
-    m_speicher.server().halteAn();
+    m_speicher.nimmWeg();
     neuerBesuch(anna, 80, QDate(2026, 11, 23));
-    m_speicher.server().starte();
+    m_speicher.gibZurueck();
     QCOMPARE(m_kartei->vorgemerkt(), 1);
     QVERIFY(akte(zoe).besuche.isEmpty());
     QCOMPARE(akte(zoe).person.name, QStringLiteral("Zoe"));
@@ -202,23 +194,20 @@ void TestKartei::whatWaitsForOneIsNotShownAtAnother()
 /// may have written meanwhile, and the choice between the two needs to know what was there first.
 void TestKartei::whatWaitsKeepsTheGroundItWasChangedFrom()
 {
-    if (!m_speicher.istServer()) {
-        QSKIP("A file is never away.");
-    }
     const QString kennung = angelegt(QStringLiteral("Anna"));
     const Person gelesen = akte(kennung).person;
     Person anderes = gelesen;
     anderes.nummer = QStringLiteral("17");
     QVERIFY(m_speicher.tisch()->sichere(anderes));
 
-    m_speicher.server().halteAn();
+    m_speicher.nimmWeg();
     Person erste = gelesen;
     erste.name = QStringLiteral("Anna M");
     m_kartei->sichere({kennung, erste, Satz(gelesen)});
     Person zweite = erste;
     zweite.name = QStringLiteral("Anna Muster");
     m_kartei->sichere({kennung, zweite, Satz(erste)});
-    m_speicher.server().starte();
+    m_speicher.gibZurueck();
 
     std::optional<Kollision> kollision;
     connect(m_kartei.get(), &Kartei::kollidiert, this,
@@ -232,19 +221,118 @@ void TestKartei::whatWaitsKeepsTheGroundItWasChangedFrom()
 
 void TestKartei::whileSomethingWaitsTheStoreIsNotChanged()
 {
-    if (!m_speicher.istServer()) {
-        QSKIP("A file is never away.");
-    }
     QVERIFY(m_kartei->beginneNeu());
     angelegt(QStringLiteral("Anna"));
-    m_speicher.server().halteAn();
+    m_speicher.nimmWeg();
     angelegt(QStringLiteral("Berta"));
     QVERIFY(!m_kartei->beginneNeu());
     QCOMPARE(m_kartei->vorgemerkt(), 1);
-    m_speicher.server().starte();
+    m_speicher.gibZurueck();
     m_kartei->versucheNochmals();
     QVERIFY(m_kartei->beginneNeu());
     QCOMPARE(m_kartei->liste().anzahl(), 2);
+}
+
+void TestKartei::whatWaitsOutlivesTheProgram()
+{
+    angelegt(QStringLiteral("Zoe"));
+    m_speicher.nimmWeg();
+    const QString kennung = angelegt(QStringLiteral("Anna"));
+    const QString besuch = neuerBesuch(kennung, 80, QDate(2026, 11, 23));
+    m_kartei->versucheNochmals(); // whoever is tried first stays first
+    QVERIFY(m_kartei->istFestgehalten());
+
+    m_kartei = std::make_unique<Kartei>([this] { return m_speicher.ort(); });
+    QCOMPARE(m_kartei->vorgemerkt(), 2);
+    QVERIFY(m_kartei->istFestgehalten());
+    m_kartei->versucheNochmals();
+    QCOMPARE(m_kartei->vorgemerkt(), 2);
+    QVERIFY(QFileInfo::exists(m_speicher.vormerkdatei()));
+
+    m_speicher.gibZurueck();
+    m_kartei->lade();
+    QCOMPARE(m_kartei->liste().anzahl(), 2);
+    m_kartei->versucheNochmals();
+    QCOMPARE(m_kartei->vorgemerkt(), 0);
+    QVERIFY(!QFileInfo::exists(m_speicher.vormerkdatei()));
+    Kartei andere([this] { return m_speicher.ort(); });
+    QCOMPARE(andere.vorgemerkt(), 0);
+    QCOMPARE(andere.akte(kennung)->person.name, QStringLiteral("Anna"));
+    QCOMPARE(andere.akte(kennung)->besuche.constFirst().kennung, besuch);
+}
+
+void TestKartei::whatTheUserWasAskedAboutOutlivesTheProgramToo()
+{
+    const QString kennung = angelegt(QStringLiteral("Anna"));
+    const Person gelesen = akte(kennung).person;
+    Person anderes = gelesen;
+    anderes.nummer = QStringLiteral("17");
+    QVERIFY(m_speicher.tisch()->sichere(anderes));
+    Person meines = gelesen;
+    meines.name = QStringLiteral("Anna Muster");
+    const QString weg = neuerBesuch(kennung, 80, QDate(2026, 11, 23));
+    Besuch besuch = akte(kennung).besuche.constFirst();
+    QVERIFY(m_speicher.tisch()->loesche(besuch));
+    besuch.gewicht = 79;
+    m_kartei->sichere({kennung, meines, Satz(gelesen)});
+    m_kartei->sichere({kennung, besuch, {}});
+    QCOMPARE(m_kartei->offene(), 2);
+    QVERIFY(!m_kartei->beginneNeu());
+
+    m_kartei = std::make_unique<Kartei>([this] { return m_speicher.ort(); }); // no answer was given
+    std::optional<Kollision> kollision;
+    std::optional<Schreibwunsch> verschwundener;
+    connect(m_kartei.get(), &Kartei::kollidiert, this,
+            [&](const Kollision &eine) { kollision = eine; });
+    connect(m_kartei.get(), &Kartei::verschwunden, this,
+            [&](const Schreibwunsch &einer) { verschwundener = einer; });
+    m_kartei->versucheNochmals();
+    QVERIFY(kollision.has_value());
+    QCOMPARE(std::get<Person>(kollision->meines.neu).name, QStringLiteral("Anna Muster"));
+    QCOMPARE(std::get<Person>(*kollision->meines.alt).name, QStringLiteral("Anna"));
+    QVERIFY(verschwundener.has_value());
+    QCOMPARE(::kennung(verschwundener->neu), weg);
+    m_kartei->verzichte(*verschwundener);
+    QCOMPARE(m_kartei->offene(), 1);
+    m_kartei->entscheide(*kollision, kollision->meines.neu);
+    QCOMPARE(m_kartei->offene(), 0);
+    QVERIFY(!QFileInfo::exists(m_speicher.vormerkdatei()));
+    QCOMPARE(akte(kennung).person.name, QStringLiteral("Anna Muster"));
+    QVERIFY(akte(kennung).besuche.isEmpty());
+}
+
+/// The store is back, but what waits was not tried again yet.
+void TestKartei::whatIsTakenAwayWaitsNoMore()
+{
+    const QString zoe = angelegt(QStringLiteral("Zoe"));
+    const QString anna = angelegt(QStringLiteral("Anna"));
+    m_speicher.nimmWeg();
+    neuerBesuch(anna, 80, QDate(2026, 11, 23));
+    neuerBesuch(zoe, 60, QDate(2026, 11, 23));
+    m_speicher.gibZurueck();
+    QVERIFY(m_kartei->loesche(anna, akte(anna).besuche.constFirst()));
+    QVERIFY(m_kartei->loesche(akte(zoe)));
+    QCOMPARE(m_kartei->vorgemerkt(), 0);
+    QVERIFY(!QFileInfo::exists(m_speicher.vormerkdatei()));
+    m_kartei->versucheNochmals();
+    QVERIFY(akte(anna).besuche.isEmpty());
+    QVERIFY(!m_kartei->akte(zoe));
+}
+
+void TestKartei::whatCanNotBeKeptInTheFileWaitsAllTheSame()
+{
+    const QString kennung = angelegt(QStringLiteral("Anna"));
+    QVERIFY(QDir().mkdir(m_speicher.vormerkdatei()));
+    m_speicher.nimmWeg();
+    neuerBesuch(kennung, 80, QDate(2026, 11, 23));
+    QVERIFY(!m_kartei->istFestgehalten());
+    QVERIFY(QDir().rmdir(m_speicher.vormerkdatei()));
+    m_kartei->versucheNochmals();
+    QVERIFY(m_kartei->istFestgehalten());
+    m_speicher.gibZurueck();
+    m_kartei->versucheNochmals();
+    QCOMPARE(m_kartei->vorgemerkt(), 0);
+    QCOMPARE(akte(kennung).besuche.size(), 1);
 }
 
 void TestKartei::theSecondDeskIsToldAndChooses()

@@ -46,6 +46,7 @@ private Q_SLOTS:
     void aStepThatFailsLeavesNothing_data();
     void aStepThatFailsLeavesNothing();
     void aNameThatIsRefusedLeavesNothing();
+    void whatWasCutOffSaysSo();
     void inEnglishTheFilesAreEnglish();
 
 private:
@@ -409,6 +410,21 @@ void TestKlientenmappe::aNameThatIsRefusedLeavesNothing()
     QVERIFY(QDir(tief).isEmpty(QDir::AllEntries | QDir::Hidden | QDir::NoDotAndDotDot));
     akte.person.name = u"A"_s;
     QVERIFY(schreibeMappe(tief, akte, Aktenprobe::heute).gelungen);
+}
+
+/// As a power cut leaves it: whoever finds it sees what it is, and it is in nobody's way.
+void TestKlientenmappe::whatWasCutOffSaysSo()
+{
+    const QString ziel = schreibe().ordner;
+    QVERIFY(QDir(ziel).removeRecursively());
+    const QString halb = pfad(u"Akte (unvollständig)"_s);
+    QVERIFY(QDir().mkdir(halb));
+    QFile rest(halb + u"/Akte.pdf"_s);
+    QVERIFY(rest.open(QIODevice::WriteOnly) && rest.write("%PDF") == 4);
+    rest.close();
+    QCOMPARE(schreibe().ordner, ziel);
+    QCOMPARE(inhalt(), (QStringList{u"Akte (unvollständig)"_s, QFileInfo(ziel).fileName()}));
+    QCOMPARE(bytes(halb + u"/Akte.pdf"_s), QByteArray("%PDF"));
 }
 
 void TestKlientenmappe::inEnglishTheFilesAreEnglish()

@@ -1,0 +1,151 @@
+#include "Vormerkdatei.h"
+
+#include "Archivdatei.h"
+#include "Dateireste.h"
+#include "Dateiwechsel.h"
+#include "Satztext.h"
+#include "Sicherungen.h"
+
+#include <QFile>
+#include <QJsonArray>
+#include <QJsonDocument>
+#include <QJsonObject>
+
+#include <array>
+#include <utility>
+
+namespace {
+
+const QString artfeld = QStringLiteral("format");
+const QString art = QStringLiteral("Mahlberg waiting");
+const QString formfeld = QStringLiteral("version");
+constexpr int form = 1;
+
+const QString wunschfeld = QStringLiteral("waiting");
+const QString personenfeld = QStringLiteral("person");
+const QString satzartfeld = QStringLiteral("kind");
+const QString neufeld = QStringLiteral("new");
+const QString altfeld = QStringLiteral("old");
+
+/// What only waits may never have been written.
+constexpr int mindestfassung = 0;
+
+/// How the kinds of records are called, in their order.
+constexpr std::array<const char *, std::variant_size_v<Satz>> satzarten = {"person", "visit",
+                                                                           "plan"};
+
+QJsonObject satzAlsJson(const Satz &satz)
+{
+    return std::visit([](const auto &einer) { return alsJson(einer); }, satz);
+}
+
+QJsonObject wunschAlsJson(const Schreibwunsch &wunsch)
+{
+    QJsonObject eintrag{
+        {personenfeld, wunsch.person},
+        {satzartfeld, QLatin1String(satzarten.at(wunsch.neu.index()))},
+        {neufeld, satzAlsJson(wunsch.neu)},
+    };
+    if (wunsch.alt) {
+        eintrag.insert(altfeld, satzAlsJson(*wunsch.alt));
+    }
+    return eintrag;
+}
+
+/// A wish for a record of this kind; absent when it is none.
+template <typename Art>
+std::optional<Schreibwunsch> wunschAus(const QJsonObject &eintrag)
+{
+    QString mangel;
+    Schreibwunsch wunsch{eintrag.value(personenfeld).toString(),
+                         satzAus<Art>(eintrag.value(neufeld), mindestfassung, mangel)};
+    if (eintrag.contains(altfeld)) {
+        wunsch.alt = satzAus<Art>(eintrag.value(altfeld), mindestfassung, mangel);
+    }
+    return mangel.isEmpty() && !wunsch.person.isEmpty() ? std::optional(wunsch) : std::nullopt;
+}
+
+std::optional<Schreibwunsch> leseWunsch(const QJsonObject &eintrag)
+{
+    const QString satzart = eintrag.value(satzartfeld).toString();
+    if (satzart == QLatin1String(satzarten[0])) {
+        return wunschAus<Person>(eintrag);
+    }
+    if (satzart == QLatin1String(satzarten[1])) {
+        return wunschAus<Besuch>(eintrag);
+    }
+    return satzart == QLatin1String(satzarten[2]) ? wunschAus<Planablage>(eintrag) : std::nullopt;
+}
+
+/// What the text says, and whether all of it was understood.
+std::pair<QList<Schreibwunsch>, bool> deute(const QByteArray &text)
+{
+    const QJsonObject alles = QJsonDocument::fromJson(text).object();
+    if (alles.value(artfeld) != art || alles.value(formfeld).toInt() != form) {
+        return {{}, false};
+    }
+    QList<Schreibwunsch> wuensche;
+    const QJsonArray eintraege = alles.value(wunschfeld).toArray();
+    for (const auto &eintrag : eintraege) {
+        if (const std::optional<Schreibwunsch> wunsch = leseWunsch(eintrag.toObject())) {
+            wuensche << *wunsch;
+        }
+    }
+    return {wuensche, wuensche.size() == eintraege.size()};
+}
+
+QByteArray alsText(const QList<Schreibwunsch> &wuensche)
+{
+    QJsonArray eintraege;
+    for (const Schreibwunsch &wunsch : wuensche) {
+        eintraege.append(wunschAlsJson(wunsch));
+    }
+    return QJsonDocument(QJsonObject{{artfeld, art}, {formfeld, form}, {wunschfeld, eintraege}})
+        .toJson();
+}
+
+} // namespace
+
+Vormerkdatei::Vormerkdatei(QString path) : m_path(std::move(path)) {}
+
+QList<Schreibwunsch> Vormerkdatei::lies(const QDateTime &jetzt)
+{
+    Dateireste::raeumeAuf(m_path, jetzt);
+    const Archivdatei::Rohdaten daten = Archivdatei::leseBytes(m_path);
+    m_gesperrt = daten.zustand == Archivdatei::Zustand::Unlesbar;
+    if (daten.zustand != Archivdatei::Zustand::Gelesen) {
+        return {};
+    }
+    m_bytes = daten.bytes;
+    auto [wuensche, alle] = deute(daten.bytes);
+    if (!alle) {
+        const Sicherungen::Beiseitegelegtes kopie = Sicherungen::legeBeiseite(m_path, daten, jetzt);
+        Sicherungen::begrenze(m_path, kopie);
+        m_beiseite = kopie.path;
+        m_gesperrt = kopie.wie == Sicherungen::Beiseitegelegtes::Wie::Garnicht;
+    }
+    return wuensche;
+}
+
+bool Vormerkdatei::schreibe(const QList<Schreibwunsch> &wuensche)
+{
+    if (wuensche.isEmpty() && m_bytes.isNull()) {
+        return true;
+    }
+    if (m_gesperrt) {
+        return false;
+    }
+    if (wuensche.isEmpty()) {
+        const bool fort = QFile::remove(m_path) || !QFile::exists(m_path);
+        m_bytes = fort ? QByteArray() : m_bytes;
+        return fort;
+    }
+    const QByteArray bytes = alsText(wuensche);
+    if (bytes == m_bytes) {
+        return true;
+    }
+    Dateiwechsel wechsel(m_path);
+    const bool gelungen = wechsel.bereite(bytes) && wechsel.vollziehe();
+    m_bytes = gelungen ? bytes : m_bytes;
+    return gelungen;
+}
