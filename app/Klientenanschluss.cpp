@@ -64,22 +64,24 @@ Klientenanschluss::Klientenanschluss(AppController &hauptfenster, AnthroControll
     , m_tueren(std::move(tueren))
     , m_kopfzeile(std::move(kopfzeile))
     , kartei([this] { return neuerOrt(); })
-    , tisch(kartei,
-            {.rechner = rechner,
-             .plan =
-                 [this](bool oeffnen) {
-                     if (oeffnen) {
-                         m_hauptfenster.Planmoduloeffnen();
-                     }
-                     return m_hauptfenster.planmodul;
-                 },
-             .sage =
-                 [this](const Hinweis &hinweis) {
-                     const bool dort = m_fenster != nullptr && m_fenster->isActiveWindow();
-                     (dort ? *m_fenster->hinweise : *m_hauptfenster.hinweise).zeige(hinweis);
-                 },
-             .einstellungen = *m_tueren.einstellungen})
+    , tisch(kartei, {.rechner = rechner,
+                     .plan =
+                         [this](bool oeffnen) {
+                             if (oeffnen) {
+                                 m_hauptfenster.Planmoduloeffnen();
+                             }
+                             return m_hauptfenster.planmodul;
+                         },
+                     .sage = [this](const Hinweis &hinweis) { sage(hinweis); },
+                     .einstellungen = *m_tueren.einstellungen})
 {
+}
+
+/// In the window that the user is looking at.
+void Klientenanschluss::sage(const Hinweis &hinweis)
+{
+    const bool dort = m_fenster != nullptr && m_fenster->isActiveWindow();
+    (dort ? *m_fenster->hinweise : *m_hauptfenster.hinweise).zeige(hinweis);
 }
 
 QString Klientenanschluss::datei() const
@@ -204,7 +206,6 @@ void Klientenanschluss::betitle()
 
 Klientenfenstertueren Klientenanschluss::fenstertueren()
 {
-    const bool aufServer = !klientenserver(*m_tueren.einstellungen).isEmpty();
     return {.melde = m_tueren.melde,
             .drucke = m_tueren.drucke,
             .alsPdf = m_tueren.alsPdf,
@@ -214,7 +215,7 @@ Klientenfenstertueren Klientenanschluss::fenstertueren()
                     return lebensmittelVon(schluessel, m_hauptfenster.Dictionary,
                                            m_hauptfenster.KundenDictionary);
                 },
-            .datei = aufServer ? QString() : datei()};
+            .datei = stehtAufServer() ? QString() : datei()};
 }
 
 Klientenfenster &Klientenanschluss::fenster()
@@ -223,6 +224,8 @@ Klientenfenster &Klientenanschluss::fenster()
         m_fenster = std::make_unique<Klientenfenster>(kartei, tisch, fenstertueren());
         connect(m_fenster.get(), &Klientenfenster::fruehereStaendeGewuenscht, this,
                 &Klientenanschluss::zeigeFruehereStaende);
+        connect(m_fenster.get(), &Klientenfenster::umzugGewuenscht, this,
+                &Klientenanschluss::beginneUmzug);
         connect(m_fenster.get(), &Klientenfenster::hilfeGewuenscht, this,
                 [this] { Q_EMIT hilfeGewuenscht(m_fenster.get()); });
         Fensterplatz::lasseRollen(*m_fenster->anordnung1, *m_fenster->teiler);
@@ -236,7 +239,7 @@ Klientenfenster &Klientenanschluss::fenster()
 
 void Klientenanschluss::zeigeFruehereStaende()
 {
-    if (!klientenserver(*m_tueren.einstellungen).isEmpty()) {
+    if (stehtAufServer()) {
         m_fenster->hinweise->zeige(
             {.kennung = hinweisStand,
              .text = localizedString(QStringLiteral("Die Klienten stehen auf einem Server; seine "
@@ -269,24 +272,6 @@ void Klientenanschluss::holeZurueck(const QString &kopie)
                                                       "da war, ist aufgehoben als „%1“."))
                            .arg(QFileInfo(beiseite).fileName()),
          .warnung = !ausgang});
-}
-
-std::optional<QString> Klientenanschluss::wechsle()
-{
-    tisch.verlasse();
-    if (!kartei.beginneNeu()) {
-        return std::nullopt;
-    }
-    if (m_fenster != nullptr) {
-        m_fenster->setDatei(fenstertueren().datei);
-        m_fenster->frischeAuf();
-    }
-    return inWorten(kartei.hindernis());
-}
-
-QWidget *Klientenanschluss::einstellung()
-{
-    return new Speicherwahl(*m_tueren.einstellungen, [this] { return wechsle(); });
 }
 
 void Klientenanschluss::folgeSprache()

@@ -66,6 +66,11 @@ private:
     void holeZurueck(const QString &kopie);
     std::optional<QString> wechsle();
     bool darfEnden();
+    bool stehtAufServer() const;
+    void beginneUmzug();
+    void bieteUmzugAn();
+    void zieheUm(Klientenspeicher &von);
+    void sage(const Hinweis &hinweis);
     Klientenfenstertueren fenstertueren();
 
     AppController &m_hauptfenster;

@@ -1,8 +1,8 @@
 #include "Drucktuer.h"
 
 #include "Druckname.h"
+#include "Fortschrittsanzeige.h"
 #include "Pdftuer.h"
-#include "Seitenanzeige.h"
 #include "Seiteneinrichtung.h"
 
 #include <QCoreApplication>
@@ -177,8 +177,9 @@ private:
 
     void male(QPrinter &geraet, const Druckauftrag &auftrag, const Meldungstuer &melde)
     {
-        std::optional<Seitenanzeige> anzeige;
-        anzeige.emplace(auftrag.titel, isVisible() ? this : parentWidget());
+        std::optional<Fortschrittsanzeige> anzeige;
+        anzeige.emplace(auftrag.titel, Fortschrittsanzeige::seiten(),
+                        isVisible() ? this : parentWidget());
         const auto grund = drucke(geraet, auftrag, [&anzeige](int fertig, int gesamt) {
             return anzeige->zeige(fertig, gesamt);
         });

@@ -1,8 +1,8 @@
 #include "Pdftuer.h"
 
 #include "Druckname.h"
+#include "Fortschrittsanzeige.h"
 #include "Hinweisstreifen.h"
-#include "Seitenanzeige.h"
 #include "Seiteneinrichtung.h"
 
 #include <QCoreApplication>
@@ -136,7 +136,7 @@ private:
         drucker.setPageLayout(seite);
         drucker.setDocName(druckname(auftrag));
         drucker.setOutputFileName(entwurf);
-        Seitenanzeige anzeige(auftrag.titel, fenster);
+        Fortschrittsanzeige anzeige(auftrag.titel, Fortschrittsanzeige::seiten(), fenster);
         const auto grund = drucke(drucker, auftrag, [&anzeige](int fertig, int gesamt) {
             return anzeige.zeige(fertig, gesamt);
         });

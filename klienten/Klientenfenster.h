@@ -71,6 +71,8 @@ Q_SIGNALS:
     void hilfeGewuenscht();
     /// Earlier states of the store are to be seen.
     void fruehereStaendeGewuenscht();
+    /// The clients in the file of this desk are to come onto the server.
+    void umzugGewuenscht();
 
 protected:
     void closeEvent(QCloseEvent *event) override;

@@ -4140,6 +4140,42 @@ New: %1</translation>
   <source>Was bei den Klienten noch zu sichern war, ist nicht zu lesen.</source>
   <translation>What was still to be saved of the clients can’t be read.</translation>
  </message>
+ <message>
+  <source>Abgebrochen.</source>
+  <translation>Stopped.</translation>
+ </message>
+ <message>
+  <source>Auf den Server</source>
+  <translation>Onto the server</translation>
+ </message>
+ <message>
+  <source>Auf den Server gebracht: %1. Dort schon vorhanden: %2. %3</source>
+  <translation>Brought onto the server: %1. There already: %2. %3</translation>
+ </message>
+ <message>
+  <source>Die Klienten stehen in der Datei dieses Platzes; ein Server ist nicht gewählt.</source>
+  <translation>The clients are in the file of this desk; no server is chosen.</translation>
+ </message>
+ <message>
+  <source>Es sind %1. Wer dort schon steht, bleibt, wie er ist. Die Datei bleibt liegen, wie sie ist.</source>
+  <translation>There are %1. Whoever is there already stays as they are. The file stays as it is.</translation>
+ </message>
+ <message>
+  <source>Klient %1 von %2</source>
+  <translation>Client %1 of %2</translation>
+ </message>
+ <message>
+  <source>Klienten dieses Plat&amp;zes auf den Server …</source>
+  <translation>Clients of this des&amp;k onto the server …</translation>
+ </message>
+ <message>
+  <source>Nicht jetzt</source>
+  <translation>Not now</translation>
+ </message>
+ <message>
+  <source>Sollen die Klienten aus der Datei dieses Platzes auf den Server?</source>
+  <translation>Shall the clients in the file of this desk go onto the server?</translation>
+ </message>
 </context>
 <context>
  <name>PlanmodulGestalt</name>
