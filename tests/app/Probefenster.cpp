@@ -69,6 +69,7 @@ Tueren Probeheim::tueren()
     tueren.einstellungen = m_einstellungen.get();
     tueren.melde = [this](QWidget *, const Meldung &meldung) {
         meldungen << meldung;
+        beiMeldung();
         return antworten.isEmpty() ? 0 : antworten.takeFirst();
     };
     tueren.wertungstabelle = wertungstabelle;

@@ -33,10 +33,13 @@ public:
     /// Reads the settings from the disk as a new start of the program does. No window is open then.
     void liesEinstellungenNeu();
 
-    /// The doors of this home. Messages are kept in `meldungen` and answered from `antworten`.
+    /// The doors of this home. Messages are kept in `meldungen` and answered from `antworten`;
+    /// `beiMeldung` runs while one is on screen.
     Tueren tueren();
     QList<Meldung> meldungen;
     QList<int> antworten;
+    std::function<void()> beiMeldung = [] {
+    };
     QString wertungstabelle; ///< path of the table that explains ratings; none does while empty
     Drucktuer drucke;        ///< the door that prints; nothing does while there is none
     Pdftuer alsPdf;          ///< the door that saves a PDF; nothing does while there is none

@@ -8,6 +8,8 @@
 
 #include <QPushButton>
 #include <QRadioButton>
+#include <QSqlDatabase>
+#include <QSqlQuery>
 
 using namespace Qt::StringLiterals;
 
@@ -24,12 +26,17 @@ private Q_SLOTS:
     void droppingTakesTheOthers();
     void aVisitThatBothChangedIsShown();
     void whoWasDeletedElsewhereCanBeTakenInAgain();
+    void whoCanNotBeTakenInAgainNowIsAskedAboutLater();
     void whoWasDeletedElsewhereCanStayDeleted();
     void aVisitDeletedElsewhereCanBeTakenInAgain();
     void aMeasureAtTheDeskMeetsTheOtherDesksVisit();
     void aMeasureOfWhoWasDeletedElsewhereBringsThemBack();
 
 private:
+    QString datei() const
+    {
+        return QFileInfo(m_heim->eigeneDatei()).dir().filePath(u"MahlbergKlienten.sqlite"_s);
+    }
     Kollisionsfenster *kollision() const
     {
         return m_probe->fenster().findChild<Kollisionsfenster *>();
@@ -59,8 +66,7 @@ void TestKlientenkollision::init()
     m_probe = std::make_unique<Klientenprobe>(*m_heim);
     m_probe->oeffne();
     m_probe->legeAn(u"Anna"_s);
-    m_anderer = std::make_unique<Klientenspeicher>(std::make_unique<Dateidatenbank>(
-        QFileInfo(m_heim->eigeneDatei()).dir().filePath(u"MahlbergKlienten.sqlite"_s)));
+    m_anderer = std::make_unique<Klientenspeicher>(std::make_unique<Dateidatenbank>(datei()));
 }
 
 void TestKlientenkollision::cleanup()
@@ -144,6 +150,32 @@ void TestKlientenkollision::whoWasDeletedElsewhereCanBeTakenInAgain()
     QCOMPARE(m_probe->akte().person.name, u"Anna Meine"_s);
     QCOMPARE(m_probe->akte().person.kennung, kennung);
     QCOMPARE(m_probe->akte().besuche.size(), 1);
+}
+
+/// What was typed is not given up because the store was held for a moment.
+void TestKlientenkollision::whoCanNotBeTakenInAgainNowIsAskedAboutLater()
+{
+    const QString kennung = m_probe->akte().person.kennung;
+    QVERIFY(m_anderer->loesche(kennung));
+    QSqlDatabase halter = QSqlDatabase::addDatabase(u"QSQLITE"_s, u"halter"_s);
+    halter.setDatabaseName(datei());
+    QVERIFY(halter.open());
+    m_heim->antworten = {0, 0};
+    m_heim->beiMeldung = [&halter] {
+        halter.exec(u"BEGIN IMMEDIATE"_s);
+    };
+    Klientenprobe::tippe(m_probe->fenster().personenblatt->name, u"Anna Meine"_s);
+    QCOMPARE(m_probe->kartei().vorgemerkt(), 1);
+    m_heim->beiMeldung = [] {
+    };
+    halter = QSqlDatabase();
+    QSqlDatabase::removeDatabase(u"halter"_s);
+    m_heim->meldungen.clear();
+    m_probe->kartei().versucheNochmals();
+    QCOMPARE(m_heim->meldungen.size(), 1);
+    QCOMPARE(m_probe->akte().person.name, u"Anna Meine"_s);
+    QCOMPARE(m_probe->akte().person.kennung, kennung);
+    QCOMPARE(m_probe->kartei().offene(), 0);
 }
 
 void TestKlientenkollision::whoWasDeletedElsewhereCanStayDeleted()
