@@ -74,5 +74,6 @@ QString inWorten(const Ausgang &ausgang)
 {
     const QString satz = localizedString(
         QString::fromUtf8(hindernisworte.at(static_cast<std::size_t>(ausgang.hindernis))));
-    return ausgang.grund.isEmpty() ? satz : satz + QStringLiteral(" (") + ausgang.grund + u')';
+    const QString grund = ausgang.grund.simplified(); // servers answer in several lines
+    return grund.isEmpty() ? satz : satz + QStringLiteral(" (") + grund + u')';
 }

@@ -68,6 +68,7 @@ bool Kartei::beginneNeu()
         return false;
     }
     m_geloescht.reset();
+    m_gelesene.clear();
     beginneMit(m_macher());
     m_liste.setze(QList<Personenzeile>());
     lade();
@@ -104,7 +105,12 @@ std::optional<Klientenakte> Kartei::akte(const QString &kennung)
     const Ausgang gelesen = m_speicher->akte(kennung, akte);
     if (!gelesen) {
         merkeHindernis(gelesen);
-        return std::nullopt;
+        if (!vergehtVielleicht(gelesen.hindernis)) {
+            return std::nullopt;
+        }
+        akte = zuletztGelesene(kennung);
+    } else if (akte) {
+        merkeGelesene(*akte);
     }
     if (!akte) {
         // A client who was only just entered, and waits to be written.
@@ -115,6 +121,25 @@ std::optional<Klientenakte> Kartei::akte(const QString &kennung)
     }
     ueberlagere(*akte);
     return akte;
+}
+
+/// As the client was when the store could still be read; absent when that was too long ago.
+std::optional<Klientenakte> Kartei::zuletztGelesene(const QString &kennung) const
+{
+    const auto stelle =
+        std::find_if(m_gelesene.begin(), m_gelesene.end(),
+                     [&](const Klientenakte &eine) { return eine.person.kennung == kennung; });
+    return stelle != m_gelesene.end() ? std::optional(*stelle) : std::nullopt;
+}
+
+/// Whoever is on display or at the desk stays there while the store is away.
+void Kartei::merkeGelesene(const Klientenakte &akte)
+{
+    constexpr qsizetype meiste = 8;
+    m_gelesene.removeIf(
+        [&](const Klientenakte &eine) { return eine.person.kennung == akte.person.kennung; });
+    m_gelesene.prepend(akte);
+    m_gelesene.resize(std::min(m_gelesene.size(), meiste));
 }
 
 void Kartei::ueberlagere(Klientenakte &akte) const
@@ -298,6 +323,8 @@ bool Kartei::loesche(const Klientenakte &akte)
     m_strittig.removeIf(davon);
     halteFest();
     m_geloescht = Geloeschtes{schluessel, akte};
+    m_gelesene.removeIf(
+        [&](const Klientenakte &eine) { return eine.person.kennung == schluessel; });
     m_liste.entferne(schluessel);
     Q_EMIT listeGeaendert();
     Q_EMIT akteGeaendert(schluessel);

@@ -60,8 +60,9 @@ public:
     /// That file, and what became of one that could not be read.
     const Vormerkdatei &vormerkdatei() const { return *m_datei; }
 
-    /// Everything that is kept of a client, with what waits to be written laid over it. Absent when
-    /// there is none of this key, or when the store can't be read.
+    /// Everything that is kept of a client, with what waits to be written laid over it; while the
+    /// store is away, as they were read last. Absent when there is none of this key, or when the
+    /// store can't be read.
     std::optional<Klientenakte> akte(const QString &kennung);
 
     /// Writes a record. A new one gets its key at once. What fails for now waits and is tried
@@ -120,6 +121,8 @@ private:
     void entlasse(const QString &schluessel);
     void halteFest();
     void merkeHindernis(const Ausgang &ausgang);
+    std::optional<Klientenakte> zuletztGelesene(const QString &kennung) const;
+    void merkeGelesene(const Klientenakte &akte);
     void ueberlagere(Klientenakte &akte) const;
     void zeigeInListe(const Person &person);
 
@@ -131,6 +134,7 @@ private:
     QList<Schreibwunsch> m_vorgemerkt; ///< one for each record, the oldest first
     QList<Schreibwunsch> m_strittig;   ///< what the user was asked about and has not answered yet
     bool m_festgehalten = true;
+    QList<Klientenakte> m_gelesene; ///< as they were read, the latest first
     std::optional<Geloeschtes> m_geloescht;
     QTimer m_uhr; ///< tries again
 };

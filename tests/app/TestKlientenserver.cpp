@@ -26,6 +26,7 @@ private Q_SLOTS:
     void withoutClientsNothingIsAsked();
     void inTheFileThereIsNothingToDo();
     void whatStopsItIsSaid();
+    void aConsultationGoesOnWhileTheServerIsAway();
 
 private:
     QString angabe() { return m_server.angabe(u"praxis%1"_s.arg(m_nummer)); }
@@ -157,6 +158,34 @@ void TestKlientenserver::whatStopsItIsSaid()
     QVERIFY2(satz.contains(u"Auf den Server gebracht: 0. Dort schon vorhanden: 0. Der Server der "
                            "Klienten ist nicht zu erreichen."_s),
              qUtf8Printable(satz));
+}
+
+void TestKlientenserver::aConsultationGoesOnWhileTheServerIsAway()
+{
+    waehleServer();
+    m_probe->oeffne();
+    m_probe->legeAn(u"Anna"_s);
+    Klientenfenster &fenster = m_probe->fenster();
+    QCOMPARE(fenster.kopf->text(), u"Anna"_s);
+    m_server.halteAn();
+    Klientenprobe::tippe(fenster.personenblatt->nummer, u"17"_s);
+    QVERIFY(fenster.aktenseite->isVisible());
+    QCOMPARE(fenster.personenblatt->nummer->text(), u"17"_s);
+    QVERIFY(!m_probe->hinweise().constFirst().contains(u'\n'));
+    QVERIFY(m_probe->hinweise().constFirst().endsWith(
+        u"Was Sie eingeben, ist vorgemerkt und wird gesichert, sobald es geht."_s));
+    fenster.seiten->setCurrentIndex(1);
+    QTest::mouseClick(fenster.besuchsblatt->neuerBesuch, Qt::LeftButton);
+    Klientenprobe::tippe(fenster.besuchsblatt->gewicht, u"80"_s);
+    QVERIFY(fenster.aktenseite->isVisible());
+    m_probe->legeAn(u"Berta"_s);
+    QCOMPARE(fenster.kopf->text(), u"Berta"_s);
+    m_server.starte();
+    m_probe->kartei().versucheNochmals();
+    QCOMPARE(m_probe->kartei().vorgemerkt(), 0);
+    QCOMPARE(m_probe->liste(), QStringList({u"Anna"_s, u"Berta"_s}));
+    QCOMPARE(m_probe->akte().person.nummer, u"17"_s);
+    QCOMPARE(m_probe->akte().besuche.constFirst().gewicht, 80.0);
 }
 
 QTEST_MAIN(TestKlientenserver)

@@ -22,6 +22,7 @@ private Q_SLOTS:
     void aVisitIsToldOfToWhoeverShowsTheClient();
     void whileTheStoreIsAwayWhatIsEnteredWaits();
     void aClientWhoWaitsCanBeShownAndGivenAVisit();
+    void whoIsShownStaysWhileTheStoreIsAway();
     void whatWaitsIsChangedAndNotDoubled();
     void visitsThatWaitStandInTheirOrder();
     void whatWaitsForOneIsNotShownAtAnother();
@@ -143,6 +144,29 @@ void TestKartei::aClientWhoWaitsCanBeShownAndGivenAVisit()
     m_kartei->versucheNochmals();
     QCOMPARE(m_kartei->vorgemerkt(), 0);
     QCOMPARE(akte(kennung).besuche.constFirst().gewicht, 80.0);
+}
+
+/// A client sits at the desk when the line is cut: the consultation goes on.
+void TestKartei::whoIsShownStaysWhileTheStoreIsAway()
+{
+    const QString anna = angelegt(QStringLiteral("Anna"));
+    neuerBesuch(anna, 80, QDate(2026, 11, 16));
+    const QString fort = angelegt(QStringLiteral("Zoe"));
+    QCOMPARE(akte(anna).besuche.size(), 1);
+    QCOMPARE(akte(fort).person.name, QStringLiteral("Zoe"));
+    QVERIFY(m_kartei->loesche(akte(fort)));
+    m_speicher.nimmWeg();
+    QCOMPARE(m_kartei->akte(anna)->person.name, QStringLiteral("Anna"));
+    neuerBesuch(anna, 79, QDate(2026, 11, 23));
+    QCOMPARE(m_kartei->akte(anna)->besuche.size(), 2);
+    const QString berta = angelegt(QStringLiteral("Berta"));
+    QCOMPARE(m_kartei->akte(berta)->person.name, QStringLiteral("Berta"));
+    QVERIFY(!m_kartei->akte(fort).has_value());
+    QVERIFY(!m_kartei->akte(QStringLiteral("niemand")).has_value());
+    m_speicher.gibZurueck();
+    m_kartei->versucheNochmals();
+    QCOMPARE(m_kartei->vorgemerkt(), 0);
+    QCOMPARE(akte(anna).besuche.size(), 2);
 }
 
 void TestKartei::whatWaitsIsChangedAndNotDoubled()
