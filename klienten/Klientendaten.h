@@ -91,9 +91,5 @@ struct Klientenakte
     bool operator==(const Klientenakte &) const = default;
 };
 
-/// Whether two foods have the same values and ratings, whatever they are called. A value that is no
-/// number is the same as another such.
-bool gleicherInhalt(const Datenmodul &eines, const Datenmodul &anderes);
-
 /// A name for a record that no other has, at no desk.
 QString neueKennung();

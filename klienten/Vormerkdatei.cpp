@@ -1,17 +1,13 @@
 #include "Vormerkdatei.h"
 
-#include "Archivdatei.h"
-#include "Dateireste.h"
-#include "Dateiwechsel.h"
 #include "Satztext.h"
-#include "Sicherungen.h"
 
-#include <QFile>
 #include <QJsonArray>
 #include <QJsonDocument>
 #include <QJsonObject>
 
 #include <array>
+#include <tuple>
 #include <utility>
 
 namespace {
@@ -106,46 +102,20 @@ QByteArray alsText(const QList<Schreibwunsch> &wuensche)
 
 } // namespace
 
-Vormerkdatei::Vormerkdatei(QString path) : m_path(std::move(path)) {}
-
 QList<Schreibwunsch> Vormerkdatei::lies(const QDateTime &jetzt)
 {
-    Dateireste::raeumeAuf(m_path, jetzt);
-    const Archivdatei::Rohdaten daten = Archivdatei::leseBytes(m_path);
-    m_gesperrt = daten.zustand == Archivdatei::Zustand::Unlesbar;
-    if (daten.zustand != Archivdatei::Zustand::Gelesen) {
-        return {};
-    }
-    m_bytes = daten.bytes;
-    auto [wuensche, alle] = deute(daten.bytes);
-    if (!alle) {
-        const Sicherungen::Beiseitegelegtes kopie = Sicherungen::legeBeiseite(m_path, daten, jetzt);
-        Sicherungen::begrenze(m_path, kopie);
-        m_beiseite = kopie.path;
-        m_gesperrt = kopie.wie == Sicherungen::Beiseitegelegtes::Wie::Garnicht;
-    }
+    QList<Schreibwunsch> wuensche;
+    m_datei.lies(
+        [&wuensche](const QByteArray &bytes) {
+            bool alle = false;
+            std::tie(wuensche, alle) = deute(bytes);
+            return alle ? Merkdatei::Verstaendnis::Ganz : Merkdatei::Verstaendnis::Teilweise;
+        },
+        jetzt);
     return wuensche;
 }
 
 bool Vormerkdatei::schreibe(const QList<Schreibwunsch> &wuensche)
 {
-    if (wuensche.isEmpty() && m_bytes.isNull()) {
-        return true;
-    }
-    if (m_gesperrt) {
-        return false;
-    }
-    if (wuensche.isEmpty()) {
-        const bool fort = QFile::remove(m_path) || !QFile::exists(m_path);
-        m_bytes = fort ? QByteArray() : m_bytes;
-        return fort;
-    }
-    const QByteArray bytes = alsText(wuensche);
-    if (bytes == m_bytes) {
-        return true;
-    }
-    Dateiwechsel wechsel(m_path);
-    const bool gelungen = wechsel.bereite(bytes) && wechsel.vollziehe();
-    m_bytes = gelungen ? bytes : m_bytes;
-    return gelungen;
+    return m_datei.schreibe(wuensche.isEmpty() ? QByteArray() : alsText(wuensche));
 }

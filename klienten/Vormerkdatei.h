@@ -1,11 +1,13 @@
 #pragma once
 
+#include "Merkdatei.h"
 #include "Schreibwunsch.h"
 
-#include <QByteArray>
 #include <QDateTime>
 #include <QList>
 #include <QString>
+
+#include <utility>
 
 /// The file of this desk in which stands what waits to be written to a store, so that neither the
 /// end of the program nor a power cut takes along what was typed while a server was away. There is
@@ -13,7 +15,7 @@
 class Vormerkdatei
 {
 public:
-    explicit Vormerkdatei(QString path);
+    explicit Vormerkdatei(QString path) : m_datei(std::move(path)) {}
 
     /// What waited when the program ended, in its order. What can't be understood is kept in a copy
     /// beside the file, see `beiseite`, and the rest is read. A file that can't be read at all
@@ -24,13 +26,10 @@ public:
     bool schreibe(const QList<Schreibwunsch> &wuensche);
 
     /// Where a file that was not understood whole is kept now; null: there was none.
-    const QString &beiseite() const { return m_beiseite; }
+    const QString &beiseite() const { return m_datei.beiseite(); }
     /// Whether there is a file that can't be read.
-    bool istGesperrt() const { return m_gesperrt; }
+    bool istGesperrt() const { return m_datei.istGesperrt(); }
 
 private:
-    QString m_path;
-    QByteArray m_bytes; ///< what the file holds; null while there is none
-    QString m_beiseite;
-    bool m_gesperrt = false;
+    Merkdatei m_datei;
 };

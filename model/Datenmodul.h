@@ -62,3 +62,7 @@ private:
 /// A store of foods, from name to record. Walking it goes by name, so that a file written from it
 /// is the same whenever its content is the same.
 using Lebensmittelverzeichnis = QMap<QString, Datenmodul>;
+
+/// Whether two foods have the same values and ratings, whatever they are called. A value that is no
+/// number is the same as another such.
+bool gleicherInhalt(const Datenmodul &eines, const Datenmodul &anderes);
