@@ -43,6 +43,14 @@ Csv::Zelle zelle(const Planablage &plan, const Satzspalte<Planablage> &spalte)
     return zelle(spalte.name, spalte.lies(plan));
 }
 
+Csv::Zelle zelle(const Aufzeichnung &aufzeichnung, const Satzspalte<Aufzeichnung> &spalte)
+{
+    if (qstrcmp(spalte.name, "tage") == 0) {
+        return static_cast<double>(aufzeichnung.tage.size());
+    }
+    return zelle(spalte.name, spalte.lies(aufzeichnung));
+}
+
 template <typename Satz>
 Csv::Tabelle tabelle(const QList<Satz> &saetze)
 {
@@ -67,6 +75,38 @@ QStringList planzeilenkoepfe()
         localizedString(QStringLiteral("Lebensmittel")),
         mitEinheit(localizedString(QStringLiteral("Menge")), einheitszeichen(Einheit::Gramm))};
     return koepfe + wertekoepfe();
+}
+
+QStringList tageszeilenkoepfe()
+{
+    const QStringList koepfe = {
+        localizedString(QStringLiteral("Aufzeichnung")),
+        localizedString(QStringLiteral("Tag")),
+        localizedString(QStringLiteral("Mahlzeit")),
+        localizedString(QStringLiteral("Lebensmittel")),
+        localizedString(QStringLiteral("Angabe")),
+        mitEinheit(localizedString(QStringLiteral("Menge")), einheitszeichen(Einheit::Gramm))};
+    return koepfe + wertekoepfe();
+}
+
+/// What there is to say of a row of a meal, behind the record, the day and the meal.
+QList<Csv::Zelle> speisezellen(const Mahlzeitzeile &zeile)
+{
+    const QString name = zeile.schluessel.isNull() ? zeile.text : localizedString(zeile.schluessel);
+    const QString oder = localizedString(QStringLiteral("oder %1")).arg(name);
+    const QList<Csv::Zelle> zellen = {textzelle(zeile.oder ? oder : name), textzelle(zeile.angabe),
+                                      zeile.gramm ? Csv::Zelle(*zeile.gramm) : Csv::Zelle()};
+    constexpr qsizetype anzahlWerte = anzahlNaehrwerte + anzahlWertungen;
+    return zellen + (zaehlt(zeile) ? wertezellen(*zeile.eintrag, *zeile.gramm / 100.0F)
+                                   : QList<Csv::Zelle>(anzahlWerte));
+}
+
+/// Days of no date are told apart by their number.
+Csv::Zelle tageszelle(const Aufzeichnung &aufzeichnung, int tag)
+{
+    const QDate datum = datumVon(aufzeichnung, tag);
+    return datum.isValid() ? Csv::Zelle(datum.toString(Qt::ISODate))
+                           : Csv::Zelle(static_cast<double>(tag + 1));
 }
 
 } // namespace
@@ -115,6 +155,30 @@ Csv::Tabelle planzeilentabelle(const QList<Planablage> &plaene)
             tabelle.zeilen << eine + (posten.eintrag
                                           ? wertezellen(*posten.eintrag, posten.gramm / 100.0F)
                                           : QList<Csv::Zelle>(anzahlWerte));
+        }
+    }
+    return tabelle;
+}
+
+Csv::Tabelle aufzeichnungstabelle(const QList<Aufzeichnung> &aufzeichnungen)
+{
+    return tabelle(aufzeichnungen);
+}
+
+Csv::Tabelle tageszeilentabelle(const QList<Aufzeichnung> &aufzeichnungen)
+{
+    Csv::Tabelle tabelle;
+    tabelle.spalten = tageszeilenkoepfe();
+    for (const Aufzeichnung &eine : aufzeichnungen) {
+        for (int tag = 0; tag < eine.tage.size(); ++tag) {
+            for (qsizetype i = 0; i < eine.tage[tag].mahlzeiten.size(); ++i) {
+                for (const Mahlzeitzeile &zeile : eine.tage[tag].mahlzeiten[i].zeilen) {
+                    tabelle.zeilen
+                        << QList<Csv::Zelle>{textzelle(eine.titel), tageszelle(eine, tag),
+                                             mahlzeitname(eine.mahlzeiten[i])} +
+                               speisezellen(zeile);
+                }
+            }
         }
     }
     return tabelle;

@@ -20,6 +20,14 @@ Csv::Tabelle plaenetabelle(const QList<Planablage> &plaene);
 /// leaves its values empty.
 Csv::Tabelle planzeilentabelle(const QList<Planablage> &plaene);
 
+/// A row for each record of days, with the number of its days.
+Csv::Tabelle aufzeichnungstabelle(const QList<Aufzeichnung> &aufzeichnungen);
+
+/// A row for each food of each day, with the amount as it was said and in grams, and the values for
+/// so much of it. What does not count, an alternative or what was not understood, leaves its values
+/// empty.
+Csv::Tabelle tageszeilentabelle(const QList<Aufzeichnung> &aufzeichnungen);
+
 /// How a column is headed: by what stands in it and the unit of it, as in "Gewicht (kg)". What has
 /// none has an empty one.
 QString mitEinheit(const QString &name, const QString &einheit);

@@ -1,5 +1,6 @@
 #include "Feldworte.h"
 
+#include "Aufzeichnungstext.h"
 #include "Planpostentext.h"
 #include "Sportworte.h"
 #include "Zahlenform.h"
@@ -28,6 +29,12 @@ QString anzahlZeilen(const QVariant &wert)
 {
     const std::optional<QList<Planposten>> posten = postenAusText(wert.toString().toUtf8());
     return posten ? QString::number(posten->size()) : QString();
+}
+
+QString anzahlTage(const QVariant &wert)
+{
+    const qsizetype tage = leseAufzeichnung(wert.toString().toUtf8()).aufzeichnung.tage.size();
+    return tage > 0 ? QString::number(tage) : QString();
 }
 
 QString sport(const QVariant &wert)
@@ -79,6 +86,8 @@ constexpr std::array feldformen = {
     Feldform{"sport", sport},
     Feldform{"sportdauer", zahl<1>, "h"},
     Feldform{"posten", anzahlZeilen},
+    Feldform{"art", wahl<aufzeichnungsworte>},
+    Feldform{"tage", anzahlTage},
 };
 
 Feldform formVon(const char *spalte)
@@ -143,4 +152,10 @@ QStringList aktivitaetsworte()
     return uebersetzt({QT_TRANSLATE_NOOP("Mahlberg", "leichte Tätigkeit"),
                        QT_TRANSLATE_NOOP("Mahlberg", "mittlere Tätigkeit"),
                        QT_TRANSLATE_NOOP("Mahlberg", "schwere Tätigkeit")});
+}
+
+QStringList aufzeichnungsworte()
+{
+    return uebersetzt(
+        {QT_TRANSLATE_NOOP("Mahlberg", "Protokoll"), QT_TRANSLATE_NOOP("Mahlberg", "Wochenplan")});
 }

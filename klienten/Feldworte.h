@@ -26,3 +26,4 @@ QString feldworte(const Satz &satz, const Satzspalte<Satz> &spalte)
 QStringList geschlechtsworte();
 QStringList umstandsworte();
 QStringList aktivitaetsworte();
+QStringList aufzeichnungsworte();

@@ -3,6 +3,7 @@
 #include <QElapsedTimer>
 
 #include <algorithm>
+#include <type_traits>
 #include <utility>
 
 namespace {
@@ -154,6 +155,8 @@ void Kartei::ueberlagere(Klientenakte &akte) const
             lege(akte.besuche, *besuch);
         } else if (const auto *plan = std::get_if<Planablage>(&wunsch.neu)) {
             lege(akte.plaene, *plan);
+        } else if (const auto *tage = std::get_if<Aufzeichnung>(&wunsch.neu)) {
+            lege(akte.aufzeichnungen, *tage);
         }
     }
 }
@@ -185,13 +188,15 @@ QString Kartei::sichere(Schreibwunsch wunsch)
 
 Schreibausgang Kartei::schreibe(Schreibwunsch &wunsch)
 {
-    if (auto *person = std::get_if<Person>(&wunsch.neu)) {
-        return m_speicher->sichere(*person);
-    }
-    if (auto *besuch = std::get_if<Besuch>(&wunsch.neu)) {
-        return m_speicher->sichere(wunsch.person, *besuch);
-    }
-    return m_speicher->sichere(wunsch.person, std::get<Planablage>(wunsch.neu));
+    return std::visit(
+        [&](auto &satz) {
+            if constexpr (std::is_same_v<std::decay_t<decltype(satz)>, Person>) {
+                return m_speicher->sichere(satz);
+            } else {
+                return m_speicher->sichere(wunsch.person, satz);
+            }
+        },
+        wunsch.neu);
 }
 
 void Kartei::folge(const Schreibausgang &ausgang, const Schreibwunsch &wunsch)
@@ -333,12 +338,15 @@ bool Kartei::loesche(const Klientenakte &akte)
 
 bool Kartei::loesche(const QString &person, const Satz &satz)
 {
-    Schreibausgang ausgang;
-    if (const auto *besuch = std::get_if<Besuch>(&satz)) {
-        ausgang = m_speicher->loesche(*besuch);
-    } else if (const auto *plan = std::get_if<Planablage>(&satz)) {
-        ausgang = m_speicher->loesche(*plan);
-    }
+    const Schreibausgang ausgang = std::visit(
+        [&](const auto &einer) {
+            if constexpr (std::is_same_v<std::decay_t<decltype(einer)>, Person>) {
+                return m_speicher->loesche(einer.kennung);
+            } else {
+                return m_speicher->loesche(einer);
+            }
+        },
+        satz);
     merkeHindernis(ausgang.hindernis);
     if (ausgang) {
         entlasse(kennung(satz));

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "Aufzeichnung.h"
 #include "Datenmodul.h"
 
 #include <QDate>
@@ -81,12 +82,14 @@ struct Planablage
     bool operator==(const Planablage &) const = default;
 };
 
-/// Everything that is kept of one client: the visits and the plans with the oldest first.
+/// Everything that is kept of one client: visits, plans and records of days with the oldest first,
+/// and those of no certain date before them.
 struct Klientenakte
 {
     Person person;
     QList<Besuch> besuche;
     QList<Planablage> plaene;
+    QList<Aufzeichnung> aufzeichnungen = {};
 
     bool operator==(const Klientenakte &) const = default;
 };

@@ -32,6 +32,10 @@ std::optional<int> fassungIn(const std::optional<Klientenakte> &akte, const Plan
 {
     return akte ? fassungUnter(akte->plaene, plan) : std::nullopt;
 }
+std::optional<int> fassungIn(const std::optional<Klientenakte> &akte, const Aufzeichnung &tage)
+{
+    return akte ? fassungUnter(akte->aufzeichnungen, tage) : std::nullopt;
+}
 
 } // namespace
 

@@ -24,9 +24,10 @@ struct Mappentabelle
 {
     const char *name; ///< key into the string table
     Csv::Tabelle (*tabelle)(const Klientenakte &);
+    bool auchLeer = true; ///< it is there for a client of whom nothing stands in it, too
 };
 
-constexpr std::array<Mappentabelle, 4> mappentabellen = {{
+constexpr std::array<Mappentabelle, 6> mappentabellen = {{
     {QT_TRANSLATE_NOOP("Mahlberg", "Person"),
      [](const Klientenakte &akte) {
          return personentabelle(akte.person);
@@ -43,6 +44,10 @@ constexpr std::array<Mappentabelle, 4> mappentabellen = {{
      [](const Klientenakte &akte) {
          return planzeilentabelle(akte.plaene);
      }},
+    {QT_TRANSLATE_NOOP("Mahlberg", "Aufzeichnungen"),
+     [](const Klientenakte &akte) { return aufzeichnungstabelle(akte.aufzeichnungen); }, false},
+    {QT_TRANSLATE_NOOP("Mahlberg", "Tageszeilen"),
+     [](const Klientenakte &akte) { return tageszeilentabelle(akte.aufzeichnungen); }, false},
 }};
 
 QString aktenname()
@@ -60,6 +65,7 @@ Klientenakte geschrieben(Klientenakte akte)
     zaehle(akte.person);
     std::for_each(akte.besuche.begin(), akte.besuche.end(), zaehle);
     std::for_each(akte.plaene.begin(), akte.plaene.end(), zaehle);
+    std::for_each(akte.aufzeichnungen.begin(), akte.aufzeichnungen.end(), zaehle);
     return akte;
 }
 
@@ -91,9 +97,13 @@ QString fuelle(const QDir &ordner, const Klientenakte &akte, const QDate &heute)
         return pdf;
     }
     for (const Mappentabelle &eine : mappentabellen) {
+        const Csv::Tabelle tabelle = eine.tabelle(akte);
+        if (tabelle.zeilen.isEmpty() && !eine.auchLeer) {
+            continue;
+        }
         QString csv = localizedString(QString::fromUtf8(eine.name)) + QStringLiteral(".csv");
         if (!schreibe(ordner.filePath(csv),
-                      Csv::schreiben(eine.tabelle(akte), Csv::formDesTabellenprogramms()))) {
+                      Csv::schreiben(tabelle, Csv::formDesTabellenprogramms()))) {
             return csv;
         }
     }

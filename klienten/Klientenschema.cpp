@@ -37,6 +37,15 @@ const QList<QStringList> schritte = {
                        "posten TEXT NOT NULL)"),
         QStringLiteral("CREATE INDEX plan_person ON plan (person)"),
     },
+    // 3: records of days
+    {
+        QStringLiteral("CREATE TABLE aufzeichnung ("
+                       "kennung TEXT NOT NULL PRIMARY KEY, fassung INTEGER NOT NULL, "
+                       "person TEXT NOT NULL REFERENCES person (kennung) ON DELETE CASCADE, "
+                       "titel TEXT NOT NULL, art INTEGER NOT NULL, datum TEXT, "
+                       "tage TEXT NOT NULL)"),
+        QStringLiteral("CREATE INDEX aufzeichnung_person ON aufzeichnung (person)"),
+    },
 };
 
 } // namespace

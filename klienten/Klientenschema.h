@@ -8,7 +8,7 @@ namespace Klientenschema {
 
 /// The form of the tables that this version of the program writes. It changes what is older in
 /// steps, and only reads what is newer.
-inline constexpr int fassung = 2;
+inline constexpr int fassung = 3;
 
 /// The statements that lead from the form before to this one, 1 to `fassung`. A new store goes
 /// through all of them too, so that there is one way to each form.

@@ -22,6 +22,10 @@ const char *tabelle(const Planablage *)
 {
     return "plan";
 }
+const char *tabelle(const Aufzeichnung *)
+{
+    return "aufzeichnung";
+}
 
 template <typename Satz>
 QString tabelle()
@@ -286,10 +290,13 @@ Ausgang Klientenspeicher::akte(const QString &kennung, std::optional<Klientenakt
         ergebnis.reset();
         std::optional<Person> person;
         Klientenakte akte;
-        const QString ihre = QStringLiteral(" WHERE person = ? ORDER BY datum, kennung");
+        // Files and servers differ in where they put what has no date.
+        const QString ihre =
+            QStringLiteral(" WHERE person = ? ORDER BY datum IS NOT NULL, datum, kennung");
         if (!liesEinen(gespraech, kennung, person) ||
             !liesAlle(gespraech, ihre, kennung, akte.besuche) ||
-            !liesAlle(gespraech, ihre, kennung, akte.plaene)) {
+            !liesAlle(gespraech, ihre, kennung, akte.plaene) ||
+            !liesAlle(gespraech, ihre, kennung, akte.aufzeichnungen)) {
             return false;
         }
         if (person) {
@@ -318,6 +325,12 @@ Ausgang Klientenspeicher::lies(const QString &kennung, std::optional<Planablage>
         [&](Gespraech &gespraech) { return liesEinen(gespraech, kennung, ergebnis); });
 }
 
+Ausgang Klientenspeicher::lies(const QString &kennung, std::optional<Aufzeichnung> &ergebnis)
+{
+    return m_datenbank->lies(
+        [&](Gespraech &gespraech) { return liesEinen(gespraech, kennung, ergebnis); });
+}
+
 Schreibausgang Klientenspeicher::sichere(Person &person)
 {
     return schreibeSatz(*m_datenbank, QString(), person);
@@ -333,6 +346,11 @@ Schreibausgang Klientenspeicher::sichere(const QString &person, Planablage &plan
     return schreibeSatz(*m_datenbank, person, plan);
 }
 
+Schreibausgang Klientenspeicher::sichere(const QString &person, Aufzeichnung &aufzeichnung)
+{
+    return schreibeSatz(*m_datenbank, person, aufzeichnung);
+}
+
 Schreibausgang Klientenspeicher::loesche(const Besuch &besuch)
 {
     return loescheSatz(*m_datenbank, besuch);
@@ -341,6 +359,11 @@ Schreibausgang Klientenspeicher::loesche(const Besuch &besuch)
 Schreibausgang Klientenspeicher::loesche(const Planablage &plan)
 {
     return loescheSatz(*m_datenbank, plan);
+}
+
+Schreibausgang Klientenspeicher::loesche(const Aufzeichnung &aufzeichnung)
+{
+    return loescheSatz(*m_datenbank, aufzeichnung);
 }
 
 Schreibausgang Klientenspeicher::loesche(const QString &person)
@@ -359,12 +382,13 @@ Schreibausgang Klientenspeicher::nimmAuf(const Klientenakte &akte)
     Art art = Art::Gelungen;
     const Ausgang ausgang = m_datenbank->schreibe([&](Gespraech &gespraech) {
         art = gibt(gespraech, akte.person) || gibtEines(gespraech, akte.besuche) ||
-                      gibtEines(gespraech, akte.plaene)
+                      gibtEines(gespraech, akte.plaene) || gibtEines(gespraech, akte.aufzeichnungen)
                   ? Art::Ueberholt
                   : Art::Gelungen;
         return art == Art::Gelungen && fuegeEin(gespraech, QString(), akte.person) &&
                fuegeAlleEin(gespraech, akte.person.kennung, akte.besuche) &&
-               fuegeAlleEin(gespraech, akte.person.kennung, akte.plaene);
+               fuegeAlleEin(gespraech, akte.person.kennung, akte.plaene) &&
+               fuegeAlleEin(gespraech, akte.person.kennung, akte.aufzeichnungen);
     });
     return alsAusgang(ausgang, art);
 }

@@ -53,6 +53,7 @@ public:
     Ausgang lies(const QString &kennung, std::optional<Person> &ergebnis);
     Ausgang lies(const QString &kennung, std::optional<Besuch> &ergebnis);
     Ausgang lies(const QString &kennung, std::optional<Planablage> &ergebnis);
+    Ausgang lies(const QString &kennung, std::optional<Aufzeichnung> &ergebnis);
 
     /// Writes a record. One that was never written is new, and gets a key unless it brings one; any
     /// other must be as it was read, by its count of writes, which goes up. What stands there
@@ -61,10 +62,12 @@ public:
     Schreibausgang sichere(Person &person);
     Schreibausgang sichere(const QString &person, Besuch &besuch);
     Schreibausgang sichere(const QString &person, Planablage &plan);
+    Schreibausgang sichere(const QString &person, Aufzeichnung &aufzeichnung);
 
     /// Takes a record away, as it was read; one that is not there any more is gone as wanted.
     Schreibausgang loesche(const Besuch &besuch);
     Schreibausgang loesche(const Planablage &plan);
+    Schreibausgang loesche(const Aufzeichnung &aufzeichnung);
     /// Takes a person away with all that belongs to them, whoever changed it, and wipes it out.
     Schreibausgang loesche(const QString &person);
 

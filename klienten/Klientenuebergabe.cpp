@@ -11,11 +11,12 @@ namespace {
 const QString artfeld = QStringLiteral("format");
 const QString art = QStringLiteral("Mahlberg client");
 const QString formfeld = QStringLiteral("version");
-constexpr int form = 1;
+constexpr int form = 2; // 1 knew no records of days
 
 const QString personenfeld = QStringLiteral("person");
 const QString besuchsfeld = QStringLiteral("besuche");
 const QString planfeld = QStringLiteral("plaene");
+const QString aufzeichnungsfeld = QStringLiteral("aufzeichnungen");
 /// Whoever goes from one desk to another was kept at least once.
 constexpr int mindestfassung = 1;
 
@@ -55,6 +56,7 @@ QByteArray akteAlsText(const Klientenakte &akte)
         {personenfeld, alsJson(akte.person)},
         {besuchsfeld, alsJson(akte.besuche)},
         {planfeld, alsJson(akte.plaene)},
+        {aufzeichnungsfeld, alsJson(akte.aufzeichnungen)},
     };
     return QJsonDocument(alles).toJson();
 }
@@ -78,6 +80,9 @@ Uebergabe leseAkte(const QByteArray &text)
     akte.besuche = saetzeAus<Besuch>(alles, besuchsfeld, stelle);
     if (stelle.isEmpty()) {
         akte.plaene = saetzeAus<Planablage>(alles, planfeld, stelle);
+    }
+    if (stelle.isEmpty()) {
+        akte.aufzeichnungen = saetzeAus<Aufzeichnung>(alles, aufzeichnungsfeld, stelle);
     }
     return stelle.isEmpty() ? Uebergabe{Zustand::Gelesen, akte}
                             : Uebergabe{Zustand::Beschaedigt, {}, stelle};

@@ -1,7 +1,6 @@
 #include "Kollisionsfenster.h"
 
 #include "Feldworte.h"
-#include "Planpostentext.h"
 #include "Rollbereich.h"
 #include "Zahlenform.h"
 #include "Zeichenkettentabelle.h"
@@ -14,26 +13,66 @@
 #include <QRadioButton>
 #include <QVBoxLayout>
 
+#include <type_traits>
+
 namespace {
 
 constexpr QSize fenstergroesse(760, 420);
 
-/// What a field holds, whole: of a plan every row.
-template <typename Art>
-QString ganzeWorte(const Art &satz, const Satzspalte<Art> &spalte)
+QString postenworte(const QList<Planposten> &posten)
 {
-    if (qstrcmp(spalte.name, "posten") != 0) {
-        const QString worte = feldworte(satz, spalte);
-        return worte.isEmpty() ? localizedString(QStringLiteral("(keine Angabe)")) : worte;
-    }
     QStringList zeilen;
-    const auto posten = postenAusText(spalte.lies(satz).toString().toUtf8());
-    for (const Planposten &einer : posten.value_or(QList<Planposten>())) {
+    for (const Planposten &einer : posten) {
         zeilen << localizedString(einer.schluessel) + QStringLiteral(", ") +
                       wertText(static_cast<double>(einer.gramm), 0) + QStringLiteral(" g");
     }
-    return zeilen.isEmpty() ? localizedString(QStringLiteral("(keine Angabe)"))
-                            : zeilen.join(u'\n');
+    return zeilen.join(u'\n');
+}
+
+QString mahlzeitworte(const QString &name, const Mahlzeit &mahlzeit)
+{
+    QStringList zeilen;
+    for (const Mahlzeitzeile &zeile : mahlzeit.zeilen) {
+        const QString speise =
+            zeile.schluessel.isNull() ? zeile.text : localizedString(zeile.schluessel);
+        zeilen << QStringLiteral("%1, %2").arg(speise, zeile.angabe);
+    }
+    if (!mahlzeit.notiz.isEmpty()) {
+        zeilen << mahlzeit.notiz;
+    }
+    return mahlzeitname(name) + QStringLiteral(": ") + zeilen.join(QStringLiteral("; "));
+}
+
+/// Each day with the meals in which something stands.
+QString tageworte(const Aufzeichnung &aufzeichnung)
+{
+    QStringList zeilen;
+    for (int tag = 0; tag < aufzeichnung.tage.size(); ++tag) {
+        const Tag &einer = aufzeichnung.tage[tag];
+        zeilen << tagesname(aufzeichnung, tag);
+        if (!einer.notiz.isEmpty()) {
+            zeilen << einer.notiz;
+        }
+        for (qsizetype i = 0; i < einer.mahlzeiten.size(); ++i) {
+            if (einer.mahlzeiten[i] != Mahlzeit()) {
+                zeilen << mahlzeitworte(aufzeichnung.mahlzeiten[i], einer.mahlzeiten[i]);
+            }
+        }
+    }
+    return zeilen.join(u'\n');
+}
+
+/// What a field holds, whole: of a plan every row, of a record every day.
+template <typename Art>
+QString ganzeWorte(const Art &satz, const Satzspalte<Art> &spalte)
+{
+    QString worte = feldworte(satz, spalte);
+    if constexpr (std::is_same_v<Art, Planablage>) {
+        worte = qstrcmp(spalte.name, "posten") == 0 ? postenworte(satz.posten) : worte;
+    } else if constexpr (std::is_same_v<Art, Aufzeichnung>) {
+        worte = qstrcmp(spalte.name, "tage") == 0 ? tageworte(satz) : worte;
+    }
+    return worte.isEmpty() ? localizedString(QStringLiteral("(keine Angabe)")) : worte;
 }
 
 QLabel *worte(const QString &text)

@@ -1,5 +1,6 @@
 #include "Satzspalten.h"
 
+#include "Aufzeichnungstext.h"
 #include "Planpostentext.h"
 
 #include <QCoreApplication>
@@ -71,14 +72,19 @@ requires std::is_enum_v<Zahl> QVariant inWert(Zahl wahl)
 {
     return static_cast<int>(wahl);
 }
-/// All choices of a record have three members.
+/// The last of the choices; most have three.
+template <typename Zahl>
+constexpr int letzteWahl = 2;
+template <>
+constexpr int letzteWahl<Aufzeichnungsart> = 1;
+
 template <typename Zahl>
 requires std::is_enum_v<Zahl>
 bool ausWert(Zahl &ziel, const QVariant &wert)
 {
     bool zahl = false;
     const int stelle = wert.toInt(&zahl);
-    const bool gelesen = zahl && stelle >= 0 && stelle <= 2;
+    const bool gelesen = zahl && stelle >= 0 && stelle <= letzteWahl<Zahl>;
     ziel = gelesen ? static_cast<Zahl>(stelle) : Zahl();
     return gelesen;
 }
@@ -172,6 +178,36 @@ const std::array planspalten = {
     von<&Planablage::posten>("posten", QT_TRANSLATE_NOOP("Mahlberg", "Lebensmittel")),
 };
 
+/// Meals and days together, since a day is nothing without its meals. What else a record says has a
+/// column of its own and is left out of the text; what a newer version has written stays whole.
+QVariant tageLesen(const Aufzeichnung &aufzeichnung)
+{
+    Aufzeichnung tage = aufzeichnung;
+    tage.titel = QString();
+    tage.art = Aufzeichnungsart::Protokoll;
+    tage.datum = QDate();
+    return QString::fromUtf8(alsText(tage));
+}
+bool tageSetzen(Aufzeichnung &aufzeichnung, const QVariant &wert)
+{
+    const Aufzeichnungslesung lesung = leseAufzeichnung(wert.toString().toUtf8());
+    const bool gelesen = lesung.zustand == Aufzeichnungslesung::Zustand::Gelesen ||
+                         lesung.zustand == Aufzeichnungslesung::Zustand::Neuer;
+    if (gelesen) {
+        aufzeichnung.mahlzeiten = lesung.aufzeichnung.mahlzeiten;
+        aufzeichnung.tage = lesung.aufzeichnung.tage;
+        aufzeichnung.neuererText = lesung.aufzeichnung.neuererText;
+    }
+    return gelesen;
+}
+
+const std::array aufzeichnungsspalten = {
+    von<&Aufzeichnung::titel>("titel", QT_TRANSLATE_NOOP("Mahlberg", "Titel")),
+    von<&Aufzeichnung::art>("art", QT_TRANSLATE_NOOP("Mahlberg", "Art")),
+    von<&Aufzeichnung::datum>("datum", QT_TRANSLATE_NOOP("Mahlberg", "Datum")),
+    Satzspalte<Aufzeichnung>{"tage", QT_TRANSLATE_NOOP("Mahlberg", "Tage"), tageLesen, tageSetzen},
+};
+
 } // namespace
 
 std::span<const Satzspalte<Person>> spalten(const Person *)
@@ -187,4 +223,9 @@ std::span<const Satzspalte<Besuch>> spalten(const Besuch *)
 std::span<const Satzspalte<Planablage>> spalten(const Planablage *)
 {
     return planspalten;
+}
+
+std::span<const Satzspalte<Aufzeichnung>> spalten(const Aufzeichnung *)
+{
+    return aufzeichnungsspalten;
 }

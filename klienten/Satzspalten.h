@@ -25,6 +25,7 @@ struct Satzspalte
 std::span<const Satzspalte<Person>> spalten(const Person *);
 std::span<const Satzspalte<Besuch>> spalten(const Besuch *);
 std::span<const Satzspalte<Planablage>> spalten(const Planablage *);
+std::span<const Satzspalte<Aufzeichnung>> spalten(const Aufzeichnung *);
 
 template <typename Satz>
 std::span<const Satzspalte<Satz>> spalten()

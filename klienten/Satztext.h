@@ -10,7 +10,8 @@ inline const QString kennung = QStringLiteral("kennung");
 inline const QString fassung = QStringLiteral("fassung");
 } // namespace Satzfeld
 
-/// A field of a record as JSON; the rows of a plan are JSON already.
+/// A field of a record as JSON; the rows of a plan and the days of a
+/// record are JSON already.
 QJsonValue feldAlsJson(const QString &name, const QVariant &wert);
 /// The same back, as the column takes it.
 QVariant feldAusJson(const QString &name, const QJsonValue &wert);

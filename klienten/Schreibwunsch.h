@@ -6,7 +6,7 @@
 #include <variant>
 
 /// A record of any kind.
-using Satz = std::variant<Person, Besuch, Planablage>;
+using Satz = std::variant<Person, Besuch, Planablage, Aufzeichnung>;
 
 /// The key of a record.
 QString kennung(const Satz &satz);

@@ -28,7 +28,7 @@ constexpr int mindestfassung = 0;
 
 /// How the kinds of records are called, in their order.
 constexpr std::array<const char *, std::variant_size_v<Satz>> satzarten = {"person", "visit",
-                                                                           "plan"};
+                                                                           "plan", "days"};
 
 QJsonObject satzAlsJson(const Satz &satz)
 {
@@ -70,7 +70,10 @@ std::optional<Schreibwunsch> leseWunsch(const QJsonObject &eintrag)
     if (satzart == QLatin1String(satzarten[1])) {
         return wunschAus<Besuch>(eintrag);
     }
-    return satzart == QLatin1String(satzarten[2]) ? wunschAus<Planablage>(eintrag) : std::nullopt;
+    if (satzart == QLatin1String(satzarten[2])) {
+        return wunschAus<Planablage>(eintrag);
+    }
+    return satzart == QLatin1String(satzarten[3]) ? wunschAus<Aufzeichnung>(eintrag) : std::nullopt;
 }
 
 /// What the text says, and whether all of it was understood.

@@ -21,11 +21,11 @@ bool Mahlzeitzeile::operator==(const Mahlzeitzeile &andere) const
            (!eintrag || gleicherInhalt(*eintrag, *andere.eintrag));
 }
 
-Aufzeichnung neueAufzeichnung(Aufzeichnungsart art, const QDate &beginn, int tage)
+Aufzeichnung neueAufzeichnung(Aufzeichnungsart art, const QDate &datum, int tage)
 {
     Aufzeichnung neue;
     neue.art = art;
-    neue.beginn = beginn;
+    neue.datum = datum;
     for (const char *name : ueblicheMahlzeiten) {
         neue.mahlzeiten << QString::fromUtf8(name);
     }
@@ -45,7 +45,7 @@ QString mahlzeitname(const QString &name)
 
 QDate datumVon(const Aufzeichnung &aufzeichnung, int tag)
 {
-    return aufzeichnung.beginn.isValid() ? aufzeichnung.beginn.addDays(tag) : QDate();
+    return aufzeichnung.datum.isValid() ? aufzeichnung.datum.addDays(tag) : QDate();
 }
 
 QString tagesname(const Aufzeichnung &aufzeichnung, int tag)

@@ -17,15 +17,15 @@ enum class Aufzeichnungsart { Protokoll, Wochenplan };
 /// A row of a meal: a food and how much of it, as it was said.
 struct Mahlzeitzeile
 {
-    QString schluessel; ///< the food's key in its store; null: no food was found for `text`
-    QString text;       ///< what was typed in place of a food; null where one was found
-    QString angabe;     ///< the amount as it was said, such as "2 Scheiben"
+    QString schluessel = {}; ///< the food's key in its store; null: no food was found for `text`
+    QString text = {};       ///< what was typed in place of a food; null where one was found
+    QString angabe = {};     ///< the amount as it was said, such as "2 Scheiben"
     /// What the amount counts, in grams; absent where it was not understood, and then the row
     /// counts nothing.
-    std::optional<float> gramm;
+    std::optional<float> gramm = {};
     /// What the food was like when it was entered, so that an old record reads the same years
     /// later. Absent: it was in no store.
-    std::optional<Datenmodul> eintrag;
+    std::optional<Datenmodul> eintrag = {};
     bool oder = false; ///< may be taken in place of the row before it, and counts nothing
 
     bool operator==(const Mahlzeitzeile &andere) const;
@@ -58,7 +58,7 @@ struct Aufzeichnung
     int fassung = 0;
     QString titel;
     Aufzeichnungsart art = Aufzeichnungsart::Protokoll;
-    QDate beginn;           ///< date of the first day; null: days of no certain date
+    QDate datum;            ///< date of the first day; null: days of no certain date
     QStringList mahlzeiten; ///< their names, see `mahlzeitname`
     QList<Tag> tage;        ///< 1 to `meisteTage`
     /// What a newer version has written, with what this one does not know: it is handed on as it
@@ -79,7 +79,7 @@ extern const std::array<const char *, 6> ueblicheMahlzeiten;
 
 /// A new record with the usual meals, and nothing in them. Fewer days than 1 are 1, more than
 /// `meisteTage` are so many.
-Aufzeichnung neueAufzeichnung(Aufzeichnungsart art, const QDate &beginn, int tage);
+Aufzeichnung neueAufzeichnung(Aufzeichnungsart art, const QDate &datum, int tage);
 
 /// How a meal is called on screen: the usual ones in its language, any other as the user named it.
 QString mahlzeitname(const QString &name);

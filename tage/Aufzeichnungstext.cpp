@@ -20,7 +20,7 @@ constexpr int form = 1;
 
 const QString titelfeld = QStringLiteral("title");
 const QString sortefeld = QStringLiteral("kind");
-const QString beginnfeld = QStringLiteral("start");
+const QString datumsfeld = QStringLiteral("start");
 const QString mahlzeitenfeld = QStringLiteral("meals");
 const QString tagefeld = QStringLiteral("days");
 const QString notizfeld = QStringLiteral("note");
@@ -121,10 +121,9 @@ public:
         });
         pruefe(art != sorten.end(), sortefeld);
         aufzeichnung.art = static_cast<Aufzeichnungsart>(art - sorten.begin());
-        const QJsonValue beginn = m_alles.value(beginnfeld);
-        aufzeichnung.beginn = QDate::fromString(beginn.toString(), Qt::ISODate);
-        pruefe(beginn.isNull() || beginn.isUndefined() || aufzeichnung.beginn.isValid(),
-               beginnfeld);
+        const QJsonValue datum = m_alles.value(datumsfeld);
+        aufzeichnung.datum = QDate::fromString(datum.toString(), Qt::ISODate);
+        pruefe(datum.isNull() || datum.isUndefined() || aufzeichnung.datum.isValid(), datumsfeld);
         const QJsonArray namen = m_alles.value(mahlzeitenfeld).toArray();
         for (const auto &name : namen) {
             pruefe(!name.toString().isEmpty(), mahlzeitenfeld);
@@ -238,8 +237,8 @@ QByteArray alsText(const Aufzeichnung &aufzeichnung)
         {formfeld, form},
         {titelfeld, aufzeichnung.titel},
         {sortefeld, QLatin1String(sorten.at(static_cast<std::size_t>(aufzeichnung.art)))},
-        {beginnfeld, aufzeichnung.beginn.isValid()
-                         ? QJsonValue(aufzeichnung.beginn.toString(Qt::ISODate))
+        {datumsfeld, aufzeichnung.datum.isValid()
+                         ? QJsonValue(aufzeichnung.datum.toString(Qt::ISODate))
                          : QJsonValue(QJsonValue::Null)},
         {mahlzeitenfeld, QJsonArray::fromStringList(aufzeichnung.mahlzeiten)},
         {tagefeld, tage},

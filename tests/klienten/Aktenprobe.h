@@ -98,6 +98,30 @@ inline Planablage plan()
     return einer;
 }
 
+/// Two days, of which the first has bread by the slice, an alternative and something unknown.
+inline Aufzeichnung tage()
+{
+    Aufzeichnung eine = neueAufzeichnung(Aufzeichnungsart::Protokoll, QDate(2026, 9, 7), 2);
+    eine.kennung = QStringLiteral("t");
+    eine.fassung = 1;
+    eine.titel = QStringLiteral("Zwei Tage");
+    const Mahlzeitzeile brot{.schluessel = QStringLiteral("Weißbrot"),
+                             .angabe = QStringLiteral("2 Scheiben"),
+                             .gramm = 50,
+                             .eintrag = speise(QStringLiteral("Weißbrot"), 255, 8)};
+    Mahlzeitzeile apfel{.schluessel = QStringLiteral("Äpfel, roh"),
+                        .angabe = QStringLiteral("150"),
+                        .gramm = 150,
+                        .eintrag = speise(QStringLiteral("Äpfel, roh"), 52, 0.3F)};
+    eine.tage[1].mahlzeiten[2].zeilen = {apfel};
+    apfel.oder = true;
+    eine.tage[0].mahlzeiten[0].zeilen = {
+        brot,
+        apfel,
+        {.text = QStringLiteral("Omas Auflauf"), .angabe = QStringLiteral("1 Teller")}};
+    return eine;
+}
+
 inline Klientenakte akte()
 {
     return {person(), besuche(), {plan()}};

@@ -24,6 +24,8 @@ private Q_SLOTS:
     void aNoteIsAText();
     void aPlanIsARow();
     void aPlansFoodIsARow();
+    void aRecordOfDaysIsARow();
+    void aFoodOfADayIsARow();
     void valuesAreWorkedOutAsThePlanDoes();
     void aNumberThatIsNoneGoesOutAsSuch();
     void aClientWithoutAnythingHasTheHeadings();
@@ -198,6 +200,45 @@ void TestAktentabellen::aPlansFoodIsARow()
     QCOMPARE(vergessenes.first(4),
              QList<Csv::Zelle>({u"Erste Woche"_s, u"2026-09-02"_s, u"Vergessenes"_s, 80.0F}));
     QCOMPARE(vergessenes.mid(4), QList<Csv::Zelle>(21));
+}
+
+void TestAktentabellen::aRecordOfDaysIsARow()
+{
+    Aufzeichnung ohneDatum = Aktenprobe::tage();
+    ohneDatum.datum = {};
+    ohneDatum.art = Aufzeichnungsart::Wochenplan;
+    const Csv::Tabelle tabelle = aufzeichnungstabelle({Aktenprobe::tage(), ohneDatum});
+    QCOMPARE(tabelle.spalten, QStringList({u"Titel"_s, u"Art"_s, u"Datum"_s, u"Tage"_s}));
+    const QList<QList<Csv::Zelle>> erwartet = {
+        {u"Zwei Tage"_s, u"Protokoll"_s, u"2026-09-07"_s, 2.0},
+        {u"Zwei Tage"_s, u"Wochenplan"_s, leer, 2.0},
+    };
+    QCOMPARE(tabelle.zeilen, erwartet);
+}
+
+/// 50 g of bread have 255 x 0.5 = 127.5 kcal.
+void TestAktentabellen::aFoodOfADayIsARow()
+{
+    const Csv::Tabelle tabelle = tageszeilentabelle({Aktenprobe::tage()});
+    QCOMPARE(tabelle.spalten.first(7),
+             QStringList({u"Aufzeichnung"_s, u"Tag"_s, u"Mahlzeit"_s, u"Lebensmittel"_s,
+                          u"Angabe"_s, u"Menge (g)"_s, u"Energie (kcal)"_s}));
+    QCOMPARE(tabelle.zeilen.size(), 4);
+    const QList<Csv::Zelle> brot = {u"Zwei Tage"_s,  u"2026-09-07"_s, u"Frühstück"_s, u"Weißbrot"_s,
+                                    u"2 Scheiben"_s, 50.0F,           127.5F};
+    QCOMPARE(tabelle.zeilen[0].first(7), brot);
+    QCOMPARE(tabelle.zeilen[0].size(), tabelle.spalten.size());
+    const QList<Csv::Zelle> oder = {u"Zwei Tage"_s,       u"2026-09-07"_s, u"Frühstück"_s,
+                                    u"oder Äpfel, roh"_s, u"150"_s,        150.0F};
+    QCOMPARE(tabelle.zeilen[1], oder + QList<Csv::Zelle>(21));
+    const QList<Csv::Zelle> auflauf = {u"Zwei Tage"_s,    u"2026-09-07"_s, u"Frühstück"_s,
+                                       u"Omas Auflauf"_s, u"1 Teller"_s,   leer};
+    QCOMPARE(tabelle.zeilen[2], auflauf + QList<Csv::Zelle>(21));
+    QCOMPARE(tabelle.zeilen[3].value(1), Csv::Zelle(u"2026-09-08"_s));
+    QCOMPARE(tabelle.zeilen[3].value(2), Csv::Zelle(u"Mittagessen"_s));
+    Aufzeichnung ohneDatum = Aktenprobe::tage();
+    ohneDatum.datum = {};
+    QCOMPARE(tageszeilentabelle({ohneDatum}).zeilen[3].value(1), Csv::Zelle(2.0));
 }
 
 /// The grams are divided first, in single precision: 255 x (60.9 / 100) is a little more than

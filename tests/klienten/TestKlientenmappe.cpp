@@ -47,6 +47,7 @@ private Q_SLOTS:
     void aStepThatFailsLeavesNothing();
     void aNameThatIsRefusedLeavesNothing();
     void whatWasCutOffSaysSo();
+    void recordsOfDaysComeAlong();
     void inEnglishTheFilesAreEnglish();
 
 private:
@@ -410,6 +411,19 @@ void TestKlientenmappe::aNameThatIsRefusedLeavesNothing()
     QVERIFY(QDir(tief).isEmpty(QDir::AllEntries | QDir::Hidden | QDir::NoDotAndDotDot));
     akte.person.name = u"A"_s;
     QVERIFY(schreibeMappe(tief, akte, Aktenprobe::heute).gelungen);
+}
+
+void TestKlientenmappe::recordsOfDaysComeAlong()
+{
+    Klientenakte akte = Aktenprobe::akte();
+    akte.aufzeichnungen = {Aktenprobe::tage()};
+    akte.aufzeichnungen[0].fassung = 0; // waits to be written here
+    const QString ordner = schreibe(akte).ordner;
+    QVERIFY(bytes(ordner + u"/Aufzeichnungen.csv"_s).contains("Zwei Tage"));
+    QVERIFY(bytes(ordner + u"/Tageszeilen.csv"_s).contains("2 Scheiben"));
+    const Uebergabe gelesen = leseAkte(bytes(ordner + u"/Akte.json"_s));
+    QCOMPARE(gelesen.zustand, Uebergabe::Zustand::Gelesen);
+    QVERIFY(gelesen.akte.aufzeichnungen.constFirst() == Aktenprobe::tage());
 }
 
 /// As a power cut leaves it: whoever finds it sees what it is, and it is in nobody's way.

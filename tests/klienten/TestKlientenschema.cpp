@@ -106,6 +106,15 @@ void TestKlientenschema::anOlderStoreIsBroughtToThePresentForm()
     QCOMPARE(besuch.sport, QStringLiteral("Joggen"));
     QCOMPARE(besuch.sportdauer, 0.5);
     QCOMPARE(besuch.notiz, QStringLiteral("erstes Gespräch"));
+    QCOMPARE(akte->plaene.size(), fassung < 2 ? 0 : 1); // plans came with the second form
+    if (fassung >= 2) {
+        QCOMPARE(akte->plaene.constFirst().titel, QStringLiteral("Erste Woche"));
+        QCOMPARE(akte->plaene.constFirst().notiz, QStringLiteral("abends warm"));
+        QCOMPARE(akte->plaene.constFirst().posten.constFirst().gramm, 150.5F);
+    }
+    QVERIFY(akte->aufzeichnungen.isEmpty());
+    Aufzeichnung tage = neueAufzeichnung(Aufzeichnungsart::Protokoll, {}, 3);
+    QVERIFY(tisch->sichere(anna, tage));
     Planablage plan;
     plan.titel = QStringLiteral("Woche 1");
     plan.datum = QDate(2026, 11, 22);
@@ -173,7 +182,7 @@ void TestKlientenschema::tablesThatAreTakenAwayAreMadeAnew()
     const auto tisch = m_speicher.tisch();
     Person person = namens(QStringLiteral("Anna"));
     QVERIFY(tisch->sichere(person));
-    for (const char *tabelle : {"plan", "besuch", "person", "bestand"}) {
+    for (const char *tabelle : {"aufzeichnung", "plan", "besuch", "person", "bestand"}) {
         QVERIFY(m_speicher.fuehre(QStringLiteral("DROP TABLE ") + QLatin1String(tabelle)));
     }
     Person zweite = namens(QStringLiteral("Bea"));
@@ -187,6 +196,7 @@ void TestKlientenschema::anOlderStoreInTheOldOnesPlaceIsBroughtToThePresentForm(
     const auto tisch = m_speicher.tisch();
     Person person = namens(QStringLiteral("Carla"));
     QVERIFY(tisch->sichere(person));
+    QVERIFY(m_speicher.fuehre(QStringLiteral("DROP TABLE aufzeichnung")));
     QVERIFY(m_speicher.fuehre(QStringLiteral("DROP TABLE plan")));
     QVERIFY(m_speicher.fuehre(QStringLiteral("UPDATE bestand SET fassung = 1")));
     person.name = QStringLiteral("Dora");

@@ -63,6 +63,23 @@ Planablage planMit(const QList<Planposten> &posten)
     return plan;
 }
 
+Aufzeichnung tageMit(const QList<Mahlzeitzeile> &zeilen)
+{
+    Aufzeichnung tage = neueAufzeichnung(Aufzeichnungsart::Wochenplan, QDate(2026, 11, 23), 3);
+    tage.titel = QStringLiteral("Woche 1");
+    tage.tage[2].mahlzeiten[4].zeilen = zeilen;
+    tage.tage[2].notiz = QStringLiteral("Geburtstag");
+    return tage;
+}
+
+Mahlzeitzeile apfelzeile()
+{
+    return {.schluessel = QStringLiteral("Apfel"),
+            .angabe = QStringLiteral("2 Stück"),
+            .gramm = 0.1F,
+            .eintrag = apfel()};
+}
+
 } // namespace
 
 class TestKlientenspeicher : public QObject
@@ -77,6 +94,10 @@ private Q_SLOTS:
     void aPersonComesBackAsItWasPutIn();
     void aVisitComesBackAsItWasPutIn();
     void aPlanComesBackAsItWasPutIn();
+    void aRecordOfDaysComesBackAsItWasPutIn();
+    void recordsOfDaysStandInTheOrderOfTheirDates();
+    void ofTwoDesksThatChangeARecordOfDaysTheSecondIsTold();
+    void aRecordOfDaysOfANewerVersionStaysWhole();
     void whatWasNotTakenStaysAbsent();
     void everyWriteCounts();
     void theSecondDeskIsTold();
@@ -193,6 +214,83 @@ void TestKlientenspeicher::aPlanComesBackAsItWasPutIn()
     QCOMPARE(gelesener->posten.constLast().gramm, -3.0F);
 }
 
+void TestKlientenspeicher::aRecordOfDaysComesBackAsItWasPutIn()
+{
+    const auto tisch = m_speicher.tisch();
+    const QString person = einePerson(*tisch);
+    Aufzeichnung tage = tageMit({apfelzeile(), {.text = QStringLiteral("Omas Auflauf")}});
+    QVERIFY(tisch->sichere(person, tage));
+    QVERIFY(!tage.kennung.isNull());
+    QCOMPARE(tage.fassung, 1);
+    std::optional<Aufzeichnung> gelesene;
+    QVERIFY(m_speicher.tisch()->lies(tage.kennung, gelesene));
+    QVERIFY(gelesene);
+    QVERIFY(*gelesene == tage);
+    tage.datum = {};
+    tage.art = Aufzeichnungsart::Protokoll;
+    QVERIFY(tisch->sichere(person, tage));
+    QCOMPARE(tage.fassung, 2);
+    QVERIFY(m_speicher.tisch()->lies(tage.kennung, gelesene));
+    QVERIFY(*gelesene == tage);
+    QVERIFY(tisch->loesche(tage));
+    QVERIFY(m_speicher.tisch()->lies(tage.kennung, gelesene));
+    QVERIFY(!gelesene);
+}
+
+void TestKlientenspeicher::recordsOfDaysStandInTheOrderOfTheirDates()
+{
+    const auto tisch = m_speicher.tisch();
+    const QString person = einePerson(*tisch);
+    for (const QDate &datum : {QDate(2026, 11, 23), QDate(), QDate(2025, 1, 1)}) {
+        Aufzeichnung tage = tageMit({});
+        tage.datum = datum;
+        QVERIFY(tisch->sichere(person, tage));
+    }
+    std::optional<Klientenakte> akte;
+    QVERIFY(tisch->akte(person, akte));
+    QList<QDate> tage;
+    for (const Aufzeichnung &eine : akte->aufzeichnungen) {
+        tage << eine.datum;
+    }
+    QCOMPARE(tage, (QList<QDate>{QDate(), QDate(2025, 1, 1), QDate(2026, 11, 23)}));
+}
+
+void TestKlientenspeicher::ofTwoDesksThatChangeARecordOfDaysTheSecondIsTold()
+{
+    const auto tisch = m_speicher.tisch();
+    const QString person = einePerson(*tisch);
+    Aufzeichnung erste = tageMit({apfelzeile()});
+    QVERIFY(tisch->sichere(person, erste));
+    Aufzeichnung zweite = erste;
+    erste.titel = QStringLiteral("Woche 2");
+    QVERIFY(tisch->sichere(person, erste));
+    zweite.tage[0].notiz = QStringLiteral("Montag");
+    QCOMPARE(m_speicher.tisch()->sichere(person, zweite).art, Schreibausgang::Art::Ueberholt);
+    QCOMPARE(m_speicher.tisch()->loesche(zweite).art, Schreibausgang::Art::Ueberholt);
+}
+
+/// What this version does not know of it is handed on to the one that does.
+void TestKlientenspeicher::aRecordOfDaysOfANewerVersionStaysWhole()
+{
+    const auto tisch = m_speicher.tisch();
+    const QString person = einePerson(*tisch);
+    Aufzeichnung tage = tageMit({apfelzeile()});
+    QVERIFY(tisch->sichere(person, tage));
+    QVERIFY(m_speicher.fuehre(
+        QStringLiteral("UPDATE aufzeichnung SET tage = replace(tage, '\"version\":1', "
+                       "'\"mood\":\"fine\",\"version\":2')")));
+    std::optional<Klientenakte> akte;
+    QVERIFY(tisch->akte(person, akte));
+    QCOMPARE(akte->aufzeichnungen.size(), 1);
+    QVERIFY(akte->aufzeichnungen.constFirst().neuererText.contains("\"mood\":\"fine\""));
+    QCOMPARE(akte->aufzeichnungen.constFirst().tage, tage.tage);
+    QVERIFY(tisch->loesche(person));
+    QVERIFY(tisch->nimmAuf(*akte));
+    QVERIFY(m_speicher.frage(QStringLiteral("SELECT tage FROM aufzeichnung"))
+                .toString()
+                .contains(QStringLiteral("\"mood\":\"fine\"")));
+}
+
 void TestKlientenspeicher::whatWasNotTakenStaysAbsent()
 {
     const auto tisch = m_speicher.tisch();
@@ -299,6 +397,8 @@ void TestKlientenspeicher::deletingTakesEverythingAlong()
         Planablage plan = planMit({{QStringLiteral("Apfel"), 100, apfel()}});
         QVERIFY(tisch->sichere(person, besuch));
         QVERIFY(tisch->sichere(person, plan));
+        Aufzeichnung tage = tageMit({apfelzeile()});
+        QVERIFY(tisch->sichere(person, tage));
     }
     QVERIFY(tisch->loesche(gehende));
     std::optional<Klientenakte> akte;
@@ -306,6 +406,7 @@ void TestKlientenspeicher::deletingTakesEverythingAlong()
     QVERIFY(!akte);
     QCOMPARE(m_speicher.frage(QStringLiteral("SELECT count(*) FROM besuch")).toInt(), 1);
     QCOMPARE(m_speicher.frage(QStringLiteral("SELECT count(*) FROM plan")).toInt(), 1);
+    QCOMPARE(m_speicher.frage(QStringLiteral("SELECT count(*) FROM aufzeichnung")).toInt(), 1);
     QVERIFY(tisch->akte(bleibende, akte));
     QVERIFY(akte);
 }
@@ -333,6 +434,8 @@ void TestKlientenspeicher::whatWasDeletedComesBackWhole()
     Planablage plan = planMit({{QStringLiteral("Apfel"), 100, apfel()}});
     QVERIFY(tisch->sichere(person, besuch));
     QVERIFY(tisch->sichere(person, plan));
+    Aufzeichnung tage = tageMit({apfelzeile()});
+    QVERIFY(tisch->sichere(person, tage));
     std::optional<Klientenakte> vorher;
     QVERIFY(tisch->akte(person, vorher));
     QVERIFY(tisch->loesche(person));
@@ -382,6 +485,10 @@ void TestKlientenspeicher::aRecordThatIsNotOursIsToldOf_data()
     QTest::newRow("rows of a plan that are none")
         << QStringLiteral("UPDATE plan SET posten = '[{\"food\": 3, \"grams\": 100}]'");
     QTest::newRow("rows that are no JSON") << QStringLiteral("UPDATE plan SET posten = '[{'");
+    QTest::newRow("days that are none")
+        << QStringLiteral("UPDATE aufzeichnung SET tage = replace(tage, 'days', 'dogs')");
+    QTest::newRow("a kind of days that is none")
+        << QStringLiteral("UPDATE aufzeichnung SET art = 2");
     QTest::newRow("an activity beyond all") << QStringLiteral("UPDATE besuch SET aktivitaet = 7");
 }
 
@@ -394,6 +501,8 @@ void TestKlientenspeicher::aRecordThatIsNotOursIsToldOf()
     Planablage plan = planMit({{QStringLiteral("Apfel"), 100, apfel()}});
     QVERIFY(tisch->sichere(person, besuch));
     QVERIFY(tisch->sichere(person, plan));
+    Aufzeichnung tage = tageMit({apfelzeile()});
+    QVERIFY(tisch->sichere(person, tage));
     QVERIFY(m_speicher.fuehre(anweisung));
     std::optional<Klientenakte> akte;
     const Ausgang ausgang = tisch->akte(person, akte);

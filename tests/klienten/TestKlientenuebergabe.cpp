@@ -39,6 +39,15 @@ Klientenakte akte()
     apfel.setdiabetes(QStringLiteral("+"));
     plan.posten = {{QStringLiteral("Apfel"), 150.5F, apfel}, {QStringLiteral("fort"), 1, {}}};
     akte.plaene << plan;
+    Aufzeichnung tage = neueAufzeichnung(Aufzeichnungsart::Wochenplan, QDate(2026, 1, 5), 2);
+    tage.kennung = QStringLiteral("t");
+    tage.fassung = 4;
+    tage.titel = QStringLiteral("Woche");
+    tage.tage[1].mahlzeiten[0].zeilen << Mahlzeitzeile{.schluessel = QStringLiteral("Apfel"),
+                                                       .angabe = QStringLiteral("2 Stück"),
+                                                       .gramm = 300.5F,
+                                                       .eintrag = apfel};
+    akte.aufzeichnungen << tage;
     return akte;
 }
 
@@ -51,6 +60,7 @@ class TestKlientenuebergabe : public QObject
 private Q_SLOTS:
     void aClientComesAsTheyWent();
     void otherProgramsCanReadIt();
+    void aFileWithoutRecordsOfDaysIsTakenIn();
     void whatIsNoClientIsTold_data();
     void whatIsNoClientIsTold();
     void whatIsMissingIsAbsent();
@@ -69,7 +79,7 @@ void TestKlientenuebergabe::otherProgramsCanReadIt()
 {
     const QJsonObject alles = QJsonDocument::fromJson(akteAlsText(akte())).object();
     QCOMPARE(alles.value(QStringLiteral("format")).toString(), QStringLiteral("Mahlberg client"));
-    QCOMPARE(alles.value(QStringLiteral("version")).toInt(), 1);
+    QCOMPARE(alles.value(QStringLiteral("version")).toInt(), 2);
     const QJsonObject person = alles.value(QStringLiteral("person")).toObject();
     QCOMPARE(person.value(QStringLiteral("geburt")).toString(), QStringLiteral("1950-12-31"));
     QCOMPARE(person.value(QStringLiteral("diabetes")).toInt(), 1);
@@ -81,6 +91,28 @@ void TestKlientenuebergabe::otherProgramsCanReadIt()
     QCOMPARE(posten.value(QStringLiteral("grams")).toDouble(), 150.5);
     QCOMPARE(posten.value(QStringLiteral("ratings")).toObject().value(QStringLiteral("diabetes")),
              QJsonValue(QStringLiteral("+")));
+    const QJsonObject tage =
+        alles.value(QStringLiteral("aufzeichnungen")).toArray().at(0).toObject();
+    QCOMPARE(tage.value(QStringLiteral("datum")).toString(), QStringLiteral("2026-01-05"));
+    QCOMPARE(tage.value(QStringLiteral("tage"))
+                 .toObject()
+                 .value(QStringLiteral("days"))
+                 .toArray()
+                 .size(),
+             2);
+}
+
+/// Desks that knew no records of days have left some such files.
+void TestKlientenuebergabe::aFileWithoutRecordsOfDaysIsTakenIn()
+{
+    QJsonObject alles = QJsonDocument::fromJson(akteAlsText(akte())).object();
+    alles.insert(QStringLiteral("version"), 1);
+    alles.remove(QStringLiteral("aufzeichnungen"));
+    const Uebergabe gelesen = leseAkte(QJsonDocument(alles).toJson());
+    QCOMPARE(gelesen.zustand, Zustand::Gelesen);
+    Klientenakte ohne = akte();
+    ohne.aufzeichnungen.clear();
+    QCOMPARE(gelesen.akte, ohne);
 }
 
 void TestKlientenuebergabe::whatIsNoClientIsTold_data()
@@ -104,7 +136,7 @@ void TestKlientenuebergabe::whatIsNoClientIsTold_data()
     QTest::newRow("of another program")
         << mit("Mahlberg client", "Client") << Zustand::Fremd << QString();
     QTest::newRow("of a newer version")
-        << mit(R"("version":1)", R"("version":2)") << Zustand::Neuer << QString();
+        << mit(R"("version":2)", R"("version":3)") << Zustand::Neuer << QString();
     QTest::newRow("without a person") << mit(R"("person":)", R"("nobody":)") << Zustand::Beschaedigt
                                       << QStringLiteral("person.kennung");
     QTest::newRow("a birth that is no day")
@@ -118,6 +150,12 @@ void TestKlientenuebergabe::whatIsNoClientIsTold_data()
     QTest::newRow("a record never written")
         << mit(R"("fassung":2)", R"("fassung":0)") << Zustand::Beschaedigt
         << QStringLiteral("plaene[0].fassung");
+    QTest::newRow("days that are none")
+        << mit("Mahlberg days", "Mahlberg dogs") << Zustand::Beschaedigt
+        << QStringLiteral("aufzeichnungen[0].tage");
+    QTest::newRow("a kind of days that is none")
+        << mit(R"("art":1)", R"("art":2)") << Zustand::Beschaedigt
+        << QStringLiteral("aufzeichnungen[0].art");
 }
 
 void TestKlientenuebergabe::whatIsNoClientIsTold()

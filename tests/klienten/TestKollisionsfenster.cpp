@@ -20,6 +20,7 @@ private Q_SLOTS:
     void whatIsChosenCounts();
     void withoutTheGroundOnesOwnIsProposed();
     void aPlanIsShownRowByRow();
+    void aRecordIsShownDayByDay();
     void absentAndEmptyAreTold();
     void escapeChoosesNothing();
     void droppingIsToldApartFromSaving();
@@ -124,6 +125,30 @@ void TestKollisionsfenster::aPlanIsShownRowByRow()
     QVERIFY(texte(fenster).contains(QStringLiteral("Apfel, 100 g\nBrot, 80 g")));
     QVERIFY(texte(fenster).contains(QStringLiteral("Birne, 50 g")));
     QCOMPARE(std::get<Planablage>(fenster.entschieden()).posten.size(), 2);
+}
+
+void TestKollisionsfenster::aRecordIsShownDayByDay()
+{
+    Aufzeichnung alt = neueAufzeichnung(Aufzeichnungsart::Protokoll, QDate(2026, 11, 23), 2);
+    alt.kennung = QStringLiteral("t");
+    alt.titel = QStringLiteral("Woche");
+    Aufzeichnung meine = alt;
+    meine.tage[0].mahlzeiten[0].zeilen = {
+        {.schluessel = QStringLiteral("Apfel"), .angabe = QStringLiteral("2 Stück")},
+        {.text = QStringLiteral("Auflauf"), .angabe = QStringLiteral("1 Teller")}};
+    meine.tage[0].mahlzeiten[0].notiz = QStringLiteral("kalt");
+    meine.tage[1].notiz = QStringLiteral("Geburtstag");
+    Aufzeichnung andere = alt;
+    andere.titel = QStringLiteral("Erste Woche");
+    const Kollisionsfenster fenster({{QStringLiteral("k"), meine, Satz(alt)}, andere},
+                                    QStringLiteral("Anna"), nullptr);
+    QVERIFY(texte(fenster).contains(
+        QStringLiteral("Mo. 23.11.26\nFrühstück: Apfel, 2 Stück; Auflauf, 1 Teller; kalt\n"
+                       "Di. 24.11.26\nGeburtstag")));
+    QVERIFY(texte(fenster).contains(QStringLiteral("Mo. 23.11.26\nDi. 24.11.26")));
+    const Aufzeichnung entschieden = std::get<Aufzeichnung>(fenster.entschieden());
+    QCOMPARE(entschieden.titel, QStringLiteral("Erste Woche")); // what only the other one changed
+    QVERIFY(entschieden.tage == meine.tage);
 }
 
 void TestKollisionsfenster::absentAndEmptyAreTold()

@@ -44,7 +44,13 @@ QList<Schreibwunsch> dreierlei()
     plan.titel = u"Woche"_s;
     plan.datum = QDate(2026, 11, 20);
     plan.posten = {{u"Apfel"_s, 150.5F, {}}};
-    return {{u"p"_s, anna()}, {u"p"_s, besuch(2, 0.1 + 0.2), Satz(besuch(2, 80))}, {u"p"_s, plan}};
+    Aufzeichnung tage = neueAufzeichnung(Aufzeichnungsart::Protokoll, QDate(2026, 11, 23), 2);
+    tage.kennung = u"t"_s;
+    tage.tage[1].mahlzeiten[0].zeilen = {{.text = u"Auflauf"_s, .angabe = u"1 Teller"_s}};
+    return {{u"p"_s, anna()},
+            {u"p"_s, besuch(2, 0.1 + 0.2), Satz(besuch(2, 80))},
+            {u"p"_s, plan},
+            {u"p"_s, tage}};
 }
 
 } // namespace

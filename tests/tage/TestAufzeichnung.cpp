@@ -95,7 +95,7 @@ void TestAufzeichnung::daysAreCalledByTheirDate()
     QCOMPARE(datumVon(eine, 1), QDate(2027, 1, 1));
     QCOMPARE(tagesname(eine, 0), u"Do. 31.12.26"_s);
     QCOMPARE(tagesname(eine, 1), u"Fr. 01.01.27"_s);
-    eine.beginn = {};
+    eine.datum = {};
     QVERIFY(datumVon(eine, 1).isNull());
     QCOMPARE(tagesname(eine, 1), u"Tag 2"_s);
 }

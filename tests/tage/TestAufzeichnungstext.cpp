@@ -74,7 +74,7 @@ void TestAufzeichnungstext::aRecordComesAsItWent()
 void TestAufzeichnungstext::withoutADateItComesWithoutOne()
 {
     Aufzeichnung eine = woche();
-    eine.beginn = {};
+    eine.datum = {};
     eine.art = Aufzeichnungsart::Protokoll;
     const Aufzeichnungslesung gelesen = leseAufzeichnung(alsText(eine));
     QCOMPARE(gelesen.zustand, Zustand::Gelesen);
@@ -199,7 +199,7 @@ void TestAufzeichnungstext::whatIsMissingIsHarmless()
     QCOMPARE(gelesen.zustand, Zustand::Gelesen);
     QCOMPARE(gelesen.aufzeichnung.tage.size(), 2);
     QVERIFY(gelesen.aufzeichnung.tage[0].imMittel);
-    QVERIFY(gelesen.aufzeichnung.beginn.isNull());
+    QVERIFY(gelesen.aufzeichnung.datum.isNull());
     QVERIFY(!gelesen.aufzeichnung.tage[1].mahlzeiten[0].zeilen[0].gramm.has_value());
 }
 
