@@ -84,7 +84,7 @@ QStringList tageszeilenkoepfe()
         localizedString(QStringLiteral("Tag")),
         localizedString(QStringLiteral("Mahlzeit")),
         localizedString(QStringLiteral("Lebensmittel")),
-        localizedString(QStringLiteral("Angabe")),
+        localizedString(QStringLiteral("Menge, wie gesagt")),
         mitEinheit(localizedString(QStringLiteral("Menge")), einheitszeichen(Einheit::Gramm))};
     return koepfe + wertekoepfe();
 }

@@ -4176,6 +4176,74 @@ New: %1</translation>
   <source>Sollen die Klienten aus der Datei dieses Platzes auf den Server?</source>
   <translation>Shall the clients in the file of this desk go onto the server?</translation>
  </message>
+ <message>
+  <source>Abendessen</source>
+  <translation>Dinner</translation>
+ </message>
+ <message>
+  <source>Art</source>
+  <translation>Kind</translation>
+ </message>
+ <message>
+  <source>Aufzeichnung</source>
+  <translation>Record of days</translation>
+ </message>
+ <message>
+  <source>Aufzeichnungen</source>
+  <translation>Records of days</translation>
+ </message>
+ <message>
+  <source>Frühstück</source>
+  <translation>Breakfast</translation>
+ </message>
+ <message>
+  <source>Mahlzeit</source>
+  <translation>Meal</translation>
+ </message>
+ <message>
+  <source>Mittagessen</source>
+  <translation>Lunch</translation>
+ </message>
+ <message>
+  <source>Nachmittag</source>
+  <translation>Afternoon</translation>
+ </message>
+ <message>
+  <source>Protokoll</source>
+  <translation>Food record</translation>
+ </message>
+ <message>
+  <source>Spät</source>
+  <translation>Late</translation>
+ </message>
+ <message>
+  <source>Tag</source>
+  <translation>Day</translation>
+ </message>
+ <message>
+  <source>Tag %1</source>
+  <translation>Day %1</translation>
+ </message>
+ <message>
+  <source>Tage</source>
+  <translation>Days</translation>
+ </message>
+ <message>
+  <source>Tageszeilen</source>
+  <translation>Day rows</translation>
+ </message>
+ <message>
+  <source>Vormittag</source>
+  <translation>Morning</translation>
+ </message>
+ <message>
+  <source>Wochenplan</source>
+  <translation>Week plan</translation>
+ </message>
+ <message>
+  <source>oder %1</source>
+  <translation>or %1</translation>
+ </message>
 </context>
 <context>
  <name>PlanmodulGestalt</name>

@@ -222,7 +222,7 @@ void TestAktentabellen::aFoodOfADayIsARow()
     const Csv::Tabelle tabelle = tageszeilentabelle({Aktenprobe::tage()});
     QCOMPARE(tabelle.spalten.first(7),
              QStringList({u"Aufzeichnung"_s, u"Tag"_s, u"Mahlzeit"_s, u"Lebensmittel"_s,
-                          u"Angabe"_s, u"Menge (g)"_s, u"Energie (kcal)"_s}));
+                          u"Menge, wie gesagt"_s, u"Menge (g)"_s, u"Energie (kcal)"_s}));
     QCOMPARE(tabelle.zeilen.size(), 4);
     const QList<Csv::Zelle> brot = {u"Zwei Tage"_s,  u"2026-09-07"_s, u"Frühstück"_s, u"Weißbrot"_s,
                                     u"2 Scheiben"_s, 50.0F,           127.5F};
