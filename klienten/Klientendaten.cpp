@@ -1,15 +1,8 @@
 #include "Klientendaten.h"
 
-#include <QUuid>
-
 bool Planposten::operator==(const Planposten &anderer) const
 {
     return schluessel == anderer.schluessel && gramm == anderer.gramm &&
            eintrag.has_value() == anderer.eintrag.has_value() &&
            (!eintrag || gleicherInhalt(*eintrag, *anderer.eintrag));
-}
-
-QString neueKennung()
-{
-    return QUuid::createUuid().toString(QUuid::WithoutBraces);
 }

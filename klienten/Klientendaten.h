@@ -93,6 +93,3 @@ struct Klientenakte
 
     bool operator==(const Klientenakte &) const = default;
 };
-
-/// A name for a record that no other has, at no desk.
-QString neueKennung();

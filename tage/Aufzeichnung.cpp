@@ -4,6 +4,7 @@
 
 #include <QCoreApplication>
 #include <QLocale>
+#include <QUuid>
 
 #include <algorithm>
 
@@ -19,6 +20,11 @@ bool Mahlzeitzeile::operator==(const Mahlzeitzeile &andere) const
            gramm == andere.gramm && oder == andere.oder &&
            eintrag.has_value() == andere.eintrag.has_value() &&
            (!eintrag || gleicherInhalt(*eintrag, *andere.eintrag));
+}
+
+QString neueKennung()
+{
+    return QUuid::createUuid().toString(QUuid::WithoutBraces);
 }
 
 Aufzeichnung neueAufzeichnung(Aufzeichnungsart art, const QDate &datum, int tage)

@@ -77,6 +77,9 @@ inline constexpr int meisteMahlzeiten = 16;
 /// The meals that a new record has, in German.
 extern const std::array<const char *, 6> ueblicheMahlzeiten;
 
+/// A name for a record that no other has, at no desk.
+QString neueKennung();
+
 /// A new record with the usual meals, and nothing in them. Fewer days than 1 are 1, more than
 /// `meisteTage` are so many.
 Aufzeichnung neueAufzeichnung(Aufzeichnungsart art, const QDate &datum, int tage);

@@ -1,0 +1,71 @@
+#pragma once
+
+#include "Aufzeichnungsablage.h"
+
+#include <QUndoStack>
+
+#include <functional>
+#include <optional>
+
+/// The records of days that are at hand, and the one that is worked at. Whatever is changed is kept
+/// at once and can be taken back.
+class Tagebuch : public QObject
+{
+    Q_OBJECT
+
+public:
+    /// What is done to a record; false: nothing was.
+    using Tat = std::function<bool(Aufzeichnung &)>;
+
+    /// The place outlives this object, or `setzeAblage` is called before it goes.
+    explicit Tagebuch(Aufzeichnungsablage &ablage);
+
+    /// Other records from now on; what was done to those before can't be taken back any more.
+    void setzeAblage(Aufzeichnungsablage &ablage);
+    Aufzeichnungsablage &ablage() const { return *m_ablage; }
+
+    const QList<Aufzeichnung> &alle() const { return m_alle; }
+    /// The record that is worked at; absent while there is none.
+    std::optional<Aufzeichnung> jetzige() const;
+    /// Its place among all; −1 while there is none.
+    int stelle() const { return m_stelle; }
+    void waehle(int stelle);
+
+    /// Whether the record can be changed: it is not of a newer version, and its place takes it.
+    bool aenderbar() const;
+
+    /// The day on display, counted from 0.
+    int tag() const { return m_tag; }
+    void waehleTag(int tag);
+
+    /// Begins a record, which is worked at from now on.
+    void beginne(const Aufzeichnung &neue);
+    /// Takes the record away. It can't be taken back; who calls this has asked.
+    bool loesche();
+    /// Changes the record, keeps it and remembers how it was. `was` says in a few words what was
+    /// done, for "Rückgängig: …". False: nothing was changed.
+    bool aendere(const QString &was, const Tat &tat);
+
+    QUndoStack schritte; ///< of the record that is worked at
+
+Q_SIGNALS:
+    /// Another record is worked at, or none, or there are others to choose from.
+    void gewechselt();
+    /// The record says something else now.
+    void geaendert();
+    /// Another day is on display.
+    void tagGewechselt();
+
+private:
+    class Schritt;
+
+    void liesNeu();
+    void stelleHer(const Aufzeichnung &stand);
+    void sichere(const Aufzeichnung &neu);
+
+    Aufzeichnungsablage *m_ablage;
+    QList<Aufzeichnung> m_alle;
+    int m_stelle = -1;
+    int m_tag = 0;
+    bool m_sichert = false; ///< what the place tells now comes from here
+};

@@ -1,0 +1,299 @@
+#include "Tagefenster.h"
+
+#include "Aufzeichnungsaenderung.h"
+#include "Schriftplatz.h"
+#include "Schriftstufe.h"
+#include "Tabellenkopie.h"
+#include "Zeichenkettentabelle.h"
+#include "Zeilenhoehe.h"
+
+#include <QCoreApplication>
+#include <QHeaderView>
+#include <QScopedValueRollback>
+
+#include <array>
+#include <utility>
+
+namespace {
+
+constexpr int zeilenhoehe = 24;
+constexpr int ziffern = 7; // of the widest number in a column
+/// No client was recorded before it; stands for days of no certain date.
+const QDate ohneDatum(1900, 1, 1);
+
+/// The two kinds, in their order.
+constexpr std::array<const char *, 2> arten = {QT_TRANSLATE_NOOP("Mahlberg", "Protokoll"),
+                                               QT_TRANSLATE_NOOP("Mahlberg", "Wochenplan")};
+
+/// How a record is called in the list of all.
+QString aufzeichnungsname(const Aufzeichnung &eine)
+{
+    const QString art =
+        localizedString(QString::fromUtf8(arten.at(static_cast<std::size_t>(eine.art))));
+    const QString titel = eine.titel.isEmpty() ? art : eine.titel;
+    return eine.datum.isValid() ? QStringLiteral("%1, %2").arg(
+                                      titel, QLocale().toString(eine.datum, QLocale::ShortFormat))
+                                : titel;
+}
+
+} // namespace
+
+Tagefenster::Tagefenster(Aufzeichnungsablage &ablage, Tagetueren tueren)
+    : TagefensterGestalt()
+    , buch(ablage)
+    , m_tueren(std::move(tueren))
+{
+    setupUi(this);
+    for (const char *eine : arten) {
+        art->addItem(localizedString(QString::fromUtf8(eine)));
+    }
+    datum->setMinimumDate(ohneDatum);
+    tagezahl->setMaximum(meisteTage);
+    baueTabellen();
+    baueMenue();
+    teiler->setStretchFactor(0, 3);
+    teiler->setStretchFactor(1, 2);
+    fusszeile->setMinimumHeight(hinweise->zweizeilig());
+    hinweise->vertritt(fusszeile);
+    verbinde();
+    Schriftstufe::kleide(*this);
+    Schriftplatz::gib(*this);
+    zeigeAuswahl();
+}
+
+void Tagefenster::baueTabellen()
+{
+    ansicht->setVorschlaege([this](int, int spalte, const QString &text) {
+        QList<Vorschlagsfeld::Vorschlag> vorschlaege;
+        if (spalte == Tagesmodell::Name) {
+            for (const Suchtreffer &treffer : m_tueren.suche(text).treffer) {
+                vorschlaege << Vorschlagsfeld::Vorschlag{treffer.anzeige, treffer.schluessel};
+            }
+        }
+        return vorschlaege;
+    });
+    const int breite = ziffern * fontMetrics().horizontalAdvance(u'0') + 10;
+    ansicht->verticalHeader()->setDefaultSectionSize(zeilenhoeheFuer(*ansicht, zeilenhoehe));
+    QHeaderView &kopf = *ansicht->horizontalHeader();
+    for (int spalte = Tagesmodell::Angabe; spalte < Tagesmodell::anzahlSpalten; ++spalte) {
+        kopf.resizeSection(spalte, spalte == Tagesmodell::Angabe ? 2 * breite
+                                   : spalte < Tagesmodell::Fest  ? breite
+                                                                 : breite / 2);
+    }
+    kopf.setMinimumSectionSize(breite / 2);
+    kopf.setSectionResizeMode(Tagesmodell::Name, QHeaderView::Stretch);
+    summen->setModel(&m_summen);
+    summen->setSelectionMode(QAbstractItemView::NoSelection);
+    summen->verticalHeader()->setDefaultSectionSize(zeilenhoeheFuer(*summen, zeilenhoehe));
+    summen->horizontalHeader()->setSectionResizeMode(QHeaderView::Stretch);
+    summen->horizontalHeader()->setHighlightSections(false);
+    Tabellenkopie::ermoegliche(*summen);
+}
+
+void Tagefenster::verbinde()
+{
+    connect(&buch, &Tagebuch::gewechselt, this, &Tagefenster::zeigeAuswahl);
+    connect(&buch, &Tagebuch::geaendert, this, &Tagefenster::zeigeKopf);
+    connect(&buch, &Tagebuch::tagGewechselt, this, &Tagefenster::zeigeTag);
+    connect(ansicht, &Tagesansicht::getippt, this, &Tagefenster::nimmAn);
+    connect(ansicht, &Tagesansicht::loeschenGewuenscht, this, &Tagefenster::loescheZeilen);
+    connect(ansicht->selectionModel(), &QItemSelectionModel::currentChanged, this, [this] {
+        zeigeNotizen();
+        zeigeSummen();
+    });
+    connect(auswahl, &QComboBox::activated, this, [this](int stelle) { buch.waehle(stelle); });
+    connect(neuknopf, &QPushButton::clicked, this, &Tagefenster::neuesProtokoll);
+    connect(tage, &QTabBar::currentChanged, this, [this](int tag) {
+        if (!m_zeigt) {
+            ansicht->beende();
+            buch.waehleTag(tag);
+        }
+    });
+    connect(titel, &QLineEdit::editingFinished, this, [this] {
+        aendere(QT_TRANSLATE_NOOP("Mahlberg", "Titel ändern"), [this](Aufzeichnung &eine) {
+            eine.titel = titel->text().trimmed();
+            return true;
+        });
+    });
+    connect(art, &QComboBox::activated, this, [this](int stelle) {
+        aendere(QT_TRANSLATE_NOOP("Mahlberg", "Art ändern"), [stelle](Aufzeichnung &eine) {
+            eine.art = static_cast<Aufzeichnungsart>(stelle);
+            return true;
+        });
+    });
+    connect(datum, &QDateEdit::dateChanged, this, [this](const QDate &neues) {
+        aendere(QT_TRANSLATE_NOOP("Mahlberg", "Ersten Tag ändern"), [neues](Aufzeichnung &eine) {
+            eine.datum = neues == ohneDatum ? QDate() : neues;
+            return true;
+        });
+    });
+    connect(tagezahl, &QSpinBox::valueChanged, this, [this](int zahl) {
+        aendere(QT_TRANSLATE_NOOP("Mahlberg", "Zahl der Tage ändern"), [zahl](Aufzeichnung &eine) {
+            return Aufzeichnungsaenderung::setzeTagezahl(eine, zahl);
+        });
+    });
+    connect(mahlzeitnotiz, &QLineEdit::editingFinished, this, [this] {
+        if (const auto platz = ansicht->platz()) {
+            aendere(QT_TRANSLATE_NOOP("Mahlberg", "Notiz ändern"), [&](Aufzeichnung &eine) {
+                eine.tage[buch.tag()].mahlzeiten[platz->mahlzeit].notiz = mahlzeitnotiz->text();
+                return true;
+            });
+        }
+    });
+    connect(tagesnotiz, &QLineEdit::editingFinished, this, [this] {
+        aendere(QT_TRANSLATE_NOOP("Mahlberg", "Notiz ändern"), [this](Aufzeichnung &eine) {
+            eine.tage[buch.tag()].notiz = tagesnotiz->text();
+            return true;
+        });
+    });
+    connect(imMittel, &QCheckBox::clicked, this, [this](bool ja) {
+        aendere(QT_TRANSLATE_NOOP("Mahlberg", "Tag im Mittel"), [this, ja](Aufzeichnung &eine) {
+            eine.tage[buch.tag()].imMittel = ja;
+            return true;
+        });
+    });
+}
+
+/// Nothing is changed while the controls are only told what there is.
+bool Tagefenster::aendere(const char *was, const Tagebuch::Tat &tat)
+{
+    return !m_zeigt && buch.aendere(localizedString(QString::fromUtf8(was)), tat);
+}
+
+void Tagefenster::zeige()
+{
+    show();
+    setWindowState(windowState() & ~Qt::WindowMinimized);
+    raise();
+    activateWindow();
+    ansicht->setFocus();
+}
+
+void Tagefenster::frischeAuf()
+{
+    zeigeSummen();
+}
+
+/// Which records there are, and all of the one that is worked at.
+void Tagefenster::zeigeAuswahl()
+{
+    const QScopedValueRollback zeigt(m_zeigt, true);
+    auswahl->clear();
+    for (const Aufzeichnung &eine : buch.alle()) {
+        auswahl->addItem(aufzeichnungsname(eine));
+    }
+    auswahl->setCurrentIndex(buch.stelle());
+    auswahl->setEnabled(auswahl->count() > 0);
+    neuknopf->setEnabled(buch.ablage().beschreibbar());
+    const QString wer = buch.ablage().wessen();
+    fusszeile->setText(
+        wer.isEmpty()
+            ? localizedString(QStringLiteral(
+                  "Ohne Klienten am Schreibtisch: Die Aufzeichnungen stehen in einer Datei "
+                  "an diesem Platz, die nur Sie lesen können."))
+            : localizedString(QStringLiteral("Aufzeichnungen von %1.")).arg(wer));
+    leerworte->setText(localizedString(
+        QStringLiteral("Noch keine Aufzeichnung. Mit „Neu“ beginnen Sie ein Protokoll.")));
+    zeigeKopf();
+}
+
+void Tagefenster::zeigeKopf()
+{
+    const QScopedValueRollback zeigt(m_zeigt, true);
+    const std::optional<Aufzeichnung> eine = buch.jetzige();
+    const bool aenderbar = buch.aenderbar();
+    seiten->setCurrentWidget(eine ? arbeitsseite : leerseite);
+    for (QWidget *feld : std::initializer_list<QWidget *>{titel, art, datum, tagezahl,
+                                                          mahlzeitnotiz, tagesnotiz, imMittel}) {
+        feld->setEnabled(aenderbar);
+    }
+    const Aufzeichnung gezeigte =
+        eine.value_or(neueAufzeichnung(Aufzeichnungsart::Protokoll, {}, 1));
+    if (titel->text() != gezeigte.titel) {
+        titel->setText(gezeigte.titel);
+    }
+    art->setCurrentIndex(static_cast<int>(gezeigte.art));
+    datum->setDate(gezeigte.datum.isValid() ? gezeigte.datum : ohneDatum);
+    tagezahl->setValue(static_cast<int>(gezeigte.tage.size()));
+    if (eine && buch.stelle() < auswahl->count()) {
+        auswahl->setItemText(buch.stelle(), aufzeichnungsname(*eine));
+    }
+    zeigeTage();
+    zeigeTag();
+}
+
+/// A tab for each day.
+void Tagefenster::zeigeTage()
+{
+    const Aufzeichnung eine = buch.jetzige().value_or(Aufzeichnung());
+    const auto anzahl = static_cast<int>(eine.tage.size());
+    while (tage->count() > anzahl) {
+        tage->removeTab(tage->count() - 1);
+    }
+    for (int tag = 0; tag < anzahl; ++tag) {
+        const QString name = tagesname(eine, tag);
+        if (tag < tage->count()) {
+            tage->setTabText(tag, name);
+        } else {
+            tage->addTab(name);
+        }
+    }
+}
+
+void Tagefenster::zeigeTag()
+{
+    const QScopedValueRollback zeigt(m_zeigt, true);
+    const Aufzeichnung eine = buch.jetzige().value_or(Aufzeichnung());
+    tage->setCurrentIndex(buch.tag());
+    ansicht->zeige(eine, buch.tag(), buch.aenderbar());
+    zeigeNotizen();
+    zeigeSummen();
+}
+
+void Tagefenster::zeigeNotizen()
+{
+    const QScopedValueRollback zeigt(m_zeigt, true);
+    const std::optional<Aufzeichnung> eine = buch.jetzige();
+    const std::optional<Tagesmodell::Platz> platz = ansicht->platz();
+    const Tag tag = eine ? eine->tage[buch.tag()] : Tag();
+    tagesnotiz->setText(tag.notiz);
+    imMittel->setChecked(tag.imMittel);
+    const bool mitMahlzeit = platz && platz->mahlzeit < tag.mahlzeiten.size();
+    mahlzeitnotiz->setText(mitMahlzeit ? tag.mahlzeiten[platz->mahlzeit].notiz : QString());
+    mahlzeitnotiz->setEnabled(mitMahlzeit && buch.aenderbar());
+}
+
+void Tagefenster::zeigeSummen()
+{
+    const Aufzeichnung eine = buch.jetzige().value_or(Aufzeichnung());
+    const Energiebedarf bedarf = m_tueren.bedarf();
+    Summenmodell::Stand stand;
+    stand.tag = rechneTag(eine, buch.tag(), bedarf);
+    stand.mittel = rechneMittel(eine, bedarf);
+    stand.mitBedarf = bedarf.bedarf > 0;
+    if (const std::optional<Tagesmodell::Platz> platz = ansicht->platz()) {
+        stand.mahlzeit = stand.tag.mahlzeiten.at(static_cast<std::size_t>(platz->mahlzeit));
+        if (const Mahlzeitzeile *zeile =
+                ansicht->tagesmodell().zeile(ansicht->currentIndex().row())) {
+            stand.zeile = zeilenwerte(*zeile);
+        }
+    }
+    const int tage = stand.mittel.tage;
+    const int unverstanden = stand.tag.unverstanden;
+    m_summen.zeige(std::move(stand));
+    QStringList saetze = {localizedString(QStringLiteral("Tage im Mittel: %1.")).arg(tage)};
+    if (unverstanden > 0) {
+        saetze << localizedString(QStringLiteral("Zeilen dieses Tages, die nicht zählen: %1."))
+                      .arg(unverstanden);
+    }
+    mittelworte->setText(saetze.join(u' '));
+}
+
+void Tagefenster::folgeSprache()
+{
+    for (int stelle = 0; stelle < art->count(); ++stelle) {
+        art->setItemText(
+            stelle, localizedString(QString::fromUtf8(arten.at(static_cast<std::size_t>(stelle)))));
+    }
+    zeigeAuswahl();
+}

@@ -1,0 +1,217 @@
+// What the menus of the window of the days do.
+
+#include "Tagefenster.h"
+
+#include "Aufzeichnungsaenderung.h"
+#include "Zeichenkettentabelle.h"
+
+#include <QCoreApplication>
+#include <QMenuBar>
+
+#include <algorithm>
+
+namespace {
+
+constexpr int tageEinerWoche = 7;
+
+struct Menuezeile
+{
+    const char *text;
+    QKeySequence tasten;
+    void (Tagefenster::*tat)();
+    bool trennung = false; ///< a line below it
+};
+
+void fuelle(QMenu &menue, Tagefenster &fenster, std::initializer_list<Menuezeile> zeilen)
+{
+    for (const Menuezeile &zeile : zeilen) {
+        QAction *aktion = menue.addAction(localizedString(QString::fromUtf8(zeile.text)));
+        aktion->setShortcut(zeile.tasten);
+        QObject::connect(aktion, &QAction::triggered, &fenster, zeile.tat);
+        if (zeile.trennung) {
+            menue.addSeparator();
+        }
+    }
+}
+
+} // namespace
+
+void Tagefenster::baueMenue()
+{
+    QMenu &aufzeichnung = *menuBar()->addMenu(localizedString(QStringLiteral("&Aufzeichnung")));
+    fuelle(aufzeichnung, *this,
+           {{QT_TRANSLATE_NOOP("Mahlberg", "&Neues Protokoll"), QKeySequence::New,
+             &Tagefenster::neuesProtokoll},
+            {QT_TRANSLATE_NOOP("Mahlberg", "Neuer &Wochenplan"),
+             QKeySequence(QStringLiteral("Ctrl+Shift+N")), &Tagefenster::neuerWochenplan},
+            {QT_TRANSLATE_NOOP("Mahlberg", "Aufzeichnung &löschen …"),
+             {},
+             &Tagefenster::loescheAufzeichnung,
+             true}});
+    QAction *schliessen = aufzeichnung.addAction(localizedString(QStringLiteral("S&chließen")));
+    schliessen->setShortcut(QKeySequence::Close);
+    connect(schliessen, &QAction::triggered, this, &QWidget::close);
+
+    QMenu &bearbeiten = *menuBar()->addMenu(localizedString(QStringLiteral("&Bearbeiten")));
+    QAction *zurueck =
+        buch.schritte.createUndoAction(this, localizedString(QStringLiteral("Rückgängig:")));
+    zurueck->setShortcut(QKeySequence::Undo);
+    QAction *wieder =
+        buch.schritte.createRedoAction(this, localizedString(QStringLiteral("Wiederholen:")));
+    wieder->setShortcut(QKeySequence::Redo);
+    bearbeiten.addActions({zurueck, wieder});
+    bearbeiten.addSeparator();
+    fuelle(
+        bearbeiten, *this,
+        {{QT_TRANSLATE_NOOP("Mahlberg", "Zeilen &herausnehmen"), {}, &Tagefenster::loescheZeilen},
+         {QT_TRANSLATE_NOOP("Mahlberg", "Als &Wahl zur Zeile davor („oder“)"),
+          QKeySequence(QStringLiteral("Ctrl+Shift+O")), &Tagefenster::wechsleOder}});
+
+    QMenu &mahlzeit = *menuBar()->addMenu(localizedString(QStringLiteral("&Mahlzeit")));
+    fuelle(
+        mahlzeit, *this,
+        {{QT_TRANSLATE_NOOP("Mahlberg", "&Neue Mahlzeit darunter"), {}, &Tagefenster::neueMahlzeit},
+         {QT_TRANSLATE_NOOP("Mahlberg", "Mahlzeit &hinauf"), {}, &Tagefenster::mahlzeitHinauf},
+         {QT_TRANSLATE_NOOP("Mahlberg", "Mahlzeit h&inunter"), {}, &Tagefenster::mahlzeitHinunter},
+         {QT_TRANSLATE_NOOP("Mahlberg", "Mahlzeit heraus&nehmen"),
+          {},
+          &Tagefenster::loescheMahlzeit}});
+
+    QMenu &tag = *menuBar()->addMenu(localizedString(QStringLiteral("&Tag")));
+    fuelle(tag, *this,
+           {{QT_TRANSLATE_NOOP("Mahlberg", "&Nächster Tag"),
+             QKeySequence(QStringLiteral("Ctrl+PgDown")), &Tagefenster::naechsterTag},
+            {QT_TRANSLATE_NOOP("Mahlberg", "&Voriger Tag"),
+             QKeySequence(QStringLiteral("Ctrl+PgUp")), &Tagefenster::vorigerTag, true},
+            {QT_TRANSLATE_NOOP("Mahlberg", "In alle &folgenden Tage füllen"),
+             {},
+             &Tagefenster::fuelleTage},
+            {QT_TRANSLATE_NOOP("Mahlberg", "Tag &leeren"), {}, &Tagefenster::leereTag}});
+
+    QMenu &hilfe = *menuBar()->addMenu(localizedString(QStringLiteral("&Hilfe")));
+    QAction *handbuch = hilfe.addAction(localizedString(QStringLiteral("&Handbuch")));
+    handbuch->setShortcut(QKeySequence(QStringLiteral("F1")));
+    connect(handbuch, &QAction::triggered, this, &Tagefenster::hilfeGewuenscht);
+}
+
+/// Clients write down three days as a rule.
+void Tagefenster::neuesProtokoll()
+{
+    constexpr int tageEinesProtokolls = 3;
+    ansicht->beende();
+    if (buch.ablage().beschreibbar()) {
+        buch.beginne(
+            neueAufzeichnung(Aufzeichnungsart::Protokoll, m_tueren.heute(), tageEinesProtokolls));
+        ansicht->setFocus();
+        geheZuMahlzeit(0);
+    }
+}
+
+void Tagefenster::neuerWochenplan()
+{
+    ansicht->beende();
+    if (buch.ablage().beschreibbar()) {
+        buch.beginne(neueAufzeichnung(Aufzeichnungsart::Wochenplan, {}, tageEinerWoche));
+        ansicht->setFocus();
+        geheZuMahlzeit(0);
+    }
+}
+
+void Tagefenster::loescheAufzeichnung()
+{
+    ansicht->beende();
+    if (!buch.aenderbar()) {
+        return;
+    }
+    const int antwort = m_tueren.melde(
+        this, {.text = localizedString(QStringLiteral("Die Aufzeichnung „%1“ löschen?"))
+                           .arg(auswahl->currentText()),
+               .erklaerung = localizedString(QStringLiteral(
+                   "Alle ihre Tage gehen verloren. Das lässt sich nicht zurücknehmen.")),
+               .knoepfe = {localizedString(QStringLiteral("Behalten")),
+                           localizedString(QStringLiteral("Löschen"))},
+               .gefahr = true});
+    if (antwort == 1) {
+        buch.loesche();
+    }
+}
+
+void Tagefenster::loescheZeilen()
+{
+    const QList<Tagesmodell::Platz> plaetze = ansicht->gewaehlteZeilen();
+    aendere(QT_TRANSLATE_NOOP("Mahlberg", "Zeilen herausnehmen"), [&](Aufzeichnung &eine) {
+        bool etwas = false;
+        // From below, so that the places of the others stay as they are.
+        for (auto platz = plaetze.rbegin(); platz != plaetze.rend(); ++platz) {
+            etwas |= Aufzeichnungsaenderung::nimmHeraus(eine, buch.tag(), platz->mahlzeit,
+                                                        {platz->zeile});
+        }
+        return etwas;
+    });
+}
+
+void Tagefenster::wechsleOder()
+{
+    const std::optional<Tagesmodell::Platz> platz = ansicht->platz();
+    const Mahlzeitzeile *zeile = ansicht->tagesmodell().zeile(ansicht->currentIndex().row());
+    if (platz && zeile != nullptr) {
+        const bool oder = !zeile->oder;
+        aendere(QT_TRANSLATE_NOOP("Mahlberg", "Wahl ändern"), [&](Aufzeichnung &eine) {
+            return Aufzeichnungsaenderung::setzeOder(
+                eine, {buch.tag(), platz->mahlzeit, platz->zeile}, oder);
+        });
+    }
+}
+
+void Tagefenster::fuelleTage()
+{
+    aendere(QT_TRANSLATE_NOOP("Mahlberg", "Tage füllen"), [this](Aufzeichnung &eine) {
+        QList<int> folgende;
+        for (int tag = buch.tag() + 1; tag < eine.tage.size(); ++tag) {
+            folgende << tag;
+        }
+        return Aufzeichnungsaenderung::fuelle(eine, buch.tag(), folgende);
+    });
+}
+
+void Tagefenster::leereTag()
+{
+    aendere(QT_TRANSLATE_NOOP("Mahlberg", "Tag leeren"),
+            [this](Aufzeichnung &eine) { return Aufzeichnungsaenderung::leere(eine, buch.tag()); });
+}
+
+void Tagefenster::neueMahlzeit()
+{
+    const std::optional<Tagesmodell::Platz> platz = ansicht->platz();
+    const int stelle = platz ? platz->mahlzeit + 1 : 0;
+    const QString name = localizedString(QStringLiteral("Neue Mahlzeit"));
+    if (aendere(QT_TRANSLATE_NOOP("Mahlberg", "Mahlzeit einfügen"), [&](Aufzeichnung &eine) {
+            return Aufzeichnungsaenderung::fuegeMahlzeitEin(eine, stelle, name);
+        })) {
+        ansicht->geheZu({Tagesmodell::Art::Mahlzeit, stelle, 0}, Tagesmodell::Name);
+        ansicht->beginne();
+    }
+}
+
+void Tagefenster::loescheMahlzeit()
+{
+    if (const std::optional<Tagesmodell::Platz> platz = ansicht->platz()) {
+        aendere(QT_TRANSLATE_NOOP("Mahlberg", "Mahlzeit herausnehmen"), [&](Aufzeichnung &eine) {
+            return Aufzeichnungsaenderung::nimmMahlzeitHeraus(eine, platz->mahlzeit);
+        });
+    }
+}
+
+void Tagefenster::verschiebeMahlzeit(int um)
+{
+    const std::optional<Tagesmodell::Platz> platz = ansicht->platz();
+    if (!platz) {
+        return;
+    }
+    const int nach = platz->mahlzeit + um;
+    if (aendere(QT_TRANSLATE_NOOP("Mahlberg", "Mahlzeit verschieben"), [&](Aufzeichnung &eine) {
+            return Aufzeichnungsaenderung::verschiebeMahlzeit(eine, platz->mahlzeit, nach);
+        })) {
+        ansicht->geheZu({Tagesmodell::Art::Mahlzeit, nach, 0}, Tagesmodell::Name);
+    }
+}
