@@ -278,10 +278,11 @@ void Tagefenster::zeigeSummen()
             stand.zeile = zeilenwerte(*zeile);
         }
     }
-    const int tage = stand.mittel.tage;
+    const int imMittelGezaehlt = stand.mittel.tage;
     const int unverstanden = stand.tag.unverstanden;
     m_summen.zeige(std::move(stand));
-    QStringList saetze = {localizedString(QStringLiteral("Tage im Mittel: %1.")).arg(tage)};
+    QStringList saetze = {
+        localizedString(QStringLiteral("Tage im Mittel: %1.")).arg(imMittelGezaehlt)};
     if (unverstanden > 0) {
         saetze << localizedString(QStringLiteral("Zeilen dieses Tages, die nicht zählen: %1."))
                       .arg(unverstanden);
