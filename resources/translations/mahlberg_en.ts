@@ -40,8 +40,28 @@
   <translation>Cholesterol, mg</translation>
  </message>
  <message>
+  <source>Das ist keine Mengenangabe.</source>
+  <translation>This is no amount.</translation>
+ </message>
+ <message>
   <source>Diabetes</source>
   <translation>Diabetes</translation>
+ </message>
+ <message>
+  <source>Die Menge darf nicht negativ sein.</source>
+  <translation>The amount must not be negative.</translation>
+ </message>
+ <message>
+  <source>Die Menge muss mehr als null sein.</source>
+  <translation>The amount must be more than zero.</translation>
+ </message>
+ <message>
+  <source>Diese Menge ist keine endliche Zahl.</source>
+  <translation>This amount is not a finite number.</translation>
+ </message>
+ <message>
+  <source>Dieses Lebensmittel hat kein solches Maß.</source>
+  <translation>This food has no such measure.</translation>
  </message>
  <message>
   <source>Eisen</source>
@@ -112,6 +132,10 @@
   <translation>Magnesium, mg</translation>
  </message>
  <message>
+  <source>Mehr als 100 kg sind nicht möglich.</source>
+  <translation>More than 100 kg are not possible.</translation>
+ </message>
+ <message>
   <source>Natrium</source>
   <translation>Sodium</translation>
  </message>
@@ -122,6 +146,10 @@
  <message>
   <source>Neues Lebensmittel</source>
   <translation>New food</translation>
+ </message>
+ <message>
+  <source>So beginnen mehrere Maße dieses Lebensmittels.</source>
+  <translation>Several measures of this food begin like this.</translation>
  </message>
  <message>
   <source>oder als Salz</source>
