@@ -27,19 +27,50 @@ constexpr std::array<std::pair<char16_t, double>, 5> bruchzeichen = {
 /// What is below 1 is a part of one.
 const QHash<QString, double> &zahlworte()
 {
-    static const QHash<QString, double> worte = {
-        {u"ein"_s, 1},          {u"eine"_s, 1},        {u"einen"_s, 1},        {u"einem"_s, 1},
-        {u"einer"_s, 1},        {u"eines"_s, 1},       {u"a"_s, 1},            {u"an"_s, 1},
-        {u"one"_s, 1},          {u"zwei"_s, 2},        {u"two"_s, 2},          {u"drei"_s, 3},
-        {u"three"_s, 3},        {u"vier"_s, 4},        {u"four"_s, 4},         {u"fünf"_s, 5},
-        {u"five"_s, 5},         {u"sechs"_s, 6},       {u"six"_s, 6},          {u"sieben"_s, 7},
-        {u"seven"_s, 7},        {u"acht"_s, 8},        {u"eight"_s, 8},        {u"neun"_s, 9},
-        {u"nine"_s, 9},         {u"zehn"_s, 10},       {u"ten"_s, 10},         {u"elf"_s, 11},
-        {u"eleven"_s, 11},      {u"zwölf"_s, 12},      {u"twelve"_s, 12},      {u"halb"_s, 0.5},
-        {u"halbe"_s, 0.5},      {u"halben"_s, 0.5},    {u"halber"_s, 0.5},     {u"halbes"_s, 0.5},
-        {u"half"_s, 0.5},       {u"viertel"_s, 0.25},  {u"quarter"_s, 0.25},   {u"quarters"_s, 0.25},
-        {u"dreiviertel"_s, 0.75}, {u"anderthalb"_s, 1.5}, {u"eineinhalb"_s, 1.5},
-        {u"zweieinhalb"_s, 2.5}};
+    static const QHash<QString, double> worte = {{u"ein"_s, 1},
+                                                 {u"eine"_s, 1},
+                                                 {u"einen"_s, 1},
+                                                 {u"einem"_s, 1},
+                                                 {u"einer"_s, 1},
+                                                 {u"eines"_s, 1},
+                                                 {u"a"_s, 1},
+                                                 {u"an"_s, 1},
+                                                 {u"one"_s, 1},
+                                                 {u"zwei"_s, 2},
+                                                 {u"two"_s, 2},
+                                                 {u"drei"_s, 3},
+                                                 {u"three"_s, 3},
+                                                 {u"vier"_s, 4},
+                                                 {u"four"_s, 4},
+                                                 {u"fünf"_s, 5},
+                                                 {u"five"_s, 5},
+                                                 {u"sechs"_s, 6},
+                                                 {u"six"_s, 6},
+                                                 {u"sieben"_s, 7},
+                                                 {u"seven"_s, 7},
+                                                 {u"acht"_s, 8},
+                                                 {u"eight"_s, 8},
+                                                 {u"neun"_s, 9},
+                                                 {u"nine"_s, 9},
+                                                 {u"zehn"_s, 10},
+                                                 {u"ten"_s, 10},
+                                                 {u"elf"_s, 11},
+                                                 {u"eleven"_s, 11},
+                                                 {u"zwölf"_s, 12},
+                                                 {u"twelve"_s, 12},
+                                                 {u"halb"_s, 0.5},
+                                                 {u"halbe"_s, 0.5},
+                                                 {u"halben"_s, 0.5},
+                                                 {u"halber"_s, 0.5},
+                                                 {u"halbes"_s, 0.5},
+                                                 {u"half"_s, 0.5},
+                                                 {u"viertel"_s, 0.25},
+                                                 {u"quarter"_s, 0.25},
+                                                 {u"quarters"_s, 0.25},
+                                                 {u"dreiviertel"_s, 0.75},
+                                                 {u"anderthalb"_s, 1.5},
+                                                 {u"eineinhalb"_s, 1.5},
+                                                 {u"zweieinhalb"_s, 2.5}};
     return worte;
 }
 
@@ -47,14 +78,18 @@ const QHash<QString, double> &zahlworte()
 const QHash<QString, QString> &kurzformen()
 {
     static const QHash<QString, QString> formen = {
-        {u"essl"_s, u"el"_s},         {u"esslöffel"_s, u"el"_s},     {u"esslöffeln"_s, u"el"_s},
-        {u"teel"_s, u"tl"_s},         {u"teelöffel"_s, u"tl"_s},     {u"teelöffeln"_s, u"tl"_s},
-        {u"tablespoon"_s, u"tbsp"_s}, {u"tablespoons"_s, u"tbsp"_s}, {u"teaspoon"_s, u"tsp"_s},
-        {u"teaspoons"_s, u"tsp"_s},   {u"stk"_s, u"stück"_s},        {u"stck"_s, u"stück"_s},
-        {u"port"_s, u"portion"_s},    {u"pc"_s, u"piece"_s},         {u"pcs"_s, u"pieces"_s},
-        {u"gr"_s, u"g"_s},            {u"gramm"_s, u"g"_s},          {u"gram"_s, u"g"_s},
-        {u"grams"_s, u"g"_s},         {u"kilo"_s, u"kg"_s},          {u"kilogramm"_s, u"kg"_s},
-        {u"milliliter"_s, u"ml"_s},   {u"liter"_s, u"l"_s},          {u"litre"_s, u"l"_s},
+        {u"essl"_s, u"el"_s},         {u"esslöffel"_s, u"el"_s},
+        {u"esslöffeln"_s, u"el"_s},   {u"teel"_s, u"tl"_s},
+        {u"teelöffel"_s, u"tl"_s},    {u"teelöffeln"_s, u"tl"_s},
+        {u"tablespoon"_s, u"tbsp"_s}, {u"tablespoons"_s, u"tbsp"_s},
+        {u"teaspoon"_s, u"tsp"_s},    {u"teaspoons"_s, u"tsp"_s},
+        {u"stk"_s, u"stück"_s},       {u"stck"_s, u"stück"_s},
+        {u"port"_s, u"portion"_s},    {u"pc"_s, u"piece"_s},
+        {u"pcs"_s, u"pieces"_s},      {u"gr"_s, u"g"_s},
+        {u"gramm"_s, u"g"_s},         {u"gram"_s, u"g"_s},
+        {u"grams"_s, u"g"_s},         {u"kilo"_s, u"kg"_s},
+        {u"kilogramm"_s, u"kg"_s},    {u"milliliter"_s, u"ml"_s},
+        {u"liter"_s, u"l"_s},         {u"litre"_s, u"l"_s},
         {u"litres"_s, u"l"_s}};
     return formen;
 }
@@ -124,7 +159,9 @@ std::optional<Anzahl> leseZiffern(const QString &text)
     if (!treffer.hasMatch()) {
         return std::nullopt;
     }
-    const auto teil = [&treffer](int nummer) { return zahlwert(treffer.captured(nummer)); };
+    const auto teil = [&treffer](int nummer) {
+        return zahlwert(treffer.captured(nummer));
+    };
     Anzahl anzahl;
     anzahl.zahl = !treffer.captured(7).isEmpty();
     anzahl.wert = teil(2) + teil(5) + bruchwert(treffer.captured(6)) + teil(7);
@@ -138,8 +175,8 @@ std::optional<Anzahl> leseZiffern(const QString &text)
     return anzahl;
 }
 
-/// "zwei", "eine halbe", "half a", "drei viertel". Two words make a number only where one of them is
-/// a part of one: "zwei drei" is none, and so its second word is left as the measure.
+/// "zwei", "eine halbe", "half a", "drei viertel". Two words make a number only where one of them
+/// is a part of one: "zwei drei" is none, and so its second word is left as the measure.
 Anzahl leseWorte(const QString &text)
 {
     const QString erstes = text.section(u' ', 0, 0);
@@ -179,9 +216,8 @@ QList<Mass> passende(const QList<Mass> &masse, const Bedingung &bedingung)
     QList<Mass> treffer;
     std::copy_if(masse.begin(), masse.end(), std::back_inserter(treffer), [&](const Mass &mass) {
         const QStringList namen = {mass.eines, mass.viele, mass.einesEn, mass.vieleEn};
-        return std::any_of(namen.begin(), namen.end(), [&](const QString &name) {
-            return bedingung(vereinheitlicht(name));
-        });
+        return std::any_of(namen.begin(), namen.end(),
+                           [&](const QString &name) { return bedingung(vereinheitlicht(name)); });
     });
     return treffer;
 }
@@ -309,8 +345,7 @@ QString fehlertext(Mengenangabe::Fehler fehler)
          {Fehler::Null, QT_TRANSLATE_NOOP("Mahlberg", "Die Menge muss mehr als null sein.")},
          {Fehler::Unendlich, QT_TRANSLATE_NOOP("Mahlberg", "Diese Menge ist keine endliche Zahl.")},
          {Fehler::ZuViel, QT_TRANSLATE_NOOP("Mahlberg", "Mehr als 100 kg sind nicht möglich.")}}};
-    const auto *const stelle = std::find_if(texte.begin(), texte.end(), [fehler](const auto &zeile) {
-        return zeile.first == fehler;
-    });
+    const auto *const stelle = std::find_if(
+        texte.begin(), texte.end(), [fehler](const auto &zeile) { return zeile.first == fehler; });
     return localizedString(QString::fromUtf8(stelle->second));
 }

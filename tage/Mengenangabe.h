@@ -21,8 +21,8 @@ struct Mengenangabe
         ZuViel,    ///< more than 100 kg
     };
 
-    double anzahl = 0;              ///< of the measure; without one, grams
-    std::optional<Mass> mass = {};  ///< absent: plain grams
+    double anzahl = 0;             ///< of the measure; without one, grams
+    std::optional<Mass> mass = {}; ///< absent: plain grams
     /// Count times the grams of one, worked out in double precision and rounded once.
     float gramm = 0;
 
@@ -41,8 +41,8 @@ struct Mengenergebnis
 /// Understands an amount of a food that has these measures, in German or English, whatever the
 /// language on screen: a count in digits ("1,5", "1 1/2", "½") or words ("zwei", "half a"), and a
 /// measure by its name, a usual short form, or a beginning that only one of the measures has. A
-/// measure alone means one of it, digits alone mean grams; a fraction or a word alone means nothing.
-/// g and kg fit every food; cl, dl and l those that are measured in ml.
+/// measure alone means one of it, digits alone mean grams; a fraction or a word alone means
+/// nothing. g and kg fit every food; cl, dl and l those that are measured in ml.
 Mengenergebnis leseMenge(const QString &text, const QList<Mass> &masse);
 
 /// The amount without its weight, as one tells a client: "2 Scheiben", "1½ EL". Numbers are written

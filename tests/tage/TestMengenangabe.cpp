@@ -130,7 +130,9 @@ void TestMengenangabe::anAmountIsUnderstood_data()
     QTest::addColumn<QString>("mass");
     QTest::addColumn<float>("gramm");
     const auto zeile = [](const char *name, const QString &text, double anzahl, const QString &mass,
-                          float gramm) { QTest::newRow(name) << text << anzahl << mass << gramm; };
+                          float gramm) {
+        QTest::newRow(name) << text << anzahl << mass << gramm;
+    };
     zeile("several", u"2 Scheiben"_s, 2, u"Scheibe"_s, 100);
     zeile("the singular of several", u"2 Scheibe"_s, 2, u"Scheibe"_s, 100);
     zeile("100 kg", u"2000 Scheiben"_s, 2000, u"Scheibe"_s, 100000);
@@ -388,9 +390,8 @@ void TestMengenangabe::whatIsSaidIsUnderstoodAgain()
 void TestMengenangabe::everyReasonHasItsOwnText()
 {
     QStringList texte;
-    for (const Fehler fehler :
-         {Fehler::KeineZahl, Fehler::MassUnbekannt, Fehler::MassMehrdeutig, Fehler::Negativ,
-          Fehler::Null, Fehler::Unendlich, Fehler::ZuViel}) {
+    for (const Fehler fehler : {Fehler::KeineZahl, Fehler::MassUnbekannt, Fehler::MassMehrdeutig,
+                                Fehler::Negativ, Fehler::Null, Fehler::Unendlich, Fehler::ZuViel}) {
         texte.append(fehlertext(fehler));
     }
     QCOMPARE(texte.first(), u"Das ist keine Mengenangabe."_s);
