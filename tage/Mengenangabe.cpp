@@ -284,7 +284,7 @@ QString anzahltext(double anzahl)
 
 QString grammtext(double gramm)
 {
-    return kurzeZahl(gramm, 1) + u" g";
+    return kurzeZahl(gramm, 1) + u" g"_s;
 }
 
 } // namespace

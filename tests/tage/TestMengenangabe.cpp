@@ -362,10 +362,10 @@ void TestMengenangabe::anAmountIsSaidInBothLanguages()
     QVERIFY(ergebnis.angabe.has_value());
     QLocale::setDefault(QLocale(QLocale::German, QLocale::Germany));
     QCOMPARE(mengentextMitGramm(*ergebnis.angabe, Regelsprache::Deutsch), deutsch);
-    QCOMPARE(mengentext(*ergebnis.angabe, Regelsprache::Deutsch), deutsch.section(u" (", 0, 0));
+    QCOMPARE(mengentext(*ergebnis.angabe, Regelsprache::Deutsch), deutsch.section(u" ("_s, 0, 0));
     QLocale::setDefault(QLocale(QLocale::English, QLocale::UnitedKingdom));
     QCOMPARE(mengentextMitGramm(*ergebnis.angabe, Regelsprache::Englisch), englisch);
-    QCOMPARE(mengentext(*ergebnis.angabe, Regelsprache::Englisch), englisch.section(u" (", 0, 0));
+    QCOMPARE(mengentext(*ergebnis.angabe, Regelsprache::Englisch), englisch.section(u" ("_s, 0, 0));
 }
 
 void TestMengenangabe::whatIsSaidIsUnderstoodAgain_data()

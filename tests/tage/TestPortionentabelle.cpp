@@ -120,7 +120,7 @@ void TestPortionentabelle::aMissingFileIsNamed()
     QVERIFY(!ordner || QDir().mkdir(pfad(datei)));
     const Portionentabelle ohne = tabelle();
     QVERIFY(ohne.masseFuer(u"Toast, hell"_s).isEmpty());
-    QVERIFY(ohne.hindernis().startsWith(pfad(datei) + u": "));
+    QVERIFY(ohne.hindernis().startsWith(pfad(datei) + u": "_s));
 }
 
 void TestPortionentabelle::withoutAPathNothingIsMeasured()

@@ -15,7 +15,6 @@ Beanstandungen zeilenPruefen(const QList<Portionszeile> &zeilen, const Tabelle &
                              const QString &seite);
 
 /// Objects to foods that have no measure, at their lines in the table of foods.
-Beanstandungen lebensmittelPruefen(const QList<Portionszeile> &zeilen,
-                                   const Tabelle &lebensmittel);
+Beanstandungen lebensmittelPruefen(const QList<Portionszeile> &zeilen, const Tabelle &lebensmittel);
 
 } // namespace Portionspruefung

@@ -67,7 +67,8 @@ bool pruefen(const QStringList &dateien)
         return false;
     }
     const auto &[lebensmittel, portionen] = *tabellen;
-    const Beanstandungen unversorgt = Portionspruefung::lebensmittelPruefen(portionen, lebensmittel);
+    const Beanstandungen unversorgt =
+        Portionspruefung::lebensmittelPruefen(portionen, lebensmittel);
     const Beanstandungen zeilen =
         Portionspruefung::zeilenPruefen(portionen, lebensmittel, QString::fromUtf8(*seite));
     Kommandozeile::melden(dateien.at(0), unversorgt);
