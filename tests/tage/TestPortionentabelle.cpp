@@ -83,7 +83,7 @@ void TestPortionentabelle::whatCanNotBeReadGivesNoMeasuresAndTheReason_data()
     QTest::newRow("empty measures")
         << u"P.csv"_s << QByteArray() << u"P.csv:0: The table is empty"_s;
     QTest::newRow("measures cut off")
-        << u"P.csv"_s << portionen.chopped(20) << u"P.csv:4: 7 fields instead of 10"_s;
+        << u"P.csv"_s << portionen.chopped(20) << u"P.csv:4: 6 fields instead of 10"_s;
     QTest::newRow("a measure without a weight")
         << u"P.csv"_s << portionen + "Eier;;;a;b;c;d;0;SGE;\n"
         << u"P.csv:5: 0 g is not above 0 and at most 2000"_s;

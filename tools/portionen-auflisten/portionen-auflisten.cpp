@@ -54,7 +54,7 @@ bool auflisten(const QStringList &dateien)
                  tabellen->portionen, QString::fromUtf8(eines.gruppe->name), eines.nameDe)) {
             masse.append(u"%1 %2 g"_s.arg(zeile.mass.eines).arg(zeile.mass.gramm));
         }
-        Kommandozeile::drucken(eines.nameDe + u": " + masse.join(u", "_s));
+        Kommandozeile::drucken(eines.nameDe + u": "_s + masse.join(u", "_s));
     }
     return true;
 }
