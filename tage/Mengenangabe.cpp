@@ -84,8 +84,9 @@ const QHash<QString, QString> &kurzformen()
         {u"tablespoon"_s, u"tbsp"_s}, {u"tablespoons"_s, u"tbsp"_s},
         {u"teaspoon"_s, u"tsp"_s},    {u"teaspoons"_s, u"tsp"_s},
         {u"stk"_s, u"stück"_s},       {u"stck"_s, u"stück"_s},
+        {u"stücke"_s, u"stück"_s},    {u"gr"_s, u"g"_s},
         {u"port"_s, u"portion"_s},    {u"pc"_s, u"piece"_s},
-        {u"pcs"_s, u"pieces"_s},      {u"gr"_s, u"g"_s},
+        {u"pcs"_s, u"pieces"_s},      {u"millilitre"_s, u"ml"_s},
         {u"gramm"_s, u"g"_s},         {u"gram"_s, u"g"_s},
         {u"grams"_s, u"g"_s},         {u"kilo"_s, u"kg"_s},
         {u"kilogramm"_s, u"kg"_s},    {u"milliliter"_s, u"ml"_s},
@@ -209,15 +210,18 @@ QString massname(const QString &text)
     return worte.join(u' ');
 }
 
-/// The measures of which one of the four names passes.
+/// The measures of which one of the four names passes, as it is written or in its short form: who
+/// enters a measure may well call it "Esslöffel".
 template <typename Bedingung>
 QList<Mass> passende(const QList<Mass> &masse, const Bedingung &bedingung)
 {
     QList<Mass> treffer;
     std::copy_if(masse.begin(), masse.end(), std::back_inserter(treffer), [&](const Mass &mass) {
         const QStringList namen = {mass.eines, mass.viele, mass.einesEn, mass.vieleEn};
-        return std::any_of(namen.begin(), namen.end(),
-                           [&](const QString &name) { return bedingung(vereinheitlicht(name)); });
+        return std::any_of(namen.begin(), namen.end(), [&](const QString &geschrieben) {
+            const QString name = vereinheitlicht(geschrieben);
+            return bedingung(name) || bedingung(massname(name));
+        });
     });
     return treffer;
 }

@@ -52,6 +52,8 @@ private Q_SLOTS:
     void noLitresOfWhatIsNotLiquid();
     void measuresOfTheSameNameAreNotChosenFrom();
     void anOwnMeasureMayBeCalledLikeALitre();
+    void anOwnMeasureMayHaveItsLongName_data();
+    void anOwnMeasureMayHaveItsLongName();
     void aMeasureWithoutAWeightIsNoAmount_data();
     void aMeasureWithoutAWeightIsNoAmount();
     void gramsAreRoundedOnce();
@@ -180,6 +182,7 @@ void TestMengenangabe::anAmountIsUnderstood_data()
     zeile("a large glass in Switzerland", u"1 grosses Glas"_s, 1, u"großes Glas"_s, 250);
     zeile("Stk", u"3 Stk"_s, 3, u"Stück"_s, 240);
     zeile("Stück", u"3 Stück"_s, 3, u"Stück"_s, 240);
+    zeile("Stücke", u"3 Stücke"_s, 3, u"Stück"_s, 240);
     zeile("Port.", u"1 Port."_s, 1, u"Portion"_s, 150);
     zeile("Prise", u"1 Prise"_s, 1, u"Prise"_s, 0.4F);
     zeile("tbsp", u"2 tbsp"_s, 2, u"EL"_s, 20);
@@ -294,6 +297,32 @@ void TestMengenangabe::anOwnMeasureMayBeCalledLikeALitre()
 {
     const QList<Mass> masse = {{u"dl"_s, u"dl"_s, u"dl"_s, u"dl"_s, 103}};
     QCOMPARE(leseMenge(u"2 dl"_s, masse).angabe.value_or(Mengenangabe()).gramm, 206.0F);
+}
+
+void TestMengenangabe::anOwnMeasureMayHaveItsLongName_data()
+{
+    QTest::addColumn<QString>("text");
+    QTest::addColumn<float>("gramm");
+    QTest::newRow("its name") << u"2 Esslöffel"_s << 24.0F;
+    QTest::newRow("its short form") << u"2 EL"_s << 24.0F;
+    QTest::newRow("its short form with a point") << u"2 Essl."_s << 24.0F;
+    QTest::newRow("its beginning") << u"2 Esslö"_s << 24.0F;
+    QTest::newRow("several words") << u"1 gehäufter EL"_s << 30.0F;
+    QTest::newRow("a short name with a point") << u"3 Stück"_s << 15.0F;
+    QTest::newRow("millilitres") << u"2 cl"_s << 26.0F;
+}
+
+void TestMengenangabe::anOwnMeasureMayHaveItsLongName()
+{
+    QFETCH(const QString, text);
+    QFETCH(const float, gramm);
+    const QList<Mass> masse = {
+        {u"Esslöffel"_s, u"Esslöffel"_s, u"tablespoon"_s, u"tablespoons"_s, 12},
+        {u"gehäufter Esslöffel"_s, u"gehäufte Esslöffel"_s, u"heaped tablespoon"_s,
+         u"heaped tablespoons"_s, 30},
+        {u"Stk."_s, u"Stk."_s, u"pc."_s, u"pcs."_s, 5},
+        {u"Milliliter"_s, u"Milliliter"_s, u"millilitre"_s, u"millilitres"_s, 1.3}};
+    QCOMPARE(leseMenge(text, masse).angabe.value_or(Mengenangabe()).gramm, gramm);
 }
 
 void TestMengenangabe::aMeasureWithoutAWeightIsNoAmount_data()
