@@ -1,3 +1,4 @@
+#include "Auskunftsprobe.h"
 #include "Werkzeuglauf.h"
 
 #include <QFile>
@@ -27,6 +28,7 @@ private Q_SLOTS:
     void aMissingFileIsTold();
     void whatIsWrongIsToldWithItsLine_data();
     void whatIsWrongIsToldWithItsLine();
+    void aFoodWithoutAMeasureIsToldAtItsLine();
     void theShippedMeasuresPassTheCheck();
     void everyFoodIsListedWithItsMeasures();
 };
@@ -109,6 +111,24 @@ void TestPortionenAuflisten::whatIsWrongIsToldWithItsLine()
     QCOMPARE(lauf.ausgang, 1);
     QCOMPARE(lauf.fehler,
              u"%1:%2: error: %3\n"_s.arg(datei.fileName()).arg(bytes.count('\n') + 1).arg(meldung));
+}
+
+void TestPortionenAuflisten::aFoodWithoutAMeasureIsToldAtItsLine()
+{
+    const QTemporaryDir ordner;
+    QFile foods(ordner.filePath(u"L.csv"_s));
+    QVERIFY(foods.open(QIODevice::WriteOnly));
+    foods.write(Auskunftsprobe::datei(
+        {Auskunftsprobe::zeile(u"Toast"_s, {}), Auskunftsprobe::zeile(u"Zopf"_s, {})}));
+    foods.close();
+    QFile masse(ordner.filePath(u"P.csv"_s));
+    QVERIFY(masse.open(QIODevice::WriteOnly));
+    masse.write("group;name;except;de;de_many;en;en_many;grams;keys;note\n"
+                "Brot und Brötchen;Toast;;Scheibe;Scheiben;slice;slices;20;SGE;\n");
+    masse.close();
+    const Lauf lauf = starten(AUFLISTEN, {u"--check"_s, foods.fileName(), masse.fileName(), seite});
+    QCOMPARE(lauf.ausgang, 1);
+    QCOMPARE(lauf.fehler, foods.fileName() + u":3: error: Zopf has no measure [measure]\n"_s);
 }
 
 void TestPortionenAuflisten::theShippedMeasuresPassTheCheck()
