@@ -1231,6 +1231,10 @@ Nothing is worked out for children under 10 years; it resumes at 11 years.</tr
   <translation>That is no file of foods.</translation>
  </message>
  <message>
+  <source>Das ist keine Mengenangabe.</source>
+  <translation>This is no amount.</translation>
+ </message>
+ <message>
   <source>Das ist keine gewöhnliche Datei.</source>
   <translation>That is no ordinary file.</translation>
  </message>
@@ -1315,6 +1319,14 @@ Nothing is worked out for children under 10 years; it resumes at 11 years.</tr
   <translation>The energy is worked out from protein, carbohydrate and fat; by the table it is %1.</translation>
  </message>
  <message>
+  <source>Die Menge darf nicht negativ sein.</source>
+  <translation>The amount must not be negative.</translation>
+ </message>
+ <message>
+  <source>Die Menge muss mehr als null sein.</source>
+  <translation>The amount must be more than zero.</translation>
+ </message>
+ <message>
   <source>Die Menge „%1“ ist keine Zahl von Gramm ab 0.</source>
   <translation>The amount “%1” is no number of grams from 0 on.</translation>
  </message>
@@ -1369,6 +1381,14 @@ Nothing is worked out for children under 10 years; it resumes at 11 years.</tr
  <message>
   <source>Diese Datei gibt es nicht.</source>
   <translation>There is no such file.</translation>
+ </message>
+ <message>
+  <source>Diese Menge ist keine endliche Zahl.</source>
+  <translation>This amount is not a finite number.</translation>
+ </message>
+ <message>
+  <source>Dieses Lebensmittel hat kein solches Maß.</source>
+  <translation>This food has no such measure.</translation>
  </message>
  <message>
   <source>Doppelte Namen: %1. Es gilt jeweils der letzte Eintrag.</source>
@@ -1583,6 +1603,10 @@ Nothing is worked out for children under 10 years; it resumes at 11 years.</tr
   <translation>Magnesium to calcium</translation>
  </message>
  <message>
+  <source>Mehr als 100 kg sind nicht möglich.</source>
+  <translation>More than 100 kg are not possible.</translation>
+ </message>
+ <message>
   <source>Mehr sagt „mahlberg --help“.</source>
   <translation>“mahlberg --help” tells more.</translation>
  </message>
@@ -1753,6 +1777,10 @@ Nothing is worked out for children under 10 years; it resumes at 11 years.</tr
  <message>
   <source>Sie lässt sich nicht lesen. Vielleicht ist sie geschützt.</source>
   <translation>It cannot be read. Perhaps it is protected.</translation>
+ </message>
+ <message>
+  <source>So beginnen mehrere Maße dieses Lebensmittels.</source>
+  <translation>Several measures of this food begin like this.</translation>
  </message>
  <message>
   <source>So ist es schon eingestellt.</source>

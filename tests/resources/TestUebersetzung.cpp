@@ -33,7 +33,7 @@ QStringList dateien(const QString &muster)
 {
     QStringList ergebnis;
     for (const char *raum : {"model", "analysis", "austausch", "controls", "views", "plan",
-                             "anthro", "klienten", "befehle", "app"}) {
+                             "anthro", "tage", "klienten", "befehle", "app"}) {
         QDirIterator suche(QStringLiteral(MAHLBERG_SOURCE_DIR "/") + QLatin1String(raum), {muster},
                            QDir::Files);
         while (suche.hasNext()) {
