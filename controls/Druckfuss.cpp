@@ -2,7 +2,6 @@
 
 #include <QCoreApplication>
 #include <QFont>
-#include <QLocale>
 #include <QPainter>
 
 #include <algorithm>
@@ -32,7 +31,7 @@ QPageLayout ueberDemFuss(const QPageLayout &seite)
     return darueber;
 }
 
-void maleFuss(QPainter &maler, const QPageLayout &seite, const QDate &tag, const QString &nummer)
+void maleFuss(QPainter &maler, const QPageLayout &seite, const QString &tag, const QString &nummer)
 {
     const QMarginsF raender =
         seite.margins(QPageLayout::Point) | QMarginsF(seitenrand, 0, seitenrand, 0);
@@ -43,8 +42,7 @@ void maleFuss(QPainter &maler, const QPageLayout &seite, const QDate &tag, const
     schrift.setPixelSize(static_cast<int>(schriftgroesse));
     maler.setFont(schrift);
     maler.setPen(Qt::black);
-    maler.drawText(zeile, Qt::AlignLeft | Qt::AlignBottom,
-                   QLocale().toString(tag, QLocale::LongFormat));
+    maler.drawText(zeile, Qt::AlignLeft | Qt::AlignBottom, tag);
     maler.drawText(zeile, Qt::AlignHCenter | Qt::AlignBottom, nummer);
     maler.drawText(zeile, Qt::AlignRight | Qt::AlignBottom, QStringLiteral("Mahlberg"));
 }
@@ -53,17 +51,23 @@ void maleFuss(QPainter &maler, const QPageLayout &seite, const QDate &tag, const
 
 Druckauftrag mitFuss(const Druckauftrag &auftrag)
 {
+    return mitFuss(auftrag, QCoreApplication::translate("Mahlberg", "Seite %1 von %2"), QLocale());
+}
+
+Druckauftrag mitFuss(const Druckauftrag &auftrag, const QString &seitenworte, const QLocale &land)
+{
     Druckauftrag ganzer = auftrag;
     ganzer.seitenzahl = [auftrag](const QPageLayout &seite) {
         return auftrag.seitenzahl(ueberDemFuss(seite));
     };
-    ganzer.male = [auftrag](QPainter &maler, const QPageLayout &seite, int nummer) {
+    ganzer.male = [auftrag, seitenworte, land](QPainter &maler, const QPageLayout &seite,
+                                               int nummer) {
         const QPageLayout darueber = ueberDemFuss(seite);
         maler.save();
         auftrag.male(maler, darueber, nummer);
         maler.restore();
-        const QString text = QCoreApplication::translate("Mahlberg", "Seite %1 von %2");
-        maleFuss(maler, seite, auftrag.tag, text.arg(nummer).arg(auftrag.seitenzahl(darueber)));
+        maleFuss(maler, seite, land.toString(auftrag.tag, QLocale::LongFormat),
+                 seitenworte.arg(nummer).arg(auftrag.seitenzahl(darueber)));
     };
     return ganzer;
 }

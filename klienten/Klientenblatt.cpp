@@ -5,6 +5,7 @@
 #include "Druckfuss.h"
 #include "Drucksatz.h"
 #include "Feldworte.h"
+#include "Papiersatz.h"
 #include "Plandruckwerte.h"
 #include "Planzahlen.h"
 #include "Verlaufsmaler.h"
@@ -15,7 +16,6 @@
 #include <QPalette>
 
 #include <algorithm>
-#include <memory>
 
 namespace {
 
@@ -23,10 +23,6 @@ constexpr Druckschrift namensschrift = {18, true};
 constexpr Druckschrift kapitelschrift = {13, true};
 constexpr Druckschrift planschrift = {10, true};
 constexpr Druckschrift bildschrift = {8};
-
-/// The sheet keeps this distance from the paper's edges, in points, whatever the printer could do.
-/// At its sides it stands as its foot does.
-constexpr QMarginsF kleinsteRaender(36, 40, 36, 44);
 
 // Of the courses, in points.
 constexpr double kleinsteBildbreite = 240;
@@ -249,53 +245,19 @@ void setzePlaene(Drucksatz &satz, const QList<Planablage> &plaene)
     }
 }
 
-QRectF satzspiegel(const QPageLayout &seite)
-{
-    constexpr double schmalste = 50; // else no word would fit
-    QRectF platz = seite.fullRect(QPageLayout::Point)
-                       .marginsRemoved(seite.margins(QPageLayout::Point) | kleinsteRaender);
-    platz.setSize(platz.size().expandedTo({schmalste, schmalste}));
-    return platz;
-}
-
-/// The sheet as it is broken into pages, anew for every paper and not for every page.
-class Papierblatt
-{
-public:
-    Papierblatt(Klientenakte akte, const QDate &heute) : m_akte(std::move(akte)), m_heute(heute) {}
-
-    const Drucksatz &auf(const QPageLayout &seite)
-    {
-        if (!m_satz || m_seite != seite) {
-            m_seite = seite;
-            m_satz.emplace(satzspiegel(seite).size(), m_akte.person.name);
-            setzePerson(*m_satz, m_akte.person, m_heute);
-            setzeBesuche(*m_satz, m_akte.besuche);
-            setzeVerlauf(*m_satz, m_akte, m_heute);
-            setzePlaene(*m_satz, m_akte.plaene);
-        }
-        return *m_satz;
-    }
-
-private:
-    Klientenakte m_akte;
-    QDate m_heute;
-    QPageLayout m_seite;
-    std::optional<Drucksatz> m_satz;
-};
-
 } // namespace
 
 Druckauftrag klientenblatt(const Klientenakte &akte, const QDate &heute)
 {
-    const auto blatt = std::make_shared<Papierblatt>(akte, heute);
-    return mitFuss(
-        {.titel = oder(akte.person.name, localizedString(QStringLiteral("(ohne Namen)"))),
-         .seitenzahl = [blatt](const QPageLayout &seite) { return blatt->auf(seite).seiten(); },
-         .male =
-             [blatt](QPainter &maler, const QPageLayout &seite, int nummer) {
-                 blatt->auf(seite).male(maler, satzspiegel(seite).topLeft(), nummer);
-             },
-         .form = localizedString(QStringLiteral("Akte")),
-         .tag = heute});
+    const auto setze = [akte, heute](const QSizeF &seite) {
+        Drucksatz satz(seite, akte.person.name);
+        setzePerson(satz, akte.person, heute);
+        setzeBesuche(satz, akte.besuche);
+        setzeVerlauf(satz, akte, heute);
+        setzePlaene(satz, akte.plaene);
+        return satz;
+    };
+    return mitFuss(gesetzterAuftrag<Drucksatz>(
+        oder(akte.person.name, localizedString(QStringLiteral("(ohne Namen)"))),
+        localizedString(QStringLiteral("Akte")), heute, setze));
 }

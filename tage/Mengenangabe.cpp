@@ -1,6 +1,5 @@
 #include "Mengenangabe.h"
 
-#include "Zahlenform.h"
 #include "Zeichenkettentabelle.h"
 
 #include <QCoreApplication>
@@ -259,11 +258,11 @@ Mengenergebnis gewogen(double anzahl, const std::optional<Mass> &mass)
 }
 
 /// With at most so many digits behind the comma, and no zeros at their end.
-QString kurzeZahl(double zahl, int nachkommastellen)
+QString kurzeZahl(double zahl, int nachkommastellen, const QLocale &land)
 {
-    const QString komma = zahlenform().decimalPoint();
-    const QString nullzeichen = zahlenform().zeroDigit();
-    QString text = wertText(zahl, nachkommastellen);
+    const QString komma = land.decimalPoint();
+    const QString nullzeichen = land.zeroDigit();
+    QString text = wertText(zahl, nachkommastellen, land);
     if (!text.contains(komma)) {
         return text;
     }
@@ -274,21 +273,21 @@ QString kurzeZahl(double zahl, int nachkommastellen)
 }
 
 /// "½", "1½", "2", "1,2".
-QString anzahltext(double anzahl)
+QString anzahltext(double anzahl, const QLocale &land)
 {
     constexpr double genauigkeit = 1e-9; // a third can't be held exactly
     const double ganze = std::floor(anzahl);
     for (const auto &[zeichen, wert] : bruchzeichen) {
         if (std::fabs(anzahl - ganze - wert) < genauigkeit) {
-            return (ganze > 0 ? wertText(ganze, 0) : QString()) + QChar(zeichen);
+            return (ganze > 0 ? wertText(ganze, 0, land) : QString()) + QChar(zeichen);
         }
     }
-    return kurzeZahl(anzahl, 2);
+    return kurzeZahl(anzahl, 2, land);
 }
 
-QString grammtext(double gramm)
+QString grammtext(double gramm, const QLocale &land)
 {
-    return kurzeZahl(gramm, 1) + u" g"_s;
+    return kurzeZahl(gramm, 1, land) + u" g"_s;
 }
 
 } // namespace
@@ -320,21 +319,21 @@ Mengenergebnis leseMenge(const QString &text, const QList<Mass> &masse)
     return gewogen(anzahl.wert, moegliche.first());
 }
 
-QString mengentext(const Mengenangabe &angabe, Regelsprache sprache)
+QString mengentext(const Mengenangabe &angabe, Regelsprache sprache, const QLocale &land)
 {
     if (!angabe.mass) {
-        return grammtext(angabe.anzahl);
+        return grammtext(angabe.anzahl, land);
     }
     const bool deutsch = sprache == Regelsprache::Deutsch;
     const QString &eines = deutsch ? angabe.mass->eines : angabe.mass->einesEn;
     const QString &viele = deutsch ? angabe.mass->viele : angabe.mass->vieleEn;
-    return anzahltext(angabe.anzahl) + u' ' + (angabe.anzahl > 1 ? viele : eines);
+    return anzahltext(angabe.anzahl, land) + u' ' + (angabe.anzahl > 1 ? viele : eines);
 }
 
-QString mengentextMitGramm(const Mengenangabe &angabe, Regelsprache sprache)
+QString mengentextMitGramm(const Mengenangabe &angabe, Regelsprache sprache, const QLocale &land)
 {
-    const QString text = mengentext(angabe, sprache);
-    return angabe.mass ? u"%1 (%2)"_s.arg(text, grammtext(angabe.gramm)) : text;
+    const QString text = mengentext(angabe, sprache, land);
+    return angabe.mass ? u"%1 (%2)"_s.arg(text, grammtext(angabe.gramm, land)) : text;
 }
 
 QString fehlertext(Mengenangabe::Fehler fehler)

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "Mass.h"
+#include "Zahlenform.h"
 #include "Zweisprachig.h"
 
 #include <QList>
@@ -46,11 +47,13 @@ struct Mengenergebnis
 Mengenergebnis leseMenge(const QString &text, const QList<Mass> &masse);
 
 /// The amount without its weight, as one tells a client: "2 Scheiben", "1½ EL". Numbers are written
-/// as everywhere on screen.
-QString mengentext(const Mengenangabe &angabe, Regelsprache sprache);
+/// as everywhere on screen, unless it is for people of another country.
+QString mengentext(const Mengenangabe &angabe, Regelsprache sprache,
+                   const QLocale &land = zahlenform());
 
 /// The amount with its weight: "½ Tasse (62,5 g)"; for plain grams only these.
-QString mengentextMitGramm(const Mengenangabe &angabe, Regelsprache sprache);
+QString mengentextMitGramm(const Mengenangabe &angabe, Regelsprache sprache,
+                           const QLocale &land = zahlenform());
 
 /// What is said to the user about a text that is no amount.
 QString fehlertext(Mengenangabe::Fehler fehler);

@@ -24,15 +24,20 @@ QLocale zahlenform()
 
 QString wertText(double zahl, int nachkommastellen)
 {
+    return wertText(zahl, nachkommastellen, zahlenform());
+}
+
+QString wertText(double zahl, int nachkommastellen, const QLocale &land)
+{
     constexpr int meisteStellen = 6;
-    QString text = zahlenform().toString(zahl == 0 ? 0.0 : zahl, 'f', nachkommastellen);
+    QString text = land.toString(zahl == 0 ? 0.0 : zahl, 'f', nachkommastellen);
     if (zahl == 0 || !std::isfinite(zahl) || zeigtMehrAlsNullen(text)) {
         return text;
     }
     // Rounded to one digit first: 0.01 in single precision is a little less than that.
     const int stellen = -QString::number(zahl, 'e', 0).section(u'e', 1).toInt();
-    return stellen <= meisteStellen ? zahlenform().toString(zahl, 'f', stellen)
-                                    : zahlenform().toString(zahl, 'e', 0);
+    return stellen <= meisteStellen ? land.toString(zahl, 'f', stellen)
+                                    : land.toString(zahl, 'e', 0);
 }
 
 QString wertText(double zahl, int nachkommastellen, int bedeutsameStellen)

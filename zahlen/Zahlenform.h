@@ -12,6 +12,9 @@ QLocale zahlenform();
 /// ten ("1E-09"), which can be typed as well. Only 0 itself shows as 0.
 QString wertText(double zahl, int nachkommastellen);
 
+/// The same as people of another country write it, for what is printed in their language.
+QString wertText(double zahl, int nachkommastellen, const QLocale &land);
+
 /// The same, where small numbers get more digits behind the comma until so many that matter are
 /// seen, so that 0.012 mg does not show as 0; with `bedeutsameStellen` 0 none gets more.
 QString wertText(double zahl, int nachkommastellen, int bedeutsameStellen);

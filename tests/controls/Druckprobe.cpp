@@ -185,3 +185,12 @@ Druckauftrag beziffert(int seiten)
                 maler.drawText(QPointF(100, 100), QStringLiteral("Seite %1").arg(nummer));
             }};
 }
+
+QString probeworte(int anzahl)
+{
+    QStringList alle;
+    for (int i = 1; i <= anzahl; ++i) {
+        alle << QStringLiteral("wort%1").arg(i, 4, 10, QLatin1Char('0'));
+    }
+    return alle.join(QLatin1Char(' '));
+}

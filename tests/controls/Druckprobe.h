@@ -70,3 +70,6 @@ Druckwort finde(const QList<Druckwort> &worte, const QString &text);
 /// Pages that say which they are: "Seite 1" with its line 100 points from the left and from the
 /// top.
 Druckauftrag beziffert(int seiten);
+
+/// Words that can be told from one another: "wort0001 wort0002" and so on.
+QString probeworte(int anzahl);

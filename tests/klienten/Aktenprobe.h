@@ -1,33 +1,7 @@
 #pragma once
 
 #include "Klientendaten.h"
-
-#include <QCoreApplication>
-#include <QLocale>
-#include <QTranslator>
-
-/// Speaks a language from now on: numbers and days, and while it lives texts too.
-class Probesprache
-{
-public:
-    explicit Probesprache(QLocale::Language sprache)
-    {
-        const bool deutsch = sprache == QLocale::German;
-        QLocale::setDefault(deutsch ? QLocale(QLocale::German, QLocale::Germany)
-                                    : QLocale(QLocale::English, QLocale::UnitedKingdom));
-        if (!deutsch && m_fenster.load(QStringLiteral(":/uebersetzungen/mahlberg_en.qm")) &&
-            m_speisen.load(QStringLiteral(":/uebersetzungen/lebensmittel_en.qm"))) {
-            QCoreApplication::installTranslator(&m_fenster);
-            QCoreApplication::installTranslator(&m_speisen);
-        }
-    }
-    Probesprache(const Probesprache &) = delete;
-    Probesprache &operator=(const Probesprache &) = delete;
-
-private:
-    QTranslator m_fenster; ///< taken away when it goes
-    QTranslator m_speisen; ///< names of foods; taken away as well
-};
+#include "Probesprache.h"
 
 /// A client of whom something is known, with two visits and a plan. What is worked out of it is
 /// worked out by hand where it is asked for.
@@ -141,16 +115,6 @@ inline QList<Besuch> viele(int anzahl)
         alle << einer;
     }
     return alle;
-}
-
-/// Words that can be told from one another: "wort0001 wort0002" and so on.
-inline QString worte(int anzahl)
-{
-    QStringList alle;
-    for (int i = 1; i <= anzahl; ++i) {
-        alle << QStringLiteral("wort%1").arg(i, 4, 10, QLatin1Char('0'));
-    }
-    return alle.join(QLatin1Char(' '));
 }
 
 } // namespace Aktenprobe

@@ -369,14 +369,14 @@ void TestKlientenblatt::nothingIsCutOffOnAnyPaper()
 {
     QFETCH(const QPageLayout, papier);
     Klientenakte akte = Aktenprobe::akte();
-    akte.person.name = Aktenprobe::worte(40);
+    akte.person.name = probeworte(40);
     akte.person.nummer = QString(200, u'X');
-    akte.person.notizen = Aktenprobe::worte(600).replace(u"wort"_s, u"p"_s);
-    akte.besuche[0].notiz = Aktenprobe::worte(600).replace(u"wort"_s, u"b"_s);
+    akte.person.notizen = probeworte(600).replace(u"wort"_s, u"p"_s);
+    akte.besuche[0].notiz = probeworte(600).replace(u"wort"_s, u"b"_s);
     akte.besuche[0].sport = QString(80, u'Q');
-    akte.plaene[0].titel = Aktenprobe::worte(60).replace(u"wort"_s, u"t"_s);
-    akte.plaene[0].notiz = Aktenprobe::worte(600).replace(u"wort"_s, u"l"_s);
-    akte.plaene[0].posten[0].schluessel = Aktenprobe::worte(60).replace(u"wort"_s, u"f"_s);
+    akte.plaene[0].titel = probeworte(60).replace(u"wort"_s, u"t"_s);
+    akte.plaene[0].notiz = probeworte(600).replace(u"wort"_s, u"l"_s);
+    akte.plaene[0].posten[0].schluessel = probeworte(60).replace(u"wort"_s, u"f"_s);
     drucke(akte, papier);
     const QMarginsF raender = papier.margins(QPageLayout::Point) | QMarginsF(36, 36, 36, 18);
     const QRectF frei = papier.fullRect(QPageLayout::Point).marginsRemoved(raender);

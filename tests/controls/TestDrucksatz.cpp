@@ -2,7 +2,6 @@
 
 #include "Drucksatz.h"
 
-#include "Aktenprobe.h"
 #include "Druckprobe.h"
 
 #include <QPainter>
@@ -107,14 +106,14 @@ void TestDrucksatz::nothingIsOnePage()
 void TestDrucksatz::aLongTextGoesOnOnTheNextPage()
 {
     Drucksatz satz(seite, u"Kopf"_s);
-    satz.absatz(Aktenprobe::worte(500));
+    satz.absatz(probeworte(500));
     drucke(satz);
     QVERIFY(satz.seiten() >= 4);
     QStringList alle;
     for (int nummer = 1; nummer <= satz.seiten(); ++nummer) {
         alle += zeilen(nummer).mid(nummer == 1 ? 0 : 1);
     }
-    QCOMPARE(alle.join(u' '), Aktenprobe::worte(500));
+    QCOMPARE(alle.join(u' '), probeworte(500));
     // Pages are full before the next is begun: a line is less than 15 points high.
     QVERIFY(m_probe->zeilen(1).size() >= static_cast<qsizetype>(seite.height() / 15));
 }
@@ -199,14 +198,14 @@ void TestDrucksatz::aHeadingThatIsLongerThanAPageGoesOn()
 {
     Drucksatz satz(seite, u"Kopf"_s);
     satz.absatz(u"davor"_s);
-    satz.ueberschrift(Aktenprobe::worte(300), {13, true});
+    satz.ueberschrift(probeworte(300), {13, true});
     satz.absatz(u"danach"_s);
     drucke(satz);
     QStringList alle;
     for (int nummer = 1; nummer <= satz.seiten(); ++nummer) {
         alle += zeilen(nummer).mid(nummer == 1 ? 0 : 1);
     }
-    QCOMPARE(alle.join(u' '), u"davor "_s + Aktenprobe::worte(300) + u" danach"_s);
+    QCOMPARE(alle.join(u' '), u"davor "_s + probeworte(300) + u" danach"_s);
 }
 
 void TestDrucksatz::atTheTopOfAPageNothingIsKeptApart()
@@ -270,7 +269,7 @@ void TestDrucksatz::belowATableItsHeadIsGone()
 {
     Drucksatz satz(seite, u"Kopf"_s);
     satz.tabelle(reihen(2));
-    satz.absatz(Aktenprobe::worte(200));
+    satz.absatz(probeworte(200));
     drucke(satz);
     QVERIFY(satz.seiten() >= 2);
     QCOMPARE(zeilen(1).value(0), u"Name Zahl"_s);
@@ -290,7 +289,7 @@ void TestDrucksatz::aRowStaysOnOnePage()
     for (int i = 1; i <= 12; ++i) {
         tabelle.zeilen << Drucktabelle::Zeile{{u"a%1\nb%1"_s.arg(i)}, u"c%1"_s.arg(i)};
     }
-    tabelle.zeilen << Drucktabelle::Zeile{{u"Ende"_s}, Aktenprobe::worte(200)};
+    tabelle.zeilen << Drucktabelle::Zeile{{u"Ende"_s}, probeworte(200)};
     Drucksatz satz = mitRest(frei);
     satz.tabelle(tabelle);
     drucke(satz);
@@ -309,7 +308,7 @@ void TestDrucksatz::aRowStaysOnOnePage()
 void TestDrucksatz::aRowThatIsLongGoesOn()
 {
     Drucktabelle tabelle = reihen(3);
-    tabelle.zeilen[1].darunter = Aktenprobe::worte(400);
+    tabelle.zeilen[1].darunter = probeworte(400);
     Drucksatz satz(seite, u"Kopf"_s);
     satz.tabelle(tabelle);
     drucke(satz);
@@ -322,7 +321,7 @@ void TestDrucksatz::aRowThatIsLongGoesOn()
         QCOMPARE(zeilen(nummer).value(nummer == 1 ? 0 : 1), u"Name Zahl"_s);
         alle += zeilen(nummer).mid(nummer == 1 ? 1 : 2);
     }
-    QCOMPARE(alle.join(u' '), u"Zeile1 1 Zeile2 2 "_s + Aktenprobe::worte(400) + u" Zeile3 3"_s);
+    QCOMPARE(alle.join(u' '), u"Zeile1 1 Zeile2 2 "_s + probeworte(400) + u" Zeile3 3"_s);
 }
 
 void TestDrucksatz::columnsAreAsWideAsTheyNeed()
@@ -363,13 +362,13 @@ void TestDrucksatz::whereThereIsNoRoomTheWordyColumnIsBroken()
 {
     Drucksatz satz(seite, QString());
     satz.tabelle({{{u"Datum"_s}, {u"Zahl"_s, true}, {u"Worte"_s}},
-                  {{{u"01.09.26"_s, u"82,5"_s, Aktenprobe::worte(30)}}}});
+                  {{{u"01.09.26"_s, u"82,5"_s, probeworte(30)}}}});
     drucke(satz);
     QCOMPARE(zeilen(1).value(0), u"Datum Zahl Worte"_s);
     QVERIFY(zeilen(1).value(1).startsWith(u"01.09.26 82,5 wort0001"_s));
     QVERIFY(zeilen(1).size() >= 4);
     QStringList rest = zeilen(1).mid(1);
-    QCOMPARE(rest.join(u' '), u"01.09.26 82,5 "_s + Aktenprobe::worte(30));
+    QCOMPARE(rest.join(u' '), u"01.09.26 82,5 "_s + probeworte(30));
 }
 
 void TestDrucksatz::aVeryLongWordTakesTheOthersNoRoom()
@@ -427,11 +426,11 @@ void TestDrucksatz::aNameStandsBesideWhatThereIsToSay()
 {
     Drucksatz satz(seite, QString());
     satz.angabe(u"Nummer"_s, u"17"_s);
-    satz.angabe(u"Notizen"_s, Aktenprobe::worte(40));
+    satz.angabe(u"Notizen"_s, probeworte(40));
     drucke(satz);
     QCOMPARE(zeilen(1).value(0), u"Nummer 17"_s);
     QVERIFY(zeilen(1).value(1).startsWith(u"Notizen wort0001"_s));
-    QCOMPARE(zeilen(1).join(u' '), u"Nummer 17 Notizen "_s + Aktenprobe::worte(40));
+    QCOMPARE(zeilen(1).join(u' '), u"Nummer 17 Notizen "_s + probeworte(40));
     QVERIFY(qAbs(wort(u"17"_s).x - wort(u"wort0001"_s).x) < 1);
     QVERIFY(wort(u"wort0040"_s).x >= wort(u"wort0001"_s).x - 0.5); // not below the name
 }
@@ -458,8 +457,8 @@ void TestDrucksatz::aPictureStaysWhole()
 
 void TestDrucksatz::pagesButTheFirstSayWhatTheyAreOf()
 {
-    Drucksatz satz(seite, u"Anna\nMuster "_s + Aktenprobe::worte(100));
-    satz.absatz(Aktenprobe::worte(300));
+    Drucksatz satz(seite, u"Anna\nMuster "_s + probeworte(100));
+    satz.absatz(probeworte(300));
     drucke(satz);
     QCOMPARE(zeilen(1).value(0).section(u' ', 0, 0), u"wort0001"_s);
     for (int nummer = 2; nummer <= satz.seiten(); ++nummer) {

@@ -38,6 +38,7 @@ struct Druckzelle
     double links = 0;
     double breite = 0;
     bool amRechtenRand = false;
+    double haengend = 0; ///< by so much its second and further lines begin further to the right
 };
 
 /// Sets texts side by side, a strip for each line. Each is plain text with its own ends of lines;
@@ -56,5 +57,15 @@ QString gekuerzt(const QString &text, const Druckschrift &schrift, double breite
 
 double hoehe(const Druckstreifenfolge &folge);
 
+/// Nothing, so many points high.
+Druckstreifen freiraum(double hoehe);
+
+/// A line across, in points.
+Druckstreifen waagerechte(double breite, double dicke);
+
 /// Two strips as one.
 Druckstreifen verbunden(const Druckstreifen &oben, const Druckstreifen &unten);
+
+/// What is set apart, side by side: the first strips of both share a place, then the second ones.
+/// Both have their own places to the left and right.
+Druckstreifenfolge nebeneinander(const Druckstreifenfolge &links, const Druckstreifenfolge &rechts);

@@ -2,7 +2,6 @@
 
 #include "Druckzeilen.h"
 
-#include "Aktenprobe.h"
 #include "Druckprobe.h"
 
 #include <QGlyphRun>
@@ -86,7 +85,7 @@ QStringList TestDruckzeilen::zeilen(const QList<Druckzelle> &zellen)
 
 void TestDruckzeilen::aTextIsBrokenIntoLines()
 {
-    const QString text = Aktenprobe::worte(60);
+    const QString text = probeworte(60);
     Druckprobe probe = a4();
     const Druckstreifenfolge folge = gesetzt({{.text = text, .breite = 200}});
     drucke(probe, folge);
@@ -206,7 +205,7 @@ void TestDruckzeilen::aWidthIsThatOfTheWidestLineOrWord()
 
 void TestDruckzeilen::whatIsCutOffSaysSo()
 {
-    const QString kurzer = gekuerzt(Aktenprobe::worte(40), {}, 200);
+    const QString kurzer = gekuerzt(probeworte(40), {}, 200);
     QVERIFY(kurzer.endsWith(u'…'));
     QVERIFY(kurzer.startsWith(u"wort0001 wort0002"_s));
     QVERIFY(textbreite(kurzer, {}) <= 200);

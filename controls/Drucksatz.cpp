@@ -28,18 +28,6 @@ constexpr double unterKopftext = 10;
 constexpr double kaumHoeher = 0.01; ///< what sums of heights are off by
 constexpr double aufgerundet = 0.5; ///< what is just as wide as its text would break it
 
-Druckstreifen freiraum(double hoehe)
-{
-    return {hoehe};
-}
-
-Druckstreifen waagerechte(double breite, double dicke)
-{
-    return {dicke, [breite, dicke](QPainter &maler) {
-                maler.fillRect(QRectF(0, 0, breite, dicke), Qt::black);
-            }};
-}
-
 /// Neither its first nor its last line stands alone on a page.
 Druckstreifenfolge ohneEinzelne(Druckstreifenfolge folge)
 {

@@ -36,8 +36,9 @@ Satz setze(const Druckzelle &zelle)
     satz->setCacheEnabled(true);
     satz->beginLayout();
     for (QTextLine zeile = satz->createLine(); zeile.isValid(); zeile = satz->createLine()) {
-        zeile.setLineWidth(zelle.breite * druckfeinheit);
-        zeile.setPosition({0, 0});
+        const double davor = satz->lineCount() > 1 ? zelle.haengend : 0;
+        zeile.setLineWidth((zelle.breite - davor) * druckfeinheit);
+        zeile.setPosition({davor * druckfeinheit, 0});
     }
     satz->endLayout();
     return satz;
@@ -127,6 +128,18 @@ double hoehe(const Druckstreifenfolge &folge)
         [](double bisher, const Druckstreifen &streifen) { return bisher + streifen.hoehe; });
 }
 
+Druckstreifen freiraum(double hoehe)
+{
+    return {hoehe};
+}
+
+Druckstreifen waagerechte(double breite, double dicke)
+{
+    return {dicke, [breite, dicke](QPainter &maler) {
+                maler.fillRect(QRectF(0, 0, breite, dicke), Qt::black);
+            }};
+}
+
 Druckstreifen verbunden(const Druckstreifen &oben, const Druckstreifen &unten)
 {
     return {oben.hoehe + unten.hoehe, [oben, unten](QPainter &maler) {
@@ -139,4 +152,22 @@ Druckstreifen verbunden(const Druckstreifen &oben, const Druckstreifen &unten)
                     maler.translate(0, einer.hoehe);
                 }
             }};
+}
+
+Druckstreifenfolge nebeneinander(const Druckstreifenfolge &links, const Druckstreifenfolge &rechts)
+{
+    Druckstreifenfolge folge;
+    for (qsizetype i = 0; i < std::max(links.size(), rechts.size()); ++i) {
+        const QList<Druckstreifen> beide = {links.value(i), rechts.value(i)};
+        folge << Druckstreifen{std::max(beide[0].hoehe, beide[1].hoehe), [beide](QPainter &maler) {
+                                   for (const Druckstreifen &einer : beide) {
+                                       if (einer.male) {
+                                           maler.save();
+                                           einer.male(maler);
+                                           maler.restore();
+                                       }
+                                   }
+                               }};
+    }
+    return folge;
 }
