@@ -1,5 +1,8 @@
 #pragma once
 
+#include "Drucktuer.h"
+#include "Handzettel.h"
+#include "Mass.h"
 #include "Meldung.h"
 #include "Namenssuche.h"
 #include "Summenmodell.h"
@@ -11,6 +14,9 @@
 #include <functional>
 #include <optional>
 
+class QSettings;
+class Tagesauswertungsfenster;
+
 /// The doors through which the window of the days reaches the foods and the rest of the program.
 struct Tagetueren
 {
@@ -19,13 +25,22 @@ struct Tagetueren
     std::function<Namenssuchergebnis(const QString &text)> suche;
     /// The record of a food; null when it is in no store.
     std::function<const Datenmodul *(const QString &schluessel)> lebensmittel;
-    /// What an amount of a food comes to, in grams; absent where it can't be understood.
-    std::function<std::optional<float>(const QString &schluessel, const QString &angabe)> gramm;
+    /// The household measures of a food, the best first; none where it has none.
+    std::function<QList<Mass>(const QString &schluessel)> masse;
     /// What the days are measured against.
     std::function<Energiebedarf()> bedarf;
     std::function<QDate()> heute = [] {
         return QDate::currentDate();
     };
+    /// Shows the household measures of a food in front of the window, to add own ones; empty: they
+    /// can't be shown.
+    std::function<void(QWidget *fenster, const QString &schluessel)> massfenster = {};
+    Drucktuer drucke = {}; ///< prints; while it is absent, nothing does
+    Pdftuer alsPdf = {};   ///< saves a print as a PDF; while it is absent, nothing does
+    std::function<Briefkopf()> briefkopf = {}; ///< of the practice; absent: none
+    std::function<QString()> klient = {};      ///< whose records they are; empty: nobody's
+    /// Where the last choice of how to print is kept; outlives the window. Null: nowhere.
+    QSettings *einstellungen = nullptr;
 };
 
 /// The window in which days are recorded and planned, meal by meal. Nothing needs a hand on the
@@ -43,18 +58,32 @@ public:
     /// Shows the window, in front of others.
     void zeige();
     /// Other records from now on: somebody else sits at the desk.
-    void setzeAblage(Aufzeichnungsablage &ablage) { buch.setzeAblage(ablage); }
+    void setzeAblage(Aufzeichnungsablage &ablage);
+    /// Keeps what is still being typed.
+    void sichere();
+    /// Puts a food at the end of the meal with the cursor, with one of its first measure, or 100 g.
+    /// Where it stands now, in words; null where nothing could be put in.
+    QString gibHinein(const QString &schluessel);
     /// What the days are measured against has changed.
     void frischeAuf();
     /// Another language is spoken.
     void folgeSprache();
+    /// The evaluation of the day and of the mean, a window of its own that goes with this one; made
+    /// when it is first asked for.
+    Tagesauswertungsfenster &auswertungsfenster();
 
     // What the menu does. Where there is nothing to do it to, nothing happens.
     void neuesProtokoll();
     void neuerWochenplan();
     void loescheAufzeichnung();
+    void handzettelDrucken() { frageNachHandzettel(false); }
+    void handzettelAlsPdf() { frageNachHandzettel(true); }
+    void aktenformDrucken() { gibAktenformAus(false); }
+    void aktenformAlsPdf() { gibAktenformAus(true); }
     void loescheZeilen();
     void wechsleOder();
+    /// Shows the household measures of the food of the row with the cursor.
+    void zeigeMasse();
     void fuelleTage();
     void leereTag();
     void neueMahlzeit();
@@ -63,10 +92,14 @@ public:
     void mahlzeitHinunter() { verschiebeMahlzeit(1); }
     void naechsterTag() { buch.waehleTag(buch.tag() + 1); }
     void vorigerTag() { buch.waehleTag(buch.tag() - 1); }
+    void zeigeAuswertungsfenster();
 
 Q_SIGNALS:
     /// The user of the window wants the handbook.
     void hilfeGewuenscht();
+
+protected:
+    void closeEvent(QCloseEvent *event) override;
 
 private:
     void baueMenue();
@@ -78,7 +111,12 @@ private:
     void zeigeTag();
     void zeigeNotizen();
     void zeigeSummen();
+    void zeigeAuswertung(const Aufzeichnung &eine, const Summenmodell::Stand &stand);
     void verschiebeMahlzeit(int um);
+    void frageNachHandzettel(bool alsPdf);
+    void gibAktenformAus(bool alsPdf);
+    void gibAus(const Druckauftrag &auftrag, bool alsPdf);
+    Druckangaben druckangaben() const;
     bool aendere(const char *was, const Tagebuch::Tat &tat);
 
     // What was typed into the table
@@ -90,8 +128,13 @@ private:
     void geheZuMahlzeit(int mahlzeit);
     void geheZuNaechster(const Tagesmodell::Platz &platz);
     Mahlzeitzeile zeileFuer(const QString &text, const QString &schluessel) const;
+    void setzeAngabe(Mahlzeitzeile &zeile, const QString &text) const;
+    QList<Vorschlagsfeld::Vorschlag> vorschlaege(int reihe, int spalte, const QString &text) const;
+    void sageUnverstandenes(const Mahlzeitzeile &zeile);
+    Mahlzeitzeile uebliche(const QString &schluessel) const;
 
     Tagetueren m_tueren;
     Summenmodell m_summen;
+    Tagesauswertungsfenster *m_auswertung = nullptr;
     bool m_zeigt = false; ///< the controls are being set, and not by the user
 };

@@ -47,6 +47,18 @@ void Tagefenster::baueMenue()
             {QT_TRANSLATE_NOOP("Mahlberg", "Aufzeichnung &löschen …"),
              {},
              &Tagefenster::loescheAufzeichnung,
+             true},
+            {QT_TRANSLATE_NOOP("Mahlberg", "Handzettel &drucken …"), QKeySequence::Print,
+             &Tagefenster::handzettelDrucken},
+            {QT_TRANSLATE_NOOP("Mahlberg", "Handzettel als &PDF …"),
+             {},
+             &Tagefenster::handzettelAlsPdf},
+            {QT_TRANSLATE_NOOP("Mahlberg", "Aktenform d&rucken …"),
+             {},
+             &Tagefenster::aktenformDrucken},
+            {QT_TRANSLATE_NOOP("Mahlberg", "Aktenform als PD&F …"),
+             {},
+             &Tagefenster::aktenformAlsPdf,
              true}});
     QAction *schliessen = aufzeichnung.addAction(localizedString(QStringLiteral("S&chließen")));
     schliessen->setShortcut(QKeySequence::Close);
@@ -65,7 +77,10 @@ void Tagefenster::baueMenue()
         bearbeiten, *this,
         {{QT_TRANSLATE_NOOP("Mahlberg", "Zeilen &herausnehmen"), {}, &Tagefenster::loescheZeilen},
          {QT_TRANSLATE_NOOP("Mahlberg", "Als &Wahl zur Zeile davor („oder“)"),
-          QKeySequence(QStringLiteral("Ctrl+Shift+O")), &Tagefenster::wechsleOder}});
+          QKeySequence(QStringLiteral("Ctrl+Shift+O")), &Tagefenster::wechsleOder},
+         {QT_TRANSLATE_NOOP("Mahlberg", "Haushalts&maße des Lebensmittels …"),
+          {},
+          &Tagefenster::zeigeMasse}});
 
     QMenu &mahlzeit = *menuBar()->addMenu(localizedString(QStringLiteral("&Mahlzeit")));
     fuelle(
@@ -87,6 +102,11 @@ void Tagefenster::baueMenue()
              {},
              &Tagefenster::fuelleTage},
             {QT_TRANSLATE_NOOP("Mahlberg", "Tag &leeren"), {}, &Tagefenster::leereTag}});
+
+    QMenu &darstellung = *menuBar()->addMenu(localizedString(QStringLiteral("&Darstellung")));
+    fuelle(darstellung, *this,
+           {{QT_TRANSLATE_NOOP("Mahlberg", "Aus&wertung"), QKeySequence(QStringLiteral("Ctrl+E")),
+             &Tagefenster::zeigeAuswertungsfenster}});
 
     QMenu &hilfe = *menuBar()->addMenu(localizedString(QStringLiteral("&Hilfe")));
     QAction *handbuch = hilfe.addAction(localizedString(QStringLiteral("&Handbuch")));

@@ -4272,6 +4272,274 @@ New: %1</translation>
   <source>oder %1</source>
   <translation>or %1</translation>
  </message>
+ <message>
+  <source>Für %1, %2</source>
+  <translation>For %1, %2</translation>
+ </message>
+ <message>
+  <source>Noch nichts aufgezeichnet.</source>
+  <translation>Nothing recorded yet.</translation>
+ </message>
+ <message>
+  <source>%1 (Fortsetzung)</source>
+  <translation>%1 (continued)</translation>
+ </message>
+ <message>
+  <source>Handzettel</source>
+  <translation>Handout</translation>
+ </message>
+ <message>
+  <source>Energie der Mahlzeiten</source>
+  <translation>Energy of the meals</translation>
+ </message>
+ <message>
+  <source>Strich: Mittel</source>
+  <translation>Line: mean</translation>
+ </message>
+ <message>
+  <source>im Mittel %1</source>
+  <translation>%1 on average</translation>
+ </message>
+ <message>
+  <source>nichts</source>
+  <translation>nothing</translation>
+ </message>
+ <message>
+  <source>Zeilen, die nicht zählen: %1</source>
+  <translation>Rows that do not count: %1</translation>
+ </message>
+ <message>
+  <source>%1, Anteil am Tagesbedarf</source>
+  <translation>%1, share of the daily need</translation>
+ </message>
+ <message>
+  <source>%1, Balken</source>
+  <translation>%1, bar</translation>
+ </message>
+ <message>
+  <source>%1, geeignete Lebensmittel</source>
+  <translation>%1, suitable foods</translation>
+ </message>
+ <message>
+  <source>%1, neutrale Lebensmittel</source>
+  <translation>%1, neutral foods</translation>
+ </message>
+ <message>
+  <source>%1, ungeeignete Lebensmittel</source>
+  <translation>%1, unsuitable foods</translation>
+ </message>
+ <message>
+  <source>Der Rechner kennt den Bedarf noch nicht: Was an der Energie gemessen wird, hat keinen Anteil. Er steht unter „Körper und Energie“.</source>
+  <translation>The calculator does not know the requirement yet: what is measured by the energy has no share. It stands under “Body and energy”.</translation>
+ </message>
+ <message>
+  <source>Zeilen, die nicht zählen, weil Lebensmittel oder Menge unbekannt sind: %1.</source>
+  <translation>Rows that do not count because their food or amount is unknown: %1.</translation>
+ </message>
+ <message>
+  <source>Keine Aufzeichnung ist geöffnet.</source>
+  <translation>No record is open.</translation>
+ </message>
+ <message>
+  <source>Kein Tag zählt im Mittel.</source>
+  <translation>No day counts in the mean.</translation>
+ </message>
+ <message>
+  <source>An diesem Tag zählt noch nichts.</source>
+  <translation>Nothing counts on this day yet.</translation>
+ </message>
+ <message>
+  <source>Aus&amp;wertung</source>
+  <translation>&amp;Evaluation</translation>
+ </message>
+ <message>
+  <source>Haushalts&amp;maße des Lebensmittels …</source>
+  <translation>&amp;Household measures of the food…</translation>
+ </message>
+ <message>
+  <source>Die Datei der eigenen Haushaltsmaße lässt sich nicht lesen oder ist von einer neueren Version. Sie bleibt, wie sie ist, und eigene Maße können nicht geändert werden.</source>
+  <translation>The file of your own household measures can't be read, or is from a newer version. It stays as it is, and own measures can't be changed.</translation>
+ </message>
+ <message>
+  <source>Die eigenen Haushaltsmaße ließen sich nicht sichern. Sie gelten weiter, und mit der nächsten Änderung wird es wieder versucht.</source>
+  <translation>Your own household measures could not be saved. They still hold, and the next change will try again.</translation>
+ </message>
+ <message>
+  <source>Die Datei der eigenen Haushaltsmaße war beschädigt. Was sich lesen ließ, gilt; sie selbst liegt jetzt hier: %1</source>
+  <translation>The file of your own household measures was damaged. What could be read holds; the file itself is here now: %1</translation>
+ </message>
+ <message>
+  <source>Ein Name hat höchstens %1 Zeichen.</source>
+  <translation>A name has %1 characters at most.</translation>
+ </message>
+ <message>
+  <source>Ein Name hat keine unsichtbaren Zeichen.</source>
+  <translation>A name has no invisible characters.</translation>
+ </message>
+ <message>
+  <source>Wie viel Gramm wiegt eines?</source>
+  <translation>How many grams does one weigh?</translation>
+ </message>
+ <message>
+  <source>Das sind keine Gramm wie %1.</source>
+  <translation>These are no grams like %1.</translation>
+ </message>
+ <message>
+  <source>Ein Maß wiegt mehr als 0 und höchstens %1 g.</source>
+  <translation>A measure weighs more than 0 and at most %1 g.</translation>
+ </message>
+ <message>
+  <source>„%1“ wird schon anders gelesen, als Zahl oder Einheit.</source>
+  <translation>“%1” is read as something else already, a number or a unit.</translation>
+ </message>
+ <message>
+  <source>So heißt schon ein anderes Maß dieses Lebensmittels.</source>
+  <translation>Another measure of this food has that name already.</translation>
+ </message>
+ <message>
+  <source>Wie heißt das Maß?</source>
+  <translation>What is the measure called?</translation>
+ </message>
+ <message>
+  <source>Eines</source>
+  <translation>One</translation>
+ </message>
+ <message>
+  <source>Mehrere</source>
+  <translation>Several</translation>
+ </message>
+ <message>
+  <source>Englisch, eines</source>
+  <translation>English, one</translation>
+ </message>
+ <message>
+  <source>Englisch, mehrere</source>
+  <translation>English, several</translation>
+ </message>
+ <message>
+  <source>Gramm von einem</source>
+  <translation>Grams of one</translation>
+ </message>
+ <message>
+  <source>z. B. Glas</source>
+  <translation>e.g. Glas</translation>
+ </message>
+ <message>
+  <source>Herausnehmen</source>
+  <translation>Take out</translation>
+ </message>
+ <message>
+  <source>Maß %1 herausnehmen</source>
+  <translation>Take out measure %1</translation>
+ </message>
+ <message>
+  <source>Maß %1: %2</source>
+  <translation>Measure %1: %2</translation>
+ </message>
+ <message>
+  <source>Maß</source>
+  <translation>Measure</translation>
+ </message>
+ <message>
+  <source>Quelle</source>
+  <translation>Source</translation>
+ </message>
+ <message>
+  <source>%1 Bis dahin gilt weiter: %2</source>
+  <translation>%1 Until then this still holds: %2</translation>
+ </message>
+ <message>
+  <source>Klient</source>
+  <translation>Client</translation>
+ </message>
+ <message>
+  <source>Bedarf</source>
+  <translation>Need</translation>
+ </message>
+ <message>
+  <source>% des Bedarfs</source>
+  <translation>% of need</translation>
+ </message>
+ <message>
+  <source>Wertung</source>
+  <translation>Rating</translation>
+ </message>
+ <message>
+  <source>Mittel der Tage</source>
+  <translation>Mean of the days</translation>
+ </message>
+ <message>
+  <source>%1 bis %2</source>
+  <translation>%1 to %2</translation>
+ </message>
+ <message>
+  <source>%1 ohne Datum</source>
+  <translation>%1 without a date</translation>
+ </message>
+ <message>
+  <source>Aktenform</source>
+  <translation>File form</translation>
+ </message>
+ <message>
+  <source>Zeilen, die nicht zählen: %1.</source>
+  <translation>Rows that do not count: %1.</translation>
+ </message>
+ <message>
+  <source>Von der Energie: Protein %1 %, Kohlenhydrate %2 %, Fett %3 %.</source>
+  <translation>Of the energy: protein %1 %, carbohydrate %2 %, fat %3 %.</translation>
+ </message>
+ <message>
+  <source>%1 (nicht im Mittel)</source>
+  <translation>%1 (not in the mean)</translation>
+ </message>
+ <message>
+  <source>Handzettel &amp;drucken …</source>
+  <translation>P&amp;rint handout …</translation>
+ </message>
+ <message>
+  <source>Handzettel als &amp;PDF …</source>
+  <translation>Handout as &amp;PDF …</translation>
+ </message>
+ <message>
+  <source>Aktenform d&amp;rucken …</source>
+  <translation>Print &amp;file form …</translation>
+ </message>
+ <message>
+  <source>Aktenform als PD&amp;F …</source>
+  <translation>File form &amp;as PDF …</translation>
+ </message>
+ <message>
+  <source>Mit &amp;Energie und Nährstoffen</source>
+  <translation>With &amp;energy and nutrients</translation>
+ </message>
+ <message>
+  <source>&amp;Große Schrift</source>
+  <translation>La&amp;rge print</translation>
+ </message>
+ <message>
+  <source>Welche Tage</source>
+  <translation>Which days</translation>
+ </message>
+ <message>
+  <source>&amp;Alle Tage</source>
+  <translation>&amp;All days</translation>
+ </message>
+ <message>
+  <source>&amp;Nur der gezeigte: %1</source>
+  <translation>&amp;Only the one shown: %1</translation>
+ </message>
+ <message>
+  <source>Sprache des Handzettels</source>
+  <translation>Language of the handout</translation>
+ </message>
+ <message>
+  <source>Das Logo ist nicht zu lesen; gedruckt wird ohne. Wählen Sie es in den Einstellungen neu.</source>
+  <translation>The logo cannot be read; the print goes without it. Choose it anew in the settings.</translation>
+ </message>
+ <message>
+  <source>Als &amp;PDF …</source>
+  <translation>As P&amp;DF …</translation>
+ </message>
 </context>
 <context>
  <name>PlanmodulGestalt</name>
@@ -4382,10 +4650,6 @@ New: %1</translation>
  <message>
   <source>Cholesterin, Balken</source>
   <translation>Cholesterol, bar</translation>
- </message>
- <message>
-  <source>D&amp;rucken …</source>
-  <translation>Pr&amp;int …</translation>
  </message>
  <message>
   <source>Der Verlauf erscheint, sobald Lebensmittel im Plan stehen.</source>
@@ -4958,6 +5222,96 @@ New: %1</translation>
  <message>
   <source>Tit&amp;el</source>
   <translation>&amp;Title</translation>
+ </message>
+</context>
+<context>
+ <name>MassfensterGestalt</name>
+ <message>
+  <source>Haushaltsmaße</source>
+  <translation>Household measures</translation>
+ </message>
+ <message>
+  <source>Eingebaute Maße</source>
+  <translation>Built-in measures</translation>
+ </message>
+ <message>
+  <source>Dieses Lebensmittel hat keine eingebauten Maße.</source>
+  <translation>This food has no built-in measures.</translation>
+ </message>
+ <message>
+  <source>Eingebaute Haushaltsmaße</source>
+  <translation>Built-in household measures</translation>
+ </message>
+ <message>
+  <source>Eigene Maße</source>
+  <translation>Your own measures</translation>
+ </message>
+ <message>
+  <source>Ein eigenes Maß geht einem eingebauten gleichen Namens vor. Nötig sind nur „Eines“ und die Gramm; was offen bleibt, heißt ebenso.</source>
+  <translation>An own measure takes the place of a built-in one of the same name. Only “One” and the grams are needed; what is left open is called the same.</translation>
+ </message>
+ <message>
+  <source>&amp;Neues Maß</source>
+  <translation>&amp;New measure</translation>
+ </message>
+ <message>
+  <source>Was schon aufgezeichnet ist, behält seine Gramm: Es sagt, was damals gegessen wurde.</source>
+  <translation>What is recorded already keeps its grams: it tells what was eaten then.</translation>
+ </message>
+</context>
+<context>
+ <name>TagesauswertungsfensterGestalt</name>
+ <message>
+  <source>&amp;Tag</source>
+  <translation>&amp;Day</translation>
+ </message>
+ <message>
+  <source>&amp;Mittel der Tage</source>
+  <translation>&amp;Mean of the days</translation>
+ </message>
+ <message>
+  <source>Anteil am Tagesbedarf</source>
+  <translation>Share of the daily need</translation>
+ </message>
+ <message>
+  <source>✓ grün: im Ziel, ≈ blau: knapp daneben, ✗ rot: verfehlt.</source>
+  <translation>✓ green: on target, ≈ blue: just beside, ✗ red: missed.</translation>
+ </message>
+ <message>
+  <source>Lebensmittel, nach ihrer Bewertung</source>
+  <translation>Foods, by their rating</translation>
+ </message>
+ <message>
+  <source>geeignet (+)</source>
+  <translation>suitable (+)</translation>
+ </message>
+ <message>
+  <source>neutral (0)</source>
+  <translation>neutral (0)</translation>
+ </message>
+ <message>
+  <source>ungeeignet (−)</source>
+  <translation>unsuitable (−)</translation>
+ </message>
+ <message>
+  <source>Energieverteilung</source>
+  <translation>Energy split</translation>
+ </message>
+ <message>
+  <source>Energieanteile von Protein, Kohlenhydraten und Fett</source>
+  <translation>Energy shares of protein, carbohydrate and fat</translation>
+ </message>
+ <message>
+  <source>Empfehlung</source>
+  <translation>Recommended</translation>
+ </message>
+ <message>
+  <source>Gesamtbeurteilung</source>
+  <translation>Overall judgement</translation>
+ </message>
+ <message>
+  <source>Auswertung der Tage</source>
+  <translation>Evaluation of the days</translation>
  </message>
 </context>
 </TS>
