@@ -7,6 +7,7 @@
 #include "Erscheinungsbild.h"
 #include "Feldauskunft.h"
 #include "Papierbild.h"
+#include "Namenssuche.h"
 #include "Planmodul.h"
 #include "Profilsuche.h"
 #include "Skalierung.h"
@@ -23,6 +24,7 @@
 #include <QTimer>
 
 #include <array>
+#include <functional>
 #include <optional>
 
 class Spaltenhinweis;
@@ -126,6 +128,13 @@ public:
     /// the former language (the shown name, the results of a search) follows; the order of the
     /// foods stays.
     void folgeSprache();
+
+    /// The foods whose name contains a text, see `namenSuchen`.
+    Namenssuchergebnis sucheNamen(const QString &text) const;
+
+    /// Takes a food that was double-clicked in the table, named by its key. Absent, or where it
+    /// answers false, the plan gets it.
+    std::function<bool(const QString &schluessel)> zugabeziel;
 
     // What the actions are made of
     void rausholen(const Datenmodul *lebensmittel);

@@ -54,12 +54,16 @@ private:
     QElapsedTimer m_uhr;
 };
 
+Namenssuchergebnis AppController::sucheNamen(const QString &text) const
+{
+    return namenSuchen(KundenArray, Array, m_uebersetzt, text);
+}
+
 void AppController::suchen(const Wertehalter &sender)
 {
     Suchanzeige anzeige(*this);
     anzeige.zeile(platzhalter, platzhalter);
-    const Namenssuchergebnis ergebnis =
-        namenSuchen(KundenArray, Array, m_uebersetzt, sender.stringValue());
+    const Namenssuchergebnis ergebnis = sucheNamen(sender.stringValue());
     for (qsizetype i = 0; i < ergebnis.treffer.size(); ++i) {
         const Suchtreffer &treffer = ergebnis.treffer[i];
         anzeige.zeile(treffer.anzeige, treffer.schluessel);

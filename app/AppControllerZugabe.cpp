@@ -22,7 +22,12 @@ constexpr int lesezeit = 8000;
 void AppController::verbindeZugabe()
 {
     connect(Tabelle, &Tabellenansicht::doppeltGeklickt, this,
-            [this](const QModelIndex &zelle) { gibHinein(schluesselVon(zelle)); });
+            [this](const QModelIndex &zelle) {
+                const QString schluessel = schluesselVon(zelle);
+                if (!hindernis(schluessel).isEmpty() || !zugabeziel || !zugabeziel(schluessel)) {
+                    gibHinein(schluessel);
+                }
+            });
     connect(Tabelle, &Tabellenansicht::menueGewuenscht, this, &AppController::zeigeTabellenmenue);
 }
 

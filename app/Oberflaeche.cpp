@@ -71,6 +71,7 @@ Oberflaeche::Oberflaeche(const Tueren &tueren, const Klientenanschluss::Kopfzeil
     , verlauf(hauptfenster)
     , austausch(hauptfenster, mitDateien(tueren, dateien))
     , klienten(hauptfenster, rechner, tueren, kopfzeile)
+    , tage(hauptfenster, rechner, klienten, tueren)
     , m_sprich(tueren.sprich)
     , m_einstellungen(*tueren.einstellungen)
     , m_waehleDatei(tueren.waehleDatei)
@@ -80,6 +81,8 @@ Oberflaeche::Oberflaeche(const Tueren &tueren, const Klientenanschluss::Kopfzeil
     QObject::connect(&hauptfenster, &AppController::hilfeGewuenscht, &hilfe,
                      [this](const QWidget *fenster) { hilfe.zeige(*fenster); });
     QObject::connect(&klienten, &Klientenanschluss::hilfeGewuenscht, &hilfe,
+                     [this](const QWidget *fenster) { hilfe.zeige(*fenster); });
+    QObject::connect(&tage, &Tageanschluss::hilfeGewuenscht, &hilfe,
                      [this](const QWidget *fenster) { hilfe.zeige(*fenster); });
     QObject::connect(&abwurf, &Dateiabwurf::abgeworfen, &empfang, &Dateiempfang::oeffneAdressen);
     QObject::connect(&hauptfenster, &AppController::einstellungenGewuenscht, &hauptfenster,
@@ -100,6 +103,7 @@ void Oberflaeche::awakeFromNib()
     gedaechtnis.beginne();
     verlauf.beginne();
     klienten.beginne();
+    tage.beginne();
 }
 
 void Oberflaeche::zeigeEinstellungen()
@@ -142,6 +146,7 @@ void Oberflaeche::sprich(const QString &kuerzel)
     folgeSprache(hauptfenster.planmodul);
     folgeSprache(rechner.plan);
     klienten.folgeSprache();
+    tage.folgeSprache();
     hilfe.folgeSprache();
 }
 

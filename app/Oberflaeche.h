@@ -9,6 +9,7 @@
 #include "Hilfe.h"
 #include "Klientenanschluss.h"
 #include "Tabellenaustausch.h"
+#include "Tageanschluss.h"
 #include "Verlauf.h"
 
 #include <functional>
@@ -45,6 +46,7 @@ public:
     Verlauf verlauf;
     Tabellenaustausch austausch;
     Klientenanschluss klienten;
+    Tageanschluss tage;
 
 private:
     Oberflaeche(const Tueren &tueren, const Klientenanschluss::Kopfzeile &kopfzeile);

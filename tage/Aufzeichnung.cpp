@@ -69,3 +69,15 @@ bool zaehlt(const Mahlzeitzeile &zeile)
 {
     return !zeile.oder && zeile.gramm && zeile.eintrag;
 }
+
+bool hatInhalt(const Mahlzeit &mahlzeit)
+{
+    return !mahlzeit.zeilen.isEmpty() || !mahlzeit.notiz.isEmpty();
+}
+
+bool hatInhalt(const Tag &tag)
+{
+    return !tag.notiz.isEmpty() ||
+           std::any_of(tag.mahlzeiten.begin(), tag.mahlzeiten.end(),
+                       [](const Mahlzeit &eine) { return hatInhalt(eine); });
+}

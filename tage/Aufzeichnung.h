@@ -95,3 +95,7 @@ QString tagesname(const Aufzeichnung &aufzeichnung, int tag);
 
 /// Whether a row counts: it is no alternative, its amount was understood and its food is known.
 bool zaehlt(const Mahlzeitzeile &zeile);
+
+/// Whether there is anything on this day, or in this meal, that would be missed: a row or a note.
+bool hatInhalt(const Mahlzeit &mahlzeit);
+bool hatInhalt(const Tag &tag);

@@ -7,20 +7,32 @@
 class Tagebuch::Schritt : public QUndoCommand
 {
 public:
-    Schritt(Tagebuch &buch, const QString &was, Aufzeichnung vorher, Aufzeichnung nachher)
+    Schritt(Tagebuch &buch, const QString &was, Aufzeichnung vorher, Aufzeichnung nachher,
+            QString feld)
         : QUndoCommand(was)
         , m_buch(buch)
         , m_vorher(std::move(vorher))
         , m_nachher(std::move(nachher))
+        , m_feld(std::move(feld))
     {
     }
     void undo() override { m_buch.stelleHer(m_vorher); }
     void redo() override { m_buch.stelleHer(m_nachher); }
+    int id() const override { return m_feld.isNull() ? -1 : 0; }
+    bool mergeWith(const QUndoCommand *spaeterer) override
+    {
+        const auto *anderer = static_cast<const Schritt *>(spaeterer);
+        if (anderer->m_feld == m_feld) {
+            m_nachher = anderer->m_nachher;
+        }
+        return anderer->m_feld == m_feld;
+    }
 
 private:
     Tagebuch &m_buch;
     Aufzeichnung m_vorher;
     Aufzeichnung m_nachher;
+    QString m_feld; ///< what was typed into; null: the step stands by itself
 };
 
 Tagebuch::Tagebuch(Aufzeichnungsablage &ablage) : m_ablage(&ablage)
@@ -123,7 +135,7 @@ bool Tagebuch::loesche()
     return geloescht;
 }
 
-bool Tagebuch::aendere(const QString &was, const Tat &tat)
+bool Tagebuch::aendere(const QString &was, const Tat &tat, const QString &feld)
 {
     if (!aenderbar()) {
         return false;
@@ -133,7 +145,7 @@ bool Tagebuch::aendere(const QString &was, const Tat &tat)
     if (!tat(nachher) || nachher == vorher) {
         return false;
     }
-    schritte.push(new Schritt(*this, was, vorher, nachher));
+    schritte.push(new Schritt(*this, was, vorher, nachher, feld));
     return true;
 }
 

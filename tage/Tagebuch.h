@@ -43,8 +43,10 @@ public:
     /// Takes the record away. It can't be taken back; who calls this has asked.
     bool loesche();
     /// Changes the record, keeps it and remembers how it was. `was` says in a few words what was
-    /// done, for "Rückgängig: …". False: nothing was changed.
-    bool aendere(const QString &was, const Tat &tat);
+    /// done, for "Rückgängig: …". Changes of one `feld` that follow each other are one step: each
+    /// letter that is typed is kept, but nobody takes back single letters. False: nothing was
+    /// changed.
+    bool aendere(const QString &was, const Tat &tat, const QString &feld = {});
 
     QUndoStack schritte; ///< of the record that is worked at
 

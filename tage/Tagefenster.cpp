@@ -1,9 +1,11 @@
 #include "Tagefenster.h"
 
 #include "Aufzeichnungsaenderung.h"
+#include "Rollbereich.h"
 #include "Schriftplatz.h"
 #include "Schriftstufe.h"
 #include "Tabellenkopie.h"
+#include "Tagesauswertungsfenster.h"
 #include "Zeichenkettentabelle.h"
 #include "Zeilenhoehe.h"
 
@@ -25,12 +27,20 @@ const QDate ohneDatum(1900, 1, 1);
 constexpr std::array<const char *, 2> arten = {QT_TRANSLATE_NOOP("Mahlberg", "Protokoll"),
                                                QT_TRANSLATE_NOOP("Mahlberg", "Wochenplan")};
 
+/// Who types in the middle of a text goes on there.
+void schreibe(QLineEdit &feld, const QString &text)
+{
+    if (feld.text() != text) {
+        feld.setText(text);
+    }
+}
+
 /// How a record is called in the list of all.
 QString aufzeichnungsname(const Aufzeichnung &eine)
 {
     const QString art =
         localizedString(QString::fromUtf8(arten.at(static_cast<std::size_t>(eine.art))));
-    const QString titel = eine.titel.isEmpty() ? art : eine.titel;
+    const QString titel = eine.titel.trimmed().isEmpty() ? art : eine.titel.trimmed();
     return eine.datum.isValid() ? QStringLiteral("%1, %2").arg(
                                       titel, QLocale().toString(eine.datum, QLocale::ShortFormat))
                                 : titel;
@@ -63,14 +73,8 @@ Tagefenster::Tagefenster(Aufzeichnungsablage &ablage, Tagetueren tueren)
 
 void Tagefenster::baueTabellen()
 {
-    ansicht->setVorschlaege([this](int, int spalte, const QString &text) {
-        QList<Vorschlagsfeld::Vorschlag> vorschlaege;
-        if (spalte == Tagesmodell::Name) {
-            for (const Suchtreffer &treffer : m_tueren.suche(text).treffer) {
-                vorschlaege << Vorschlagsfeld::Vorschlag{treffer.anzeige, treffer.schluessel};
-            }
-        }
-        return vorschlaege;
+    ansicht->setVorschlaege([this](int reihe, int spalte, const QString &text) {
+        return vorschlaege(reihe, spalte, text);
     });
     const int breite = ziffern * fontMetrics().horizontalAdvance(u'0') + 10;
     ansicht->verticalHeader()->setDefaultSectionSize(zeilenhoeheFuer(*ansicht, zeilenhoehe));
@@ -84,10 +88,13 @@ void Tagefenster::baueTabellen()
     kopf.setSectionResizeMode(Tagesmodell::Name, QHeaderView::Stretch);
     summen->setModel(&m_summen);
     summen->setSelectionMode(QAbstractItemView::NoSelection);
-    summen->verticalHeader()->setDefaultSectionSize(zeilenhoeheFuer(*summen, zeilenhoehe));
+    // As low as its letters, so that all values are seen on a small screen with the pictures below.
+    summen->verticalHeader()->setMinimumSectionSize(summen->fontMetrics().height());
+    summen->verticalHeader()->setDefaultSectionSize(summen->fontMetrics().height() + 1);
     summen->horizontalHeader()->setSectionResizeMode(QHeaderView::Stretch);
     summen->horizontalHeader()->setHighlightSections(false);
     Tabellenkopie::ermoegliche(*summen);
+    Rollbereich::fasse(*rechteSeite);
 }
 
 void Tagefenster::verbinde()
@@ -109,11 +116,20 @@ void Tagefenster::verbinde()
             buch.waehleTag(tag);
         }
     });
-    connect(titel, &QLineEdit::editingFinished, this, [this] {
-        aendere(QT_TRANSLATE_NOOP("Mahlberg", "Titel ändern"), [this](Aufzeichnung &eine) {
-            eine.titel = titel->text().trimmed();
-            return true;
-        });
+    verbindeKopf();
+    verbindeNotizen();
+}
+
+void Tagefenster::verbindeKopf()
+{
+    connect(titel, &QLineEdit::textEdited, this, [this](const QString &text) {
+        aendere(
+            QT_TRANSLATE_NOOP("Mahlberg", "Titel ändern"),
+            [&](Aufzeichnung &eine) {
+                eine.titel = text;
+                return true;
+            },
+            QStringLiteral("titel"));
     });
     connect(art, &QComboBox::activated, this, [this](int stelle) {
         aendere(QT_TRANSLATE_NOOP("Mahlberg", "Art ändern"), [stelle](Aufzeichnung &eine) {
@@ -127,24 +143,34 @@ void Tagefenster::verbinde()
             return true;
         });
     });
-    connect(tagezahl, &QSpinBox::valueChanged, this, [this](int zahl) {
-        aendere(QT_TRANSLATE_NOOP("Mahlberg", "Zahl der Tage ändern"), [zahl](Aufzeichnung &eine) {
-            return Aufzeichnungsaenderung::setzeTagezahl(eine, zahl);
-        });
-    });
-    connect(mahlzeitnotiz, &QLineEdit::editingFinished, this, [this] {
+    connect(tagezahl, &QSpinBox::valueChanged, this, &Tagefenster::setzeTagezahl);
+}
+
+/// Notes are kept letter by letter; whoever turns to another day has lost nothing.
+void Tagefenster::verbindeNotizen()
+{
+    connect(mahlzeitnotiz, &QLineEdit::textEdited, this, [this](const QString &text) {
         if (const auto platz = ansicht->platz()) {
-            aendere(QT_TRANSLATE_NOOP("Mahlberg", "Notiz ändern"), [&](Aufzeichnung &eine) {
-                eine.tage[buch.tag()].mahlzeiten[platz->mahlzeit].notiz = mahlzeitnotiz->text();
-                return true;
-            });
+            const int tag = buch.tag();
+            const int mahlzeit = platz->mahlzeit;
+            aendere(
+                QT_TRANSLATE_NOOP("Mahlberg", "Notiz ändern"),
+                [&](Aufzeichnung &eine) {
+                    eine.tage[tag].mahlzeiten[mahlzeit].notiz = text;
+                    return true;
+                },
+                QStringLiteral("notiz %1 %2").arg(tag).arg(mahlzeit));
         }
     });
-    connect(tagesnotiz, &QLineEdit::editingFinished, this, [this] {
-        aendere(QT_TRANSLATE_NOOP("Mahlberg", "Notiz ändern"), [this](Aufzeichnung &eine) {
-            eine.tage[buch.tag()].notiz = tagesnotiz->text();
-            return true;
-        });
+    connect(tagesnotiz, &QLineEdit::textEdited, this, [this](const QString &text) {
+        const int tag = buch.tag();
+        aendere(
+            QT_TRANSLATE_NOOP("Mahlberg", "Notiz ändern"),
+            [&](Aufzeichnung &eine) {
+                eine.tage[tag].notiz = text;
+                return true;
+            },
+            QStringLiteral("notiz %1").arg(tag));
     });
     connect(imMittel, &QCheckBox::clicked, this, [this](bool ja) {
         aendere(QT_TRANSLATE_NOOP("Mahlberg", "Tag im Mittel"), [this, ja](Aufzeichnung &eine) {
@@ -155,9 +181,9 @@ void Tagefenster::verbinde()
 }
 
 /// Nothing is changed while the controls are only told what there is.
-bool Tagefenster::aendere(const char *was, const Tagebuch::Tat &tat)
+bool Tagefenster::aendere(const char *was, const Tagebuch::Tat &tat, const QString &feld)
 {
-    return !m_zeigt && buch.aendere(localizedString(QString::fromUtf8(was)), tat);
+    return !m_zeigt && buch.aendere(localizedString(QString::fromUtf8(was)), tat, feld);
 }
 
 void Tagefenster::zeige()
@@ -167,6 +193,17 @@ void Tagefenster::zeige()
     raise();
     activateWindow();
     ansicht->setFocus();
+}
+
+void Tagefenster::sichere()
+{
+    ansicht->beende();
+}
+
+void Tagefenster::setzeAblage(Aufzeichnungsablage &ablage)
+{
+    sichere();
+    buch.setzeAblage(ablage);
 }
 
 void Tagefenster::frischeAuf()
@@ -209,9 +246,7 @@ void Tagefenster::zeigeKopf()
     }
     const Aufzeichnung gezeigte =
         eine.value_or(neueAufzeichnung(Aufzeichnungsart::Protokoll, {}, 1));
-    if (titel->text() != gezeigte.titel) {
-        titel->setText(gezeigte.titel);
-    }
+    schreibe(*titel, gezeigte.titel);
     art->setCurrentIndex(static_cast<int>(gezeigte.art));
     datum->setDate(gezeigte.datum.isValid() ? gezeigte.datum : ohneDatum);
     tagezahl->setValue(static_cast<int>(gezeigte.tage.size()));
@@ -256,10 +291,10 @@ void Tagefenster::zeigeNotizen()
     const std::optional<Aufzeichnung> eine = buch.jetzige();
     const std::optional<Tagesmodell::Platz> platz = ansicht->platz();
     const Tag tag = eine ? eine->tage[buch.tag()] : Tag();
-    tagesnotiz->setText(tag.notiz);
+    schreibe(*tagesnotiz, tag.notiz);
     imMittel->setChecked(tag.imMittel);
     const bool mitMahlzeit = platz && platz->mahlzeit < tag.mahlzeiten.size();
-    mahlzeitnotiz->setText(mitMahlzeit ? tag.mahlzeiten[platz->mahlzeit].notiz : QString());
+    schreibe(*mahlzeitnotiz, mitMahlzeit ? tag.mahlzeiten[platz->mahlzeit].notiz : QString());
     mahlzeitnotiz->setEnabled(mitMahlzeit && buch.aenderbar());
 }
 
@@ -278,6 +313,7 @@ void Tagefenster::zeigeSummen()
             stand.zeile = zeilenwerte(*zeile);
         }
     }
+    zeigeAuswertung(eine, stand);
     const int imMittelGezaehlt = stand.mittel.tage;
     const int unverstanden = stand.tag.unverstanden;
     m_summen.zeige(std::move(stand));
@@ -295,6 +331,9 @@ void Tagefenster::folgeSprache()
     for (int stelle = 0; stelle < art->count(); ++stelle) {
         art->setItemText(
             stelle, localizedString(QString::fromUtf8(arten.at(static_cast<std::size_t>(stelle)))));
+    }
+    if (m_auswertung != nullptr) {
+        m_auswertung->folgeSprache();
     }
     zeigeAuswahl();
 }

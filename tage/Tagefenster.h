@@ -117,7 +117,11 @@ private:
     void gibAktenformAus(bool alsPdf);
     void gibAus(const Druckauftrag &auftrag, bool alsPdf);
     Druckangaben druckangaben() const;
-    bool aendere(const char *was, const Tagebuch::Tat &tat);
+    void setzeTagezahl(int zahl);
+    void sageMitRueckweg(const QString &text);
+    void verbindeKopf();
+    void verbindeNotizen();
+    bool aendere(const char *was, const Tagebuch::Tat &tat, const QString &feld = {});
 
     // What was typed into the table
     void nimmAn(const Tagesmodell::Platz &platz, int spalte, const QString &text,

@@ -3,14 +3,25 @@
 #include "Tagefenster.h"
 
 #include "Aufzeichnungsaenderung.h"
+#include "Mengenvorschlag.h"
 #include "Zeichenkettentabelle.h"
 
 #include <QCoreApplication>
+
+#include <algorithm>
 
 using Art = Tagesmodell::Art;
 using Platz = Tagesmodell::Platz;
 
 namespace {
+
+const QString hinweisEingabe = QStringLiteral("eingabe");
+
+Regelsprache sprache()
+{
+    return QLocale().language() == QLocale::English ? Regelsprache::Englisch
+                                                    : Regelsprache::Deutsch;
+}
 
 Aufzeichnungsaenderung::Stelle stelleVon(int tag, const Platz &platz)
 {
@@ -30,16 +41,72 @@ void Tagefenster::nimmAn(const Platz &platz, int spalte, const QString &text,
     } else if (spalte == Tagesmodell::Name) {
         nimmNamen(platz, text, schluessel, weiter);
     } else {
-        nimmAngabe(platz, text, weiter);
+        nimmAngabe(platz, schluessel.isNull() ? text : schluessel, weiter);
+    }
+}
+
+/// Foods as the search by name finds them, but one that is called exactly so comes first; amounts
+/// with the measures of the row's food.
+QList<Vorschlagsfeld::Vorschlag> Tagefenster::vorschlaege(int reihe, int spalte,
+                                                          const QString &text) const
+{
+    QList<Vorschlagsfeld::Vorschlag> alle;
+    const Mahlzeitzeile *zeile = ansicht->tagesmodell().zeile(reihe);
+    const auto platz = ansicht->tagesmodell().platz(reihe);
+    if (spalte == Tagesmodell::Angabe && zeile != nullptr && !zeile->schluessel.isNull()) {
+        for (const Mengenvorschlag &einer :
+             mengenvorschlaege(text, m_tueren.masse(zeile->schluessel), sprache())) {
+            alle << Vorschlagsfeld::Vorschlag{einer.anzeige, einer.angabe};
+        }
+    } else if (spalte == Tagesmodell::Name && platz && platz->art != Art::Mahlzeit) {
+        for (const Suchtreffer &treffer : m_tueren.suche(text).treffer) {
+            alle << Vorschlagsfeld::Vorschlag{treffer.anzeige, treffer.schluessel};
+        }
+        std::stable_partition(alle.begin(), alle.end(), [&](const auto &einer) {
+            return einer.anzeige.compare(text, Qt::CaseInsensitive) == 0;
+        });
+    }
+    return alle;
+}
+
+/// What is not understood stays as it was typed, and counts nothing.
+void Tagefenster::setzeAngabe(Mahlzeitzeile &zeile, const QString &text) const
+{
+    const QList<Mass> masse =
+        zeile.schluessel.isNull() ? QList<Mass>() : m_tueren.masse(zeile.schluessel);
+    const Mengenergebnis ergebnis = leseMenge(text, masse);
+    zeile.angabe = behalteneAngabe(text, masse, sprache());
+    zeile.gramm = ergebnis.angabe ? std::optional(ergebnis.angabe->gramm) : std::nullopt;
+}
+
+/// Says at once why a row will not count; a mark in the table alone is soon overlooked.
+void Tagefenster::sageUnverstandenes(const Mahlzeitzeile &zeile)
+{
+    QString text;
+    if (!zeile.eintrag) {
+        text = localizedString(
+                   QStringLiteral("Ein Lebensmittel „%1“ gibt es nicht. Die Zeile zählt nicht."))
+                   .arg(kurzerName(zeile.text));
+    } else if (!zeile.gramm && !zeile.angabe.isEmpty()) {
+        const Mengenergebnis ergebnis = leseMenge(zeile.angabe, m_tueren.masse(zeile.schluessel));
+        text = localizedString(QStringLiteral("„%1“: %2 Die Zeile zählt nicht."))
+                   .arg(kurzerName(zeile.angabe),
+                        fehlertext(ergebnis.fehler.value_or(Mengenangabe::Fehler::KeineZahl)));
+    }
+    if (text.isEmpty()) {
+        hinweise->nimmZurueck(hinweisEingabe);
+    } else {
+        hinweise->zeige({.kennung = hinweisEingabe, .text = text});
     }
 }
 
 /// A food that is known comes as it is today; what is not known stays as it was typed.
 Mahlzeitzeile Tagefenster::zeileFuer(const QString &text, const QString &schluessel) const
 {
-    const Namenssuchergebnis gefunden = m_tueren.suche(text);
     Mahlzeitzeile zeile;
     zeile.schluessel = schluessel;
+    const Namenssuchergebnis gefunden =
+        schluessel.isNull() ? m_tueren.suche(text) : Namenssuchergebnis();
     for (const Suchtreffer &treffer : gefunden.treffer) {
         if (zeile.schluessel.isNull() && treffer.anzeige.compare(text, Qt::CaseInsensitive) == 0) {
             zeile.schluessel = treffer.schluessel;
@@ -71,13 +138,13 @@ void Tagefenster::nimmNamen(const Platz &platz, const QString &text, const QStri
     } else if (ansicht->tagesmodell().eingabetext(ansicht->tagesmodell().reihe(platz),
                                                   Tagesmodell::Name) != text ||
                !schluessel.isNull()) {
-        neue.angabe = bisher->angabe;
+        setzeAngabe(neue, bisher->angabe);
         neue.oder = bisher->oder;
-        neue.gramm = m_tueren.gramm(neue.schluessel, neue.angabe);
         aendere(QT_TRANSLATE_NOOP("Mahlberg", "Lebensmittel ändern"), [&](Aufzeichnung &eine) {
             return Aufzeichnungsaenderung::ersetze(eine, stelleVon(buch.tag(), platz), neue);
         });
     }
+    sageUnverstandenes(neue);
     if (weiter) {
         ansicht->geheZu({Art::Speise, platz.mahlzeit, platz.zeile}, Tagesmodell::Angabe);
         ansicht->beginne();
@@ -89,11 +156,11 @@ void Tagefenster::nimmAngabe(const Platz &platz, const QString &text, bool weite
     const Mahlzeitzeile *bisher = ansicht->tagesmodell().zeile(ansicht->tagesmodell().reihe(platz));
     if (bisher != nullptr && bisher->angabe != text) {
         Mahlzeitzeile neue = *bisher;
-        neue.angabe = text;
-        neue.gramm = m_tueren.gramm(neue.schluessel, text);
+        setzeAngabe(neue, text);
         aendere(QT_TRANSLATE_NOOP("Mahlberg", "Menge ändern"), [&](Aufzeichnung &eine) {
             return Aufzeichnungsaenderung::ersetze(eine, stelleVon(buch.tag(), platz), neue);
         });
+        sageUnverstandenes(neue);
     }
     if (weiter) {
         geheZuNaechster(platz);
@@ -120,4 +187,37 @@ void Tagefenster::geheZuMahlzeit(int mahlzeit)
         const qsizetype zeilen = eine->tage[buch.tag()].mahlzeiten[mahlzeit].zeilen.size();
         ansicht->geheZu({Art::Eingabe, mahlzeit, static_cast<int>(zeilen)}, Tagesmodell::Name);
     }
+}
+
+/// A food with the amount that one has of it as a rule.
+Mahlzeitzeile Tagefenster::uebliche(const QString &schluessel) const
+{
+    Mahlzeitzeile zeile;
+    zeile.schluessel = schluessel;
+    if (const Datenmodul *speise = m_tueren.lebensmittel(schluessel)) {
+        zeile.eintrag = *speise;
+    }
+    const QList<Mass> masse = m_tueren.masse(schluessel);
+    setzeAngabe(zeile, masse.isEmpty() ? QStringLiteral("100 g") : u'1' + (u' ' + masse[0].eines));
+    return zeile;
+}
+
+QString Tagefenster::gibHinein(const QString &schluessel)
+{
+    ansicht->beende();
+    const std::optional<Aufzeichnung> eine = buch.jetzige();
+    if (!eine || m_tueren.lebensmittel(schluessel) == nullptr) {
+        return {};
+    }
+    const int mahlzeit = ansicht->platz().value_or(Platz{}).mahlzeit;
+    const auto ende = static_cast<int>(eine->tage[buch.tag()].mahlzeiten[mahlzeit].zeilen.size());
+    const Mahlzeitzeile neue = uebliche(schluessel);
+    if (!aendere(QT_TRANSLATE_NOOP("Mahlberg", "Lebensmittel eintragen"), [&](Aufzeichnung &was) {
+            return Aufzeichnungsaenderung::fuegeEin(was, {buch.tag(), mahlzeit, ende}, {neue});
+        })) {
+        return {};
+    }
+    ansicht->geheZu({Art::Speise, mahlzeit, ende}, Tagesmodell::Angabe);
+    return QStringLiteral("%1, %2, %3").arg(tagesname(*eine, buch.tag()),
+                                            mahlzeitname(eine->mahlzeiten[mahlzeit]), neue.angabe);
 }

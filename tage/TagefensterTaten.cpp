@@ -14,6 +14,8 @@ namespace {
 
 constexpr int tageEinerWoche = 7;
 
+const QString hinweisTat = QStringLiteral("tat");
+
 struct Menuezeile
 {
     const char *text;
@@ -196,8 +198,45 @@ void Tagefenster::fuelleTage()
 
 void Tagefenster::leereTag()
 {
-    aendere(QT_TRANSLATE_NOOP("Mahlberg", "Tag leeren"),
-            [this](Aufzeichnung &eine) { return Aufzeichnungsaenderung::leere(eine, buch.tag()); });
+    const std::optional<Aufzeichnung> eine = buch.jetzige();
+    if (aendere(QT_TRANSLATE_NOOP("Mahlberg", "Tag leeren"), [this](Aufzeichnung &was) {
+            return Aufzeichnungsaenderung::leere(was, buch.tag());
+        })) {
+        sageMitRueckweg(
+            localizedString(QStringLiteral("%1 ist leer.")).arg(tagesname(*eine, buch.tag())));
+    }
+}
+
+/// What goes with the days at the end is told: nobody sees them any more.
+void Tagefenster::setzeTagezahl(int zahl)
+{
+    const Aufzeichnung eine = buch.jetzige().value_or(Aufzeichnung());
+    QStringList verlorene;
+    for (int tag = zahl; tag < eine.tage.size(); ++tag) {
+        if (hatInhalt(eine.tage[tag])) {
+            verlorene << tagesname(eine, tag);
+        }
+    }
+    if (aendere(QT_TRANSLATE_NOOP("Mahlberg", "Zahl der Tage ändern"), [zahl](Aufzeichnung &was) {
+            return Aufzeichnungsaenderung::setzeTagezahl(was, zahl);
+        }) &&
+        !verlorene.isEmpty()) {
+        sageMitRueckweg(localizedString(QStringLiteral("Weggenommen mit dem, was dort stand: %1."))
+                            .arg(verlorene.join(QStringLiteral(", "))));
+    }
+}
+
+/// What was done is told with the way back, as long as nothing else is done.
+void Tagefenster::sageMitRueckweg(const QString &text)
+{
+    const int schritt = buch.schritte.index();
+    hinweise->zeige({.kennung = hinweisTat,
+                     .text = text,
+                     .knopf = localizedString(QStringLiteral("Rückgängig")),
+                     .aktion = [this, schritt] { buch.schritte.setIndex(schritt - 1); }});
+    connect(
+        &buch.schritte, &QUndoStack::indexChanged, hinweise,
+        [this] { hinweise->nimmZurueck(hinweisTat); }, Qt::SingleShotConnection);
 }
 
 void Tagefenster::neueMahlzeit()
@@ -215,10 +254,17 @@ void Tagefenster::neueMahlzeit()
 
 void Tagefenster::loescheMahlzeit()
 {
-    if (const std::optional<Tagesmodell::Platz> platz = ansicht->platz()) {
-        aendere(QT_TRANSLATE_NOOP("Mahlberg", "Mahlzeit herausnehmen"), [&](Aufzeichnung &eine) {
-            return Aufzeichnungsaenderung::nimmMahlzeitHeraus(eine, platz->mahlzeit);
-        });
+    const std::optional<Tagesmodell::Platz> platz = ansicht->platz();
+    const std::optional<Aufzeichnung> eine = buch.jetzige();
+    if (!platz || !eine) {
+        return;
+    }
+    if (aendere(QT_TRANSLATE_NOOP("Mahlberg", "Mahlzeit herausnehmen"), [&](Aufzeichnung &was) {
+            return Aufzeichnungsaenderung::nimmMahlzeitHeraus(was, platz->mahlzeit);
+        })) {
+        sageMitRueckweg(
+            localizedString(QStringLiteral("„%1“ ist an allen Tagen herausgenommen."))
+                .arg(kurzerName(mahlzeitname(eine->mahlzeiten[platz->mahlzeit]))));
     }
 }
 

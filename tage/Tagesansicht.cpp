@@ -94,6 +94,8 @@ void Tagesansicht::beginne(const QString &text)
     if (!text.isNull()) {
         m_feld->insert(text);
         Q_EMIT m_feld->textEdited(m_feld->text());
+    } else if (m_feld->text().isEmpty()) {
+        m_feld->biete();
     }
 }
 
@@ -109,7 +111,9 @@ void Tagesansicht::uebernimm(bool weiter)
 {
     Vorschlagsfeld *feld = std::exchange(m_feld, nullptr);
     const QString text = feld->text().trimmed();
-    const QString schluessel = feld->gewaehlter().schluessel;
+    // An offer is taken with Return; who leaves an empty field wants nothing.
+    const QString schluessel =
+        weiter || !text.isEmpty() ? feld->gewaehlter().schluessel : QString();
     const Tagesmodell::Platz platz = m_feldplatz;
     const int spalte = m_feldspalte;
     feld->removeEventFilter(this);

@@ -25,16 +25,19 @@ Vorschlagsfeld::Vorschlagsfeld(QWidget *parent, QWidget *fenster, Quelle quelle)
     m_liste->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     m_liste->setUniformItemSizes(true);
     m_liste->hide();
-    connect(this, &QLineEdit::textEdited, this, [this] {
-        m_getippt = true;
-        schlageVor();
-    });
+    connect(this, &QLineEdit::textEdited, this, &Vorschlagsfeld::biete);
     connect(m_liste, &QListWidget::itemClicked, this, &Vorschlagsfeld::uebernommen);
 }
 
 Vorschlagsfeld::~Vorschlagsfeld()
 {
     delete m_liste;
+}
+
+void Vorschlagsfeld::biete()
+{
+    m_getippt = true;
+    schlageVor();
 }
 
 void Vorschlagsfeld::schlageVor()

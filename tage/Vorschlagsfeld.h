@@ -29,8 +29,11 @@ public:
     Vorschlagsfeld(QWidget *parent, QWidget *fenster, Quelle quelle);
     ~Vorschlagsfeld() override;
 
+    /// Offers what there is before anything is typed.
+    void biete();
+
     /// The one that Return takes: that which was chosen, or the first; an absent (null) key where
-    /// nothing fits, or nothing was typed.
+    /// nothing fits, or nothing was typed or offered.
     Vorschlag gewaehlter() const;
     /// The list below the field; for tests and assistive tools.
     const QListWidget *liste() const { return m_liste; }

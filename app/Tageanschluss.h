@@ -1,0 +1,69 @@
+#pragma once
+
+#include "Klientenaufzeichnungen.h"
+#include "Platzgedaechtnis.h"
+#include "Portionentabelle.h"
+#include "Tagefenster.h"
+#include "Tagesdatei.h"
+#include "Tueren.h"
+
+#include <QObject>
+
+#include <memory>
+
+class AnthroController;
+class AppController;
+class Klientenanschluss;
+
+/// Joins the records of days to the desk: the way to their window in the menus, the foods and their
+/// measures, what the calculator says of the need, and whose records they are: those of the client
+/// at the desk, or of nobody. The desk itself knows nothing of days.
+class Tageanschluss : public QObject
+{
+    Q_OBJECT
+
+public:
+    /// All of them outlive this object.
+    Tageanschluss(AppController &hauptfenster, AnthroController &rechner,
+                  Klientenanschluss &klienten, Tueren tueren);
+    ~Tageanschluss() override;
+
+    /// Joins from now on. No record is read before the window is first opened.
+    void beginne();
+
+    /// The window of the days; made when it is first asked for.
+    Tagefenster &fenster();
+    /// The same, null as long as nobody has asked.
+    Tagefenster *offenes() const { return m_fenster.get(); }
+
+    /// Another language is spoken.
+    void folgeSprache();
+
+protected:
+    bool eventFilter(QObject *watched, QEvent *event) override;
+
+Q_SIGNALS:
+    /// The user of the window wants the handbook.
+    void hilfeGewuenscht(const QWidget *fenster);
+
+private:
+    void bereitePlan();
+    QAction *eintrag(QObject *menue);
+    bool nimmSpeise(const QString &schluessel);
+    void folgeKlient();
+    void betitle();
+    void sageZustand();
+    QString pfad(const char *datei) const;
+    Tagetueren fenstertueren();
+
+    AppController &m_hauptfenster;
+    AnthroController &m_rechner;
+    Klientenanschluss &m_klienten;
+    Tueren m_tueren;
+    Portionentabelle m_portionen;
+    Tagesdatei m_ohneKlient;
+    std::unique_ptr<Klientenaufzeichnungen> m_desKlienten; ///< null while nobody is at the desk
+    std::unique_ptr<Tagefenster> m_fenster;
+    std::unique_ptr<Platzgedaechtnis> m_platz; ///< of that window; goes before it
+    bool m_zuletztVorn = false; ///< the user was in that window later than in the plan's
+};
