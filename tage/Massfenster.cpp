@@ -71,6 +71,13 @@ Massfenster::Massfenster(const Portionentabelle &eingebaute, EigeneMasse &eigene
     m_zeilen.front()->gehZu();
 }
 
+/// The field that one was typing into tells what stands there when the window goes away, and the
+/// window must still be one then.
+Massfenster::~Massfenster()
+{
+    hide();
+}
+
 void Massfenster::oeffne(const Portionentabelle &eingebaute, EigeneMasse &eigene,
                          const QString &schluessel, QWidget *parent)
 {

@@ -22,6 +22,7 @@ public:
     /// Both sources outlive the window.
     Massfenster(const Portionentabelle &eingebaute, EigeneMasse &eigene, QString schluessel,
                 QWidget *parent);
+    ~Massfenster() override;
 
     /// Shows the measures of the food with that key in front of all other windows. The window goes
     /// by itself when it is closed.

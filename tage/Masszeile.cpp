@@ -51,6 +51,9 @@ Masszeile::Masszeile(QGridLayout &anordnung, int reihe, int nummer, QWidget &sei
     m_worte->setTextFormat(Qt::PlainText);
     m_worte->setWordWrap(true);
     anordnung.addWidget(m_worte, reihe + 1, Eines, 1, AnzahlFelder + 1);
+    for (QWidget *feld : felder()) {
+        feld->show(); // at once: one may be typing in the row above
+    }
 }
 
 void Masszeile::entferne()
