@@ -8,7 +8,6 @@
 #include "Ganzzahl.h"
 #include "Planregeln.h"
 #include "Planurteil.h"
-#include "Planzahlen.h"
 #include "Planzeilen.h"
 #include "Prognose.h"
 #include "Zeichenkettentabelle.h"
@@ -109,16 +108,6 @@ QString fehlendes(const Klient &klient)
                      "Für den Verlauf fehlen Gewicht und Größe (unter „Körper und Energie“)."));
 }
 
-/// A share as its field shows it, as short as it is.
-QString prozenttext(double prozent)
-{
-    const double gezeigt = gezeigterProzentsatz(prozent);
-    return std::isfinite(gezeigt)
-               ? zahlenform().toString(gezeigt, 'f', QLocale::FloatingPointShortest) +
-                     QChar(QChar::Nbsp) + u'%'
-               : QStringLiteral("-"); // it ran over
-}
-
 } // namespace
 
 std::vector<Planzeile> Planmodul::zeilen() const
@@ -193,14 +182,8 @@ void Planmodul::zeigeNaehrwerte(const Planauswertung &auswertung)
 void Planmodul::zeigeMengen(const Planauswertung &auswertung)
 {
     for (const Planregel &regel : planregeln) {
-        const double summe = static_cast<double>(auswertung.naehrwerte[stelle(regel.wert)].summe);
-        const std::optional<double> bedarf = planbedarf(regel.bezug, klient.bedarf);
         const QString worte =
-            bedarf ? localizedString(QStringLiteral("%1 von %2"))
-                         .arg(naehrwertMitEinheit(regel.wert, summe),
-                              naehrwertMitEinheit(regel.wert, *bedarf))
-                   : localizedString(QStringLiteral("%1; der Energiebedarf ist noch nicht bekannt"))
-                         .arg(naehrwertMitEinheit(regel.wert, summe));
+            mengenworte(regel, auswertung.naehrwerte[stelle(regel.wert)].summe, klient.bedarf);
         Textfeld &feld = *(this->*naehrwertfelder[stelle(regel.wert)].prozent);
         feld.setToolTip(worte);
         feld.setAccessibleDescription(worte);
@@ -238,31 +221,14 @@ void Planmodul::zeigeBeurteilung(const Planauswertung &auswertung)
 {
     planbeurteilungfaceview->entscheidung(auswertung.gesicht);
     planworte->setText(planurteil(auswertung, PlanArray.isEmpty()) + u'\n' +
-                       localizedString(QStringLiteral("%1 von 21 Punkten")).arg(auswertung.punkte));
+                       punkteworte(auswertung));
     zeigeFehlendePunkte(auswertung);
 }
 
 /// Which points a plan lacks: nutrients with the share that earns none, and ratings.
 void Planmodul::zeigeFehlendePunkte(const Planauswertung &auswertung)
 {
-    QStringList fehlende;
-    for (const auto &zeile : naehrwerte) {
-        const Plannaehrwert &naehrwert = auswertung.naehrwerte[stelle(zeile.wert)];
-        if (!naehrwert.punkt) {
-            fehlende << QStringLiteral("%1 (%2)").arg(
-                localizedString(QString::fromUtf8(zeile.bezeichnung)),
-                prozenttext(naehrwert.prozent));
-        }
-    }
-    for (const auto &zeile : wertungen) {
-        if (!auswertung.wertungen[stelle(zeile.wertung)].punkt) {
-            fehlende << localizedString(QString::fromUtf8(zeile.bezeichnung));
-        }
-    }
-    const QString worte = PlanArray.isEmpty() || fehlende.isEmpty()
-                              ? QString()
-                              : localizedString(QStringLiteral("Es fehlen: %1"))
-                                    .arg(fehlende.join(QStringLiteral(", ")));
+    const QString worte = PlanArray.isEmpty() ? QString() : fehlendePunkte(auswertung);
     for (QWidget *teil : std::initializer_list<QWidget *>{planworte, planbeurteilungfaceview}) {
         // As rich text a long list is broken into lines.
         teil->setToolTip(
@@ -274,16 +240,7 @@ void Planmodul::zeigeFehlendePunkte(const Planauswertung &auswertung)
 /// What 100 % of the energy are, as they were when the shares were worked out.
 void Planmodul::zeigeBedarf()
 {
-    const auto kilokalorien =
-        QString::number(klient.bedarf) + QChar(QChar::Nbsp) + QStringLiteral("kcal");
-    bedarfsworte->setText(
-        klient.bedarf == 0
-            ? localizedString(QStringLiteral("100 % der Energie: noch nicht bekannt (unter „Körper "
-                                             "und Energie“)"))
-        : klient.bedarf < klient.unbereinigt
-            ? localizedString(QStringLiteral("100 % der Energie = %1 am Tag (zum Abnehmen)"))
-                  .arg(kilokalorien)
-            : localizedString(QStringLiteral("100 % der Energie = %1 am Tag")).arg(kilokalorien));
+    bedarfsworte->setText(energieworte(klient.bedarf, klient.unbereinigt));
 }
 
 void Planmodul::zeigeKlient()

@@ -18,8 +18,11 @@
 
 namespace {
 
+const QString hinweisNeuere = QStringLiteral("neuere");
+
 constexpr int zeilenhoehe = 24;
-constexpr int ziffern = 7; // of the widest number in a column
+constexpr int summenluft = 3; // above and below the letters of a row of sums, together
+constexpr int ziffern = 7;    // of the widest number in a column
 /// No client was recorded before it; stands for days of no certain date.
 const QDate ohneDatum(1900, 1, 1);
 
@@ -61,8 +64,7 @@ Tagefenster::Tagefenster(Aufzeichnungsablage &ablage, Tagetueren tueren)
     tagezahl->setMaximum(meisteTage);
     baueTabellen();
     baueMenue();
-    teiler->setStretchFactor(0, 3);
-    teiler->setStretchFactor(1, 2);
+    teiler->setStretchFactor(0, 1); // the names of the foods get what there is room for
     fusszeile->setMinimumHeight(hinweise->zweizeilig());
     hinweise->vertritt(fusszeile);
     verbinde();
@@ -89,8 +91,9 @@ void Tagefenster::baueTabellen()
     summen->setModel(&m_summen);
     summen->setSelectionMode(QAbstractItemView::NoSelection);
     // As low as its letters, so that all values are seen on a small screen with the pictures below.
-    summen->verticalHeader()->setMinimumSectionSize(summen->fontMetrics().height());
-    summen->verticalHeader()->setDefaultSectionSize(summen->fontMetrics().height() + 1);
+    const int niedrig = summen->verticalHeader()->fontMetrics().height() + summenluft;
+    summen->verticalHeader()->setMinimumSectionSize(niedrig);
+    summen->verticalHeader()->setDefaultSectionSize(niedrig);
     summen->horizontalHeader()->setSectionResizeMode(QHeaderView::Stretch);
     summen->horizontalHeader()->setHighlightSections(false);
     Tabellenkopie::ermoegliche(*summen);
@@ -99,6 +102,7 @@ void Tagefenster::baueTabellen()
 
 void Tagefenster::verbinde()
 {
+    verbindeUmzug();
     connect(&buch, &Tagebuch::gewechselt, this, &Tagefenster::zeigeAuswahl);
     connect(&buch, &Tagebuch::geaendert, this, &Tagefenster::zeigeKopf);
     connect(&buch, &Tagebuch::tagGewechselt, this, &Tagefenster::zeigeTag);
@@ -192,7 +196,7 @@ void Tagefenster::zeige()
     setWindowState(windowState() & ~Qt::WindowMinimized);
     raise();
     activateWindow();
-    ansicht->setFocus();
+    (buch.jetzige() ? static_cast<QWidget *>(ansicht) : neuknopf)->setFocus();
 }
 
 void Tagefenster::sichere()
@@ -222,6 +226,7 @@ void Tagefenster::zeigeAuswahl()
     auswahl->setCurrentIndex(buch.stelle());
     auswahl->setEnabled(auswahl->count() > 0);
     neuknopf->setEnabled(buch.ablage().beschreibbar());
+    sageObLesbar();
     const QString wer = buch.ablage().wessen();
     fusszeile->setText(
         wer.isEmpty()
@@ -232,6 +237,20 @@ void Tagefenster::zeigeAuswahl()
     leerworte->setText(localizedString(
         QStringLiteral("Noch keine Aufzeichnung. Mit „Neu“ beginnen Sie ein Protokoll.")));
     zeigeKopf();
+}
+
+/// A record of a newer version holds what this one does not know.
+void Tagefenster::sageObLesbar()
+{
+    const std::optional<Aufzeichnung> eine = buch.jetzige();
+    if (eine && !eine->neuererText.isEmpty()) {
+        hinweise->zeige(
+            {.kennung = hinweisNeuere,
+             .text = localizedString(QStringLiteral(
+                 "Diese Aufzeichnung ist von einer neueren Version; sie ist hier nur zu lesen."))});
+    } else {
+        hinweise->nimmZurueck(hinweisNeuere);
+    }
 }
 
 void Tagefenster::zeigeKopf()
@@ -273,6 +292,7 @@ void Tagefenster::zeigeTage()
             tage->addTab(name);
         }
     }
+    tage->updateGeometry(); // before it is shown, a bar does not tell of its tabs
 }
 
 void Tagefenster::zeigeTag()

@@ -5,8 +5,10 @@
 #include "Mass.h"
 #include "Meldung.h"
 #include "Namenssuche.h"
+#include "Planumwandlung.h"
 #include "Summenmodell.h"
 #include "Tagebuch.h"
+#include "Zeilentext.h"
 #include "ui_Tagefenster.h"
 
 #include <QMainWindow>
@@ -14,6 +16,8 @@
 #include <functional>
 #include <optional>
 
+class QMenu;
+class QMimeData;
 class QSettings;
 class Tagesauswertungsfenster;
 
@@ -29,6 +33,16 @@ struct Tagetueren
     std::function<QList<Mass>(const QString &schluessel)> masse;
     /// What the days are measured against.
     std::function<Energiebedarf()> bedarf;
+    /// The key of the food that is called so, in German or English; null where none is. While it is
+    /// absent, foods are known by their keys and by how they are called on screen.
+    std::function<QString(const QString &name)> schluessel = {};
+    /// Puts these rows in place of those of the plan on the desk, which can be taken back there;
+    /// false when that fails. While it is absent, no day becomes a plan.
+    std::function<bool(const QList<Planmenge> &posten)> legeAufTisch = {};
+    /// The rows of the plan on the desk; while it is absent, no plan becomes rows of a day.
+    std::function<QList<Planmenge>()> planVomTisch = {};
+    /// The plans that are kept under the client at the desk, as they are to be listed.
+    std::function<QList<Vorratsplan>()> abgelegtePlaene = {};
     std::function<QDate()> heute = [] {
         return QDate::currentDate();
     };
@@ -94,6 +108,20 @@ public:
     void vorigerTag() { buch.waehleTag(buch.tag() - 1); }
     void zeigeAuswertungsfenster();
 
+    // Moving rows, meals and days about
+    void schneideAus();
+    void kopiere();
+    void fuegeEin();
+    void kopiereTag();
+    void fuegeTagEin();
+    void zeilenHinauf() { rueckeZeilen(false); }
+    void zeilenHinunter() { rueckeZeilen(true); }
+    void fuelleGewaehlteTage();
+    void uebernimmHeute();
+    void legePlanAufTisch();
+    void nimmPlanVomTisch();
+    void nimmAbgelegtenPlan();
+
 Q_SIGNALS:
     /// The user of the window wants the handbook.
     void hilfeGewuenscht();
@@ -106,6 +134,7 @@ private:
     void baueTabellen();
     void verbinde();
     void zeigeAuswahl();
+    void sageObLesbar();
     void zeigeKopf();
     void zeigeTage();
     void zeigeTag();
@@ -136,6 +165,27 @@ private:
     QList<Vorschlagsfeld::Vorschlag> vorschlaege(int reihe, int spalte, const QString &text) const;
     void sageUnverstandenes(const Mahlzeitzeile &zeile);
     Mahlzeitzeile uebliche(const QString &schluessel) const;
+
+    // Moving rows, meals and days about
+    void baueUmzug(QMenu &bearbeiten, QMenu &tag);
+    void verbindeUmzug();
+    bool darfUmziehen();
+    void sageUmzug(const QString &text, bool rueckweg);
+    Speisequellen speisequellen() const;
+    Aufzeichnungsaenderung::Stelle einfuegestelle() const;
+    QList<Aufzeichnungsaenderung::Stelle> gewaehlteStellen() const;
+    void waehleStellen(const QList<Aufzeichnungsaenderung::Stelle> &stellen);
+    std::optional<Zeilenablage> gewaehlteAblage() const;
+    static void legeAb(const Zeilenablage &ablage);
+    Ablagelesung lies(const QMimeData *daten) const;
+    void bringeEin(const char *was, const Zeilenablage &ablage,
+                   const Aufzeichnungsaenderung::Stelle &hier, const QString &worte);
+    void fuegeGelesenesEin(const Ablagelesung &gelesen);
+    void rueckeZeilen(bool hinunter);
+    QMimeData *ziehdaten() const;
+    bool nimmt(const QMimeData &daten) const;
+    void nimmAbwurf(const QMimeData *daten, const Tagesmodell::Platz &vor, bool kopie);
+    void bringePlanEin(const QList<Planmenge> &posten, const char *worte);
 
     Tagetueren m_tueren;
     Summenmodell m_summen;

@@ -104,6 +104,7 @@ void Tagefenster::baueMenue()
              {},
              &Tagefenster::fuelleTage},
             {QT_TRANSLATE_NOOP("Mahlberg", "Tag &leeren"), {}, &Tagefenster::leereTag}});
+    baueUmzug(bearbeiten, tag);
 
     QMenu &darstellung = *menuBar()->addMenu(localizedString(QStringLiteral("&Darstellung")));
     fuelle(darstellung, *this,
@@ -217,9 +218,10 @@ void Tagefenster::setzeTagezahl(int zahl)
             verlorene << tagesname(eine, tag);
         }
     }
-    if (aendere(QT_TRANSLATE_NOOP("Mahlberg", "Zahl der Tage ändern"), [zahl](Aufzeichnung &was) {
-            return Aufzeichnungsaenderung::setzeTagezahl(was, zahl);
-        }) &&
+    if (aendere(QT_TRANSLATE_NOOP("Mahlberg", "Zahl der Tage ändern"),
+                [zahl](Aufzeichnung &was) {
+                    return Aufzeichnungsaenderung::setzeTagezahl(was, zahl);
+                }) &&
         !verlorene.isEmpty()) {
         sageMitRueckweg(localizedString(QStringLiteral("Weggenommen mit dem, was dort stand: %1."))
                             .arg(verlorene.join(QStringLiteral(", "))));
@@ -233,7 +235,9 @@ void Tagefenster::sageMitRueckweg(const QString &text)
     hinweise->zeige({.kennung = hinweisTat,
                      .text = text,
                      .knopf = localizedString(QStringLiteral("Rückgängig")),
-                     .aktion = [this, schritt] { buch.schritte.setIndex(schritt - 1); }});
+                     .aktion = [this, schritt] {
+                         buch.schritte.setIndex(schritt - 1);
+                     }});
     connect(
         &buch.schritte, &QUndoStack::indexChanged, hinweise,
         [this] { hinweise->nimmZurueck(hinweisTat); }, Qt::SingleShotConnection);
@@ -262,9 +266,8 @@ void Tagefenster::loescheMahlzeit()
     if (aendere(QT_TRANSLATE_NOOP("Mahlberg", "Mahlzeit herausnehmen"), [&](Aufzeichnung &was) {
             return Aufzeichnungsaenderung::nimmMahlzeitHeraus(was, platz->mahlzeit);
         })) {
-        sageMitRueckweg(
-            localizedString(QStringLiteral("„%1“ ist an allen Tagen herausgenommen."))
-                .arg(kurzerName(mahlzeitname(eine->mahlzeiten[platz->mahlzeit]))));
+        sageMitRueckweg(localizedString(QStringLiteral("„%1“ ist an allen Tagen herausgenommen."))
+                            .arg(kurzerName(mahlzeitname(eine->mahlzeiten[platz->mahlzeit]))));
     }
 }
 

@@ -1028,7 +1028,7 @@ Nothing is worked out for children under 10 years; it resumes at 11 years.</tr
  </message>
  <message>
   <source>&amp;Übernehmen</source>
-  <translation>Take &amp;over</translation>
+  <translation>&amp;Take Over</translation>
  </message>
  <message>
   <source>(eigenes Lebensmittel)</source>
@@ -4540,6 +4540,338 @@ New: %1</translation>
   <source>Als &amp;PDF …</source>
   <translation>As P&amp;DF …</translation>
  </message>
+ <message>
+  <source>Dieses Bild lässt sich nicht lesen.</source>
+  <translation>This picture cannot be read.</translation>
+ </message>
+ <message>
+  <source>Das ist kein Bild in PNG, JPEG oder SVG.</source>
+  <translation>This is no picture in PNG, JPEG or SVG.</translation>
+ </message>
+ <message>
+  <source>Dieses Bild ist zu groß: Es darf 20 MB und 40 Millionen Punkte haben.</source>
+  <translation>This picture is too large: it may have 20 MB and 40 million dots.</translation>
+ </message>
+ <message>
+  <source>Das Logo ließ sich nicht sichern; es ist wie vorher.</source>
+  <translation>The logo could not be kept; it is as it was before.</translation>
+ </message>
+ <message>
+  <source>Name der &amp;Praxis:</source>
+  <translation>Name of the &amp;practice:</translation>
+ </message>
+ <message>
+  <source>Ans&amp;chrift:</source>
+  <translation>&amp;Address:</translation>
+ </message>
+ <message>
+  <source>Logo:</source>
+  <translation>Logo:</translation>
+ </message>
+ <message>
+  <source>&amp;Bild wählen …</source>
+  <translation>Choose p&amp;icture …</translation>
+ </message>
+ <message>
+  <source>&amp;Entfernen</source>
+  <translation>&amp;Remove</translation>
+ </message>
+ <message>
+  <source>Es ist kein Logo gewählt.</source>
+  <translation>No logo is chosen.</translation>
+ </message>
+ <message>
+  <source>Logo der Praxis</source>
+  <translation>Logo of the practice</translation>
+ </message>
+ <message>
+  <source>Bilder (*.png *.jpg *.jpeg *.svg)</source>
+  <translation>Pictures (*.png *.jpg *.jpeg *.svg)</translation>
+ </message>
+ <message>
+  <source>Das Logo ließ sich nicht entfernen.</source>
+  <translation>The logo could not be removed.</translation>
+ </message>
+ <message>
+  <source>Kein Logo</source>
+  <translation>No logo</translation>
+ </message>
+ <message>
+  <source>Das Logo, wie es gedruckt wird</source>
+  <translation>The logo as it is printed</translation>
+ </message>
+ <message>
+  <source>Das gesicherte Logo ist nicht mehr zu lesen; gedruckt wird ohne.</source>
+  <translation>The logo that was kept cannot be read any more; the print goes without it.</translation>
+ </message>
+ <message>
+  <source>Briefkopf der Ausdrucke</source>
+  <translation>Letterhead of the prints</translation>
+ </message>
+ <message>
+  <source>Nichts aufgezeichnet.</source>
+  <translation>Nothing recorded.</translation>
+ </message>
+ <message>
+  <source>Zeilen aus&amp;schneiden</source>
+  <translation>Cu&amp;t Rows</translation>
+ </message>
+ <message>
+  <source>Zeilen &amp;kopieren</source>
+  <translation>&amp;Copy Rows</translation>
+ </message>
+ <message>
+  <source>Zeilen &amp;einfügen</source>
+  <translation>&amp;Paste Rows</translation>
+ </message>
+ <message>
+  <source>Zeilen hinau&amp;f</source>
+  <translation>Move Rows U&amp;p</translation>
+ </message>
+ <message>
+  <source>Zeilen hin&amp;unter</source>
+  <translation>Move Rows &amp;Down</translation>
+ </message>
+ <message>
+  <source>Werte von heu&amp;te übernehmen</source>
+  <translation>Use T&amp;oday's Values</translation>
+ </message>
+ <message>
+  <source>Werte von heute übernehmen</source>
+  <translation>using today's values</translation>
+ </message>
+ <message>
+  <source>In &amp;gewählte Tage füllen …</source>
+  <translation>Fill into &amp;Chosen Days …</translation>
+ </message>
+ <message>
+  <source>Tag &amp;kopieren</source>
+  <translation>Copy &amp;Day</translation>
+ </message>
+ <message>
+  <source>Tag &amp;einfügen</source>
+  <translation>Paste D&amp;ay</translation>
+ </message>
+ <message>
+  <source>Als &amp;Plan auf den Schreibtisch</source>
+  <translation>Put on the Desk as a &amp;Plan</translation>
+ </message>
+ <message>
+  <source>Plan vom Schreibtisch ü&amp;bernehmen</source>
+  <translation>Take over the Plan on the De&amp;sk</translation>
+ </message>
+ <message>
+  <source>&amp;Abgelegten Plan übernehmen …</source>
+  <translation>Take over a &amp;Kept Plan …</translation>
+ </message>
+ <message>
+  <source>In der Zwischenablage steht nichts, was hierher passt.</source>
+  <translation>There is nothing on the clipboard that fits in here.</translation>
+ </message>
+ <message>
+  <source>In der Zwischenablage stehen mehr als %1 Zeilen. Es wurde nichts eingefügt.</source>
+  <translation>There are more than %1 rows on the clipboard. Nothing was pasted.</translation>
+ </message>
+ <message>
+  <source>Was in der Zwischenablage steht, kommt aus einer neueren Fassung des Programms. Es wurde nichts eingefügt.</source>
+  <translation>What is on the clipboard comes from a newer version of the program. Nothing was pasted.</translation>
+ </message>
+ <message>
+  <source>Was in der Zwischenablage steht, ist beschädigt. Es wurde nichts eingefügt.</source>
+  <translation>What is on the clipboard is damaged. Nothing was pasted.</translation>
+ </message>
+ <message>
+  <source>Diese Aufzeichnung lässt sich nicht ändern.</source>
+  <translation>This record can't be changed.</translation>
+ </message>
+ <message>
+  <source>Es gibt noch keine Aufzeichnung.</source>
+  <translation>There is no record yet.</translation>
+ </message>
+ <message>
+  <source>Kopierte Zeilen: %1.</source>
+  <translation>Rows copied: %1.</translation>
+ </message>
+ <message>
+  <source>Es ist keine Zeile ausgewählt.</source>
+  <translation>No row is selected.</translation>
+ </message>
+ <message>
+  <source>Zeilen ausschneiden</source>
+  <translation>cutting rows</translation>
+ </message>
+ <message>
+  <source>Ausgeschnittene Zeilen: %1.</source>
+  <translation>Rows cut: %1.</translation>
+ </message>
+ <message>
+  <source>Davon zählen nicht: %1.</source>
+  <translation>Of these, rows that don't count: %1.</translation>
+ </message>
+ <message>
+  <source>Kopiert: %1 mit %2 Zeilen.</source>
+  <translation>Copied: %1 with rows: %2.</translation>
+ </message>
+ <message>
+  <source>In der Zwischenablage steht kein Tag. Mit „Tag kopieren“ kommt einer hinein.</source>
+  <translation>There is no day on the clipboard. “Copy Day” puts one there.</translation>
+ </message>
+ <message>
+  <source>Zeilen einfügen</source>
+  <translation>pasting rows</translation>
+ </message>
+ <message>
+  <source>Eingefügte Zeilen: %1.</source>
+  <translation>Rows pasted: %1.</translation>
+ </message>
+ <message>
+  <source>%1 hat jetzt den kopierten Tag: %2 Zeilen.</source>
+  <translation>%1 now has the copied day. Rows: %2.</translation>
+ </message>
+ <message>
+  <source>Ersetzte Zeilen: %1.</source>
+  <translation>Rows replaced: %1.</translation>
+ </message>
+ <message>
+  <source>Tag einfügen</source>
+  <translation>pasting a day</translation>
+ </message>
+ <message>
+  <source>Zeilen verschieben</source>
+  <translation>moving rows</translation>
+ </message>
+ <message>
+  <source>Es gibt keinen anderen Tag zu füllen.</source>
+  <translation>There is no other day to fill.</translation>
+ </message>
+ <message>
+  <source>Gefüllte Tage: %1.</source>
+  <translation>Days filled: %1.</translation>
+ </message>
+ <message>
+  <source>Zeilen mit neuen Werten: %1.</source>
+  <translation>Rows with new values: %1.</translation>
+ </message>
+ <message>
+  <source>Lebensmittel, die in keiner Tabelle mehr stehen: %1 (%2).</source>
+  <translation>Foods that are in no table any more: %1 (%2).</translation>
+ </message>
+ <message>
+  <source>Ausgelassene Zeilen: %1 (%2).</source>
+  <translation>Rows left out: %1 (%2).</translation>
+ </message>
+ <message>
+  <source>Auf diesem Tag steht nichts, was in einen Plan kommen kann.</source>
+  <translation>There is nothing on this day that can go into a plan.</translation>
+ </message>
+ <message>
+  <source>Den Plan auf dem Schreibtisch ersetzen?</source>
+  <translation>Replace the plan on the desk?</translation>
+ </message>
+ <message>
+  <source>Er hat %1 Zeilen. Im Fenster des Plans lässt sich das zurücknehmen.</source>
+  <translation>It has rows: %1. This can be undone in the window of the plan.</translation>
+ </message>
+ <message>
+  <source>Ersetzen</source>
+  <translation>Replace</translation>
+ </message>
+ <message>
+  <source>Der Plan ließ sich nicht auf den Schreibtisch legen.</source>
+  <translation>The plan could not be put on the desk.</translation>
+ </message>
+ <message>
+  <source>Auf dem Schreibtisch liegt der Tag als Plan. Lebensmittel: %1.</source>
+  <translation>The day is on the desk as a plan. Foods: %1.</translation>
+ </message>
+ <message>
+  <source>Aus mehreren Zeilen addiert: %1 (%2).</source>
+  <translation>Added up from several rows: %1 (%2).</translation>
+ </message>
+ <message>
+  <source>Plan übernehmen</source>
+  <translation>taking over a plan</translation>
+ </message>
+ <message>
+  <source>Der Plan auf dem Schreibtisch ist leer.</source>
+  <translation>The plan on the desk is empty.</translation>
+ </message>
+ <message>
+  <source>Zeilen vom Plan auf dem Schreibtisch: %1.</source>
+  <translation>Rows from the plan on the desk: %1.</translation>
+ </message>
+ <message>
+  <source>Es ist kein Plan abgelegt.</source>
+  <translation>No plan has been kept.</translation>
+ </message>
+ <message>
+  <source>Zeilen vom abgelegten Plan: %1.</source>
+  <translation>Rows from the kept plan: %1.</translation>
+ </message>
+ <message>
+  <source>%1 in diese &amp;Tage füllen:</source>
+  <translation>Fill %1 into these &amp;days:</translation>
+ </message>
+ <message>
+  <source>%1 (schon ausgefüllt)</source>
+  <translation>%1 (already filled in)</translation>
+ </message>
+ <message>
+  <source>&amp;Füllen</source>
+  <translation>&amp;Fill</translation>
+ </message>
+ <message>
+  <source>Es ist kein Tag angekreuzt.</source>
+  <translation>No day is ticked.</translation>
+ </message>
+ <message>
+  <source>Ersetzt wird, was hier steht: %1. Mit „Rückgängig“ kommt es zurück.</source>
+  <translation>This replaces what is on: %1. Undo brings it back.</translation>
+ </message>
+ <message>
+  <source>Abgelegte Pläne</source>
+  <translation>Kept Plans</translation>
+ </message>
+ <message>
+  <source>Abgelegte &amp;Pläne:</source>
+  <translation>Kept &amp;plans:</translation>
+ </message>
+ <message>
+  <source>&amp;Lebensmittel dieses Plans:</source>
+  <translation>&amp;Foods of this plan:</translation>
+ </message>
+ <message>
+  <source>Das Lebensmittel hat heute andere Werte; die Zeile rechnet mit denen, mit denen es eingetragen wurde.</source>
+  <translation>The food has other values today; the row is worked out with those it was entered with.</translation>
+ </message>
+ <message>
+  <source>Heute gibt es das Lebensmittel; als es eingetragen wurde, stand es in keiner Tabelle.</source>
+  <translation>The food is there today; when it was entered, it was in no table.</translation>
+ </message>
+ <message>
+  <source>Das Lebensmittel steht in keiner Tabelle mehr; die Zeile rechnet mit den Werten, mit denen es eingetragen wurde.</source>
+  <translation>The food is in no table any more; the row is worked out with the values it was entered with.</translation>
+ </message>
+ <message>
+  <source>Ernährungsplan</source>
+  <translation>Meal plan</translation>
+ </message>
+ <message>
+  <source>Behalten</source>
+  <translation>Keep</translation>
+ </message>
+ <message>
+  <source>Tag in andere Tage füllen</source>
+  <translation>Fill a Day into Others</translation>
+ </message>
+ <message>
+  <source>Mittel</source>
+  <translation>Mean</translation>
+ </message>
+ <message>
+  <source>Tage im Mittel: %1.</source>
+  <translation>Days in the mean: %1.</translation>
+ </message>
 </context>
 <context>
  <name>PlanmodulGestalt</name>
@@ -5030,6 +5362,10 @@ New: %1</translation>
  <message>
   <source>&amp;Handbuch</source>
   <translation>&amp;Handbook</translation>
+ </message>
+ <message>
+  <source>D&amp;rucken …</source>
+  <translation>Pr&amp;int …</translation>
  </message>
 </context>
 <context>
