@@ -73,6 +73,11 @@ Tagefenster::Tagefenster(Aufzeichnungsablage &ablage, Tagetueren tueren)
     zeigeAuswahl();
 }
 
+Tagefenster::~Tagefenster()
+{
+    sichere();
+}
+
 void Tagefenster::baueTabellen()
 {
     ansicht->setVorschlaege([this](int reihe, int spalte, const QString &text) {

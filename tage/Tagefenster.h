@@ -66,6 +66,7 @@ class Tagefenster : public QMainWindow, public Ui::TagefensterGestalt
 public:
     /// The records are kept in `ablage`, which outlives the window.
     Tagefenster(Aufzeichnungsablage &ablage, Tagetueren tueren);
+    ~Tagefenster() override;
 
     Tagebuch buch;
 

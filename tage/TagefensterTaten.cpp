@@ -72,7 +72,7 @@ void Tagefenster::baueMenue()
     zurueck->setShortcut(QKeySequence::Undo);
     QAction *wieder =
         buch.schritte.createRedoAction(this, localizedString(QStringLiteral("Wiederholen:")));
-    wieder->setShortcut(QKeySequence::Redo);
+    wieder->setShortcut(QKeySequence(QStringLiteral("Ctrl+Shift+Z")));
     bearbeiten.addActions({zurueck, wieder});
     bearbeiten.addSeparator();
     fuelle(

@@ -14,6 +14,9 @@ Tagesansicht::Tagesansicht(QWidget *parent) : QTableView(parent)
     setEditTriggers(NoEditTriggers); // the field over the cell is this view's own
     setSelectionBehavior(SelectRows);
     setSelectionMode(ExtendedSelection);
+    setDragEnabled(true);
+    setAcceptDrops(true);
+    setDropIndicatorShown(false); // the table paints a line of its own
     setTabKeyNavigation(false);
     setShowGrid(false);
     setWordWrap(false);
@@ -57,6 +60,21 @@ QList<Tagesmodell::Platz> Tagesansicht::gewaehlteZeilen() const
         }
     }
     return plaetze;
+}
+
+void Tagesansicht::waehle(const QList<Tagesmodell::Platz> &zeilen)
+{
+    if (zeilen.isEmpty()) {
+        return;
+    }
+    geheZu(zeilen.constFirst(), std::max(0, currentIndex().column()));
+    QItemSelection auswahl;
+    for (const Tagesmodell::Platz &eine : zeilen) {
+        const QModelIndex zelle = m_modell.index(m_modell.reihe(eine), 0);
+        auswahl.merge(QItemSelection(zelle, zelle), QItemSelectionModel::Select);
+    }
+    selectionModel()->select(auswahl,
+                             QItemSelectionModel::ClearAndSelect | QItemSelectionModel::Rows);
 }
 
 void Tagesansicht::beginne(const QString &text)

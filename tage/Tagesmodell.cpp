@@ -20,6 +20,9 @@ constexpr std::array gezeigte = {Naehrwert::kal, Naehrwert::protein, Naehrwert::
 /// What marks a row that counts nothing though it is meant to.
 constexpr auto fraglich = "? ";
 
+/// What marks a row whose food is another one today.
+constexpr auto geaendert = " *";
+
 std::optional<Naehrwert> naehrwertIn(int spalte)
 {
     const auto stelle = static_cast<std::size_t>(spalte - Tagesmodell::Energie);
@@ -130,7 +133,9 @@ QString Tagesmodell::speiseText(const Mahlzeitzeile &zeile, int spalte) const
         const QString name = zeile.oder
                                  ? localizedString(QStringLiteral("oder %1")).arg(speisename(zeile))
                                  : speisename(zeile);
-        return zeile.eintrag ? name : QLatin1String(fraglich) + name;
+        const QString marke =
+            seitdem(zeile).isEmpty() ? QString() : QString(QLatin1String(geaendert));
+        return (zeile.eintrag ? name : QLatin1String(fraglich) + name) + marke;
     }
     case Angabe:
         return zeile.gramm ? zeile.angabe : QLatin1String(fraglich) + zeile.angabe;
@@ -162,7 +167,40 @@ QString Tagesmodell::erklaerung(const Mahlzeitzeile &zeile) const
         saetze << localizedString(
             QStringLiteral("Eine Wahl statt der Zeile davor; sie zählt nicht."));
     }
+    const QString seither = seitdem(zeile);
+    if (!seither.isEmpty()) {
+        saetze << seither;
+    }
     return saetze.join(u' ');
+}
+
+/// What has become of the food since its row was entered; empty when it is as it was.
+QString Tagesmodell::seitdem(const Mahlzeitzeile &zeile) const
+{
+    switch (m_heute ? zeilenstand(zeile, m_heute) : Zeilenstand::WieHeute) {
+    case Zeilenstand::Veraendert:
+        return zeile.eintrag
+                   ? localizedString(QStringLiteral(
+                         "Das Lebensmittel hat heute andere Werte; die Zeile rechnet mit "
+                         "denen, mit denen es eingetragen wurde."))
+                   : localizedString(QStringLiteral(
+                         "Heute gibt es das Lebensmittel; als es eingetragen wurde, stand es "
+                         "in keiner Tabelle."));
+    case Zeilenstand::Fort:
+        return localizedString(QStringLiteral(
+            "Das Lebensmittel steht in keiner Tabelle mehr; die Zeile rechnet mit den Werten, "
+            "mit denen es eingetragen wurde."));
+    case Zeilenstand::WieHeute:
+        break;
+    }
+    return {};
+}
+
+/// The rows of meals can be dragged elsewhere.
+Qt::ItemFlags Tagesmodell::flags(const QModelIndex &index) const
+{
+    const Qt::ItemFlags bisher = QAbstractTableModel::flags(index);
+    return zeile(index.row()) != nullptr ? bisher | Qt::ItemIsDragEnabled : bisher;
 }
 
 QVariant Tagesmodell::data(const QModelIndex &index, int role) const

@@ -2,6 +2,7 @@
 
 #include "Aufzeichnung.h"
 #include "Tagesrechnung.h"
+#include "Zeilenstand.h"
 
 #include <QAbstractTableModel>
 
@@ -36,6 +37,9 @@ public:
 
     using QAbstractTableModel::QAbstractTableModel;
 
+    /// Where rows learn what their foods are like today; without one, none is marked.
+    void setNachschlag(Speisenachschlag heute) { m_heute = std::move(heute); }
+
     /// Shows a day from now on; one that is not there is shown as no rows. A day on which rows can
     /// be typed has the empty ones.
     void zeige(const Aufzeichnung &aufzeichnung, int tag, bool aenderbar);
@@ -53,6 +57,7 @@ public:
 
     int rowCount(const QModelIndex &parent = {}) const override;
     int columnCount(const QModelIndex &parent = {}) const override;
+    Qt::ItemFlags flags(const QModelIndex &index) const override;
     QVariant data(const QModelIndex &index, int role) const override;
     QVariant headerData(int section, Qt::Orientation orientation, int role) const override;
 
@@ -60,7 +65,9 @@ private:
     QString mahlzeitText(int mahlzeit, int spalte) const;
     QString speiseText(const Mahlzeitzeile &zeile, int spalte) const;
     QString erklaerung(const Mahlzeitzeile &zeile) const;
+    QString seitdem(const Mahlzeitzeile &zeile) const;
 
+    Speisenachschlag m_heute;
     Aufzeichnung m_aufzeichnung;
     int m_tag = 0;
     bool m_aenderbar = false;

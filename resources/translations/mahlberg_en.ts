@@ -4853,10 +4853,6 @@ New: %1</translation>
   <translation>The food is in no table any more; the row is worked out with the values it was entered with.</translation>
  </message>
  <message>
-  <source>Ernährungsplan</source>
-  <translation>Meal plan</translation>
- </message>
- <message>
   <source>Behalten</source>
   <translation>Keep</translation>
  </message>
