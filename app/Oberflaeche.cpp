@@ -1,5 +1,6 @@
 #include "Oberflaeche.h"
 
+#include "Briefkopfwahl.h"
 #include "Dateihueter.h"
 #include "Einstellungen.h"
 #include "Einstellungsfenster.h"
@@ -74,6 +75,7 @@ Oberflaeche::Oberflaeche(const Tueren &tueren, const Klientenanschluss::Kopfzeil
     , tage(hauptfenster, rechner, klienten, tueren)
     , m_sprich(tueren.sprich)
     , m_einstellungen(*tueren.einstellungen)
+    , m_datenordner(tueren.datenordner)
     , m_waehleDatei(tueren.waehleDatei)
 {
     QObject::connect(&hauptfenster, &AppController::spracheGewaehlt, &hauptfenster,
@@ -122,6 +124,8 @@ void Oberflaeche::zeigeEinstellungen()
                      eintraege("erscheinungsbilder"));
     fenster->nimmAuf(localizedString(QStringLiteral("Ordner für PDF")),
                      new Pdfordnerwahl(m_einstellungen, m_waehleDatei));
+    fenster->nimmAuf(localizedString(QStringLiteral("Briefkopf der Ausdrucke")),
+                     new Briefkopfwahl({m_einstellungen, m_datenordner}, m_waehleDatei));
     fenster->nimmAuf(localizedString(QStringLiteral("Klienten")), klienten.einstellung());
     fenster->setAttribute(Qt::WA_DeleteOnClose);
     fenster->open();

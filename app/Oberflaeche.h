@@ -55,5 +55,6 @@ private:
 
     std::function<void(const QString &)> m_sprich;
     Einstellungen &m_einstellungen;
+    Datenordner m_datenordner;
     Dateituer m_waehleDatei;
 };

@@ -254,11 +254,18 @@ void Drucksatz::tabelle(const Drucktabelle &tabelle)
         verkleinert(tabellenzeile(tabelle, koepfe, breiten, {kopfschrift, strich}), mass);
     m_wartend << m_tabellenkopf;
     QList<Druckstreifenfolge> reihen;
+    bool haelt = false;
     for (const Drucktabelle::Zeile &zeile : tabelle.zeilen) {
         const Druckstreifenfolge reihe = verkleinert(
             tabellenzeile(tabelle, zeile, breiten, {zeile.fett ? fett : normal, feinerStrich}),
             mass);
-        reihen << (istLang(reihe) ? reihe : Druckstreifenfolge{ganz(reihe)});
+        const Druckstreifenfolge neue = istLang(reihe) ? reihe : Druckstreifenfolge{ganz(reihe)};
+        if (haelt) {
+            reihen.last() += neue;
+        } else {
+            reihen << neue;
+        }
+        haelt = zeile.haelt;
     }
     for (const Druckstreifenfolge &gruppe : ohneEinzelneReihen(reihen)) {
         setze(gruppe);

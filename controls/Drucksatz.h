@@ -22,6 +22,7 @@ struct Drucktabelle
         QStringList zellen;
         QString darunter = {}; ///< stands below the cells, over the whole width
         bool fett = false;
+        bool haelt = false; ///< the next one stands on the same page
     };
     QList<Spalte> spalten;
     QList<Zeile> zeilen;

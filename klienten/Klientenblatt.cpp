@@ -4,6 +4,7 @@
 #include "Angabenpruefung.h"
 #include "Druckfuss.h"
 #include "Drucksatz.h"
+#include "Druckworte.h"
 #include "Feldworte.h"
 #include "Papiersatz.h"
 #include "Plandruckwerte.h"
@@ -22,6 +23,7 @@ namespace {
 constexpr Druckschrift namensschrift = {18, true};
 constexpr Druckschrift kapitelschrift = {13, true};
 constexpr Druckschrift planschrift = {10, true};
+constexpr Druckschrift tagesschrift = {9, true};
 constexpr Druckschrift bildschrift = {8};
 
 // Of the courses, in points.
@@ -245,6 +247,70 @@ void setzePlaene(Drucksatz &satz, const QList<Planablage> &plaene)
     }
 }
 
+/// From when to when, what kind of record, and how it is called.
+QString aufzeichnungsworte(const Aufzeichnung &eine, const Druckworte &worte)
+{
+    const auto letzter = static_cast<int>(eine.tage.size()) - 1;
+    QStringList teile = {titelworte(eine, worte)};
+    if (teile.first() != artworte(eine.art, worte)) {
+        teile << artworte(eine.art, worte);
+    }
+    if (eine.datum.isValid()) {
+        const QString von = tagesworte(eine.datum);
+        teile << (letzter == 0 ? von
+                               : localizedString(QStringLiteral("%1 bis %2"))
+                                     .arg(von, tagesworte(datumVon(eine, letzter))));
+    }
+    return teile.join(QStringLiteral(", "));
+}
+
+/// What was eaten at a meal, a food in each line, and its note.
+QString mahlzeitinhalt(const Mahlzeit &mahlzeit, const Druckworte &worte)
+{
+    QStringList zeilen;
+    for (const Mahlzeitzeile &zeile : mahlzeit.zeilen) {
+        zeilen << zeilenworte(zeile, {}, worte);
+    }
+    zeilen << mahlzeit.notiz.trimmed();
+    zeilen.removeAll(QString());
+    return zeilen.join(u'\n');
+}
+
+void setzeAufzeichnung(Drucksatz &satz, const Aufzeichnung &eine)
+{
+    const Druckworte worte(Druckworte::derFenster());
+    satz.ueberschrift(aufzeichnungsworte(eine, worte), planschrift);
+    for (int tag = 0; tag < eine.tage.size(); ++tag) {
+        satz.ueberschrift(tagesworte(eine, tag, worte), tagesschrift);
+        const QList<Mahlzeit> &mahlzeiten = eine.tage[tag].mahlzeiten;
+        QList<std::pair<QString, QString>> angaben;
+        for (qsizetype i = 0; i < mahlzeiten.size(); ++i) {
+            angaben.emplaceBack(mahlzeitworte(eine.mahlzeiten.value(i), worte),
+                                mahlzeitinhalt(mahlzeiten[i], worte));
+        }
+        angaben.emplaceBack(localizedString(QStringLiteral("Notiz")),
+                            eine.tage[tag].notiz.trimmed());
+        erase_if(angaben, [](const auto &angabe) { return angabe.second.isEmpty(); });
+        for (const auto &[name, inhalt] : std::as_const(angaben)) {
+            satz.angabe(name, inhalt);
+        }
+        if (angaben.isEmpty()) {
+            satz.absatz(localizedString(QStringLiteral("Nichts aufgezeichnet.")));
+        }
+    }
+}
+
+/// Who has none is not asked for any.
+void setzeAufzeichnungen(Drucksatz &satz, const QList<Aufzeichnung> &aufzeichnungen)
+{
+    if (!aufzeichnungen.isEmpty()) {
+        satz.ueberschrift(localizedString(QStringLiteral("Aufzeichnungen")), kapitelschrift);
+    }
+    for (const Aufzeichnung &eine : aufzeichnungen) {
+        setzeAufzeichnung(satz, eine);
+    }
+}
+
 } // namespace
 
 Druckauftrag klientenblatt(const Klientenakte &akte, const QDate &heute)
@@ -255,6 +321,7 @@ Druckauftrag klientenblatt(const Klientenakte &akte, const QDate &heute)
         setzeBesuche(satz, akte.besuche);
         setzeVerlauf(satz, akte, heute);
         setzePlaene(satz, akte.plaene);
+        setzeAufzeichnungen(satz, akte.aufzeichnungen);
         return satz;
     };
     return mitFuss(gesetzterAuftrag<Drucksatz>(

@@ -35,8 +35,7 @@ QString mitFestemGramm(QString text)
 
 QString gramm(double zahl, const Druckworte &worte)
 {
-    return mengentext({.anzahl = zahl}, worte.sprache(), worte.land())
-        .replace(u' ', QChar(QChar::Nbsp));
+    return beisammen(mengentext({.anzahl = zahl}, worte.sprache(), worte.land()));
 }
 
 } // namespace
@@ -107,6 +106,12 @@ QString speisenworte(const Mahlzeitzeile &zeile, const Druckworte &worte)
     return zeile.schluessel.isEmpty() ? zeile.text : worte(zeile.schluessel);
 }
 
+QString beisammen(QString text)
+{
+    constexpr qsizetype lang = 24;
+    return text.size() <= lang ? text.replace(u' ', QChar(QChar::Nbsp)) : text;
+}
+
 QString mengenworte(const Mahlzeitzeile &zeile, const QList<Mass> &masse, const Druckworte &worte)
 {
     const QString getippt = zeile.angabe.trimmed();
@@ -123,4 +128,15 @@ QString mengenworte(const Mahlzeitzeile &zeile, const QList<Mass> &masse, const 
     }
     gelesen->gramm = *zeile.gramm;
     return mitFestemGramm(mengentextMitGramm(*gelesen, worte.sprache(), worte.land()));
+}
+
+QString zeilenworte(const Mahlzeitzeile &zeile, const QList<Mass> &masse, const Druckworte &worte)
+{
+    QStringList teile = {speisenworte(zeile, worte).trimmed(),
+                         beisammen(mengenworte(zeile, masse, worte))};
+    teile.removeAll(QString());
+    const QString text = teile.join(QStringLiteral(" –") + QChar(QChar::Nbsp));
+    return zeile.oder && !text.isEmpty()
+               ? worte(QString::fromUtf8(QT_TRANSLATE_NOOP("Mahlberg", "oder %1"))).arg(text)
+               : text;
 }

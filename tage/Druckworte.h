@@ -50,8 +50,15 @@ QString titelworte(const Aufzeichnung &aufzeichnung, const Druckworte &worte);
 /// one.
 QString speisenworte(const Mahlzeitzeile &zeile, const Druckworte &worte);
 
+/// The text, where it is not long, so that no line ends within it: an amount with its unit.
+QString beisammen(QString text);
+
 /// How much of it, in the print's language: "2 Scheiben (100 g)", or "100 g" for plain grams. The
 /// grams are those that the row counts, also where the measure weighs something else by now. Where
 /// the amount is no longer understood (the measure is gone), it stands as it was typed, with these
 /// grams; and where it never was, without any.
 QString mengenworte(const Mahlzeitzeile &zeile, const QList<Mass> &masse, const Druckworte &worte);
+
+/// The whole row, "oder" before an alternative: "oder Butter – 1 EL (10 g)". Empty for an empty
+/// one.
+QString zeilenworte(const Mahlzeitzeile &zeile, const QList<Mass> &masse, const Druckworte &worte);

@@ -1,0 +1,124 @@
+#include "Briefkopfwahl.h"
+
+#include "Sperrgrund.h"
+#include "Zeichenkettentabelle.h"
+
+#include <QFormLayout>
+#include <QHBoxLayout>
+#include <QLabel>
+#include <QLineEdit>
+#include <QPlainTextEdit>
+#include <QPushButton>
+
+#include <utility>
+
+namespace {
+
+constexpr QSize bildgroesse(170, 56); // as on paper
+constexpr int anschriftzeilen = 4;
+
+} // namespace
+
+Briefkopfwahl::Briefkopfwahl(Briefkopfablage ablage, Dateituer frage)
+    : m_ablage(std::move(ablage))
+    , m_frage(std::move(frage))
+    , m_name(new QLineEdit)
+    , m_anschrift(new QPlainTextEdit)
+    , m_bild(new QLabel)
+    , m_worte(new QLabel)
+    , m_entfernen(new QPushButton(localizedString(QStringLiteral("&Entfernen"))))
+{
+    m_name->setObjectName(QStringLiteral("praxisname"));
+    m_name->setText(m_ablage.lies().name);
+    m_anschrift->setObjectName(QStringLiteral("praxisanschrift"));
+    m_anschrift->setPlainText(m_ablage.anschrift());
+    m_anschrift->setTabChangesFocus(true);
+    m_anschrift->setFixedHeight(m_anschrift->fontMetrics().lineSpacing() * anschriftzeilen +
+                                2 * m_anschrift->frameWidth() +
+                                static_cast<int>(2 * m_anschrift->document()->documentMargin()));
+    m_worte->setObjectName(QStringLiteral("logoworte"));
+    m_worte->setTextFormat(Qt::PlainText);
+    m_worte->setWordWrap(true);
+    auto *aufbau = new QFormLayout(this);
+    aufbau->setContentsMargins(0, 0, 0, 0);
+    aufbau->addRow(localizedString(QStringLiteral("Name der &Praxis:")), m_name);
+    aufbau->addRow(localizedString(QStringLiteral("Ans&chrift:")), m_anschrift);
+    aufbau->addRow(localizedString(QStringLiteral("Logo:")), baueLogo());
+    aufbau->addRow(m_worte);
+    connect(m_name, &QLineEdit::textEdited, this,
+            [this](const QString &text) { m_ablage.setzeName(text); });
+    connect(m_anschrift, &QPlainTextEdit::textChanged, this,
+            [this] { m_ablage.setzeAnschrift(m_anschrift->toPlainText()); });
+    zeigeLogo();
+}
+
+QWidget *Briefkopfwahl::baueLogo()
+{
+    m_bild->setObjectName(QStringLiteral("logobild"));
+    m_bild->setFixedSize(bildgroesse);
+    m_bild->setAlignment(Qt::AlignCenter);
+    auto *waehlen = new QPushButton(localizedString(QStringLiteral("&Bild wählen …")));
+    waehlen->setObjectName(QStringLiteral("logowaehlen"));
+    m_entfernen->setObjectName(QStringLiteral("logoentfernen"));
+    new Sperrgrund(m_entfernen, localizedString(QStringLiteral("Es ist kein Logo gewählt.")));
+    connect(waehlen, &QPushButton::clicked, this, &Briefkopfwahl::waehle);
+    connect(m_entfernen, &QPushButton::clicked, this, &Briefkopfwahl::entferne);
+    auto *logo = new QWidget;
+    auto *reihe = new QHBoxLayout(logo);
+    reihe->setContentsMargins(0, 0, 0, 0);
+    reihe->addWidget(m_bild);
+    reihe->addWidget(waehlen);
+    reihe->addWidget(m_entfernen);
+    reihe->addStretch();
+    return logo;
+}
+
+void Briefkopfwahl::waehle()
+{
+    if (m_frage) {
+        m_frage(this,
+                {.titel = localizedString(QStringLiteral("Logo der Praxis")),
+                 .arten = localizedString(QStringLiteral("Bilder (*.png *.jpg *.jpeg *.svg)"))},
+                [this](const QString &path) { uebernimm(path); });
+    }
+}
+
+void Briefkopfwahl::uebernimm(const QString &path)
+{
+    const std::optional<Briefkopfablage::Hindernis> hindernis = m_ablage.uebernimmLogo(path);
+    zeigeLogo(hindernis ? inWorten(*hindernis) : QString());
+}
+
+void Briefkopfwahl::entferne()
+{
+    zeigeLogo(m_ablage.entferneLogo()
+                  ? QString()
+                  : localizedString(QStringLiteral("Das Logo ließ sich nicht entfernen.")));
+}
+
+/// Whatever can't be done is told below the picture, also to those who can't see it.
+void Briefkopfwahl::zeigeLogo(const QString &hindernis)
+{
+    const Briefkopf kopf = m_ablage.lies();
+    const QSizeF platz = QSizeF(bildgroesse) * devicePixelRatioF();
+    QPixmap bild;
+    if (!kopf.logo.isNull()) {
+        bild = QPixmap::fromImage(
+            kopf.logo.scaled(platz.toSize(), Qt::KeepAspectRatio, Qt::SmoothTransformation));
+        bild.setDevicePixelRatio(devicePixelRatioF());
+    }
+    m_bild->setPixmap(bild);
+    m_bild->setAccessibleName(kopf.logo.isNull()
+                                  ? localizedString(QStringLiteral("Kein Logo"))
+                                  : localizedString(QStringLiteral("Das Logo, wie es gedruckt "
+                                                                   "wird")));
+    const QString worte =
+        !hindernis.isEmpty() ? hindernis
+        : kopf.logoFehlt
+            ? localizedString(QStringLiteral("Das gesicherte Logo ist nicht mehr zu lesen; "
+                                             "gedruckt wird ohne."))
+            : QString();
+    m_worte->setText(worte);
+    m_worte->setVisible(!worte.isEmpty());
+    m_entfernen->setEnabled(m_ablage.hatLogo());
+}
