@@ -88,19 +88,19 @@ void Tageanschluss::bereitePlan()
 
 Tagetueren Tageanschluss::fenstertueren()
 {
-    return {.melde = m_tueren.melde,
-            .suche = [this](const QString &text) { return m_hauptfenster.sucheNamen(text); },
-            .lebensmittel =
-                [this](const QString &schluessel) {
-                    return lebensmittelVon(schluessel, m_hauptfenster.Dictionary,
-                                           m_hauptfenster.KundenDictionary);
-                },
-            .masse =
-                [this](const QString &schluessel) { return m_portionen.masseFuer(schluessel); },
-            .bedarf =
-                [] {
-                    return Energiebedarf{Planmodul::klient.bedarf, Planmodul::klient.unbereinigt};
-                }};
+    return {
+        .melde = m_tueren.melde,
+        .suche = [this](const QString &text) { return m_hauptfenster.sucheNamen(text); },
+        .lebensmittel =
+            [this](const QString &schluessel) {
+                return lebensmittelVon(schluessel, m_hauptfenster.Dictionary,
+                                       m_hauptfenster.KundenDictionary);
+            },
+        .masse = [this](const QString &schluessel) { return m_portionen.masseFuer(schluessel); },
+        .bedarf =
+            [] {
+                return Energiebedarf{Planmodul::klient.bedarf, Planmodul::klient.unbereinigt};
+            }};
 }
 
 Tagefenster &Tageanschluss::fenster()
@@ -110,8 +110,7 @@ Tagefenster &Tageanschluss::fenster()
         m_fenster->installEventFilter(this);
         connect(m_fenster.get(), &Tagefenster::hilfeGewuenscht, this,
                 [this] { Q_EMIT hilfeGewuenscht(m_fenster.get()); });
-        connect(&m_ohneKlient, &Tagesdatei::sicherungGewechselt, this,
-                &Tageanschluss::sageZustand);
+        connect(&m_ohneKlient, &Tagesdatei::sicherungGewechselt, this, &Tageanschluss::sageZustand);
         Fensterplatz::lasseRollen(*m_fenster->anordnung1, *m_fenster->seiten);
         m_platz = std::make_unique<Platzgedaechtnis>(*m_fenster, *m_tueren.einstellungen,
                                                      QStringLiteral("Tagefenster"),

@@ -23,6 +23,14 @@ Regelsprache sprache()
                                                     : Regelsprache::Deutsch;
 }
 
+/// 0 for a name that is the text, 1 for one that begins with it, 2 for others.
+int naehe(const QString &name, const QString &text)
+{
+    return name.compare(text, Qt::CaseInsensitive) == 0 ? 0
+           : name.startsWith(text, Qt::CaseInsensitive) ? 1
+                                                        : 2;
+}
+
 Aufzeichnungsaenderung::Stelle stelleVon(int tag, const Platz &platz)
 {
     return {tag, platz.mahlzeit, platz.zeile};
@@ -45,8 +53,8 @@ void Tagefenster::nimmAn(const Platz &platz, int spalte, const QString &text,
     }
 }
 
-/// Foods as the search by name finds them, but one that is called exactly so comes first; amounts
-/// with the measures of the row's food.
+/// Foods as the search by name finds them, those first that are called so or begin so: they need
+/// the fewest letters. Amounts with the measures of the row's food.
 QList<Vorschlagsfeld::Vorschlag> Tagefenster::vorschlaege(int reihe, int spalte,
                                                           const QString &text) const
 {
@@ -62,8 +70,8 @@ QList<Vorschlagsfeld::Vorschlag> Tagefenster::vorschlaege(int reihe, int spalte,
         for (const Suchtreffer &treffer : m_tueren.suche(text).treffer) {
             alle << Vorschlagsfeld::Vorschlag{treffer.anzeige, treffer.schluessel};
         }
-        std::stable_partition(alle.begin(), alle.end(), [&](const auto &einer) {
-            return einer.anzeige.compare(text, Qt::CaseInsensitive) == 0;
+        std::stable_sort(alle.begin(), alle.end(), [&](const auto &einer, const auto &anderer) {
+            return naehe(einer.anzeige, text) < naehe(anderer.anzeige, text);
         });
     }
     return alle;
@@ -179,13 +187,16 @@ void Tagefenster::geheZuNaechster(const Platz &platz)
     }
 }
 
-/// To where the next food of a meal is typed; behind the last meal there is none.
+/// To where the next food of a meal is typed; behind the last meal comes the next day.
 void Tagefenster::geheZuMahlzeit(int mahlzeit)
 {
     const std::optional<Aufzeichnung> eine = buch.jetzige();
     if (eine && mahlzeit < eine->mahlzeiten.size()) {
         const qsizetype zeilen = eine->tage[buch.tag()].mahlzeiten[mahlzeit].zeilen.size();
         ansicht->geheZu({Art::Eingabe, mahlzeit, static_cast<int>(zeilen)}, Tagesmodell::Name);
+    } else if (eine && buch.tag() + 1 < eine->tage.size()) {
+        naechsterTag();
+        geheZuMahlzeit(0);
     }
 }
 
@@ -218,6 +229,6 @@ QString Tagefenster::gibHinein(const QString &schluessel)
         return {};
     }
     ansicht->geheZu({Art::Speise, mahlzeit, ende}, Tagesmodell::Angabe);
-    return QStringLiteral("%1, %2, %3").arg(tagesname(*eine, buch.tag()),
-                                            mahlzeitname(eine->mahlzeiten[mahlzeit]), neue.angabe);
+    return QStringLiteral("%1, %2, %3")
+        .arg(tagesname(*eine, buch.tag()), mahlzeitname(eine->mahlzeiten[mahlzeit]), neue.angabe);
 }
