@@ -6,8 +6,8 @@
 #include "Energieanteile.h"
 #include "Erscheinungsbild.h"
 #include "Feldauskunft.h"
-#include "Papierbild.h"
 #include "Namenssuche.h"
+#include "Papierbild.h"
 #include "Planmodul.h"
 #include "Profilsuche.h"
 #include "Skalierung.h"
@@ -132,6 +132,13 @@ public:
     /// The foods whose name contains a text, see `namenSuchen`.
     Namenssuchergebnis sucheNamen(const QString &text) const;
 
+    /// Whether a record is a line without values, such as the one that the built-in table begins
+    /// with.
+    static bool istLeer(const Datenmodul &lebensmittel);
+
+    /// The plan, read if it was not yet; its window need not be shown.
+    Planmodul &holePlan();
+
     /// Takes a food that was double-clicked in the table, named by its key. Absent, or where it
     /// answers false, the plan gets it.
     std::function<bool(const QString &schluessel)> zugabeziel;
@@ -244,7 +251,6 @@ private:
     QList<Papierwertung> papierwertungen() const;
 
     // The meal plan
-    Planmodul &holePlan();
     void stellePlanDaneben();
     void holePlanNachVorn();
     void verbindeZugabe();
@@ -262,7 +268,7 @@ private:
     // Own foods
     Datenmodul eingegebenesLebensmittel() const;
     const Datenmodul *gezeigtesLebensmittel() const;
-    static bool istLeer(const Datenmodul &lebensmittel);
+
     void schreibeInsBlatt(const Datenmodul &vorlage, const QString &name);
     QString nameFuerAbschrift(const QString &name) const;
     bool sichere();

@@ -61,7 +61,6 @@ void AppController::umschreibenDerEingabeFelder()
     meldeUebernommenes(feldA->stringValue(), gesichert, neu);
 }
 
-/// Whether this is a line without values, such as the one that the built-in table begins with.
 bool AppController::istLeer(const Datenmodul &lebensmittel)
 {
     return std::all_of(naehrwerte.begin(), naehrwerte.end(),

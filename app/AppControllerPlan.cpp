@@ -7,7 +7,6 @@
 
 #include <QScreen>
 
-/// The plan, with a window that need not be shown.
 Planmodul &AppController::holePlan()
 {
     if (planmodul == nullptr) {

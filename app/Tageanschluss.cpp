@@ -2,8 +2,12 @@
 
 #include "AnthroController.h"
 #include "AppController.h"
+#include "Druckworte.h"
+#include "Einstellungen.h"
 #include "Fensterplatz.h"
 #include "Klientenanschluss.h"
+#include "Massfenster.h"
+#include "Namenswechsel.h"
 #include "Planzeilen.h"
 #include "Zeichenkettentabelle.h"
 
@@ -15,6 +19,7 @@
 namespace {
 
 constexpr auto tagesdatei = "MahlbergTage.json";
+constexpr auto massdatei = "MahlbergMasse.json";
 
 const QString hinweisDatei = QStringLiteral("tagesdatei");
 const QString hinweisSicherung = QStringLiteral("tagesicherung");
@@ -31,6 +36,8 @@ Tageanschluss::Tageanschluss(AppController &hauptfenster, AnthroController &rech
     , m_klienten(klienten)
     , m_tueren(std::move(tueren))
     , m_portionen(QStringLiteral(":/Portionen.csv"), QStringLiteral(":/Lebensmittel.csv"))
+    , m_eigeneMasse(pfad(massdatei), leseNamenswechsel(QStringLiteral(":/Umbenannt.csv")))
+    , m_masse(m_portionen, m_eigeneMasse)
     , m_ohneKlient(pfad(tagesdatei))
 {
 }
@@ -86,21 +93,123 @@ void Tageanschluss::bereitePlan()
     m_hauptfenster.planmodul->window()->installEventFilter(this);
 }
 
+/// Lines that stand for no food, as the one that the built-in table begins with, are none to eat.
+Namenssuchergebnis Tageanschluss::suche(const QString &text) const
+{
+    Namenssuchergebnis ergebnis = m_hauptfenster.sucheNamen(text);
+    ergebnis.treffer.removeIf([this](const Suchtreffer &treffer) {
+        const auto eingebautes = m_hauptfenster.Dictionary.constFind(treffer.schluessel);
+        return eingebautes != m_hauptfenster.Dictionary.constEnd() &&
+               AppController::istLeer(*eingebautes);
+    });
+    return ergebnis;
+}
+
+/// What comes from a spreadsheet is called as people call it, in either language.
+QString Tageanschluss::schluesselVon(const QString &name)
+{
+    if (m_schluessel.isEmpty()) {
+        const Druckworte englisch(Regelsprache::Englisch);
+        for (const QString &schluessel : std::as_const(m_hauptfenster.Array)) {
+            m_schluessel.insert(englisch(schluessel).toLower(), schluessel);
+        }
+        for (const QString &schluessel : std::as_const(m_hauptfenster.Array)) {
+            m_schluessel.insert(schluessel.toLower(), schluessel);
+        }
+    }
+    for (const QString &eigenes : std::as_const(m_hauptfenster.KundenArray)) {
+        if (eigenes.compare(name, Qt::CaseInsensitive) == 0) {
+            return eigenes;
+        }
+    }
+    return m_schluessel.value(name.toLower());
+}
+
+/// The plan's own way back leads to what stood there before.
+bool Tageanschluss::legeAufTisch(const QList<Planmenge> &posten)
+{
+    m_hauptfenster.Planmoduloeffnen();
+    Planliste liste;
+    for (const Planmenge &einer : posten) {
+        liste.anhaengen(einer.schluessel);
+        liste.mengeAendern(liste.PlanArray.size() - 1, einer.gramm);
+    }
+    m_hauptfenster.planmodul->uebernimmPlan(liste);
+    return true;
+}
+
+QList<Planmenge> Tageanschluss::planVomTisch()
+{
+    const Planliste &plan = m_hauptfenster.holePlan();
+    QList<Planmenge> posten;
+    for (qsizetype zeile = 0; zeile < plan.PlanArray.size(); ++zeile) {
+        posten << Planmenge{plan.PlanArray[zeile], plan.mengenarray[zeile], {}};
+    }
+    return posten;
+}
+
+QList<Vorratsplan> Tageanschluss::abgelegtePlaene() const
+{
+    QList<Vorratsplan> plaene;
+    if (const std::optional<Klientenakte> &akte = m_klienten.tisch.akte()) {
+        for (const Planablage &ablage : akte->plaene) {
+            Vorratsplan plan{ablage.titel, ablage.datum, {}};
+            for (const Planposten &posten : ablage.posten) {
+                plan.posten << Planmenge{posten.schluessel, posten.gramm, posten.eintrag};
+            }
+            plaene << plan;
+        }
+    }
+    return plaene;
+}
+
+void Tageanschluss::zeigeMasse(QWidget *fenster, const QString &schluessel)
+{
+    Massfenster::oeffne(m_portionen, m_eigeneMasse, schluessel, fenster);
+}
+
 Tagetueren Tageanschluss::fenstertueren()
 {
-    return {
-        .melde = m_tueren.melde,
-        .suche = [this](const QString &text) { return m_hauptfenster.sucheNamen(text); },
-        .lebensmittel =
-            [this](const QString &schluessel) {
-                return lebensmittelVon(schluessel, m_hauptfenster.Dictionary,
-                                       m_hauptfenster.KundenDictionary);
-            },
-        .masse = [this](const QString &schluessel) { return m_portionen.masseFuer(schluessel); },
-        .bedarf =
-            [] {
-                return Energiebedarf{Planmodul::klient.bedarf, Planmodul::klient.unbereinigt};
-            }};
+    Tagetueren tueren;
+    tueren.melde = m_tueren.melde;
+    tueren.suche = [this](const QString &text) {
+        return suche(text);
+    };
+    tueren.lebensmittel = [this](const QString &schluessel) {
+        return lebensmittelVon(schluessel, m_hauptfenster.Dictionary,
+                               m_hauptfenster.KundenDictionary);
+    };
+    tueren.masse = [this](const QString &schluessel) {
+        return m_masse.masseFuer(schluessel);
+    };
+    tueren.massfenster = [this](QWidget *fenster, const QString &schluessel) {
+        zeigeMasse(fenster, schluessel);
+    };
+    tueren.bedarf = [] {
+        return Energiebedarf{Planmodul::klient.bedarf, Planmodul::klient.unbereinigt};
+    };
+    tueren.schluessel = [this](const QString &name) {
+        return schluesselVon(name);
+    };
+    tueren.legeAufTisch = [this](const QList<Planmenge> &posten) {
+        return legeAufTisch(posten);
+    };
+    tueren.planVomTisch = [this] {
+        return planVomTisch();
+    };
+    tueren.abgelegtePlaene = [this] {
+        return abgelegtePlaene();
+    };
+    tueren.drucke = m_tueren.drucke;
+    tueren.alsPdf = m_tueren.alsPdf;
+    tueren.briefkopf = [this] {
+        return Briefkopfablage(*m_tueren.einstellungen, m_tueren.datenordner).lies();
+    };
+    tueren.klient = [this] {
+        return m_desKlienten != nullptr ? m_desKlienten->wessen() : QString();
+    };
+    tueren.einstellungen = m_tueren.einstellungen;
+    return tueren;
 }
 
 Tagefenster &Tageanschluss::fenster()

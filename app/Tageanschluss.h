@@ -1,8 +1,9 @@
 #pragma once
 
+#include "Briefkopfablage.h"
 #include "Klientenaufzeichnungen.h"
+#include "Massquelle.h"
 #include "Platzgedaechtnis.h"
-#include "Portionentabelle.h"
 #include "Tagefenster.h"
 #include "Tagesdatei.h"
 #include "Tueren.h"
@@ -36,6 +37,9 @@ public:
     /// The same, null as long as nobody has asked.
     Tagefenster *offenes() const { return m_fenster.get(); }
 
+    /// Shows the household measures of a food in front of a window, to add own ones.
+    void zeigeMasse(QWidget *fenster, const QString &schluessel);
+
     /// Another language is spoken.
     void folgeSprache();
 
@@ -55,12 +59,21 @@ private:
     void sageZustand();
     QString pfad(const char *datei) const;
     Tagetueren fenstertueren();
+    Namenssuchergebnis suche(const QString &text) const;
+    QString schluesselVon(const QString &name);
+    bool legeAufTisch(const QList<Planmenge> &posten);
+    QList<Planmenge> planVomTisch();
+    QList<Vorratsplan> abgelegtePlaene() const;
 
     AppController &m_hauptfenster;
     AnthroController &m_rechner;
     Klientenanschluss &m_klienten;
     Tueren m_tueren;
     Portionentabelle m_portionen;
+    EigeneMasse m_eigeneMasse;
+    Massquelle m_masse;
+    QHash<QString, QString>
+        m_schluessel; ///< of the built-in foods, by their names in small letters
     Tagesdatei m_ohneKlient;
     std::unique_ptr<Klientenaufzeichnungen> m_desKlienten; ///< null while nobody is at the desk
     std::unique_ptr<Tagefenster> m_fenster;
