@@ -6,10 +6,10 @@
 
 QList<Mass> Massquelle::masseFuer(const QString &schluessel) const
 {
-    QList<Mass> masse = m_eigene.masseFuer(schluessel);
-    const qsizetype eigene = masse.size();
+    const QList<Mass> eigene = m_eigene.masseFuer(schluessel);
+    QList<Mass> masse = eigene;
     for (const Mass &eingebautes : m_eingebaute.masseFuer(schluessel)) {
-        if (std::none_of(masse.cbegin(), masse.cbegin() + eigene, [&](const Mass &eigenes) {
+        if (std::none_of(eigene.begin(), eigene.end(), [&](const Mass &eigenes) {
                 return gleichBenannt(eigenes, eingebautes);
             })) {
             masse << eingebautes;

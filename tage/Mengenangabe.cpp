@@ -150,6 +150,12 @@ double bruchwert(const QString &zeichen)
     return 0;
 }
 
+/// Over nothing it is not finite.
+double bruchwert(double zaehler, double nenner)
+{
+    return nenner > 0 ? zaehler / nenner : std::numeric_limits<double>::infinity();
+}
+
 /// Absent where the text does not begin with digits that make a number.
 std::optional<Anzahl> leseZiffern(const QString &text)
 {
@@ -166,8 +172,7 @@ std::optional<Anzahl> leseZiffern(const QString &text)
     anzahl.zahl = !treffer.captured(7).isEmpty();
     anzahl.wert = teil(2) + teil(5) + bruchwert(treffer.captured(6)) + teil(7);
     if (!treffer.captured(4).isEmpty()) {
-        const double nenner = teil(4);
-        anzahl.wert += nenner > 0 ? teil(3) / nenner : std::numeric_limits<double>::infinity();
+        anzahl.wert += bruchwert(teil(3), teil(4));
     }
     const bool negativ = !treffer.captured(1).isEmpty() && treffer.captured(1) != u"+";
     anzahl.wert = negativ ? -anzahl.wert : anzahl.wert;
@@ -231,7 +236,7 @@ QList<Mass> gemeinte(const QString &name, const QList<Mass> &masse)
     const auto genannte = [&masse](const QString &gesucht) {
         return passende(masse, [&](const QString &einer) { return einer == gesucht; });
     };
-    const QList<Mass> genaue = genannte(name);
+    QList<Mass> genaue = genannte(name);
     if (!genaue.isEmpty()) {
         return genaue;
     }

@@ -1,12 +1,11 @@
 #pragma once
 
 #include <QLineEdit>
+#include <QListWidget>
 #include <QPointer>
 #include <QStringList>
 
 #include <functional>
-
-class QListWidget;
 
 /// A field over a cell of a table, below which stands what fits the text so far. The first of it is
 /// taken with Return unless another one was chosen with the arrow keys; without a hand on the mouse

@@ -205,6 +205,7 @@ void TestEigeneMasse::whatIsNotUnderstoodIsKeptBeside()
     QVERIFY(masse.setze(suppe, {teller}));
     QCOMPARE(gesicherte(suppe), QList<Mass>{teller});
     QCOMPARE(gesicherte(u"Saft"_s).size(), gelesen);
+    QVERIFY(EigeneMasse(path()).hindernis().isNull());
     QFile kopie(m_ordner->filePath(kopien.constFirst()));
     QVERIFY(kopie.open(QIODevice::ReadOnly));
     QCOMPARE(kopie.readAll(), inhalt);

@@ -52,6 +52,7 @@ private Q_SLOTS:
     void anUnknownFoodHasNoMeasures_data();
     void anUnknownFoodHasNoMeasures();
     void aFoodHasItsOwnMeasuresFirst();
+    void measuresOfAGroupStandAsInTheTable();
     void theTablesAreReadOnceAndOnlyWhenTheyAreAskedFor();
     void everyShippedFoodIsMeasuredInNoTime();
 
@@ -176,6 +177,13 @@ void TestPortionentabelle::aFoodHasItsOwnMeasuresFirst()
     QCOMPARE(namen(gut.masseFuer(u"Toast, hell"_s)),
              (QStringList{u"Scheibe 20"_s, u"Portion 60"_s}));
     QCOMPARE(namen(gut.masseFuer(u"Ei, roh"_s)), QStringList{u"Portion 60"_s});
+}
+
+void TestPortionentabelle::measuresOfAGroupStandAsInTheTable()
+{
+    schreibe(u"P.csv"_s, portionen + "Eier;;;Stück;Stück;piece;pieces;50;SGE;\n");
+    QCOMPARE(namen(tabelle().masseFuer(u"Ei, roh"_s)),
+             (QStringList{u"Portion 60"_s, u"Stück 50"_s}));
 }
 
 void TestPortionentabelle::theTablesAreReadOnceAndOnlyWhenTheyAreAskedFor()

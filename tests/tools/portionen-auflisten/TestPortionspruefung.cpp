@@ -75,6 +75,16 @@ void TestPortionspruefung::brokenMeasuresAreObjectedTo_data()
     QTest::newRow("the same English name twice")
         << QStringList{u"Toast;;a;b;c;d;5;SGE;"_s, u"oast;;e;f;c;d;6;SGE;"_s}
         << QStringList{u"3: Toast: line 2 has a measure of this name (e, c) as well [twice]"_s};
+    QTest::newRow("the same name twice behind another")
+        << QStringList{u"Toast;;e;f;g;h;5;SGE;"_s, u"Toast;;i;j;k;l;5;SGE;"_s,
+                       u"Toast;;a;b;c;d;5;SGE;"_s, u"oast;;a;b;e;f;6;SGE;"_s}
+        << QStringList{u"5: Toast: line 4 has a measure of this name (a, e) as well [twice]"_s};
+    QTest::newRow("a number of a food with more behind it")
+        << QStringList{u";;a;b;c;d;5;USDA-123456;"_s}
+        << QStringList{u"2: \"USDA-123456\" is no publication of the page [key]"_s};
+    QTest::newRow("a number of a food with more before it")
+        << QStringList{u";;a;b;c;d;5;XUSDA-12345;"_s}
+        << QStringList{u"2: \"XUSDA-12345\" is no publication of the page [key]"_s};
     QTest::newRow("the same name for different foods")
         << QStringList{u"Toast;;a;b;c;d;5;SGE;"_s, u"Zopf;;a;b;c;d;6;SGE;"_s} << QStringList();
     QTest::newRow("the same name for a food and its group")
