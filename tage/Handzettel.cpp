@@ -11,6 +11,7 @@
 
 #include <algorithm>
 #include <array>
+#include <utility>
 
 namespace {
 
@@ -64,6 +65,7 @@ public:
     Spaltensatz gesetztAuf(const QSizeF &seite) const;
 
 private:
+    Spaltensatz inSpalten(const QSizeF &seite, int spalten, bool ganze) const;
     QList<int> tage() const;
     Druckstreifenfolge kopf(double breite) const;
     Druckstreifenfolge seitenkopf(double breite) const;
@@ -198,7 +200,7 @@ Druckstreifenfolge Zettel::mahlzeit(const QString &name, const Mahlzeit &mahlzei
     }
     if (const QString notiz = mahlzeit.notiz.trimmed(); !notiz.isEmpty()) {
         speisen << gesetzt({{.text = notiz,
-                             .schrift = m_gestalt.notiz,
+                             .schrift = speisen.isEmpty() ? m_gestalt.text : m_gestalt.notiz,
                              .links = links,
                              .breite = breite - links}});
     }
@@ -245,29 +247,35 @@ QString Zettel::tageszahlen(int tag) const
     return werte.join(QStringLiteral(", "));
 }
 
+Spaltensatz Zettel::inSpalten(const QSizeF &seite, int spalten, bool ganze) const
+{
+    Spaltensatz satz({seite, spalten, spaltenabstand, m_gestalt.tag.groesse},
+                     seitenkopf(seite.width()));
+    satz.oben(kopf(seite.width()));
+    const double breite = satz.spaltenbreite();
+    QList<Spaltenblock> bloecke;
+    for (const int tag : tage()) {
+        bloecke << tagesblock(tag, breite, namensbreite(breite));
+    }
+    satz.setze(bloecke, ganze);
+    return satz;
+}
+
 /// As few columns as give as few pages, and days that are not divided where that costs no page.
 Spaltensatz Zettel::gesetztAuf(const QSizeF &seite) const
 {
     const auto passen = static_cast<int>((seite.width() + spaltenabstand) /
                                          (m_gestalt.schmalsteSpalte + spaltenabstand));
-    std::optional<Spaltensatz> bester;
+    Spaltensatz bester = inSpalten(seite, 1, true);
     for (const bool ganze : {true, false}) {
-        for (int spalten = 1; spalten <= std::max(1, passen); ++spalten) {
-            Spaltensatz satz({seite, spalten, spaltenabstand, m_gestalt.tag.groesse},
-                             seitenkopf(seite.width()));
-            satz.oben(kopf(seite.width()));
-            const double breite = satz.spaltenbreite();
-            QList<Spaltenblock> bloecke;
-            for (const int tag : tage()) {
-                bloecke << tagesblock(tag, breite, namensbreite(breite));
-            }
-            satz.setze(bloecke, ganze);
-            if (!bester || satz.seiten() < bester->seiten()) {
-                bester = satz;
+        for (int spalten = 1; spalten <= std::max(1, passen) && bester.seiten() > 1; ++spalten) {
+            Spaltensatz satz = inSpalten(seite, spalten, ganze);
+            if (satz.seiten() < bester.seiten()) {
+                bester = std::move(satz);
             }
         }
     }
-    return *bester;
+    return bester;
 }
 
 } // namespace

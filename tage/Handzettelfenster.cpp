@@ -97,6 +97,7 @@ Handzettelfenster::Handzettelfenster(const Lage &lage, QWidget *parent)
     }
     aufbau->addStretch();
     auto *knoepfe = new QDialogButtonBox(QDialogButtonBox::Cancel);
+    aufbau->addWidget(knoepfe); // a button is the default of the window in which it stands
     for (const auto &[text, weg] :
          {std::pair(localizedString(QStringLiteral("&Drucken …")), Weg::Drucken),
           {localizedString(QStringLiteral("Als &PDF …")), Weg::AlsPdf}}) {
@@ -106,7 +107,6 @@ Handzettelfenster::Handzettelfenster(const Lage &lage, QWidget *parent)
         knopf->setDefault(weg == lage.weg);
         connect(knopf, &QPushButton::clicked, this, [this, weg = weg] { schliesseAb(weg); });
     }
-    aufbau->addWidget(knoepfe);
     connect(knoepfe, &QDialogButtonBox::rejected, this, &QDialog::reject);
 }
 

@@ -341,8 +341,8 @@ void TestHandzettel::theLetterheadStandsAtTheTop()
     QVERIFY(m_probe->bilder() >= 1);
     // 400 x 200 in 170 x 56 points is 112 x 56, at the right margin of 36 points: 447 to 559.
     const QImage bild = m_probe->bild(1, 1);
-    QCOMPARE(bild.pixelColor(450, 60), QColor(Qt::red));
-    QCOMPARE(bild.pixelColor(556, 90), QColor(Qt::red));
+    QVERIFY(bild.pixelColor(450, 60).red() > 250 && bild.pixelColor(450, 60).green() < 5);
+    QVERIFY(bild.pixelColor(556, 90).red() > 250 && bild.pixelColor(556, 90).green() < 5);
     QCOMPARE(bild.pixelColor(443, 60), QColor(Qt::white));
     QCOMPARE(bild.pixelColor(562, 60), QColor(Qt::white));
     // What comes below it begins below the picture, though the address is short.
@@ -461,10 +461,11 @@ void TestHandzettel::aLongDayGoesOnUnderItsName()
         mahlzeit.zeilen.fill(zeile("Butter", "10", 10), 30);
     }
     drucke(eine);
-    // 180 rows of about 11 points are 1980 points: two pages of two columns hold them.
+    // 180 lines of 9 x (1.075 + 0.299) = 12.4 points are 2226 points. A column holds less than 758,
+    // the first two even less: four columns on two pages.
     QCOMPARE(m_probe->seiten(), 2);
     QCOMPARE(alles().count(u"Butter"_s), 180);
-    QCOMPARE(alles().count(u"Tag 1 (Fortsetzung)"_s), 2);
+    QCOMPARE(alles().count(u"Tag 1 (Fortsetzung)"_s), 3);
 }
 
 void TestHandzettel::furtherPagesSayWhatTheyAre()
