@@ -90,7 +90,6 @@ void Massfenster::oeffne(const Portionentabelle &eingebaute, EigeneMasse &eigene
 void Massfenster::done(int ergebnis)
 {
     nimmAn();
-    m_eigene.sichere();
     QDialog::done(ergebnis);
 }
 

@@ -161,6 +161,8 @@ void TestMasspruefung::everyNameIsLookedAt_data()
     QTest::newRow("several: a unit") << mit(u"kg"_s, {}, {}) << false;
     QTest::newRow("English: a unit") << mit({}, u"g"_s, {}) << false;
     QTest::newRow("English, several: a unit") << mit({}, {}, u"grams"_s) << false;
+    QTest::newRow("several: half of one") << mit(u"halbes Glas"_s, {}, {}) << false;
+    QTest::newRow("several: two of one") << mit(u"zwei Glas"_s, {}, {}) << false;
     QTest::newRow("several: too long") << mit(lang, {}, {}) << false;
     QTest::newRow("English: too long") << mit({}, lang, {}) << false;
     QTest::newRow("English, several: too long") << mit({}, {}, lang) << false;
