@@ -64,13 +64,13 @@ Fuellfenster::Fuellfenster(const Aufzeichnung &aufzeichnung, int von, QWidget *p
     m_fuellen = knoepfe->addButton(localizedString(QStringLiteral("&Füllen")),
                                    QDialogButtonBox::AcceptRole);
     m_fuellen->setObjectName(QStringLiteral("fuellen"));
-    m_fuellen->setDefault(true);
     new Sperrgrund(m_fuellen, localizedString(QStringLiteral("Es ist kein Tag angekreuzt.")));
     auto *aufbau = new QVBoxLayout(this);
     aufbau->addWidget(frage);
     aufbau->addWidget(m_tage, 1);
     aufbau->addWidget(m_worte);
     aufbau->addWidget(knoepfe);
+    m_fuellen->setDefault(true); // only within the window is that heard of
     resize(fenstergroesse);
     connect(m_tage, &QListWidget::itemChanged, this, &Fuellfenster::folge);
     connect(knoepfe, &QDialogButtonBox::accepted, this, &QDialog::accept);

@@ -50,13 +50,13 @@ Planwahlfenster::Planwahlfenster(const QList<Vorratsplan> &plaene, QWidget *pare
     auto *nehmen = knoepfe->addButton(localizedString(QStringLiteral("&Übernehmen")),
                                       QDialogButtonBox::AcceptRole);
     nehmen->setObjectName(QStringLiteral("uebernehmen"));
-    nehmen->setDefault(true);
     auto *aufbau = new QVBoxLayout(this);
     aufbau->addWidget(listenwort);
     aufbau->addWidget(m_liste, 1);
     aufbau->addWidget(postenwort);
     aufbau->addWidget(m_posten, 2);
     aufbau->addWidget(knoepfe);
+    nehmen->setDefault(true); // only within the window is that heard of
     resize(fenstergroesse);
     connect(m_liste, &QListWidget::currentRowChanged, this, &Planwahlfenster::zeigePlan);
     connect(m_liste, &QListWidget::itemDoubleClicked, this, &QDialog::accept);

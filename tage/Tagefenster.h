@@ -122,6 +122,8 @@ public:
     void legePlanAufTisch();
     void nimmPlanVomTisch();
     void nimmAbgelegtenPlan();
+    /// What a drag of the chosen rows carries; whoever asks owns it. Null without a row.
+    QMimeData *ziehdaten() const;
 
 Q_SIGNALS:
     /// The user of the window wants the handbook.
@@ -133,6 +135,7 @@ protected:
 private:
     void baueMenue();
     void baueTabellen();
+    void messeSpalten();
     void verbinde();
     void zeigeAuswahl();
     void sageObLesbar();
@@ -183,7 +186,6 @@ private:
                    const Aufzeichnungsaenderung::Stelle &hier, const QString &worte);
     void fuegeGelesenesEin(const Ablagelesung &gelesen);
     void rueckeZeilen(bool hinunter);
-    QMimeData *ziehdaten() const;
     bool nimmt(const QMimeData &daten) const;
     void nimmAbwurf(const QMimeData *daten, const Tagesmodell::Platz &vor, bool kopie);
     void bringePlanEin(const QList<Planmenge> &posten, const char *worte);

@@ -34,6 +34,9 @@ private Q_SLOTS:
     void deleteAsksForTheRows();
     void theCursorStaysWhereItWas();
     void theListStaysWithinTheWindow();
+    void onlyRowsOfFoodsAreDragged_data();
+    void onlyRowsOfFoodsAreDragged();
+    void chosenRowsStayChosenWhileTheyAreDragged();
 
 private:
     struct Eingabe
@@ -260,6 +263,52 @@ void TestTagesansicht::theListStaysWithinTheWindow()
     const QRect feld(m_ansicht->feld()->mapTo(m_fenster.get(), QPoint(0, 0)),
                      m_ansicht->feld()->size());
     QVERIFY(!liste.geometry().intersects(feld));
+}
+
+void TestTagesansicht::onlyRowsOfFoodsAreDragged_data()
+{
+    QTest::addColumn<int>("art");
+    QTest::addColumn<int>("zeile");
+    QTest::addColumn<int>("zuege");
+    QTest::newRow("a food") << static_cast<int>(Art::Speise) << 1 << 1;
+    QTest::newRow("the name of a meal") << static_cast<int>(Art::Mahlzeit) << 0 << 0;
+    QTest::newRow("where the next is typed") << static_cast<int>(Art::Eingabe) << 2 << 0;
+}
+
+/// The button is pressed and the mouse pulled away, as a hand does it.
+void TestTagesansicht::onlyRowsOfFoodsAreDragged()
+{
+    QFETCH(const int, art);
+    QFETCH(const int, zeile);
+    int zuege = 0;
+    m_ansicht->setZiehquelle([&] {
+        ++zuege;
+        return static_cast<QMimeData *>(nullptr);
+    });
+    const int reihe = m_ansicht->tagesmodell().reihe({static_cast<Art>(art), 0, zeile});
+    QWidget *flaeche = m_ansicht->viewport();
+    const QPoint von = m_ansicht->visualRect(m_ansicht->tagesmodell().index(reihe, 0)).center();
+    QTest::mousePress(flaeche, Qt::LeftButton, {}, von);
+    for (const int weit : {5, 60, 61}) {
+        QMouseEvent zug(QEvent::MouseMove, von + QPoint(weit, 0),
+                        flaeche->mapToGlobal(von + QPoint(weit, 0)), Qt::NoButton, Qt::LeftButton,
+                        {});
+        QApplication::sendEvent(flaeche, &zug);
+    }
+    QTest::mouseRelease(flaeche, Qt::LeftButton, {}, von + QPoint(61, 0));
+    QTEST(zuege, "zuege");
+    QVERIFY(m_ansicht->feld() == nullptr);
+}
+
+void TestTagesansicht::chosenRowsStayChosenWhileTheyAreDragged()
+{
+    m_ansicht->waehle({{Art::Speise, 0, 0}, {Art::Speise, 0, 1}});
+    QCOMPARE(m_ansicht->gewaehlteZeilen().size(), 2);
+    QTest::mousePress(m_ansicht->viewport(), Qt::LeftButton, {},
+                      m_ansicht->visualRect(m_ansicht->tagesmodell().index(2, 0)).center());
+    QCOMPARE(m_ansicht->gewaehlteZeilen().size(), 2);
+    m_ansicht->waehle({});
+    QCOMPARE(m_ansicht->gewaehlteZeilen().size(), 2);
 }
 
 QTEST_MAIN(TestTagesansicht)

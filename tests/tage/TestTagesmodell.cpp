@@ -30,6 +30,8 @@ private Q_SLOTS:
     void aDayThatIsNotThereHasNoRows_data();
     void aDayThatIsNotThereHasNoRows();
     void theColumnsAreNamed();
+    void whatHasChangedSinceIsMarked_data();
+    void whatHasChangedSinceIsMarked();
 
 private:
     QString text(int reihe, int spalte) const
@@ -180,6 +182,33 @@ void TestTagesmodell::theColumnsAreNamed()
     QCOMPARE(koepfe, QStringList({u"Lebensmittel"_s, u"Menge"_s, u"g"_s, u"kcal"_s, u"Protein"_s,
                                   u"Fett"_s, u"Kohlenhydrate"_s, u"Ü"_s, u"D"_s, u"G"_s, u"H"_s}));
     QCOMPARE(m_modell.headerData(7, Qt::Horizontal, Qt::ToolTipRole).toString(), u"Übergewicht"_s);
+}
+
+void TestTagesmodell::whatHasChangedSinceIsMarked_data()
+{
+    QTest::addColumn<float>("heute"); // kcal; below 0: it is in no store any more
+    QTest::addColumn<QString>("name");
+    QTest::addColumn<QString>("worte");
+    QTest::newRow("as it was") << 242.0F << u"Brot"_s << QString();
+    QTest::newRow("other values") << 241.0F << u"Brot *"_s << u"heute andere Werte"_s;
+    QTest::newRow("gone") << -1.0F << u"Brot *"_s << u"in keiner Tabelle mehr"_s;
+}
+
+void TestTagesmodell::whatHasChangedSinceIsMarked()
+{
+    QFETCH(const float, heute);
+    QFETCH(const QString, worte);
+    Datenmodul brot = *zeilen(0)[0].eintrag;
+    brot.setkal(heute);
+    m_modell.setNachschlag([&](const QString &schluessel) {
+        return schluessel == u"Brot"_s && heute >= 0 ? &brot : nullptr;
+    });
+    QTEST(text(1, Tagesmodell::Name), "name");
+    for (const int rolle : {Qt::ToolTipRole, Qt::AccessibleDescriptionRole}) {
+        const QString gesagt = m_modell.index(1, 0).data(rolle).toString();
+        QVERIFY2(gesagt.contains(worte) && gesagt.isEmpty() == worte.isEmpty(), qPrintable(gesagt));
+    }
+    QCOMPARE(m_modell.eingabetext(1, Tagesmodell::Name), u"Brot"_s);
 }
 
 QTEST_MAIN(TestTagesmodell)
