@@ -47,7 +47,7 @@ Gelesenes gemalt(const QByteArray &svg)
 {
     QSvgRenderer zeichnung(svg);
     const QSize groesse = zeichnung.defaultSize().scaled(feinstes, Qt::KeepAspectRatio);
-    if (!zeichnung.isValid() || groesse.isEmpty()) {
+    if (!zeichnung.isValid() || zeichnung.defaultSize().isEmpty() || groesse.isEmpty()) {
         return {.hindernis = Hindernis::NichtZuLesen};
     }
     QImage bild(groesse, QImage::Format_ARGB32_Premultiplied);

@@ -63,13 +63,15 @@ QWidget *Briefkopfwahl::baueLogo()
     new Sperrgrund(m_entfernen, localizedString(QStringLiteral("Es ist kein Logo gewählt.")));
     connect(waehlen, &QPushButton::clicked, this, &Briefkopfwahl::waehle);
     connect(m_entfernen, &QPushButton::clicked, this, &Briefkopfwahl::entferne);
-    auto *logo = new QWidget;
+    auto *logo = new QWidget(this);
     auto *reihe = new QHBoxLayout(logo);
     reihe->setContentsMargins(0, 0, 0, 0);
     reihe->addWidget(m_bild);
     reihe->addWidget(waehlen);
     reihe->addWidget(m_entfernen);
     reihe->addStretch();
+    setTabOrder(m_anschrift, waehlen);
+    setTabOrder(waehlen, m_entfernen);
     return logo;
 }
 

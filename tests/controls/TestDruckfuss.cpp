@@ -15,6 +15,7 @@ class TestDruckfuss : public QObject
 private Q_SLOTS:
     void itSaysDayPageAndProgram_data();
     void itSaysDayPageAndProgram();
+    void itMaySpeakAnotherLanguage();
     void itStandsWithinTheMargins_data();
     void itStandsWithinTheMargins();
     void thePagesAreThoseAboveTheFoot();
@@ -48,6 +49,17 @@ void TestDruckfuss::itSaysDayPageAndProgram()
                  QStringList({QStringLiteral("Seite %1").arg(seite),
                               QStringLiteral("%1 Seite %2 von 2 Mahlberg").arg(tag).arg(seite)}));
     }
+}
+
+void TestDruckfuss::itMaySpeakAnotherLanguage()
+{
+    QLocale::setDefault(QLocale(QLocale::German, QLocale::Germany));
+    Druckauftrag auftrag = beziffert(2);
+    auftrag.tag = QDate(2026, 3, 1);
+    Druckprobe probe(Druckprobe::papier(QPageSize::A4, QPageLayout::Portrait));
+    probe.drucke(mitFuss(auftrag, QStringLiteral("Page %1 of %2"),
+                         QLocale(QLocale::English, QLocale::UnitedKingdom)));
+    QCOMPARE(probe.zeilen(2).last(), QStringLiteral("Sunday, 1 March 2026 Page 2 of 2 Mahlberg"));
 }
 
 void TestDruckfuss::itStandsWithinTheMargins_data()

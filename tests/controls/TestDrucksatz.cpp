@@ -31,6 +31,8 @@ private Q_SLOTS:
     void aRowStaysOnOnePage_data();
     void aRowStaysOnOnePage();
     void aRowThatIsLongGoesOn();
+    void aRowMayHoldTheNext_data();
+    void aRowMayHoldTheNext();
     void columnsAreAsWideAsTheyNeed();
     void aColumnIsAsWideAsItIsMeantToBe();
     void whereThereIsNoRoomTheWordyColumnIsBroken();
@@ -322,6 +324,34 @@ void TestDrucksatz::aRowThatIsLongGoesOn()
         alle += zeilen(nummer).mid(nummer == 1 ? 1 : 2);
     }
     QCOMPARE(alle.join(u' '), u"Zeile1 1 Zeile2 2 "_s + probeworte(400) + u" Zeile3 3"_s);
+}
+
+void TestDrucksatz::aRowMayHoldTheNext_data()
+{
+    QTest::addColumn<double>("rest");
+    for (int rest = 60; rest <= 160; rest += 10) {
+        QTest::addRow("%d points", rest) << static_cast<double>(rest);
+    }
+}
+
+/// Every third row is the name of the two below it.
+void TestDrucksatz::aRowMayHoldTheNext()
+{
+    QFETCH(const double, rest);
+    Drucktabelle tabelle = reihen(12);
+    for (qsizetype i = 0; i < tabelle.zeilen.size(); i += 3) {
+        tabelle.zeilen[i].haelt = true;
+    }
+    Drucksatz satz = mitRest(rest);
+    satz.tabelle(tabelle);
+    drucke(satz);
+    QVERIFY(satz.seiten() > 1);
+    for (int i = 1; i <= 12; ++i) {
+        QVERIFY(wort(u"Zeile%1"_s.arg(i)).seite > 0);
+    }
+    for (int i = 1; i <= 12; i += 3) {
+        QCOMPARE(wort(u"Zeile%1"_s.arg(i)).seite, wort(u"Zeile%1"_s.arg(i + 1)).seite);
+    }
 }
 
 void TestDrucksatz::columnsAreAsWideAsTheyNeed()

@@ -30,6 +30,8 @@ private Q_SLOTS:
     void aWidthIsThatOfTheWidestLineOrWord();
     void whatIsCutOffSaysSo();
     void twoStripsAreAsHighAsBoth();
+    void furtherLinesMayHang();
+    void whatIsSideBySideSharesItsPlaces();
 
 private:
     static void drucke(Druckprobe &probe, const Druckstreifenfolge &folge);
@@ -223,6 +225,42 @@ void TestDruckzeilen::twoStripsAreAsHighAsBoth()
     const double abstand =
         finde(probe.worte(), u"zwei"_s).grundlinie - finde(probe.worte(), u"eins"_s).grundlinie;
     QVERIFY(qAbs(abstand - folge[0].hoehe - 30) < 0.1);
+}
+
+void TestDruckzeilen::furtherLinesMayHang()
+{
+    Druckprobe probe = a4();
+    drucke(probe, gesetzt({{.text = probeworte(20), .links = 20, .breite = 200, .haengend = 15}}));
+    const QList<Druckwort> worte = probe.worte();
+    QCOMPARE(worte.size(), 20);
+    const Druckwort erstes = finde(worte, u"wort0001"_s);
+    double davor = erstes.grundlinie;
+    int weitere = 0;
+    for (const Druckwort &wort : worte) {
+        QVERIFY(wort.rechts <= erstes.x + 200.5);
+        if (wort.grundlinie > davor + 1) {
+            QVERIFY(qAbs(wort.x - erstes.x - 15) < 0.2);
+            davor = wort.grundlinie;
+            ++weitere;
+        }
+    }
+    QVERIFY(weitere >= 4);
+}
+
+void TestDruckzeilen::whatIsSideBySideSharesItsPlaces()
+{
+    const Druckstreifenfolge links = gesetzt({{.text = u"eins"_s, .breite = 90}});
+    Druckstreifenfolge rechts =
+        gesetzt({{.text = u"drei\nvier\nsechs"_s, .links = 100, .breite = 90}});
+    rechts[0].hoehe += 10;
+    const Druckstreifenfolge beide = nebeneinander(links, rechts);
+    QCOMPARE(beide.size(), 3);
+    QCOMPARE(hoehe(beide), hoehe(rechts)); // the higher one counts in each place
+    QCOMPARE(hoehe(nebeneinander(rechts, links)), hoehe(rechts));
+    QVERIFY(nebeneinander({}, {}).isEmpty());
+    Druckprobe probe = a4();
+    drucke(probe, beide);
+    QCOMPARE(probe.zeilen(1), QStringList({u"eins drei"_s, u"vier"_s, u"sechs"_s}));
 }
 
 QTEST_MAIN(TestDruckzeilen)

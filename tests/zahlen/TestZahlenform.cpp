@@ -15,6 +15,7 @@ private Q_SLOTS:
     void digitsThatMatter_data();
     void digitsThatMatter();
     void theMarkIsThatOfTheLocale();
+    void anotherCountryMayBeNamed();
 };
 
 void TestZahlenform::cleanup()
@@ -60,6 +61,16 @@ void TestZahlenform::theMarkIsThatOfTheLocale()
     QLocale::setDefault(QLocale(QLocale::German, QLocale::Germany));
     QCOMPARE(wertText(1234.56, 1, 0), u"1234,6"_s);
     QCOMPARE(wertText(0.171, 0, 2), u"0,17"_s);
+}
+
+void TestZahlenform::anotherCountryMayBeNamed()
+{
+    QLocale::setDefault(QLocale(QLocale::German, QLocale::Germany));
+    const QLocale englisch(QLocale::English, QLocale::UnitedKingdom);
+    QCOMPARE(wertText(12.34, 1, englisch), u"12.3"_s);
+    QCOMPARE(wertText(0.004, 1, englisch), u"0.004"_s); // none looks like 0
+    QCOMPARE(wertText(1e-9, 1, englisch), u"1E-09"_s);
+    QCOMPARE(wertText(12.34, 1), u"12,3"_s);
 }
 
 QTEST_GUILESS_MAIN(TestZahlenform)
