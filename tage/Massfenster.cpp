@@ -202,9 +202,6 @@ void Massfenster::beurteile()
 /// Keeps what can be kept; a row that can't keeps what it was before.
 void Massfenster::nimmAn()
 {
-    if (m_eigene.istGesperrt()) {
-        return;
-    }
     for (Masszeile *zeile : m_zeilen) {
         const Masseingabe eingabe = zeile->eingabe();
         const Massbefund befund = pruefeMass(eingabe, gehaltene(zeile));

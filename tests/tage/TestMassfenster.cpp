@@ -274,6 +274,7 @@ void TestMassfenster::aNameThatBecameFreeIsTaken()
     QCOMPARE(beide.size(), 2);
     QCOMPARE(beide[0].eines + beide[1].eines, u"KrugBecher"_s);
     QCOMPARE(beide[1].gramm, 50.0);
+    QCOMPARE(worte(1), u"2 Becher = 100 g"_s);
 }
 
 void TestMassfenster::anOwnMeasureMayHaveABuiltInName()
