@@ -10,7 +10,7 @@
 /// What a meal adds to the energy of its day, and to that of the days in the mean.
 struct Mahlzeitenanteil
 {
-    QString name; ///< as it is called on screen
+    QString name = {}; ///< as it is called on screen
     /// In kcal; absent where nothing of the meal counts, which may have been eaten all the same.
     std::optional<double> energie = {};
     double prozent = 0; ///< of the energy of the day

@@ -20,6 +20,7 @@ constexpr double spaltenabstand = 0.5;
 // Widths in letters.
 constexpr int kuerzesterName = 6;
 constexpr int kuerzesterBalken = 5;
+constexpr int ueblicherName = 12;
 constexpr int ueblicherBalken = 12;
 
 /// Between the colour of the text and its ground: seen on both, and no verdict.
@@ -150,16 +151,21 @@ int Mahlzeitenbild::zeilenhoehe() const
     return fontMetrics().height();
 }
 
+/// The figures have room for any usual meal, so that nothing moves while the day is typed.
 Mahlzeitenbreiten Mahlzeitenbild::breiten() const
 {
+    const Mahlzeitenanteil ueblicher = {.energie = 8888.0, .prozent = 100};
     const QFontMetricsF masse(font());
+    const auto breite = [&masse](const QString &text) {
+        return std::ceil(masse.horizontalAdvance(text));
+    };
     Mahlzeitenbreiten breiten;
+    breiten.energie = breite(energietext(ueblicher));
+    breiten.prozent = breite(anteilstext(ueblicher));
     for (const Mahlzeitenanteil &einer : m_anteile) {
-        breiten.name = std::max(breiten.name, std::ceil(masse.horizontalAdvance(einer.name)));
-        breiten.energie =
-            std::max(breiten.energie, std::ceil(masse.horizontalAdvance(energietext(einer))));
-        breiten.prozent =
-            std::max(breiten.prozent, std::ceil(masse.horizontalAdvance(anteilstext(einer))));
+        breiten.name = std::max(breiten.name, breite(einer.name));
+        breiten.energie = std::max(breiten.energie, breite(energietext(einer)));
+        breiten.prozent = std::max(breiten.prozent, breite(anteilstext(einer)));
     }
     breiten.abstand = spaltenabstand * masse.height();
     breiten.balken = kuerzesterBalken * masse.averageCharWidth();
@@ -177,7 +183,8 @@ QSize Mahlzeitenbild::groesse(double namensbreite, double balkenbreite) const
 
 QSize Mahlzeitenbild::sizeHint() const
 {
-    return groesse(breiten().name, ueblicherBalken * fontMetrics().averageCharWidth());
+    const int buchstabe = fontMetrics().averageCharWidth();
+    return groesse(ueblicherName * buchstabe, ueblicherBalken * buchstabe);
 }
 
 QSize Mahlzeitenbild::minimumSizeHint() const
