@@ -40,6 +40,7 @@ private Q_SLOTS:
     void anOwnFoodHasNoBuiltInOnes();
     void aMeasureIsTypedWithTheKeyboardAlone();
     void tabGoesThroughAllRowsAndThenToTheButtons();
+    void returnBehindTheLastRowLeadsToTheWayOut();
     void theExampleIsThereWhileOneTypes();
     void whatIsWrongIsToldAndNotKept();
     void aKeptMeasureStaysWhileItsRowIsWrong();
@@ -211,6 +212,16 @@ void TestMassfenster::tabGoesThroughAllRowsAndThenToTheButtons()
                           u"Maß 1 herausnehmen"_s, u"Maß 2: Eines"_s}));
     QCOMPARE(namen[11], u"Maß 2 herausnehmen"_s);
     QVERIFY(m_fenster->knoepfe->button(QDialogButtonBox::Close)->hasFocus());
+}
+
+void TestMassfenster::returnBehindTheLastRowLeadsToTheWayOut()
+{
+    oeffne(suppe);
+    for (int spalte = Masszeile::Eines; spalte < Masszeile::AnzahlFelder; ++spalte) {
+        tippe({});
+    }
+    QVERIFY(m_fenster->knoepfe->button(QDialogButtonBox::Close)->hasFocus());
+    QVERIFY(m_fenster->isVisible());
 }
 
 void TestMassfenster::theExampleIsThereWhileOneTypes()
