@@ -27,7 +27,7 @@ const QString logoschluessel = QStringLiteral("Briefkopf/Logo");
 const QString dateiname = QStringLiteral("MahlbergLogo.png");
 
 constexpr qint64 meisteBytes = 20'000'000;
-constexpr qint64 meistePunkte = 40'000'000; ///< they take 160 MB of memory
+constexpr qint64 meistePunkte = 30'000'000; ///< they take 120 MB of memory; Qt reads 128
 /// On its place of at most 170 x 56 points that is more than 500 dots to an inch.
 constexpr QSize feinstes(1200, 400);
 
@@ -180,7 +180,7 @@ QString inWorten(Briefkopfablage::Hindernis hindernis)
         QT_TRANSLATE_NOOP("Mahlberg", "Dieses Bild lässt sich nicht lesen."),
         QT_TRANSLATE_NOOP("Mahlberg", "Das ist kein Bild in PNG, JPEG oder SVG."),
         QT_TRANSLATE_NOOP("Mahlberg",
-                          "Dieses Bild ist zu groß: Es darf 20 MB und 40 Millionen Punkte haben."),
+                          "Dieses Bild ist zu groß: Es darf 20 MB und 30 Millionen Punkte haben."),
         QT_TRANSLATE_NOOP("Mahlberg", "Das Logo ließ sich nicht sichern; es ist wie vorher."),
     };
     return localizedString(QString::fromUtf8(worte.at(static_cast<std::size_t>(hindernis))));

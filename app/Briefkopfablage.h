@@ -18,7 +18,7 @@ public:
     enum class Hindernis {
         NichtZuLesen,   ///< the file can't be read, or is damaged
         KeinBild,       ///< neither PNG nor JPEG nor SVG
-        ZuGross,        ///< more than 20 MB, or more than 40 million dots
+        ZuGross,        ///< more than 20 MB, or more than 30 million dots
         NichtZuSichern, ///< the copy could not be written; the logo is as it was
     };
 

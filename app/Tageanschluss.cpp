@@ -220,7 +220,7 @@ Tagefenster &Tageanschluss::fenster()
         connect(m_fenster.get(), &Tagefenster::hilfeGewuenscht, this,
                 [this] { Q_EMIT hilfeGewuenscht(m_fenster.get()); });
         connect(&m_ohneKlient, &Tagesdatei::sicherungGewechselt, this, &Tageanschluss::sageZustand);
-        Fensterplatz::lasseRollen(*m_fenster->anordnung1, *m_fenster->seiten);
+        Fensterplatz::lasseRollen(*m_fenster->anordnung1, *m_fenster->inhalt);
         m_platz = std::make_unique<Platzgedaechtnis>(*m_fenster, *m_tueren.einstellungen,
                                                      QStringLiteral("Tagefenster"),
                                                      Platzgedaechtnis::Umfang::Platz, nullptr);

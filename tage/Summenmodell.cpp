@@ -9,15 +9,6 @@
 #include <array>
 #include <utility>
 
-namespace {
-
-bool istAnteil(int spalte)
-{
-    return spalte == Summenmodell::Tagesanteil || spalte == Summenmodell::Mittelanteil;
-}
-
-} // namespace
-
 void Summenmodell::zeige(Stand stand)
 {
     m_stand = std::move(stand);

@@ -17,6 +17,12 @@ class Summenmodell : public QAbstractTableModel
 public:
     enum Spalte { Zeile, Mahlzeit, Tag, Tagesanteil, Mittel, Mittelanteil, AnzahlSpalten };
 
+    /// Whether the column holds parts of a day's need, in percent.
+    static constexpr bool istAnteil(int spalte)
+    {
+        return spalte == Tagesanteil || spalte == Mittelanteil;
+    }
+
     /// What the table tells of.
     struct Stand
     {

@@ -22,7 +22,11 @@ const QString hinweisNeuere = QStringLiteral("neuere");
 
 constexpr int zeilenhoehe = 24;
 constexpr int summenluft = 3; // above and below the letters of a row of sums, together
-constexpr int ziffern = 7;    // of the widest number in a column
+// How many digits are as wide as the widest that stands in a column.
+constexpr int ziffern = 7;
+constexpr int zeichenEinerAngabe = 16;
+constexpr int zeichenEinerWertung = 3;
+constexpr int zeichenEinesAnteils = 5;
 /// No client was recorded before it; stands for days of no certain date.
 const QDate ohneDatum(1900, 1, 1);
 
@@ -83,26 +87,42 @@ void Tagefenster::baueTabellen()
     ansicht->setVorschlaege([this](int reihe, int spalte, const QString &text) {
         return vorschlaege(reihe, spalte, text);
     });
-    const int breite = ziffern * fontMetrics().horizontalAdvance(u'0') + 10;
     ansicht->verticalHeader()->setDefaultSectionSize(zeilenhoeheFuer(*ansicht, zeilenhoehe));
-    QHeaderView &kopf = *ansicht->horizontalHeader();
-    for (int spalte = Tagesmodell::Angabe; spalte < Tagesmodell::anzahlSpalten; ++spalte) {
-        kopf.resizeSection(spalte, spalte == Tagesmodell::Angabe ? 2 * breite
-                                   : spalte < Tagesmodell::Fest  ? breite
-                                                                 : breite / 2);
-    }
-    kopf.setMinimumSectionSize(breite / 2);
-    kopf.setSectionResizeMode(Tagesmodell::Name, QHeaderView::Stretch);
     summen->setModel(&m_summen);
     summen->setSelectionMode(QAbstractItemView::NoSelection);
     // As low as its letters, so that all values are seen on a small screen with the pictures below.
     const int niedrig = summen->verticalHeader()->fontMetrics().height() + summenluft;
     summen->verticalHeader()->setMinimumSectionSize(niedrig);
     summen->verticalHeader()->setDefaultSectionSize(niedrig);
-    summen->horizontalHeader()->setSectionResizeMode(QHeaderView::Stretch);
     summen->horizontalHeader()->setHighlightSections(false);
     Tabellenkopie::ermoegliche(*summen);
+    messeSpalten();
     Rollbereich::fasse(*rechteSeite);
+}
+
+/// Each column holds its head and its widest number, and nothing moves while one types.
+void Tagefenster::messeSpalten()
+{
+    const int ziffer = fontMetrics().horizontalAdvance(u'0');
+    QHeaderView &kopf = *ansicht->horizontalHeader();
+    kopf.setMinimumSectionSize(ziffer);
+    for (int spalte = Tagesmodell::Angabe; spalte < Tagesmodell::anzahlSpalten; ++spalte) {
+        const int zeichen = spalte == Tagesmodell::Angabe ? zeichenEinerAngabe
+                            : spalte < Tagesmodell::Fest  ? ziffern
+                                                          : zeichenEinerWertung;
+        kopf.resizeSection(spalte, std::max(kopf.sectionSizeHint(spalte), zeichen * ziffer));
+    }
+    kopf.setSectionResizeMode(Tagesmodell::Name, QHeaderView::Stretch);
+    QHeaderView &summenkopf = *summen->horizontalHeader();
+    summenkopf.setMinimumSectionSize(ziffer);
+    int breite = summen->verticalHeader()->sizeHint().width() + 2 * summen->frameWidth();
+    for (int spalte = 0; spalte < Summenmodell::AnzahlSpalten; ++spalte) {
+        const int zeichen = Summenmodell::istAnteil(spalte) ? zeichenEinesAnteils : ziffern;
+        summenkopf.resizeSection(spalte,
+                                 std::max(summenkopf.sectionSizeHint(spalte), zeichen * ziffer));
+        breite += summenkopf.sectionSize(spalte);
+    }
+    summen->setMinimumWidth(breite);
 }
 
 void Tagefenster::verbinde()
@@ -360,5 +380,6 @@ void Tagefenster::folgeSprache()
     if (m_auswertung != nullptr) {
         m_auswertung->folgeSprache();
     }
+    messeSpalten();
     zeigeAuswahl();
 }

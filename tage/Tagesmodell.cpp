@@ -262,7 +262,10 @@ QVariant Tagesmodell::headerData(int section, Qt::Orientation orientation, int r
     if (!wert) {
         return localizedString(QString::fromUtf8(koepfe.at(static_cast<std::size_t>(section))));
     }
+    const Naehrwertbeschreibung &eines = beschreibung(*wert);
+    const QString einheit = einheitszeichen(eines.einheit);
     return wert == Naehrwert::kal
-               ? einheitszeichen(Einheit::Kilokalorie)
-               : localizedString(QString::fromUtf8(beschreibung(*wert).bezeichnung));
+               ? einheit
+               : QStringLiteral("%1 (%2)").arg(
+                     localizedString(QString::fromUtf8(eines.bezeichnung)), einheit);
 }

@@ -4549,8 +4549,8 @@ New: %1</translation>
   <translation>This is no picture in PNG, JPEG or SVG.</translation>
  </message>
  <message>
-  <source>Dieses Bild ist zu groß: Es darf 20 MB und 40 Millionen Punkte haben.</source>
-  <translation>This picture is too large: it may have 20 MB and 40 million dots.</translation>
+  <source>Dieses Bild ist zu groß: Es darf 20 MB und 30 Millionen Punkte haben.</source>
+  <translation>This picture is too large: it may have 20 MB and 30 million dots.</translation>
  </message>
  <message>
   <source>Das Logo ließ sich nicht sichern; es ist wie vorher.</source>
@@ -4867,6 +4867,250 @@ New: %1</translation>
  <message>
   <source>Tage im Mittel: %1.</source>
   <translation>Days in the mean: %1.</translation>
+ </message>
+ <message>
+  <source>Ta&amp;ge und Mahlzeiten</source>
+  <translation>Days and &amp;meals</translation>
+ </message>
+ <message>
+  <source>Tage und Mahlzeiten</source>
+  <translation>Days and meals</translation>
+ </message>
+ <message>
+  <source>Die Aufzeichnungen ohne Klienten sind nicht zu lesen oder von einer neueren Version; sie bleiben, wie sie sind.</source>
+  <translation>The records without a client can’t be read or are of a newer version; they stay as they are.</translation>
+ </message>
+ <message>
+  <source>Die Aufzeichnungen ohne Klienten waren nicht ganz zu lesen; aufgehoben sind sie als „%1“.</source>
+  <translation>The records without a client could not be read in full; they are kept as “%1”.</translation>
+ </message>
+ <message>
+  <source>Die Aufzeichnungen lassen sich gerade nicht sichern; mit der nächsten Änderung wird es wieder versucht.</source>
+  <translation>The records can’t be saved at the moment; it will be tried again with the next change.</translation>
+ </message>
+ <message>
+  <source>„%1“ steht jetzt bei den Tagen: %2.</source>
+  <translation>“%1” now stands in the days: %2.</translation>
+ </message>
+ <message>
+  <source>Diese Aufzeichnung ist von einer neueren Version; sie ist hier nur zu lesen.</source>
+  <translation>This record is of a newer version; it can only be read here.</translation>
+ </message>
+ <message>
+  <source>%1 ist leer.</source>
+  <translation>%1 is empty.</translation>
+ </message>
+ <message>
+  <source>Weggenommen mit dem, was dort stand: %1.</source>
+  <translation>Taken away with what stood there: %1.</translation>
+ </message>
+ <message>
+  <source>„%1“ ist an allen Tagen herausgenommen.</source>
+  <translation>“%1” is taken out of all days.</translation>
+ </message>
+ <message>
+  <source>Ein Lebensmittel „%1“ gibt es nicht. Die Zeile zählt nicht.</source>
+  <translation>There is no food “%1”. The row does not count.</translation>
+ </message>
+ <message>
+  <source>„%1“: %2 Die Zeile zählt nicht.</source>
+  <translation>“%1”: %2 The row does not count.</translation>
+ </message>
+ <message>
+  <source>&amp;Aufzeichnung</source>
+  <translation>&amp;Record</translation>
+ </message>
+ <message>
+  <source>&amp;Mahlzeit</source>
+  <translation>&amp;Meal</translation>
+ </message>
+ <message>
+  <source>&amp;Neue Mahlzeit darunter</source>
+  <translation>&amp;New meal below</translation>
+ </message>
+ <message>
+  <source>&amp;Neues Protokoll</source>
+  <translation>&amp;New food record</translation>
+ </message>
+ <message>
+  <source>&amp;Nächster Tag</source>
+  <translation>&amp;Next day</translation>
+ </message>
+ <message>
+  <source>&amp;Tag</source>
+  <translation>&amp;Day</translation>
+ </message>
+ <message>
+  <source>&amp;Voriger Tag</source>
+  <translation>&amp;Previous day</translation>
+ </message>
+ <message>
+  <source>Alle ihre Tage gehen verloren. Das lässt sich nicht zurücknehmen.</source>
+  <translation>All its days will be lost. This can’t be undone.</translation>
+ </message>
+ <message>
+  <source>Als &amp;Wahl zur Zeile davor („oder“)</source>
+  <translation>As a &amp;choice to the row before (“or”)</translation>
+ </message>
+ <message>
+  <source>Art ändern</source>
+  <translation>Change kind</translation>
+ </message>
+ <message>
+  <source>Aufzeichnung &amp;löschen …</source>
+  <translation>De&amp;lete record …</translation>
+ </message>
+ <message>
+  <source>Aufzeichnungen von %1.</source>
+  <translation>Records of %1.</translation>
+ </message>
+ <message>
+  <source>Die Aufzeichnung „%1“ löschen?</source>
+  <translation>Delete the record “%1”?</translation>
+ </message>
+ <message>
+  <source>Die Menge ist nicht zu verstehen; die Zeile zählt nicht.</source>
+  <translation>The amount can’t be understood; the row does not count.</translation>
+ </message>
+ <message>
+  <source>Ein Lebensmittel dieses Namens gibt es nicht; die Zeile zählt nicht.</source>
+  <translation>There is no food of this name; the row does not count.</translation>
+ </message>
+ <message>
+  <source>Eine Wahl statt der Zeile davor; sie zählt nicht.</source>
+  <translation>A choice in place of the row before; it does not count.</translation>
+ </message>
+ <message>
+  <source>Ersten Tag ändern</source>
+  <translation>Change first day</translation>
+ </message>
+ <message>
+  <source>In alle &amp;folgenden Tage füllen</source>
+  <translation>Fill into all &amp;following days</translation>
+ </message>
+ <message>
+  <source>Lebensmittel eintippen …</source>
+  <translation>Type a food …</translation>
+ </message>
+ <message>
+  <source>Lebensmittel eintragen</source>
+  <translation>Enter food</translation>
+ </message>
+ <message>
+  <source>Lebensmittel ändern</source>
+  <translation>Change food</translation>
+ </message>
+ <message>
+  <source>Löschen</source>
+  <translation>Delete</translation>
+ </message>
+ <message>
+  <source>Mahlzeit &amp;hinauf</source>
+  <translation>Meal &amp;up</translation>
+ </message>
+ <message>
+  <source>Mahlzeit einfügen</source>
+  <translation>Insert meal</translation>
+ </message>
+ <message>
+  <source>Mahlzeit h&amp;inunter</source>
+  <translation>Meal d&amp;own</translation>
+ </message>
+ <message>
+  <source>Mahlzeit heraus&amp;nehmen</source>
+  <translation>&amp;Take out meal</translation>
+ </message>
+ <message>
+  <source>Mahlzeit herausnehmen</source>
+  <translation>Take out the meal</translation>
+ </message>
+ <message>
+  <source>Mahlzeit umbenennen</source>
+  <translation>Rename meal</translation>
+ </message>
+ <message>
+  <source>Mahlzeit verschieben</source>
+  <translation>Move meal</translation>
+ </message>
+ <message>
+  <source>Menge ändern</source>
+  <translation>Change amount</translation>
+ </message>
+ <message>
+  <source>Neue Mahlzeit</source>
+  <translation>New meal</translation>
+ </message>
+ <message>
+  <source>Neuer &amp;Wochenplan</source>
+  <translation>New &amp;week plan</translation>
+ </message>
+ <message>
+  <source>Noch keine Aufzeichnung. Mit „Neu“ beginnen Sie ein Protokoll.</source>
+  <translation>No record yet. Begin a food record with “New”.</translation>
+ </message>
+ <message>
+  <source>Notiz ändern</source>
+  <translation>Change note</translation>
+ </message>
+ <message>
+  <source>Ohne Klienten am Schreibtisch: Die Aufzeichnungen stehen in einer Datei an diesem Platz, die nur Sie lesen können.</source>
+  <translation>No client at the desk: the records are in a file at this desk that only you can read.</translation>
+ </message>
+ <message>
+  <source>Rückgängig:</source>
+  <translation>Undo:</translation>
+ </message>
+ <message>
+  <source>Tag &amp;leeren</source>
+  <translation>&amp;Empty the day</translation>
+ </message>
+ <message>
+  <source>Tag im Mittel</source>
+  <translation>Day in the mean</translation>
+ </message>
+ <message>
+  <source>Tag leeren</source>
+  <translation>Empty day</translation>
+ </message>
+ <message>
+  <source>Tage füllen</source>
+  <translation>Fill days</translation>
+ </message>
+ <message>
+  <source>Titel ändern</source>
+  <translation>Change title</translation>
+ </message>
+ <message>
+  <source>Wahl ändern</source>
+  <translation>Change choice</translation>
+ </message>
+ <message>
+  <source>Wiederholen:</source>
+  <translation>Redo:</translation>
+ </message>
+ <message>
+  <source>Zahl der Tage ändern</source>
+  <translation>Change number of days</translation>
+ </message>
+ <message>
+  <source>Zeile</source>
+  <translation>Row</translation>
+ </message>
+ <message>
+  <source>Zeilen &amp;herausnehmen</source>
+  <translation>&amp;Take out rows</translation>
+ </message>
+ <message>
+  <source>Zeilen dieses Tages, die nicht zählen: %1.</source>
+  <translation>Rows of this day that don’t count: %1.</translation>
+ </message>
+ <message>
+  <source>Zeilen herausnehmen</source>
+  <translation>Take out the rows</translation>
+ </message>
+ <message>
+  <source>g</source>
+  <translation>g</translation>
  </message>
 </context>
 <context>
@@ -5644,6 +5888,61 @@ New: %1</translation>
  <message>
   <source>Auswertung der Tage</source>
   <translation>Evaluation of the days</translation>
+ </message>
+</context>
+<context>
+ <name>TagefensterGestalt</name>
+ <message>
+  <source>&amp;Erster Tag</source>
+  <translation>&amp;First day</translation>
+ </message>
+ <message>
+  <source>&amp;Neu …</source>
+  <translation>&amp;New …</translation>
+ </message>
+ <message>
+  <source>A&amp;rt</source>
+  <translation>&amp;Kind</translation>
+ </message>
+ <message>
+  <source>Aufzeichnungen von Tagen</source>
+  <translation>Records of days</translation>
+ </message>
+ <message>
+  <source>Mahlzeiten des Tages</source>
+  <translation>Meals of the day</translation>
+ </message>
+ <message>
+  <source>N&amp;otiz zum Tag</source>
+  <translation>N&amp;ote on the day</translation>
+ </message>
+ <message>
+  <source>Notiz zur Mahl&amp;zeit</source>
+  <translation>Note on the me&amp;al</translation>
+ </message>
+ <message>
+  <source>Summen von Zeile, Mahlzeit, Tag und Mittel</source>
+  <translation>Sums of row, meal, day and mean</translation>
+ </message>
+ <message>
+  <source>Ta&amp;ge</source>
+  <translation>Da&amp;ys</translation>
+ </message>
+ <message>
+  <source>Tage und Mahlzeiten</source>
+  <translation>Days and meals</translation>
+ </message>
+ <message>
+  <source>Tite&amp;l</source>
+  <translation>Tit&amp;le</translation>
+ </message>
+ <message>
+  <source>ohne Datum</source>
+  <translation>no date</translation>
+ </message>
+ <message>
+  <source>zählt im M&amp;ittel</source>
+  <translation>counts &amp;in the mean</translation>
  </message>
 </context>
 </TS>

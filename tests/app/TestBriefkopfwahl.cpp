@@ -165,6 +165,7 @@ void TestBriefkopfwahl::theTabKeyLeavesTheAddress()
 {
     oeffne();
     teil<QPlainTextEdit>("praxisanschrift")->setFocus();
+    qWarning() << QApplication::focusWidget() << QApplication::activeWindow();
     QTest::keyClick(teil<QPlainTextEdit>("praxisanschrift"), Qt::Key_Tab);
     QVERIFY2(teil<QPushButton>("logowaehlen")->hasFocus(),
              qPrintable(QApplication::focusWidget()->objectName()));
