@@ -57,9 +57,9 @@ void TestPlanurteil::missingPointsAreNamed()
         wertung.punkt = true;
     }
     QVERIFY(fehlendePunkte(auswertung).isNull());
-    auswertung.naehrwerte[stelle(Naehrwert::fett)] = {.prozent = 44.96, .punkt = false};
+    auswertung.naehrwerte[stelle(Naehrwert::fett)] = {44.96, {}, 0, false};
     auswertung.naehrwerte[stelle(Naehrwert::vitc)] = {
-        .prozent = std::numeric_limits<double>::infinity(), .punkt = false};
+        std::numeric_limits<double>::infinity(), {}, 0, false};
     auswertung.wertungen[stelle(Wertung::gicht)].punkt = false;
     QCOMPARE(mitLeerzeichen(fehlendePunkte(auswertung)),
              u"Es fehlen: Fett (45 %), Vitamin C (-), Gicht"_s);
