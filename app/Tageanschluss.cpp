@@ -16,6 +16,8 @@
 #include <QFileInfo>
 #include <QMenuBar>
 
+#include <algorithm>
+
 namespace {
 
 constexpr auto tagesdatei = "MahlbergTage.json";
@@ -23,6 +25,7 @@ constexpr auto massdatei = "MahlbergMasse.json";
 
 const QString hinweisDatei = QStringLiteral("tagesdatei");
 const QString hinweisSicherung = QStringLiteral("tagesicherung");
+const QString hinweisMasse = QStringLiteral("haushaltsmasse");
 const QString hinweisZugabe = QStringLiteral("tagezugabe");
 
 constexpr int lesezeit = 8000; // ms that a notice stays which needs no answer
@@ -36,8 +39,6 @@ Tageanschluss::Tageanschluss(AppController &hauptfenster, AnthroController &rech
     , m_klienten(klienten)
     , m_tueren(std::move(tueren))
     , m_portionen(QStringLiteral(":/Portionen.csv"), QStringLiteral(":/Lebensmittel.csv"))
-    , m_eigeneMasse(pfad(massdatei), leseNamenswechsel(QStringLiteral(":/Umbenannt.csv")))
-    , m_masse(m_portionen, m_eigeneMasse)
     , m_ohneKlient(pfad(tagesdatei))
 {
 }
@@ -57,6 +58,7 @@ void Tageanschluss::beginne()
         QMenu *fenstermenue = menues[menues.size() - 2]->menu();
         fenstermenue->addAction(eintrag(fenstermenue));
     }
+    beginneMasse();
     m_hauptfenster.Hauptfenster->installEventFilter(this);
     m_hauptfenster.zugabeziel = [this](const QString &schluessel) {
         return nimmSpeise(schluessel);
@@ -75,6 +77,36 @@ void Tageanschluss::beginne()
             }
         },
         Qt::QueuedConnection);
+}
+
+/// An own food that is called as a built-in one once was keeps its measures to itself.
+void Tageanschluss::beginneMasse()
+{
+    Namenswechsel wechsel =
+        leseNamenswechsel(QStringLiteral(":/Umbenannt.csv"), m_hauptfenster.Dictionary);
+    for (const QString &eigenes : std::as_const(m_hauptfenster.KundenArray)) {
+        wechsel.remove(eigenes);
+    }
+    m_eigeneMasse = std::make_unique<EigeneMasse>(pfad(massdatei), wechsel);
+    m_masse = std::make_unique<Massquelle>(m_portionen, *m_eigeneMasse);
+    connect(m_eigeneMasse.get(), &EigeneMasse::sicherungGewechselt, this, [this] {
+        const QString hindernis = m_eigeneMasse->hindernis();
+        if (hindernis.isEmpty()) {
+            m_hauptfenster.hinweise->nimmZurueck(hinweisMasse);
+        } else {
+            m_hauptfenster.hinweise->zeige(
+                {.kennung = hinweisMasse, .text = hindernis, .warnung = true});
+        }
+    });
+    QMenu *ablage = m_hauptfenster.Hauptfenster->menuBar()->actions().constFirst()->menu();
+    auto *masse = new QAction(localizedString(QStringLiteral("Haushalts&maße …")), ablage);
+    masse->setObjectName(QStringLiteral("aktionMasse"));
+    connect(masse, &QAction::triggered, this,
+            [this] { zeigeMasse(m_hauptfenster.Hauptfenster, m_hauptfenster.unuebersetztername); });
+    const QList<QAction *> eintraege = ablage->actions();
+    ablage->insertAction(*std::find_if(eintraege.begin(), eintraege.end() - 1,
+                                       [](const QAction *einer) { return einer->isSeparator(); }),
+                         masse);
 }
 
 QAction *Tageanschluss::eintrag(QObject *menue)
@@ -165,7 +197,18 @@ QList<Vorratsplan> Tageanschluss::abgelegtePlaene() const
 
 void Tageanschluss::zeigeMasse(QWidget *fenster, const QString &schluessel)
 {
-    Massfenster::oeffne(m_portionen, m_eigeneMasse, schluessel, fenster);
+    const Datenmodul *speise =
+        lebensmittelVon(schluessel, m_hauptfenster.Dictionary, m_hauptfenster.KundenDictionary);
+    if (speise == nullptr ||
+        (AppController::istLeer(*speise) && m_hauptfenster.Dictionary.contains(schluessel))) {
+        m_hauptfenster.hinweise->zeige(
+            {.kennung = hinweisMasse,
+             .text = localizedString(
+                 QStringLiteral("Wählen Sie zuerst ein Lebensmittel in der Tabelle aus.")),
+             .dauer = lesezeit});
+    } else {
+        Massfenster::oeffne(m_portionen, *m_eigeneMasse, schluessel, fenster);
+    }
 }
 
 Tagetueren Tageanschluss::fenstertueren()
@@ -180,7 +223,7 @@ Tagetueren Tageanschluss::fenstertueren()
                                m_hauptfenster.KundenDictionary);
     };
     tueren.masse = [this](const QString &schluessel) {
-        return m_masse.masseFuer(schluessel);
+        return m_masse->masseFuer(schluessel);
     };
     tueren.massfenster = [this](QWidget *fenster, const QString &schluessel) {
         zeigeMasse(fenster, schluessel);

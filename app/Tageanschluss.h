@@ -51,6 +51,7 @@ Q_SIGNALS:
     void hilfeGewuenscht(const QWidget *fenster);
 
 private:
+    void beginneMasse();
     void bereitePlan();
     QAction *eintrag(QObject *menue);
     bool nimmSpeise(const QString &schluessel);
@@ -70,8 +71,8 @@ private:
     Klientenanschluss &m_klienten;
     Tueren m_tueren;
     Portionentabelle m_portionen;
-    EigeneMasse m_eigeneMasse;
-    Massquelle m_masse;
+    std::unique_ptr<EigeneMasse> m_eigeneMasse; ///< these two from the start of joining on
+    std::unique_ptr<Massquelle> m_masse;
     QHash<QString, QString>
         m_schluessel; ///< of the built-in foods, by their names in small letters
     Tagesdatei m_ohneKlient;

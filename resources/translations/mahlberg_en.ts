@@ -5112,6 +5112,10 @@ New: %1</translation>
   <source>g</source>
   <translation>g</translation>
  </message>
+ <message>
+  <source>Haushalts&amp;maße …</source>
+  <translation>Household &amp;measures …</translation>
+ </message>
 </context>
 <context>
  <name>PlanmodulGestalt</name>

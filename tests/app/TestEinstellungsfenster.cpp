@@ -13,6 +13,7 @@
 #include <QLineEdit>
 #include <QMenuBar>
 #include <QPalette>
+#include <QPlainTextEdit>
 #include <QPushButton>
 #include <QRadioButton>
 #include <QScrollArea>
@@ -219,9 +220,13 @@ void TestEinstellungsfenster::theKeyboardBeginsAtTheFirstChoice()
     oeffne();
     const QWidget *schliessen =
         fenster().findChild<QDialogButtonBox *>()->button(QDialogButtonBox::Close);
-    const QWidgetList folge = {wahl(u"Deutsch"_s), wahl(u"Wie das System"_s),
+    const QWidgetList folge = {wahl(u"Deutsch"_s),
+                               wahl(u"Wie das System"_s),
                                fenster().findChild<QLineEdit *>(u"pdfordner"_s),
                                knopf("ordnerwaehlen"),
+                               fenster().findChild<QLineEdit *>(u"praxisname"_s),
+                               fenster().findChild<QPlainTextEdit *>(u"praxisanschrift"_s),
+                               knopf("logowaehlen"),
                                fenster().findChild<QRadioButton *>(u"klientendatei"_s)};
     QTRY_COMPARE(QApplication::focusWidget(), folge.first());
     for (const QWidget *halt : folge) {

@@ -3,6 +3,7 @@
 
 #include "Klientenprobe.h"
 
+#include "Massfenster.h"
 #include "Sprache.h"
 
 #include <QJsonDocument>
@@ -34,6 +35,7 @@ private Q_SLOTS:
     void aDayBecomesThePlanAndComesBack();
     void aKeptPlanBecomesRows();
     void ownFoodsAreFoundAndHaveMeasures();
+    void theMainWindowLeadsToTheMeasures();
     void aDamagedFileIsKeptBeside();
     void aNewerFileIsLeftAlone();
     void theLanguageChangesTheWindowToo();
@@ -354,6 +356,21 @@ void TestTageanschluss::ownFoodsAreFoundAndHaveMeasures()
     neuesProtokoll();
     gibEin(u"mü"_s, u"2 Schalen"_s);
     QCOMPARE(zeilen(), u"Müsli 160"_s);
+}
+
+void TestTageanschluss::theMainWindowLeadsToTheMeasures()
+{
+    oeffne();
+    const Probefenster &programm = m_probe->programm();
+    QAction *masse = programm->Hauptfenster->findChild<QAction *>(u"aktionMasse"_s);
+    QVERIFY(masse != nullptr);
+    masse->trigger(); // nothing is chosen yet
+    QVERIFY(programm->Hauptfenster->findChild<Massfenster *>() == nullptr);
+    QCOMPARE(m_probe->hauptsaetze().value(0),
+             u"Wählen Sie zuerst ein Lebensmittel in der Tabelle aus."_s);
+    programm.klicke(1, inName);
+    masse->trigger();
+    QVERIFY(programm->Hauptfenster->findChild<Massfenster *>() != nullptr);
 }
 
 void TestTageanschluss::aDamagedFileIsKeptBeside()
