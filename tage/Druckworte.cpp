@@ -64,7 +64,7 @@ QString Druckworte::operator()(const QString &schluessel) const
 {
     const QByteArray utf8 = schluessel.toUtf8();
     for (const auto &uebersetzer : m_uebersetzer) {
-        const QString text = uebersetzer->translate("Mahlberg", utf8.constData());
+        QString text = uebersetzer->translate("Mahlberg", utf8.constData());
         if (!text.isNull()) {
             return text;
         }
@@ -114,11 +114,11 @@ QString beisammen(QString text)
 
 QString mengenworte(const Mahlzeitzeile &zeile, const QList<Mass> &masse, const Druckworte &worte)
 {
-    const QString getippt = zeile.angabe.trimmed();
+    QString getippt = zeile.angabe.trimmed();
     if (!zeile.gramm) {
         return getippt;
     }
-    const QString gezaehlt = gramm(static_cast<double>(*zeile.gramm), worte);
+    QString gezaehlt = gramm(static_cast<double>(*zeile.gramm), worte);
     std::optional<Mengenangabe> gelesen = leseMenge(getippt, masse).angabe;
     if (!gelesen) {
         return getippt.isEmpty() ? gezaehlt : QStringLiteral("%1 (%2)").arg(getippt, gezaehlt);
