@@ -70,7 +70,6 @@ Fuellfenster::Fuellfenster(const Aufzeichnung &aufzeichnung, int von, QWidget *p
     aufbau->addWidget(m_tage, 1);
     aufbau->addWidget(m_worte);
     aufbau->addWidget(knoepfe);
-    m_fuellen->setDefault(true); // only within the window is that heard of
     resize(fenstergroesse);
     connect(m_tage, &QListWidget::itemChanged, this, &Fuellfenster::folge);
     connect(knoepfe, &QDialogButtonBox::accepted, this, &QDialog::accept);

@@ -56,7 +56,6 @@ Planwahlfenster::Planwahlfenster(const QList<Vorratsplan> &plaene, QWidget *pare
     aufbau->addWidget(postenwort);
     aufbau->addWidget(m_posten, 2);
     aufbau->addWidget(knoepfe);
-    nehmen->setDefault(true); // only within the window is that heard of
     resize(fenstergroesse);
     connect(m_liste, &QListWidget::currentRowChanged, this, &Planwahlfenster::zeigePlan);
     connect(m_liste, &QListWidget::itemDoubleClicked, this, &QDialog::accept);

@@ -215,7 +215,7 @@ QList<Stelle> rueckeHinunter(Aufzeichnung &aufzeichnung, const QList<Stelle> &ze
                    : QList<Stelle>();
     }
     if (naechste < hier.zeilen.size()) {
-        nach.zeile = freierPlatz(hier, naechste + 1);
+        nach.zeile = naechste + 1;
     } else {
         nach = {nach.tag, nach.mahlzeit + 1, 0};
     }

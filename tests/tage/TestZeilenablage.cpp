@@ -1,6 +1,7 @@
 // Rows on the clipboard: they come back as they were, and a spreadsheet can read them.
 
 #include "Aufzeichnungsprobe.h"
+#include "Aufzeichnungstext.h"
 #include "Zeilenablage.h"
 
 #include <QLocale>
@@ -152,6 +153,10 @@ void TestZeilenablage::damagedTextIsTold_data()
     QTest::newRow("no part") << mit("\"part\":\"rows\"", "\"x\":1") << false;
     QTest::newRow("another part") << mit("\"rows\",", "\"week\",") << false;
     QTest::newRow("no grams") << mit("\"grams\":50", "\"grams\":\"x\"") << false;
+    QTest::newRow("two days")
+        << alsText(neueAufzeichnung(Aufzeichnungsart::Protokoll, {}, 2)).chopped(1) +
+               R"(,"part":"day"})"
+        << false;
     QTest::newRow("newer") << mit("\"version\":1", "\"version\":2") << true;
 }
 

@@ -31,6 +31,7 @@ private:
 void TestZeilenstand::init()
 {
     m_heute = {{u"Brot"_s, speise(u"Brot"_s, 230)}, {u"Ei"_s, speise(u"Ei"_s, 155)}};
+    m_heute.insert({}, speise({}, 1)); // whatever a store answers, a row without a food has none
     m_nachschlag = [this](const QString &schluessel) -> const Datenmodul * {
         const auto gefunden = m_heute.constFind(schluessel);
         return gefunden == m_heute.constEnd() ? nullptr : &*gefunden;

@@ -31,6 +31,8 @@ private Q_SLOTS:
     void rowsMoveUp();
     void rowsMoveDown_data();
     void rowsMoveDown();
+    void alternativesMoveAmongThemselves();
+    void belowTheLastMealThereIsNothing();
     void rowsAreTakenOut_data();
     void rowsAreTakenOut();
     void rowsOfOneMealComeToThePlace();
@@ -200,7 +202,31 @@ void TestZeilenzug::rowsMoveDown()
     QCOMPARE(etwas, mahlzeiten() != vorher);
 }
 
-/// Among several, the alternatives can be put in another order; out of the last meal nothing falls.
+/// Among themselves, alternatives can be put in another order.
+void TestZeilenzug::alternativesMoveAmongThemselves()
+{
+    m_eine.tage[0].mahlzeiten[1].zeilen = {zeile(u"E"_s, 5), oder(zeile(u"F"_s, 6)),
+                                           oder(zeile(u"G"_s, 7)), zeile(u"H"_s, 8)};
+    QCOMPARE(Zeilenzug::rueckeHinauf(m_eine, {{0, 1, 2}}), (QList<Stelle>{{0, 1, 1}}));
+    QCOMPARE(namen(m_eine, 0, 1), u"E|G|FH"_s);
+    QVERIFY(Zeilenzug::rueckeHinauf(m_eine, {{0, 1, 1}}).isEmpty());
+    QCOMPARE(Zeilenzug::rueckeHinunter(m_eine, {{0, 1, 1}}), (QList<Stelle>{{0, 1, 2}}));
+    QCOMPARE(namen(m_eine, 0, 1), u"E|F|GH"_s);
+    QVERIFY(Zeilenzug::rueckeHinunter(m_eine, {{0, 1, 2}}).isEmpty());
+    QCOMPARE(Zeilenzug::ziehe(m_eine, {{0, 1, 2}}, {0, 1, 1}, false), (QList<Stelle>{{0, 1, 1}}));
+    QCOMPARE(namen(m_eine, 0, 1), u"E|G|FH"_s);
+    QVERIFY(Zeilenzug::nimmHeraus(m_eine, {{0, 1, 1}}));
+    QCOMPARE(namen(m_eine, 0, 1), u"E|FH"_s);
+}
+
+void TestZeilenzug::belowTheLastMealThereIsNothing()
+{
+    m_eine.tage[0].mahlzeiten[5].zeilen = {zeile(u"Z"_s, 5), oder(zeile(u"Y"_s, 5))};
+    QVERIFY(Zeilenzug::rueckeHinunter(m_eine, {{0, 5, 0}}).isEmpty());
+    QVERIFY(Zeilenzug::rueckeHinunter(m_eine, {{0, 5, 1}}).isEmpty());
+    QCOMPARE(namen(m_eine, 0, 5), u"Z|Y"_s);
+}
+
 void TestZeilenzug::rowsAreTakenOut_data()
 {
     QTest::addColumn<QList<Stelle>>("zeilen");
