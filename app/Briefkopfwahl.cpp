@@ -4,29 +4,31 @@
 #include "Zeichenkettentabelle.h"
 
 #include <QFormLayout>
+#include <QGridLayout>
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QLineEdit>
 #include <QPlainTextEdit>
 #include <QPushButton>
+#include <QVBoxLayout>
 
 #include <utility>
 
 namespace {
 
 constexpr QSize bildgroesse(170, 56); // as on paper
-constexpr int anschriftzeilen = 4;
+constexpr int anschriftzeilen = 3;
 
 } // namespace
 
 Briefkopfwahl::Briefkopfwahl(Briefkopfablage ablage, Dateituer frage)
     : m_ablage(std::move(ablage))
     , m_frage(std::move(frage))
-    , m_name(new QLineEdit)
-    , m_anschrift(new QPlainTextEdit)
+    , m_name(new QLineEdit(this))
+    , m_anschrift(new QPlainTextEdit(this))
     , m_bild(new QLabel)
     , m_worte(new QLabel)
-    , m_entfernen(new QPushButton(localizedString(QStringLiteral("&Entfernen"))))
+    , m_entfernen(new QPushButton(localizedString(QStringLiteral("&Entfernen")), this))
 {
     m_name->setObjectName(QStringLiteral("praxisname"));
     m_name->setText(m_ablage.lies().name);
@@ -39,12 +41,16 @@ Briefkopfwahl::Briefkopfwahl(Briefkopfablage ablage, Dateituer frage)
     m_worte->setObjectName(QStringLiteral("logoworte"));
     m_worte->setTextFormat(Qt::PlainText);
     m_worte->setWordWrap(true);
-    auto *aufbau = new QFormLayout(this);
+    auto *felder = new QFormLayout;
+    felder->addRow(localizedString(QStringLiteral("Name der &Praxis:")), m_name);
+    felder->addRow(localizedString(QStringLiteral("Ans&chrift:")), m_anschrift);
+    auto *reihe = new QHBoxLayout;
+    reihe->addLayout(felder, 1);
+    reihe->addWidget(baueLogo());
+    auto *aufbau = new QVBoxLayout(this);
     aufbau->setContentsMargins(0, 0, 0, 0);
-    aufbau->addRow(localizedString(QStringLiteral("Name der &Praxis:")), m_name);
-    aufbau->addRow(localizedString(QStringLiteral("Ans&chrift:")), m_anschrift);
-    aufbau->addRow(localizedString(QStringLiteral("Logo:")), baueLogo());
-    aufbau->addRow(m_worte);
+    aufbau->addLayout(reihe);
+    aufbau->addWidget(m_worte);
     connect(m_name, &QLineEdit::textEdited, this,
             [this](const QString &text) { m_ablage.setzeName(text); });
     connect(m_anschrift, &QPlainTextEdit::textChanged, this,
@@ -57,19 +63,19 @@ QWidget *Briefkopfwahl::baueLogo()
     m_bild->setObjectName(QStringLiteral("logobild"));
     m_bild->setFixedSize(bildgroesse);
     m_bild->setAlignment(Qt::AlignCenter);
-    auto *waehlen = new QPushButton(localizedString(QStringLiteral("&Bild wählen …")));
+    auto *waehlen = new QPushButton(localizedString(QStringLiteral("&Logo wählen …")));
     waehlen->setObjectName(QStringLiteral("logowaehlen"));
     m_entfernen->setObjectName(QStringLiteral("logoentfernen"));
     new Sperrgrund(m_entfernen, localizedString(QStringLiteral("Es ist kein Logo gewählt.")));
     connect(waehlen, &QPushButton::clicked, this, &Briefkopfwahl::waehle);
     connect(m_entfernen, &QPushButton::clicked, this, &Briefkopfwahl::entferne);
     auto *logo = new QWidget(this);
-    auto *reihe = new QHBoxLayout(logo);
-    reihe->setContentsMargins(0, 0, 0, 0);
-    reihe->addWidget(m_bild);
-    reihe->addWidget(waehlen);
-    reihe->addWidget(m_entfernen);
-    reihe->addStretch();
+    auto *aufbau = new QGridLayout(logo);
+    aufbau->setContentsMargins(0, 0, 0, 0);
+    aufbau->addWidget(m_bild, 0, 0, 1, 2, Qt::AlignCenter);
+    aufbau->addWidget(waehlen, 1, 0);
+    aufbau->addWidget(m_entfernen, 1, 1);
+    aufbau->setRowStretch(0, 1);
     setTabOrder(m_anschrift, waehlen);
     setTabOrder(waehlen, m_entfernen);
     return logo;

@@ -7,6 +7,8 @@
 #include <QGroupBox>
 #include <QPushButton>
 #include <QRadioButton>
+#include <QScreen>
+#include <QShowEvent>
 #include <QVBoxLayout>
 
 namespace {
@@ -54,5 +56,14 @@ void Einstellungsfenster::nimmAuf(const QString &titel, QWidget *inhalt)
     QWidget *anfang = gewaehltes(*inhalt);
     if (focusWidget() == nullptr && anfang != nullptr) {
         anfang->setFocus();
+    }
+}
+
+/// All groups are seen where the screen has room for them: Qt would open two thirds of it.
+void Einstellungsfenster::showEvent(QShowEvent *event)
+{
+    QDialog::showEvent(event);
+    if (!event->spontaneous()) {
+        resize(sizeHint().boundedTo(screen()->availableSize() * 9 / 10));
     }
 }

@@ -17,6 +17,9 @@ public:
     /// Adds a group below those that are there, and owns what stands in it.
     void nimmAuf(const QString &titel, QWidget *inhalt);
 
+protected:
+    void showEvent(QShowEvent *event) override;
+
 private:
     QVBoxLayout *m_gruppen;
     QPushButton *m_schliessen;

@@ -4565,12 +4565,8 @@ New: %1</translation>
   <translation>&amp;Address:</translation>
  </message>
  <message>
-  <source>Logo:</source>
-  <translation>Logo:</translation>
- </message>
- <message>
-  <source>&amp;Bild wählen …</source>
-  <translation>Choose p&amp;icture …</translation>
+  <source>&amp;Logo wählen …</source>
+  <translation>Choose &amp;logo …</translation>
  </message>
  <message>
   <source>&amp;Entfernen</source>

@@ -165,7 +165,8 @@ void TestBriefkopfwahl::theTabKeyLeavesTheAddress()
 {
     oeffne();
     teil<QPlainTextEdit>("praxisanschrift")->setFocus();
-    qWarning() << QApplication::focusWidget() << QApplication::activeWindow();
+    m_fenster->controller().Hauptfenster->findChild<Einstellungsfenster *>()->activateWindow();
+    QTRY_VERIFY(teil<QPlainTextEdit>("praxisanschrift")->hasFocus());
     QTest::keyClick(teil<QPlainTextEdit>("praxisanschrift"), Qt::Key_Tab);
     QVERIFY2(teil<QPushButton>("logowaehlen")->hasFocus(),
              qPrintable(QApplication::focusWidget()->objectName()));

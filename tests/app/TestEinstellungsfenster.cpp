@@ -190,8 +190,8 @@ void TestEinstellungsfenster::theLanguageHoldsAtOnce()
     for (const auto *gruppe : fenster().findChildren<QGroupBox *>()) {
         titel << gruppe->title();
     }
-    QCOMPARE(titel,
-             (QStringList{u"Language"_s, u"Appearance"_s, u"Folder for PDFs"_s, u"Clients"_s}));
+    QCOMPARE(titel, (QStringList{u"Language"_s, u"Appearance"_s, u"Folder for PDFs"_s,
+                                 u"Letterhead of the prints"_s, u"Clients"_s}));
     QVERIFY(wahl(u"Like the system"_s) != nullptr);
     QCOMPARE(knopf("ordnerwaehlen")->text(), u"&Choose folder …"_s);
     QCOMPARE(fenster().findChild<QLineEdit *>(u"pdfordner"_s)->accessibleName(),
