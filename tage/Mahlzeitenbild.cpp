@@ -54,6 +54,7 @@ void Mahlzeitenbild::zeige(const QList<Mahlzeitenanteil> &anteile)
 {
     setAccessibleName(localizedString(QStringLiteral("Energie der Mahlzeiten")));
     m_anteile = anteile;
+    m_breiten.reset();
     updateGeometry();
     update();
 }
@@ -127,9 +128,7 @@ QString Mahlzeitenbild::beschreibung() const
 QString Mahlzeitenbild::hinweisBei(const QPoint &ort) const
 {
     const int zeile = ort.y() / zeilenhoehe() - 1;
-    return ort.y() >= 0 && zeile >= 0 && zeile < m_anteile.size()
-               ? mahlzeitInWorten(m_anteile[zeile])
-               : QString();
+    return zeile >= 0 && zeile < m_anteile.size() ? mahlzeitInWorten(m_anteile[zeile]) : QString();
 }
 
 /// A tool tip that the view keeps would be read out in place of its description.
@@ -141,6 +140,7 @@ bool Mahlzeitenbild::event(QEvent *event)
         return true;
     }
     if (event->type() == QEvent::FontChange) {
+        m_breiten.reset();
         updateGeometry();
     }
     return Zeichenansicht::event(event);
@@ -152,7 +152,16 @@ int Mahlzeitenbild::zeilenhoehe() const
 }
 
 /// The figures have room for any usual meal, so that nothing moves while the day is typed.
-Mahlzeitenbreiten Mahlzeitenbild::breiten() const
+/// Layouts ask for them again and again.
+const Mahlzeitenbreiten &Mahlzeitenbild::breiten() const
+{
+    if (!m_breiten) {
+        m_breiten = messe();
+    }
+    return *m_breiten;
+}
+
+Mahlzeitenbreiten Mahlzeitenbild::messe() const
 {
     const Mahlzeitenanteil ueblicher = {.energie = 8888.0, .prozent = 100};
     const QFontMetricsF masse(font());

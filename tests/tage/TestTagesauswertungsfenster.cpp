@@ -325,6 +325,7 @@ void TestTagesauswertungsfenster::noBarKeepsWhatAnotherDayLeft()
     zeige({}, 1);
     QCOMPARE(prozent(Naehrwert::na), u"120,0 %"_s);
     QCOMPARE(balken.value(), 0.0);
+    QCOMPARE(balken.color(), QColor(Qt::blue)); // as if it was never told another
     QCOMPARE(m_fenster->bedarfsgitter->zeichen(Naehrwert::na).text(), QString());
     QCOMPARE(inWorten(zaehlungen()).section(u' ', 0, 2),
              u"0/%1/0 0/%1/0 0/%1/0"_s.arg(static_cast<int>(Textfarbe::Standard)));
@@ -476,11 +477,11 @@ void TestTagesauswertungsfenster::wordsBeginBelowTheCircles()
 {
     QFETCH(double, punkte);
     zeilen(0, 0) = {gegessen(auflauf(), 300)};
+    m_fenster->show();
+    zeige();
     QFont schrift = m_fenster->font();
     schrift.setPointSizeF(punkte);
     m_fenster->setFont(schrift);
-    m_fenster->show();
-    zeige();
     QVERIFY(QTest::qWaitForWindowExposed(m_fenster.get()));
     QCoreApplication::processEvents();
     const NahrstoffraumView &bild = *m_fenster->kreisansicht;

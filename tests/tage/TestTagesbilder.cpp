@@ -212,6 +212,8 @@ void TestTagesbilder::moreMealsMakeItHigher()
     QTRY_COMPARE(m_bilder->height(), (meisteMahlzeiten + 1) * zeilenhoehe);
     QVERIFY(m_bilder->height() > vorher);
     QCOMPARE(m_bilder->mahlzeiten->height(), m_bilder->height());
+    m_bilder->mahlzeiten->zeige({});
+    QTRY_COMPARE(m_bilder->height(), m_bilder->wertungszahlen->height());
 }
 
 QTEST_MAIN(TestTagesbilder)
