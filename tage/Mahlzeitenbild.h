@@ -3,6 +3,8 @@
 #include "Mahlzeitenanteil.h"
 #include "Zeichenansicht.h"
 
+#include <optional>
+
 /// How the energy of a day is spread over its meals: a bar for each, with a mark where the mean of
 /// the days lies. Long names are cut off; the whole one stands in the tool tip of its line.
 class Mahlzeitenbild : public Zeichenansicht
@@ -29,11 +31,13 @@ protected:
 
 private:
     int zeilenhoehe() const;
-    Mahlzeitenbreiten breiten() const;
+    const Mahlzeitenbreiten &breiten() const;
+    Mahlzeitenbreiten messe() const;
     QSize groesse(double namensbreite, double balkenbreite) const;
     void maleKopf(QPainter &maler, const QRectF &zeile) const;
     void maleZeile(QPainter &maler, const QRectF &zeile, const Mahlzeitenspalten &spalten,
                    const Mahlzeitenanteil &einer) const;
 
     QList<Mahlzeitenanteil> m_anteile;
+    mutable std::optional<Mahlzeitenbreiten> m_breiten; ///< absent until they are measured anew
 };

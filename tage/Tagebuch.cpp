@@ -37,11 +37,19 @@ private:
 
 Tagebuch::Tagebuch(Aufzeichnungsablage &ablage) : m_ablage(&ablage)
 {
+    m_pause.setSingleShot(true);
+    connect(&m_pause, &QTimer::timeout, this, &Tagebuch::sichere);
     setzeAblage(ablage);
+}
+
+Tagebuch::~Tagebuch()
+{
+    sichere();
 }
 
 void Tagebuch::setzeAblage(Aufzeichnungsablage &ablage)
 {
+    sichere();
     disconnect(m_ablage, nullptr, this, nullptr);
     m_ablage = &ablage;
     connect(m_ablage, &Aufzeichnungsablage::geaendert, this, [this] {
@@ -57,6 +65,7 @@ void Tagebuch::setzeAblage(Aufzeichnungsablage &ablage)
 /// elsewhere, what was done here before can't be taken back without taking that along.
 void Tagebuch::liesNeu()
 {
+    sichere();
     const std::optional<Aufzeichnung> bisher = jetzige();
     m_alle = m_ablage->alle();
     const auto dieselbe = std::find_if(m_alle.begin(), m_alle.end(), [&](const Aufzeichnung &eine) {
@@ -82,6 +91,7 @@ void Tagebuch::waehle(int stelle)
     if (stelle == m_stelle || stelle < 0 || stelle >= m_alle.size()) {
         return;
     }
+    sichere();
     m_stelle = stelle;
     m_tag = 0;
     schritte.clear();
@@ -106,6 +116,7 @@ void Tagebuch::waehleTag(int tag)
 
 void Tagebuch::beginne(const Aufzeichnung &neue)
 {
+    sichere();
     m_sichert = true;
     const Aufzeichnung gesicherte = m_ablage->sichere(neue);
     m_sichert = false;
@@ -118,6 +129,7 @@ void Tagebuch::beginne(const Aufzeichnung &neue)
 
 bool Tagebuch::loesche()
 {
+    sichere();
     const std::optional<Aufzeichnung> eine = jetzige();
     if (!eine) {
         return false;
@@ -155,14 +167,28 @@ void Tagebuch::stelleHer(const Aufzeichnung &stand)
     Aufzeichnung neu = stand;
     neu.kennung = m_alle[m_stelle].kennung;
     neu.fassung = m_alle[m_stelle].fassung;
-    sichere(neu);
+    m_alle[m_stelle] = neu;
+    m_offen = true;
+    m_pause.start(0);
     waehleTag(m_tag);
     Q_EMIT geaendert();
 }
 
-void Tagebuch::sichere(const Aufzeichnung &neu)
+/// Where another desk was faster, the place tells what it has now.
+void Tagebuch::sichere()
 {
+    m_pause.stop();
+    if (!std::exchange(m_offen, false)) {
+        return;
+    }
     m_sichert = true;
-    m_alle[m_stelle] = m_ablage->sichere(neu);
+    Aufzeichnung gesicherte = m_ablage->sichere(m_alle[m_stelle]);
     m_sichert = false;
+    std::swap(m_alle[m_stelle], gesicherte);
+    gesicherte.kennung = m_alle[m_stelle].kennung;
+    gesicherte.fassung = m_alle[m_stelle].fassung;
+    if (!(gesicherte == m_alle[m_stelle])) {
+        waehleTag(m_tag);
+        Q_EMIT geaendert();
+    }
 }

@@ -2,13 +2,15 @@
 
 #include "Aufzeichnungsablage.h"
 
+#include <QTimer>
 #include <QUndoStack>
 
 #include <functional>
 #include <optional>
 
-/// The records of days that are at hand, and the one that is worked at. Whatever is changed is kept
-/// at once and can be taken back.
+/// The records of days that are at hand, and the one that is worked at. Whatever is changed can be
+/// taken back, and is kept as soon as it stands on the screen: a place that is slow must not hold
+/// up the picture.
 class Tagebuch : public QObject
 {
     Q_OBJECT
@@ -19,6 +21,7 @@ public:
 
     /// The place outlives this object, or `setzeAblage` is called before it goes.
     explicit Tagebuch(Aufzeichnungsablage &ablage);
+    ~Tagebuch() override;
 
     /// Other records from now on; what was done to those before can't be taken back any more.
     void setzeAblage(Aufzeichnungsablage &ablage);
@@ -48,6 +51,9 @@ public:
     /// changed.
     bool aendere(const QString &was, const Tat &tat, const QString &feld = {});
 
+    /// Keeps now what was changed and is not kept yet.
+    void sichere();
+
     QUndoStack schritte; ///< of the record that is worked at
 
 Q_SIGNALS:
@@ -63,11 +69,12 @@ private:
 
     void liesNeu();
     void stelleHer(const Aufzeichnung &stand);
-    void sichere(const Aufzeichnung &neu);
 
     Aufzeichnungsablage *m_ablage;
     QList<Aufzeichnung> m_alle;
     int m_stelle = -1;
     int m_tag = 0;
+    QTimer m_pause;         ///< until what was changed is kept
+    bool m_offen = false;   ///< the record that is worked at is not kept as it is now
     bool m_sichert = false; ///< what the place tells now comes from here
 };

@@ -227,6 +227,7 @@ void Tagefenster::zeige()
 void Tagefenster::sichere()
 {
     ansicht->beende();
+    buch.sichere();
 }
 
 void Tagefenster::setzeAblage(Aufzeichnungsablage &ablage)

@@ -187,6 +187,7 @@ private:
     void fuegeGelesenesEin(const Ablagelesung &gelesen);
     void rueckeZeilen(bool hinunter);
     bool nimmt(const QMimeData &daten) const;
+    QList<Aufzeichnungsaenderung::Stelle> herkunft(const QMimeData &daten) const;
     void nimmAbwurf(const QMimeData *daten, const Tagesmodell::Platz &vor, bool kopie);
     void bringePlanEin(const QList<Planmenge> &posten, const char *worte);
 

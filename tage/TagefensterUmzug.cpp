@@ -347,8 +347,7 @@ QMimeData *Tagefenster::ziehdaten() const
     }
     auto *daten = new QMimeData;
     daten->setData(QLatin1String(ablageformat), alsText(ablageVon(*eine, stellen)));
-    daten->setData(QLatin1String(herkunftsformat),
-                   alsText(Zeilenherkunft{eine->kennung, eine->fassung, stellen}));
+    daten->setData(QLatin1String(herkunftsformat), alsText(Zeilenherkunft{eine->kennung, stellen}));
     const Mahlzeitzeile *zeile = ansicht->tagesmodell().zeile(ansicht->currentIndex().row());
     if (stellen.size() == 1 && zeile != nullptr && !zeile->schluessel.isNull()) {
         daten->setText(zeile->schluessel);
@@ -363,16 +362,26 @@ bool Tagefenster::nimmt(const QMimeData &daten) const
            (daten.hasText() && m_tueren.lebensmittel(daten.text()) != nullptr);
 }
 
+/// The places of the rows that are dragged, while they still stand there; none when they come from
+/// elsewhere.
+QList<Stelle> Tagefenster::herkunft(const QMimeData &daten) const
+{
+    const auto genannte = leseHerkunft(daten.data(QLatin1String(herkunftsformat)));
+    const std::optional<Aufzeichnung> eine = buch.jetzige();
+    const bool nochDort = genannte && eine && genannte->kennung == eine->kennung &&
+                          ablageVon(*eine, genannte->zeilen) ==
+                              leseAblage(daten.data(QLatin1String(ablageformat))).ablage;
+    return nochDort ? genannte->zeilen : QList<Stelle>();
+}
+
 void Tagefenster::nimmAbwurf(const QMimeData *daten, const Platz &vor, bool kopie)
 {
     const Stelle hier{buch.tag(), vor.mahlzeit, vor.zeile};
-    const auto herkunft = leseHerkunft(daten->data(QLatin1String(herkunftsformat)));
-    const std::optional<Aufzeichnung> eine = buch.jetzige();
-    if (herkunft && eine && herkunft->kennung == eine->kennung &&
-        herkunft->fassung == eine->fassung) {
+    const QList<Stelle> stellen = herkunft(*daten);
+    if (!stellen.isEmpty()) {
         QList<Stelle> angekommen;
         aendere(QT_TRANSLATE_NOOP("Mahlberg", "Zeilen verschieben"), [&](Aufzeichnung &was) {
-            angekommen = Zeilenzug::ziehe(was, herkunft->zeilen, hier, kopie);
+            angekommen = Zeilenzug::ziehe(was, stellen, hier, kopie);
             return !angekommen.isEmpty();
         });
         waehleStellen(angekommen);

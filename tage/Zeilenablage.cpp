@@ -16,7 +16,6 @@ namespace {
 
 const QString teilfeld = QStringLiteral("part");
 const QString kennungsfeld = QStringLiteral("record");
-const QString fassungsfeld = QStringLiteral("writes");
 const QString stellenfeld = QStringLiteral("rows");
 
 /// How the three kinds are called, in their order.
@@ -160,22 +159,19 @@ QByteArray alsText(const Zeilenherkunft &herkunft)
     for (const Aufzeichnungsaenderung::Stelle &eine : herkunft.zeilen) {
         stellen.append(QJsonArray{eine.tag, eine.mahlzeit, eine.zeile});
     }
-    return QJsonDocument(QJsonObject{{kennungsfeld, herkunft.kennung},
-                                     {fassungsfeld, herkunft.fassung},
-                                     {stellenfeld, stellen}})
+    return QJsonDocument(QJsonObject{{kennungsfeld, herkunft.kennung}, {stellenfeld, stellen}})
         .toJson(QJsonDocument::Compact);
 }
 
 std::optional<Zeilenherkunft> leseHerkunft(const QByteArray &text)
 {
     const QJsonObject alles = QJsonDocument::fromJson(text).object();
-    Zeilenherkunft herkunft{
-        alles.value(kennungsfeld).toString(), alles.value(fassungsfeld).toInt(-1), {}};
+    Zeilenherkunft herkunft{alles.value(kennungsfeld).toString(), {}};
     const QJsonArray stellen = alles.value(stellenfeld).toArray();
     for (const auto &eine : stellen) {
         herkunft.zeilen << Aufzeichnungsaenderung::Stelle{eine[0].toInt(-1), eine[1].toInt(-1),
                                                           eine[2].toInt(-1)};
     }
-    const bool gut = !herkunft.kennung.isNull() && herkunft.fassung >= 0 && !stellen.isEmpty();
+    const bool gut = !herkunft.kennung.isNull() && !stellen.isEmpty();
     return gut ? std::optional(herkunft) : std::nullopt;
 }

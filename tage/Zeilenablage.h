@@ -65,12 +65,10 @@ struct Ablagelesung
 /// Reads what `alsText` has written.
 Ablagelesung leseAblage(const QByteArray &text);
 
-/// Where rows were when the mouse took them: in this state of this record. In any other state they
-/// may be elsewhere or gone.
+/// Where rows were in this record when the mouse took them. Other rows may stand there by now.
 struct Zeilenherkunft
 {
     QString kennung;
-    int fassung = 0;
     QList<Aufzeichnungsaenderung::Stelle> zeilen;
 
     bool operator==(const Zeilenherkunft &) const = default;

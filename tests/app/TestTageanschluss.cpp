@@ -197,6 +197,7 @@ void TestTageanschluss::nobodysRecordsStandInAFile()
     oeffne();
     neuesProtokoll();
     gibEin(u"Apfel"_s, u"150"_s);
+    QCoreApplication::processEvents();
     QVERIFY(bytes(pfad(u"MahlbergTage.json"_s)).contains("Apfel"));
     const auto rechte = QFile::permissions(pfad(u"MahlbergTage.json"_s));
     QVERIFY(!(rechte & (QFileDevice::ReadGroup | QFileDevice::ReadOther)));
@@ -223,6 +224,7 @@ void TestTageanschluss::theClientAtTheDeskHasTheirOwn()
     QCOMPARE(fenster().windowTitle(), u"Tage und Mahlzeiten"_s);
     QVERIFY(m_probe->tisch().nimm(m_probe->akte().person.kennung));
     QCOMPARE(zeilen(), u"Milch 200"_s);
+    QVERIFY(bytes(pfad(u"MahlbergTage.json"_s)).contains("Apfel"));
     QVERIFY(!bytes(pfad(u"MahlbergTage.json"_s)).contains("Milch"));
 }
 

@@ -13,6 +13,7 @@ public:
     {
         Aufzeichnung eine = neu;
         ++eine.fassung;
+        eine.titel = anderswo.isNull() ? eine.titel : anderswo;
         if (eine.kennung.isNull()) {
             eine.kennung = QStringLiteral("neu%1").arg(aufzeichnungen.size());
             aufzeichnungen << eine;
@@ -40,6 +41,7 @@ public:
 
     QList<Aufzeichnung> aufzeichnungen;
     QList<Aufzeichnung> gesichert; ///< in the order in which they came
+    QString anderswo; ///< the title that another desk has given the record meanwhile
     bool laesstSchreiben = true;
     bool laesstLoeschen = true;
 };

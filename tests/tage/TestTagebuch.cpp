@@ -9,6 +9,8 @@
 #include <QSignalSpy>
 #include <QTest>
 
+#include <functional>
+
 using namespace Qt::StringLiterals;
 using Aufzeichnungsprobe::namen;
 using Aufzeichnungsprobe::zeile;
@@ -23,7 +25,10 @@ private Q_SLOTS:
 
     void withoutARecordNothingCanBeDone();
     void theLastRecordIsWorkedAtFirst();
-    void aChangeIsKeptAtOnce();
+    void aChangeIsKeptAsSoonAsItIsShown();
+    void whatIsNotKeptYetIsKeptBeforeAnythingElse_data();
+    void whatIsNotKeptYetIsKeptBeforeAnythingElse();
+    void whatAnotherDeskWroteIsShown();
     void aChangeIsTakenBackAndRepeated();
     void whatChangesNothingIsNoStep();
     void anotherRecordHasStepsOfItsOwn();
@@ -48,6 +53,7 @@ private:
     QString heute() const { return namen(*m_buch->jetzige(), m_buch->tag(), 0); }
 
     std::unique_ptr<Probeablage> m_ablage;
+    Probeablage m_andere;
     std::unique_ptr<Tagebuch> m_buch;
 };
 
@@ -82,30 +88,74 @@ void TestTagebuch::theLastRecordIsWorkedAtFirst()
     QVERIFY(m_buch->aenderbar());
 }
 
-void TestTagebuch::aChangeIsKeptAtOnce()
+void TestTagebuch::aChangeIsKeptAsSoonAsItIsShown()
 {
     const QSignalSpy gesagt(m_buch.get(), &Tagebuch::geaendert);
     const QSignalSpy gewechselt(m_buch.get(), &Tagebuch::gewechselt);
     QVERIFY(esse(u"A"_s));
     QCOMPARE(heute(), u"A"_s);
     QCOMPARE(gesagt.count(), 1);
+    QVERIFY(m_ablage->gesichert.isEmpty()); // the picture comes first
+    QCoreApplication::processEvents();
     QCOMPARE(gewechselt.count(), 0); // what the place tells was done here
+    QCOMPARE(gesagt.count(), 1);
     QCOMPARE(m_ablage->gesichert.size(), 1);
     QCOMPARE(namen(m_ablage->aufzeichnungen[1], 0, 0), u"A"_s);
     QCOMPARE(m_buch->jetzige()->fassung, 1);
     QVERIFY(esse(u"B"_s));
+    m_buch->sichere();
     QCOMPARE(m_buch->jetzige()->fassung, 2);
+    m_buch->sichere(); // there is nothing to keep
+    QCOMPARE(m_ablage->gesichert.size(), 2);
+}
+
+void TestTagebuch::whatIsNotKeptYetIsKeptBeforeAnythingElse_data()
+{
+    using Tat = std::function<void(TestTagebuch &)>;
+    QTest::addColumn<Tat>("tat");
+    QTest::newRow("another record is chosen") << Tat([](auto &test) { test.m_buch->waehle(0); });
+    QTest::newRow("a record is begun") << Tat([](auto &test) {
+        test.m_buch->beginne(neueAufzeichnung(Aufzeichnungsart::Protokoll, {}, 1));
+    });
+    QTest::newRow("other records come")
+        << Tat([](auto &test) { test.m_buch->setzeAblage(test.m_andere); });
+    QTest::newRow("another desk writes")
+        << Tat([](auto &test) { Q_EMIT test.m_ablage->geaendert(); });
+    QTest::newRow("the end") << Tat([](auto &test) { test.m_buch.reset(); });
+}
+
+void TestTagebuch::whatIsNotKeptYetIsKeptBeforeAnythingElse()
+{
+    QFETCH(std::function<void(TestTagebuch &)>, tat);
+    QVERIFY(esse(u"A"_s));
+    tat(*this);
+    QCOMPARE(m_ablage->gesichert.constFirst().kennung, u"b"_s);
+    QCOMPARE(namen(m_ablage->aufzeichnungen[1], 0, 0), u"A"_s);
+    m_buch.reset();
+}
+
+/// Where the place holds something else after the writing, that is what counts.
+void TestTagebuch::whatAnotherDeskWroteIsShown()
+{
+    QVERIFY(esse(u"A"_s));
+    const QSignalSpy gesagt(m_buch.get(), &Tagebuch::geaendert);
+    m_ablage->anderswo = u"vom anderen Platz"_s;
+    m_buch->sichere();
+    QCOMPARE(m_buch->jetzige()->titel, u"vom anderen Platz"_s);
+    QCOMPARE(gesagt.count(), 1);
 }
 
 void TestTagebuch::aChangeIsTakenBackAndRepeated()
 {
     QVERIFY(esse(u"A"_s));
+    m_buch->sichere();
     QVERIFY(esse(u"B"_s));
     QCOMPARE(m_buch->schritte.undoText(), u"Essen"_s);
     m_buch->schritte.undo();
     QCOMPARE(heute(), u"A"_s);
+    m_buch->sichere();
     QCOMPARE(namen(m_ablage->aufzeichnungen[1], 0, 0), u"A"_s);
-    QCOMPARE(m_buch->jetzige()->fassung, 3); // the state before is written anew
+    QCOMPARE(m_buch->jetzige()->fassung, 2); // the state before is written anew
     m_buch->schritte.undo();
     QCOMPARE(heute(), QString());
     QVERIFY(!m_buch->schritte.canUndo());

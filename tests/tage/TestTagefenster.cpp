@@ -106,6 +106,7 @@ void TestTagefenster::foodAndAmountLeadToTheNextRow()
     QCOMPARE(m_probe->zelle({Art::Speise, 0, 1}, Tagesmodell::Gramm), u"40"_s);
     QVERIFY(m_probe->fenster->ansicht->feld() != nullptr);
     QCOMPARE(m_probe->fenster->ansicht->platz(), (Platz{Art::Eingabe, 0, 2}));
+    QCoreApplication::processEvents();
     QCOMPARE(m_probe->ablage.gesichert.constLast().tage[0].mahlzeiten[0].zeilen.size(), 2);
 }
 
@@ -233,6 +234,7 @@ void TestTagefenster::escapeLeavesNothingBehind()
     const qsizetype gesichert = m_probe->ablage.gesichert.size();
     Fensterprobe::tippe(u"Apfel"_s);
     Fensterprobe::taste(Qt::Key_Escape);
+    QCoreApplication::processEvents();
     QCOMPARE(zeilen(), u""_s);
     QCOMPARE(m_probe->ablage.gesichert.size(), gesichert);
 }
@@ -249,6 +251,7 @@ void TestTagefenster::everyDeedIsTakenBack()
     QTest::keyClick(m_probe->fenster.get(), Qt::Key_Z, Qt::ControlModifier | Qt::ShiftModifier);
     QTest::keyClick(m_probe->fenster.get(), Qt::Key_Z, Qt::ControlModifier | Qt::ShiftModifier);
     QCOMPARE(m_probe->zeile(0, 0).gramm, 150.F);
+    QCoreApplication::processEvents();
     QCOMPARE(m_probe->ablage.gesichert.constLast().tage[0].mahlzeiten[0].zeilen.size(), 1);
 }
 
@@ -257,6 +260,7 @@ void TestTagefenster::lettersOfATitleAreOneStep()
     m_probe->neu();
     m_probe->fenster->titel->setFocus();
     Fensterprobe::tippe(u"Woche"_s);
+    QCoreApplication::processEvents();
     QCOMPARE(m_probe->ablage.gesichert.constLast().titel, u"Woche"_s);
     QCOMPARE(m_probe->fenster->auswahl->currentText(), u"Woche, 23.11.26"_s);
     QCOMPARE(m_probe->fenster->buch.schritte.count(), 1);
@@ -424,6 +428,7 @@ void TestTagefenster::aNewerRecordIsReadOnly()
     m_probe->neu();
     Fensterprobe::gibEin(u"Apfel"_s, u"10"_s);
     Fensterprobe::taste(Qt::Key_Escape);
+    m_probe->fenster->sichere();
     Aufzeichnung neuere = m_probe->jetzige();
     neuere.neuererText = "{}";
     m_probe->ablage.aufzeichnungen = {neuere};
@@ -435,6 +440,7 @@ void TestTagefenster::aNewerRecordIsReadOnly()
     Fensterprobe::tippe(u"Milch"_s);
     Fensterprobe::taste(Qt::Key_Delete);
     QVERIFY(m_probe->fenster->gibHinein(u"Toast"_s).isNull());
+    QCoreApplication::processEvents();
     QCOMPARE(zeilen(), u"Apfel"_s);
     QCOMPARE(m_probe->ablage.gesichert.size(), gesichert);
     QVERIFY(m_probe->hinweise().contains(

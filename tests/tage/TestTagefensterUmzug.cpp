@@ -60,6 +60,7 @@ private Q_SLOTS:
     void draggedRowsAreCopiedWithTheKey();
     void rowsAreCarriedToAnotherDay();
     void rowsOfAnotherStateAreCopied();
+    void rowsOfAnotherRecordAreCopied();
     void damagedRowsAreDroppedInVain();
     void rowsOfFoodsCanBeDragged();
     void aDragCarriesWhatOthersTake();
@@ -588,8 +589,20 @@ void TestTagefensterUmzug::rowsOfAnotherStateAreCopied()
         was.tage[0].mahlzeiten[0].zeilen.removeFirst();
         return true;
     });
+    buch().sichere();
     wirf(ort({Art::Mahlzeit, 2, 0}, 0.5), *daten);
     QCOMPARE(mahlzeit(0), u"Toast|Milch"_s);
+    QCOMPARE(mahlzeit(2), u"WasserApfel"_s);
+}
+
+void TestTagefensterUmzug::rowsOfAnotherRecordAreCopied()
+{
+    const auto daten = gezogene({{Art::Speise, 0, 0}});
+    Aufzeichnung andere = m_probe->jetzige();
+    andere.kennung = QString();
+    buch().beginne(andere);
+    wirf(ort({Art::Mahlzeit, 2, 0}, 0.5), *daten);
+    QCOMPARE(mahlzeit(0), u"ApfelToast|Milch"_s);
     QCOMPARE(mahlzeit(2), u"WasserApfel"_s);
 }
 
