@@ -46,7 +46,7 @@ Druckstreifenfolge gesetzt(const Briefkopf &kopf, double breite)
                            maler.setRenderHint(QPainter::SmoothPixmapTransform);
                            maler.drawImage(QRectF({breite - logo.width(), 0}, logo), bild);
                        }});
-        folge << freiraum(0);
+        folge << freiraum(std::max(0.0, logo.height() - hoehe(folge)));
     }
     folge << freiraum(ueberStrich) << waagerechte(breite, strich) << freiraum(unterStrich);
     return folge;
