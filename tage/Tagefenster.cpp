@@ -18,6 +18,8 @@
 
 namespace {
 
+constexpr int breiterAlsJederSchirm = 10000;
+
 const QString hinweisNeuere = QStringLiteral("neuere");
 
 constexpr int zeilenhoehe = 24;
@@ -69,6 +71,7 @@ Tagefenster::Tagefenster(Aufzeichnungsablage &ablage, Tagetueren tueren)
     baueTabellen();
     baueMenue();
     teiler->setStretchFactor(0, 1); // the names of the foods get what there is room for
+    teiler->setSizes({breiterAlsJederSchirm, 1});
     fusszeile->setMinimumHeight(hinweise->zweizeilig());
     hinweise->vertritt(fusszeile);
     verbinde();

@@ -117,7 +117,7 @@ void Tagefenster::uebernimmHeute()
     const bool etwas = aendere(QT_TRANSLATE_NOOP("Mahlberg", "Werte von heute übernehmen"),
                                [&](Aufzeichnung &eine) {
                                    abgleich = uebernimmHeutigeWerte(eine, m_tueren.lebensmittel);
-                                   return abgleich.uebernommen > 0;
+                                   return true;
                                });
     QStringList saetze = {
         localizedString(QStringLiteral("Zeilen mit neuen Werten: %1.")).arg(abgleich.uebernommen)};

@@ -244,9 +244,8 @@ void Tagefenster::bringeEin(const char *was, const Zeilenablage &ablage, const S
 {
     QList<Stelle> angekommen;
     const bool gekommen = aendere(was, [&](Aufzeichnung &eine) {
-        const Aufzeichnung vorher = eine;
         angekommen = Zeilenzug::fuegeEin(eine, ablage, hier);
-        return !(eine == vorher);
+        return true; // notes may have come without a row
     });
     waehleStellen(angekommen);
     QStringList saetze = {worte};

@@ -31,6 +31,44 @@ std::optional<Naehrwert> naehrwertIn(int spalte)
                : std::nullopt;
 }
 
+/// Heads that leave room for the names of the foods. A rating is known by its first letter.
+constexpr std::array<const char *, Tagesmodell::Fest> koepfe = {
+    QT_TRANSLATE_NOOP("Mahlberg", "Lebensmittel"),
+    QT_TRANSLATE_NOOP("Mahlberg", "Menge"),
+    QT_TRANSLATE_NOOP("Mahlberg", "g"),
+    QT_TRANSLATE_NOOP("Mahlberg", "kcal"),
+    QT_TRANSLATE_NOOP("Mahlberg", "Protein (g)"),
+    QT_TRANSLATE_NOOP("Mahlberg", "Fett (g)"),
+    QT_TRANSLATE_NOOP("Mahlberg", "KH (g)")};
+
+QString wertungsname(int spalte)
+{
+    const Wertungsbeschreibung &wertung =
+        wertungen.at(static_cast<std::size_t>(spalte - Tagesmodell::Fest));
+    return localizedString(QString::fromUtf8(wertung.bezeichnung));
+}
+
+QString kurzerKopf(int spalte)
+{
+    return spalte < Tagesmodell::Fest
+               ? localizedString(QString::fromUtf8(koepfe.at(static_cast<std::size_t>(spalte))))
+               : wertungsname(spalte).left(1);
+}
+
+QString langerKopf(int spalte)
+{
+    if (spalte >= Tagesmodell::Fest) {
+        return wertungsname(spalte);
+    }
+    const std::optional<Naehrwert> wert = naehrwertIn(spalte);
+    if (!wert) {
+        return kurzerKopf(spalte);
+    }
+    const Naehrwertbeschreibung &eines = beschreibung(*wert);
+    return QStringLiteral("%1 (%2)").arg(localizedString(QString::fromUtf8(eines.bezeichnung)),
+                                         einheitszeichen(eines.einheit));
+}
+
 QString speisename(const Mahlzeitzeile &zeile)
 {
     return zeile.schluessel.isNull() ? zeile.text : localizedString(zeile.schluessel);
@@ -244,28 +282,9 @@ QVariant Tagesmodell::headerData(int section, Qt::Orientation orientation, int r
     if (orientation != Qt::Horizontal || section < 0 || section >= anzahlSpalten) {
         return {};
     }
-    static constexpr std::array<const char *, Energie> koepfe = {
-        QT_TRANSLATE_NOOP("Mahlberg", "Lebensmittel"), QT_TRANSLATE_NOOP("Mahlberg", "Menge"),
-        QT_TRANSLATE_NOOP("Mahlberg", "g")};
-    if (section >= Fest) {
-        const Wertungsbeschreibung &wertung =
-            wertungen.at(static_cast<std::size_t>(section - Fest));
-        const QString name = localizedString(QString::fromUtf8(wertung.bezeichnung));
-        return role == Qt::DisplayRole                                     ? QVariant(name.left(1))
-               : role == Qt::ToolTipRole || role == Qt::AccessibleTextRole ? QVariant(name)
-                                                                           : QVariant();
-    }
-    if (role != Qt::DisplayRole) {
-        return {};
-    }
-    const std::optional<Naehrwert> wert = naehrwertIn(section);
-    if (!wert) {
-        return localizedString(QString::fromUtf8(koepfe.at(static_cast<std::size_t>(section))));
-    }
-    const Naehrwertbeschreibung &eines = beschreibung(*wert);
-    const QString einheit = einheitszeichen(eines.einheit);
-    return wert == Naehrwert::kal
-               ? einheit
-               : QStringLiteral("%1 (%2)").arg(
-                     localizedString(QString::fromUtf8(eines.bezeichnung)), einheit);
+    const QString kurz = kurzerKopf(section);
+    const QString lang = langerKopf(section);
+    return role == Qt::DisplayRole                                     ? QVariant(kurz)
+           : role == Qt::ToolTipRole || role == Qt::AccessibleTextRole ? QVariant(lang)
+                                                                       : QVariant();
 }

@@ -5112,6 +5112,26 @@ New: %1</translation>
   <source>Haushalts&amp;maße …</source>
   <translation>Household &amp;measures …</translation>
  </message>
+ <message>
+  <source>kcal</source>
+  <translation>kcal</translation>
+ </message>
+ <message>
+  <source>Protein (g)</source>
+  <translation>Protein (g)</translation>
+ </message>
+ <message>
+  <source>Fett (g)</source>
+  <translation>Fat (g)</translation>
+ </message>
+ <message>
+  <source>KH (g)</source>
+  <translation>Carbs (g)</translation>
+ </message>
+ <message>
+  <source>Menge, wie gesagt</source>
+  <translation>Amount as said</translation>
+ </message>
 </context>
 <context>
  <name>PlanmodulGestalt</name>

@@ -261,6 +261,12 @@ void TestTagefensterUmzug::fieldsKeepTheirOwnClipboard()
     QCOMPARE(ablage().text(), u"Wo"_s);
     QCOMPARE(mahlzeit(0), u"ApfelToast|Milch"_s);
 
+    m_probe->fenster->tagezahl->setFocus();
+    m_probe->fenster->tagezahl->selectAll();
+    eintrag(u"Zeilen kopieren"_s)->trigger();
+    QCOMPARE(ablage().text(), u"2"_s);
+    legeText(u"Wo"_s);
+
     ansicht().setFocus();
     zumPlatz({Art::Eingabe, 0, 3});
     Fensterprobe::tippe(u"Ap"_s);
@@ -373,10 +379,16 @@ void TestTagefensterUmzug::aDayIsCopiedOntoAnother()
     einSchritt(1);
     QTest::mouseClick(hinweisknopf(), Qt::LeftButton);
     QCOMPARE(mahlzeit(4, 1), u"Apfel"_s);
+    buch().schritte.undo();
+    eintrag(u"Tag einfügen"_s)->trigger();
+    QCOMPARE(m_probe->hinweise().first(), u"Tag 2 hat jetzt den kopierten Tag: 4 Zeilen."_s);
+    eintrag(u"Tag einfügen"_s)->trigger();
+    QCOMPARE(buch().schritte.index(), 1); // it was there already
+    QVERIFY(m_probe->fenster->hinweise->hinweise().first().knopf.isEmpty());
     // The keys for pasting know a day as well.
+    buch().schritte.undo();
     taste(Qt::Key_V);
     QCOMPARE(mahlzeit(0, 1), u"ApfelToast|Milch"_s);
-    QCOMPARE(mahlzeit(4, 1), QString());
 }
 
 void TestTagefensterUmzug::rowsAreNoDay()
