@@ -42,6 +42,7 @@ Fuellfenster::Fuellfenster(const Aufzeichnung &aufzeichnung, int von, QWidget *p
                                  .arg(tagesname(aufzeichnung, von)));
     frage->setBuddy(m_tage);
     m_tage->setObjectName(QStringLiteral("tage"));
+    m_tage->setAccessibleName(localizedString(QStringLiteral("Tage, die gefüllt werden")));
     for (int tag = 0; tag < aufzeichnung.tage.size(); ++tag) {
         if (tag == von) {
             continue;

@@ -28,10 +28,10 @@ QGroupBox *wahl(const QString &titel, QButtonGroup &gruppe, const QStringList &t
     auto *aufbau = new QVBoxLayout(kasten);
     for (int i = 0; i < texte.size(); ++i) {
         auto *knopf = new QRadioButton(texte[i]);
-        knopf->setChecked(i == gewaehlt);
         gruppe.addButton(knopf, i);
         aufbau->addWidget(knopf);
     }
+    gruppe.button(gewaehlt)->setChecked(true); // among its like, so that Tab stops at it
     return kasten;
 }
 

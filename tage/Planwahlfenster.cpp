@@ -39,12 +39,14 @@ Planwahlfenster::Planwahlfenster(const QList<Vorratsplan> &plaene, QWidget *pare
     auto *listenwort = new QLabel(localizedString(QStringLiteral("Abgelegte &Pläne:")));
     listenwort->setBuddy(m_liste);
     m_liste->setObjectName(QStringLiteral("plaene"));
+    m_liste->setAccessibleName(windowTitle());
     for (const Vorratsplan &plan : std::as_const(m_plaene)) {
         m_liste->addItem(planname(plan));
     }
     auto *postenwort = new QLabel(localizedString(QStringLiteral("&Lebensmittel dieses Plans:")));
     postenwort->setBuddy(m_posten);
     m_posten->setObjectName(QStringLiteral("posten"));
+    m_posten->setAccessibleName(localizedString(QStringLiteral("Lebensmittel dieses Plans")));
     m_posten->setSelectionMode(QAbstractItemView::NoSelection);
     auto *knoepfe = new QDialogButtonBox(QDialogButtonBox::Cancel);
     auto *nehmen = knoepfe->addButton(localizedString(QStringLiteral("&Übernehmen")),

@@ -67,9 +67,12 @@ Tagefenster::Tagefenster(Aufzeichnungsablage &ablage, Tagetueren tueren)
         art->addItem(localizedString(QString::fromUtf8(eine)));
     }
     datum->setMinimumDate(ohneDatum);
+    // Qt leaves no room for the words beside the arrow.
+    datum->setMinimumWidth(datum->sizeHint().width() + 2 * fontMetrics().averageCharWidth());
     tagezahl->setMaximum(meisteTage);
     baueTabellen();
     baueMenue();
+    begruendeSperren();
     teiler->setStretchFactor(0, 1); // the names of the foods get what there is room for
     teiler->setSizes({breiterAlsJederSchirm, 1});
     fusszeile->setMinimumHeight(hinweise->zweizeilig());

@@ -134,6 +134,7 @@ protected:
 
 private:
     void baueMenue();
+    void begruendeSperren();
     void baueTabellen();
     void messeSpalten();
     void verbinde();

@@ -3,6 +3,7 @@
 #include "Tagefenster.h"
 
 #include "Aufzeichnungsaenderung.h"
+#include "Sperrgrund.h"
 #include "Zeichenkettentabelle.h"
 
 #include <QCoreApplication>
@@ -88,9 +89,9 @@ void Tagefenster::baueMenue()
     fuelle(
         mahlzeit, *this,
         {{QT_TRANSLATE_NOOP("Mahlberg", "&Neue Mahlzeit darunter"), {}, &Tagefenster::neueMahlzeit},
-         {QT_TRANSLATE_NOOP("Mahlberg", "Mahlzeit &hinauf"), {}, &Tagefenster::mahlzeitHinauf},
+         {QT_TRANSLATE_NOOP("Mahlberg", "Mahlzeit hinau&f"), {}, &Tagefenster::mahlzeitHinauf},
          {QT_TRANSLATE_NOOP("Mahlberg", "Mahlzeit h&inunter"), {}, &Tagefenster::mahlzeitHinunter},
-         {QT_TRANSLATE_NOOP("Mahlberg", "Mahlzeit heraus&nehmen"),
+         {QT_TRANSLATE_NOOP("Mahlberg", "Mahlzeit &herausnehmen"),
           {},
           &Tagefenster::loescheMahlzeit}});
 
@@ -115,6 +116,22 @@ void Tagefenster::baueMenue()
     QAction *handbuch = hilfe.addAction(localizedString(QStringLiteral("&Handbuch")));
     handbuch->setShortcut(QKeySequence(QStringLiteral("F1")));
     connect(handbuch, &QAction::triggered, this, &Tagefenster::hilfeGewuenscht);
+}
+
+void Tagefenster::begruendeSperren()
+{
+    const QString nichtZuAendern =
+        localizedString(QStringLiteral("Es gibt keine Aufzeichnung, die sich hier ändern lässt."));
+    for (QWidget *feld :
+         std::initializer_list<QWidget *>{titel, art, datum, tagezahl, tagesnotiz, imMittel}) {
+        new Sperrgrund(feld, nichtZuAendern);
+    }
+    new Sperrgrund(auswahl, localizedString(QStringLiteral("Es gibt noch keine Aufzeichnung.")));
+    new Sperrgrund(neuknopf, localizedString(
+                                 QStringLiteral("Hier lassen sich keine Aufzeichnungen anlegen.")));
+    new Sperrgrund(mahlzeitnotiz,
+                   localizedString(QStringLiteral("Wählen Sie zuerst eine Mahlzeit in einer "
+                                                  "Aufzeichnung, die sich ändern lässt.")));
 }
 
 /// Clients write down three days as a rule.

@@ -29,7 +29,8 @@ QSize Tagesbilder::bedarf(bool nebeneinander) const
 {
     const QSize bild = mahlzeiten->minimumSizeHint();
     const QSize zahlen = wertungszahlen->minimumSizeHint();
-    return nebeneinander ? QSize(bild.width() + abstand + zahlen.width(),
+    // Beside one another only where the names of the meals can be read.
+    return nebeneinander ? QSize(mahlzeiten->sizeHint().width() + abstand + zahlen.width(),
                                  qMax(bild.height(), zahlen.height()))
                          : QSize(qMax(bild.width(), zahlen.width()),
                                  bild.height() + abstand + zahlen.height());

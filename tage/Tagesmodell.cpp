@@ -279,7 +279,10 @@ QVariant Tagesmodell::data(const QModelIndex &index, int role) const
 
 QVariant Tagesmodell::headerData(int section, Qt::Orientation orientation, int role) const
 {
-    if (orientation != Qt::Horizontal || section < 0 || section >= anzahlSpalten) {
+    if (orientation == Qt::Vertical) { // no head is seen beside a row; screen readers ask for it
+        return role == Qt::DisplayRole ? data(index(section, Name), role) : QVariant();
+    }
+    if (section < 0 || section >= anzahlSpalten) {
         return {};
     }
     const QString kurz = kurzerKopf(section);

@@ -130,6 +130,7 @@ void TestDruckworte::amounts_data()
     zeile("a part", "1/4 Scheibe", 12.5F, "¼ Scheibe (12,5 g)", "¼ slice (12.5 g)");
     zeile("a decimal count", "1,2 Tassen", 240, "1,2 Tassen (240 g)", "1.2 cups (240 g)");
     zeile("plain grams", "62,5", 62.5F, "62,5 g", "62.5 g");
+    zeile("grams that count otherwise", "100", 90, "90 g", "90 g");
     zeile("kilograms", "0,1 kg", 100, "100 g", "100 g");
     // A slice weighs 50 g by now; when it was written down it weighed 40 g.
     zeile("the measure has changed", "2 Scheiben", 80, "2 Scheiben (80 g)", "2 slices (80 g)");

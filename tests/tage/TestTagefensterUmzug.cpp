@@ -30,6 +30,7 @@ private Q_SLOTS:
     void chosenRowsAreCopiedAndPasted();
     void aSpreadsheetReadsWhatIsCopied();
     void theNameOfAMealMeansTheMeal();
+    void aNoteAloneMovesToo();
     void nothingChosenIsTold();
     void rowsAreCutInOneStep();
     void aMealIsCutWithItsNote();
@@ -193,6 +194,20 @@ void TestTagefensterUmzug::theNameOfAMealMeansTheMeal()
     QCOMPARE(mahlzeit(0), u"ApfelToast|MilchWasser"_s);
     QCOMPARE(m_probe->jetzige().tage[0].mahlzeiten[0].notiz, u"im Büro"_s);
     einSchritt(0);
+}
+
+void TestTagefensterUmzug::aNoteAloneMovesToo()
+{
+    buch().aendere(u"x"_s, [](Aufzeichnung &was) {
+        was.tage[0].mahlzeiten[2].zeilen.clear();
+        return true;
+    });
+    zumPlatz({Art::Mahlzeit, 2, 0});
+    taste(Qt::Key_C);
+    zumPlatz({Art::Mahlzeit, 1, 0});
+    taste(Qt::Key_V);
+    QCOMPARE(m_probe->jetzige().tage[0].mahlzeiten[1].notiz, u"im Büro"_s);
+    einSchritt(1);
 }
 
 void TestTagefensterUmzug::nothingChosenIsTold()
