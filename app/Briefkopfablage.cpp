@@ -1,7 +1,6 @@
 #include "Briefkopfablage.h"
 
 #include "Dateiwechsel.h"
-#include "EngeRechte.h"
 #include "Zeichenkettentabelle.h"
 
 #include <QBuffer>
@@ -65,7 +64,6 @@ Gelesenes gelesen(const QByteArray &bytes)
     QByteArray inhalt = bytes;
     QBuffer puffer(&inhalt);
     QImageReader leser(&puffer);
-    leser.setDecideFormatFromContent(true);
     leser.setAutoTransform(true); // as the camera was held
     if (leser.format() != "png" && leser.format() != "jpeg") {
         return {.hindernis = Hindernis::KeinBild};
@@ -156,7 +154,6 @@ std::optional<Hindernis> Briefkopfablage::uebernimmLogo(const QString &path)
     if (neues.hindernis) {
         return neues.hindernis;
     }
-    const EngeRechte enge;
     Dateiwechsel wechsel(logodatei());
     if (!m_ordner.lege() || !wechsel.bereite(alsPng(neues.bild)) || !wechsel.vollziehe()) {
         return Hindernis::NichtZuSichern;

@@ -6,7 +6,6 @@
 
 #include <QBuffer>
 #include <QImage>
-#include <QImageWriter>
 #include <QSettings>
 #include <QTemporaryDir>
 #include <QTest>
@@ -170,15 +169,18 @@ void TestBriefkopfablage::theCopyIsForTheUserAlone()
     QVERIFY(!(QFile::permissions(pfad(u"daten"_s)) & andere));
 }
 
-/// The camera lay on its side: its picture is 30 x 10, and to be turned by 90 degrees.
+/// The camera lay on its side: its picture is 300 x 100, and says that it is to be turned by 90
+/// degrees (a list of one entry, the orientation, which is 6).
 void TestBriefkopfablage::aPictureFromACameraStandsUpright()
 {
-    QImage rot(300, 100, QImage::Format_RGB32);
-    rot.fill(Qt::red);
-    QImageWriter schreiber(pfad(u"logo.jpg"_s), "JPEG");
-    schreiber.setTransformation(QImageIOHandler::TransformationRotate90);
-    QVERIFY(schreiber.write(rot));
-    QCOMPARE(ablage().uebernimmLogo(pfad(u"logo.jpg"_s)), std::optional<Hindernis>());
+    QFile datei(bild(u"logo.jpg"_s, {300, 100}, "JPG"));
+    QVERIFY(datei.open(QIODevice::ReadOnly));
+    QByteArray bytes = datei.readAll();
+    bytes.insert(2, QByteArray::fromHex("ffe10022457869660000"
+                                        "4d4d002a00000008"
+                                        "00010112000300000001000600000000"
+                                        "0000"));
+    QCOMPARE(ablage().uebernimmLogo(schreibe(u"kamera.jpg"_s, bytes)), std::optional<Hindernis>());
     QCOMPARE(ablage().lies().logo.size(), QSize(100, 300));
 }
 
