@@ -1028,7 +1028,7 @@ Nothing is worked out for children under 10 years; it resumes at 11 years.</tr
  </message>
  <message>
   <source>&amp;Übernehmen</source>
-  <translation>&amp;Take Over</translation>
+  <translation>&amp;Take over</translation>
  </message>
  <message>
   <source>(eigenes Lebensmittel)</source>
@@ -4610,27 +4610,27 @@ New: %1</translation>
  </message>
  <message>
   <source>Zeilen aus&amp;schneiden</source>
-  <translation>Cu&amp;t Rows</translation>
+  <translation>C&amp;ut rows</translation>
  </message>
  <message>
   <source>Zeilen &amp;kopieren</source>
-  <translation>&amp;Copy Rows</translation>
+  <translation>Cop&amp;y rows</translation>
  </message>
  <message>
   <source>Zeilen &amp;einfügen</source>
-  <translation>&amp;Paste Rows</translation>
+  <translation>&amp;Paste rows</translation>
  </message>
  <message>
   <source>Zeilen hinau&amp;f</source>
-  <translation>Move Rows U&amp;p</translation>
+  <translation>Mo&amp;ve rows up</translation>
  </message>
  <message>
   <source>Zeilen hin&amp;unter</source>
-  <translation>Move Rows &amp;Down</translation>
+  <translation>Move rows &amp;down</translation>
  </message>
  <message>
   <source>Werte von heu&amp;te übernehmen</source>
-  <translation>Use T&amp;oday's Values</translation>
+  <translation>Use t&amp;oday's values</translation>
  </message>
  <message>
   <source>Werte von heute übernehmen</source>
@@ -4638,27 +4638,27 @@ New: %1</translation>
  </message>
  <message>
   <source>In &amp;gewählte Tage füllen …</source>
-  <translation>Fill into &amp;Chosen Days …</translation>
+  <translation>Fill into &amp;chosen days…</translation>
  </message>
  <message>
   <source>Tag &amp;kopieren</source>
-  <translation>Copy &amp;Day</translation>
+  <translation>Copy &amp;day</translation>
  </message>
  <message>
   <source>Tag &amp;einfügen</source>
-  <translation>Paste D&amp;ay</translation>
+  <translation>Paste d&amp;ay</translation>
  </message>
  <message>
   <source>Als &amp;Plan auf den Schreibtisch</source>
-  <translation>Put on the Desk as a &amp;Plan</translation>
+  <translation>Put on the de&amp;sk as a plan</translation>
  </message>
  <message>
   <source>Plan vom Schreibtisch ü&amp;bernehmen</source>
-  <translation>Take over the Plan on the De&amp;sk</translation>
+  <translation>Take over the plan on the des&amp;k</translation>
  </message>
  <message>
   <source>&amp;Abgelegten Plan übernehmen …</source>
-  <translation>Take over a &amp;Kept Plan …</translation>
+  <translation>Take &amp;over a kept plan…</translation>
  </message>
  <message>
   <source>In der Zwischenablage steht nichts, was hierher passt.</source>
@@ -4710,7 +4710,7 @@ New: %1</translation>
  </message>
  <message>
   <source>In der Zwischenablage steht kein Tag. Mit „Tag kopieren“ kommt einer hinein.</source>
-  <translation>There is no day on the clipboard. “Copy Day” puts one there.</translation>
+  <translation>There is no day on the clipboard. “Copy day” puts one there.</translation>
  </message>
  <message>
   <source>Zeilen einfügen</source>
@@ -4826,7 +4826,7 @@ New: %1</translation>
  </message>
  <message>
   <source>Abgelegte Pläne</source>
-  <translation>Kept Plans</translation>
+  <translation>Kept plans</translation>
  </message>
  <message>
   <source>Abgelegte &amp;Pläne:</source>
@@ -4854,7 +4854,7 @@ New: %1</translation>
  </message>
  <message>
   <source>Tag in andere Tage füllen</source>
-  <translation>Fill a Day into Others</translation>
+  <translation>Fill a day into others</translation>
  </message>
  <message>
   <source>Mittel</source>
@@ -5001,7 +5001,7 @@ New: %1</translation>
   <translation>Delete</translation>
  </message>
  <message>
-  <source>Mahlzeit &amp;hinauf</source>
+  <source>Mahlzeit hinau&amp;f</source>
   <translation>Meal &amp;up</translation>
  </message>
  <message>
@@ -5013,7 +5013,7 @@ New: %1</translation>
   <translation>Meal d&amp;own</translation>
  </message>
  <message>
-  <source>Mahlzeit heraus&amp;nehmen</source>
+  <source>Mahlzeit &amp;herausnehmen</source>
   <translation>&amp;Take out meal</translation>
  </message>
  <message>
@@ -5131,6 +5131,26 @@ New: %1</translation>
  <message>
   <source>Menge, wie gesagt</source>
   <translation>Amount as said</translation>
+ </message>
+ <message>
+  <source>Tage, die gefüllt werden</source>
+  <translation>Days that are filled</translation>
+ </message>
+ <message>
+  <source>Lebensmittel dieses Plans</source>
+  <translation>Foods of this plan</translation>
+ </message>
+ <message>
+  <source>Es gibt keine Aufzeichnung, die sich hier ändern lässt.</source>
+  <translation>There is no record that can be changed here.</translation>
+ </message>
+ <message>
+  <source>Hier lassen sich keine Aufzeichnungen anlegen.</source>
+  <translation>No records can be made here.</translation>
+ </message>
+ <message>
+  <source>Wählen Sie zuerst eine Mahlzeit in einer Aufzeichnung, die sich ändern lässt.</source>
+  <translation>First choose a meal in a record that can be changed.</translation>
  </message>
 </context>
 <context>
