@@ -42,6 +42,8 @@ constexpr Stelle stellen[] = {
     {"druckvorschau", "printing"},
     {"hinweise", "when-something-fails"},
     {"Klientenfenster", "clients"},
+    {"Tagefenster", "days"},
+    {"Massfenster", "days"},
     {"sicherungen", "when-something-fails"},
     {"einlesen", "tables"},
     {"ausgabe", "tables"},

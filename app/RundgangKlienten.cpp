@@ -82,6 +82,7 @@ void Rundgang::berate()
     haltBeimKlienten(QStringLiteral("client-plan"), QStringLiteral("Kept the plan: %1."));
     fenster.seiten->setCurrentIndex(3);
     haltBeimKlienten(QStringLiteral("client-progress"), QStringLiteral("What has become: %1."));
+    zeichneAuf();
     fenster.tischknopf->click();
     fenster.close();
 }

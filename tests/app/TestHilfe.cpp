@@ -25,6 +25,7 @@ private Q_SLOTS:
     void theKeyOpensThePageOfThePlansPart_data();
     void theKeyOpensThePageOfThePlansPart();
     void theKeyOpensThePageOfTheEarlierStates();
+    void theKeyOpensThePageOfTheDays();
     void theKeyOpensThePageOfThePreview();
     void theMenusOpenIt();
     void withoutAFoodItBeginsAtTheFirstPage();
@@ -192,6 +193,32 @@ void TestHilfe::theKeyOpensThePageOfTheEarlierStates()
         QCOMPARE(offeneSeite(), u"when-something-fails"_s);
         handbuch()->close();
     }
+}
+
+/// In their window, in those that it opens, and from its menu; with the measures from wherever they
+/// are shown.
+void TestHilfe::theKeyOpensThePageOfTheDays()
+{
+    Tageanschluss &anschluss = m_fenster->oberflaeche().tage;
+    Tagefenster &tage = anschluss.fenster();
+    tage.zeige();
+    tage.neuesProtokoll();
+    tage.handzettelDrucken();
+    anschluss.zeigeMasse(c().Hauptfenster, zaehlname(1));
+    for (QWidget *fenster :
+         std::initializer_list<QWidget *>{c().Hauptfenster->findChild<QDialog *>(u"Massfenster"_s),
+                                          tage.findChild<QDialog *>(u"handzettel"_s), &tage}) {
+        fenster->activateWindow();
+        QTRY_COMPARE(QApplication::activeWindow(), fenster);
+        QTest::keyClick(fenster, Qt::Key_F1);
+        QCOMPARE(offeneSeite(), u"days"_s);
+        handbuch()->close();
+        if (fenster != &tage) {
+            fenster->close();
+        }
+    }
+    Q_EMIT tage.hilfeGewuenscht();
+    QCOMPARE(offeneSeite(), u"days"_s);
 }
 
 void TestHilfe::theKeyOpensThePageOfThePreview()

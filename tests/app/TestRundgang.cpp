@@ -1,6 +1,7 @@
 #include "Probefenster.h"
 
 #include "Rundgang.h"
+#include "Tagesauswertungsfenster.h"
 
 #include <QDir>
 #include <QFile>
@@ -18,6 +19,8 @@ class TestRundgang : public QObject
 private Q_SLOTS:
     void everyStopHasItsPictureAndItsWords();
     void theSummaryTellsWhatIsSeen();
+    void theDaysOfTheClientAreTypedIn_data();
+    void theDaysOfTheClientAreTypedIn();
     void theClientIsNotLeftAtTheDesk();
     void itLeavesTheSettingsAndFilesAlone();
     void itGoesAlsoWithoutFoods();
@@ -65,10 +68,17 @@ void TestRundgang::everyStopHasItsPictureAndItsWords()
         const bool vomKlienten = bilder[i].contains(QStringLiteral("client"));
         const bool vomPlan = !vomKlienten && bilder[i].contains(QStringLiteral("plan"));
         const bool vomBlatt = bilder[i].contains(QStringLiteral("sheet"));
-        QCOMPARE(bild.size(), vomPlan       ? fenster->planmodul->window()->size()
-                              : vomBlatt    ? fenster->einfenster->size()
-                              : vomKlienten ? fenster.oberflaeche().klienten.fenster().size()
-                                            : fenster->Hauptfenster->size());
+        Tagefenster &tage = fenster.oberflaeche().tage.fenster();
+        const bool vomHandzettel = bilder[i].contains(QStringLiteral("handout")); // it is gone
+        const bool vonAuswertung = bilder[i].contains(QStringLiteral("evaluation"));
+        const bool vonTagen = bilder[i].contains(QStringLiteral("days"));
+        QCOMPARE(bild.size(), vomPlan         ? fenster->planmodul->window()->size()
+                              : vomBlatt      ? fenster->einfenster->size()
+                              : vomKlienten   ? fenster.oberflaeche().klienten.fenster().size()
+                              : vomHandzettel ? bild.size().boundedTo(tage.size())
+                              : vonAuswertung ? tage.auswertungsfenster().size()
+                              : vonTagen      ? tage.size()
+                                              : fenster->Hauptfenster->size());
         gesehen << bild;
     }
     for (qsizetype i = 1; i < gesehen.size(); ++i) {
@@ -114,6 +124,53 @@ void TestRundgang::theSummaryTellsWhatIsSeen()
     QVERIFY(dritter.contains(QStringLiteral("   %1 84,9 kg\n   %2 86,2 kg\n   %3 88,6 kg")
                                  .arg(tag(0), tag(6), tag(12))));
     QVERIFY(heim.meldungen.isEmpty());
+}
+
+void TestRundgang::theDaysOfTheClientAreTypedIn_data()
+{
+    QTest::addColumn<Lebensmittelverzeichnis>("tabelle");
+    QTest::addColumn<QStringList>("zeilen");
+    // A spoon of oats weighs 7 g and half a cup of milk 62.5 g, as the shipped measures have it.
+    QTest::newRow("foods that are known")
+        << verzeichnis({lebensmittel(QStringLiteral("Haferflocken")),
+                        lebensmittel(QStringLiteral("Milch, 1,5 % Fett (fettarme Milch, H-Milch)")),
+                        lebensmittel(QStringLiteral("Butter"))})
+        << QStringList{QStringLiteral("   5 EL (35 g) Haferflocken"),
+                       QStringLiteral("   ½ Tasse (62,5 g) Milch, 1,5 % Fett"),
+                       QStringLiteral("oder ? Orangen (Apfelsinen), roh")};
+    QTest::newRow("no food that is known")
+        << zaehltabelle(40)
+        << QStringList{QStringLiteral("( g) ? Haferflocken"), QStringLiteral("( g) ? Butter")};
+}
+
+/// Three days with an alternative and a note are kept for the client; what the table does not know
+/// stays as it was written.
+void TestRundgang::theDaysOfTheClientAreTypedIn()
+{
+    QFETCH(Lebensmittelverzeichnis, tabelle);
+    QFETCH(QStringList, zeilen);
+    Probeheim heim;
+    heim.schreibeTabelle(tabelle);
+    const Probefenster fenster(heim);
+    const QDir ordner(heim.pfad(QStringLiteral("tour")));
+    QVERIFY(Rundgang(fenster.oberflaeche(), ordner).gehen());
+    const QString bericht = lies(ordner.filePath(QStringLiteral("summary.txt")))
+                                .section(QStringLiteral("Typed in three days"), 1, 1);
+    for (const QString &zeile : zeilen) {
+        QVERIFY2(bericht.contains(zeile), qPrintable(zeile + u'\n' + bericht));
+    }
+    Kartei &kartei = fenster.oberflaeche().klienten.kartei;
+    const QString wer = kartei.liste().suche({}, true).constFirst().kennung;
+    const QList<Aufzeichnung> aufzeichnungen = kartei.akte(wer)->aufzeichnungen;
+    QCOMPARE(aufzeichnungen.size(), 1);
+    const Aufzeichnung &eine = aufzeichnungen.constFirst();
+    QCOMPARE(eine.tage.size(), 3);
+    const QList<Mahlzeitzeile> fruehstueck = eine.tage[0].mahlzeiten[0].zeilen;
+    QCOMPARE(fruehstueck.size(), 4);
+    QVERIFY(fruehstueck[3].oder && !fruehstueck[2].oder);
+    QCOMPARE(eine.tage[0].mahlzeiten[0].notiz, QStringLiteral("7:30"));
+    QCOMPARE(eine.tage[2].mahlzeiten[4].zeilen.size(), 1);
+    QVERIFY(!fenster.oberflaeche().tage.fenster().isVisible());
 }
 
 void TestRundgang::theClientIsNotLeftAtTheDesk()
