@@ -126,14 +126,20 @@ void Tageanschluss::bereitePlan()
 }
 
 /// Lines that stand for no food, as the one that the built-in table begins with, are none to eat.
+const Datenmodul *Tageanschluss::speise(const QString &schluessel) const
+{
+    const Datenmodul *eine =
+        lebensmittelVon(schluessel, m_hauptfenster.Dictionary, m_hauptfenster.KundenDictionary);
+    const bool leer = eine != nullptr && AppController::istLeer(*eine) &&
+                      m_hauptfenster.Dictionary.contains(schluessel);
+    return leer ? nullptr : eine;
+}
+
 Namenssuchergebnis Tageanschluss::suche(const QString &text) const
 {
     Namenssuchergebnis ergebnis = m_hauptfenster.sucheNamen(text);
-    ergebnis.treffer.removeIf([this](const Suchtreffer &treffer) {
-        const auto eingebautes = m_hauptfenster.Dictionary.constFind(treffer.schluessel);
-        return eingebautes != m_hauptfenster.Dictionary.constEnd() &&
-               AppController::istLeer(*eingebautes);
-    });
+    ergebnis.treffer.removeIf(
+        [this](const Suchtreffer &treffer) { return speise(treffer.schluessel) == nullptr; });
     return ergebnis;
 }
 
@@ -197,10 +203,7 @@ QList<Vorratsplan> Tageanschluss::abgelegtePlaene() const
 
 void Tageanschluss::zeigeMasse(QWidget *fenster, const QString &schluessel)
 {
-    const Datenmodul *speise =
-        lebensmittelVon(schluessel, m_hauptfenster.Dictionary, m_hauptfenster.KundenDictionary);
-    if (speise == nullptr ||
-        (AppController::istLeer(*speise) && m_hauptfenster.Dictionary.contains(schluessel))) {
+    if (speise(schluessel) == nullptr) {
         m_hauptfenster.hinweise->zeige(
             {.kennung = hinweisMasse,
              .text = localizedString(
@@ -219,8 +222,7 @@ Tagetueren Tageanschluss::fenstertueren()
         return suche(text);
     };
     tueren.lebensmittel = [this](const QString &schluessel) {
-        return lebensmittelVon(schluessel, m_hauptfenster.Dictionary,
-                               m_hauptfenster.KundenDictionary);
+        return speise(schluessel);
     };
     tueren.masse = [this](const QString &schluessel) {
         return m_masse->masseFuer(schluessel);

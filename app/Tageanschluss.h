@@ -60,6 +60,7 @@ private:
     void sageZustand();
     QString pfad(const char *datei) const;
     Tagetueren fenstertueren();
+    const Datenmodul *speise(const QString &schluessel) const;
     Namenssuchergebnis suche(const QString &text) const;
     QString schluesselVon(const QString &name);
     bool legeAufTisch(const QList<Planmenge> &posten);

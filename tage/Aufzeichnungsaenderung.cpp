@@ -62,39 +62,6 @@ bool ersetze(Aufzeichnung &aufzeichnung, const Stelle &stelle, const Mahlzeitzei
     return true;
 }
 
-bool nimmHeraus(Aufzeichnung &aufzeichnung, int tag, int mahlzeit, const QList<int> &zeilen)
-{
-    Mahlzeit *eine = mahlzeitVon(aufzeichnung, tag, mahlzeit);
-    if (eine == nullptr || zeilen.isEmpty() ||
-        !std::all_of(zeilen.begin(), zeilen.end(),
-                     [&](int zeile) { return gibt(eine->zeilen.size(), zeile); })) {
-        return false;
-    }
-    QList<Mahlzeitzeile> bleibende;
-    for (int i = 0; i < eine->zeilen.size(); ++i) {
-        if (!zeilen.contains(i)) {
-            bleibende << eine->zeilen[i];
-        }
-    }
-    eine->zeilen = bleibende;
-    berichtige(*eine);
-    return true;
-}
-
-bool verschiebe(Aufzeichnung &aufzeichnung, const Stelle &von, const Stelle &nach)
-{
-    const Mahlzeitzeile *zeile = zeileVon(aufzeichnung, von);
-    Mahlzeit *ziel = mahlzeitVon(aufzeichnung, nach.tag, nach.mahlzeit);
-    if (zeile == nullptr || ziel == nullptr || !gibt(ziel->zeilen.size() + 1, nach.zeile)) {
-        return false;
-    }
-    const Mahlzeitzeile verschobene = *zeile;
-    const bool imSelben = von.tag == nach.tag && von.mahlzeit == nach.mahlzeit;
-    const int weiter = imSelben && von.zeile < nach.zeile ? 1 : 0;
-    nimmHeraus(aufzeichnung, von.tag, von.mahlzeit, {von.zeile});
-    return fuegeEin(aufzeichnung, {nach.tag, nach.mahlzeit, nach.zeile - weiter}, {verschobene});
-}
-
 bool setzeOder(Aufzeichnung &aufzeichnung, const Stelle &stelle, bool oder)
 {
     Mahlzeitzeile *zeile = zeileVon(aufzeichnung, stelle);

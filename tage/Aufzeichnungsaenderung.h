@@ -21,11 +21,6 @@ struct Stelle
 bool fuegeEin(Aufzeichnung &aufzeichnung, const Stelle &stelle, const QList<Mahlzeitzeile> &zeilen);
 /// Puts this row in place of the one that stands there.
 bool ersetze(Aufzeichnung &aufzeichnung, const Stelle &stelle, const Mahlzeitzeile &zeile);
-/// Takes rows of a meal out, named by their places in any order.
-bool nimmHeraus(Aufzeichnung &aufzeichnung, int tag, int mahlzeit, const QList<int> &zeilen);
-/// Moves a row to another place, of the same day or another one. The place is counted before the
-/// row is taken out.
-bool verschiebe(Aufzeichnung &aufzeichnung, const Stelle &von, const Stelle &nach);
 /// Makes a row an alternative to the one before it, or one that counts by itself. The first row of
 /// a meal can't be an alternative.
 bool setzeOder(Aufzeichnung &aufzeichnung, const Stelle &stelle, bool oder);

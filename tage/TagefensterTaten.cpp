@@ -5,6 +5,7 @@
 #include "Aufzeichnungsaenderung.h"
 #include "Sperrgrund.h"
 #include "Zeichenkettentabelle.h"
+#include "Zeilenzug.h"
 
 #include <QCoreApplication>
 #include <QMenuBar>
@@ -178,16 +179,12 @@ void Tagefenster::loescheAufzeichnung()
 
 void Tagefenster::loescheZeilen()
 {
-    const QList<Tagesmodell::Platz> plaetze = ansicht->gewaehlteZeilen();
-    aendere(QT_TRANSLATE_NOOP("Mahlberg", "Zeilen herausnehmen"), [&](Aufzeichnung &eine) {
-        bool etwas = false;
-        // From below, so that the places of the others stay as they are.
-        for (auto platz = plaetze.rbegin(); platz != plaetze.rend(); ++platz) {
-            etwas |= Aufzeichnungsaenderung::nimmHeraus(eine, buch.tag(), platz->mahlzeit,
-                                                        {platz->zeile});
-        }
-        return etwas;
-    });
+    QList<Zeilenzug::Stelle> stellen;
+    for (const Tagesmodell::Platz &platz : ansicht->gewaehlteZeilen()) {
+        stellen << Zeilenzug::Stelle{buch.tag(), platz.mahlzeit, platz.zeile};
+    }
+    aendere(QT_TRANSLATE_NOOP("Mahlberg", "Zeilen herausnehmen"),
+            [&](Aufzeichnung &eine) { return Zeilenzug::nimmHeraus(eine, stellen); });
 }
 
 void Tagefenster::wechsleOder()

@@ -26,13 +26,7 @@ private Q_SLOTS:
     void rowsComeInWhereTheyAreWanted_data();
     void rowsComeInWhereTheyAreWanted();
     void theFirstRowIsNoAlternative();
-    void rowsGoOut_data();
-    void rowsGoOut();
-    void anAlternativeTakesThePlaceOfWhatIsGone();
     void aRowIsReplaced();
-    void rowsMove_data();
-    void rowsMove();
-    void aRowMovesToAnotherDay();
     void alternativesAreMadeAndUnmade();
     void aMealComesIntoEveryDay();
     void aMealGoesOutOfEveryDay();
@@ -81,62 +75,11 @@ void TestAufzeichnungsaenderung::theFirstRowIsNoAlternative()
     QCOMPARE(namen(m_eine, 1, 0), u"Z|Y"_s);
 }
 
-void TestAufzeichnungsaenderung::rowsGoOut_data()
-{
-    QTest::addColumn<QList<int>>("zeilen");
-    QTest::addColumn<QString>("danach");
-    QTest::newRow("the first") << QList<int>{0} << u"B|CD"_s;
-    QTest::newRow("the last") << QList<int>{3} << u"AB|C"_s;
-    QTest::newRow("several, in any order, named twice") << QList<int>{3, 1, 3} << u"A|C"_s;
-    QTest::newRow("all") << QList<int>{0, 1, 2, 3} << QString();
-}
-
-void TestAufzeichnungsaenderung::rowsGoOut()
-{
-    QFETCH(QList<int>, zeilen);
-    QVERIFY(nimmHeraus(m_eine, 0, 2, zeilen));
-    QTEST(namen(m_eine, 0, 2), "danach");
-}
-
-void TestAufzeichnungsaenderung::anAlternativeTakesThePlaceOfWhatIsGone()
-{
-    QVERIFY(nimmHeraus(m_eine, 0, 2, {0, 1}));
-    QCOMPARE(namen(m_eine, 0, 2), u"CD"_s);
-}
-
 void TestAufzeichnungsaenderung::aRowIsReplaced()
 {
     QVERIFY(ersetze(m_eine, {0, 2, 3}, zeile(u"X"_s, 7)));
     QCOMPARE(namen(m_eine, 0, 2), u"AB|CX"_s);
     QCOMPARE(m_eine.tage[0].mahlzeiten[2].zeilen[3].gramm, 7.0F);
-}
-
-void TestAufzeichnungsaenderung::rowsMove_data()
-{
-    QTest::addColumn<int>("von");
-    QTest::addColumn<int>("nach");
-    QTest::addColumn<QString>("danach");
-    QTest::newRow("down") << 0 << 2 << u"BA|CD"_s;
-    QTest::newRow("to the end") << 0 << 4 << u"B|CDA"_s;
-    QTest::newRow("up") << 3 << 0 << u"DAB|C"_s;
-    QTest::newRow("an alternative to the top stands by itself") << 2 << 0 << u"CABD"_s;
-    QTest::newRow("before itself") << 1 << 1 << u"AB|CD"_s;
-    QTest::newRow("behind itself") << 1 << 2 << u"AB|CD"_s;
-}
-
-void TestAufzeichnungsaenderung::rowsMove()
-{
-    QFETCH(int, von);
-    QFETCH(int, nach);
-    QVERIFY(verschiebe(m_eine, {0, 2, von}, {0, 2, nach}));
-    QTEST(namen(m_eine, 0, 2), "danach");
-}
-
-void TestAufzeichnungsaenderung::aRowMovesToAnotherDay()
-{
-    QVERIFY(verschiebe(m_eine, {0, 2, 0}, {1, 5, 0}));
-    QCOMPARE(namen(m_eine, 0, 2), u"B|CD"_s);
-    QCOMPARE(namen(m_eine, 1, 5), u"A"_s);
 }
 
 void TestAufzeichnungsaenderung::alternativesAreMadeAndUnmade()
@@ -263,26 +206,6 @@ void TestAufzeichnungsaenderung::whatIsNotThereChangesNothing_data()
         {"no such row is replaced",
          [=](auto &a) {
              return ersetze(a, {0, 2, 4}, zeileX);
-         }},
-        {"no rows go",
-         [](auto &a) {
-             return nimmHeraus(a, 0, 2, {});
-         }},
-        {"one of the rows is not there",
-         [](auto &a) {
-             return nimmHeraus(a, 0, 2, {0, 4});
-         }},
-        {"no such row moves",
-         [](auto &a) {
-             return verschiebe(a, {0, 2, 4}, {0, 2, 0});
-         }},
-        {"a row moves nowhere",
-         [](auto &a) {
-             return verschiebe(a, {0, 2, 0}, {0, 6, 0});
-         }},
-        {"a row moves behind the end",
-         [](auto &a) {
-             return verschiebe(a, {0, 2, 0}, {0, 2, 5});
          }},
         {"no such alternative",
          [](auto &a) {

@@ -44,6 +44,7 @@ private Q_SLOTS:
     void mealsComeGoAndMove();
     void theLastMealStays();
     void alternativesComeAndGo();
+    void whatIsTakenOutLeavesItsAlternative();
     void aFoodFromElsewhereGetsItsUsualAmount();
     void withoutARecordNothingComesFromElsewhere();
     void otherRecordsTakeTheirPlace();
@@ -383,6 +384,22 @@ void TestTagefenster::alternativesComeAndGo()
     m_probe->fenster->ansicht->geheZu({Art::Speise, 0, 0}, Tagesmodell::Name);
     wahl->trigger(); // there is nothing before it
     QCOMPARE(zeilen(), u"ApfelMilch"_s);
+}
+
+/// "Apple, milk or water" without the milk is apple and water.
+void TestTagefenster::whatIsTakenOutLeavesItsAlternative()
+{
+    m_probe->neu();
+    for (const QString &name : {u"Apfel"_s, u"Milch"_s, u"Wasser"_s}) {
+        Fensterprobe::gibEin(name, u"10"_s);
+    }
+    Fensterprobe::taste(Qt::Key_Escape);
+    m_probe->fenster->ansicht->geheZu({Art::Speise, 0, 2}, Tagesmodell::Name);
+    eintrag(u"Als Wahl zur Zeile davor („oder“)"_s)->trigger();
+    QCOMPARE(zeilen(), u"ApfelMilch|Wasser"_s);
+    m_probe->fenster->ansicht->geheZu({Art::Speise, 0, 1}, Tagesmodell::Name);
+    Fensterprobe::taste(Qt::Key_Delete);
+    QCOMPARE(zeilen(), u"ApfelWasser"_s);
 }
 
 void TestTagefenster::aFoodFromElsewhereGetsItsUsualAmount()
