@@ -21,13 +21,12 @@ constexpr int lesezeit = 8000;
 
 void AppController::verbindeZugabe()
 {
-    connect(Tabelle, &Tabellenansicht::doppeltGeklickt, this,
-            [this](const QModelIndex &zelle) {
-                const QString schluessel = schluesselVon(zelle);
-                if (!hindernis(schluessel).isEmpty() || !zugabeziel || !zugabeziel(schluessel)) {
-                    gibHinein(schluessel);
-                }
-            });
+    connect(Tabelle, &Tabellenansicht::doppeltGeklickt, this, [this](const QModelIndex &zelle) {
+        const QString schluessel = schluesselVon(zelle);
+        if (!hindernis(schluessel).isEmpty() || !zugabeziel || !zugabeziel(schluessel)) {
+            gibHinein(schluessel);
+        }
+    });
     connect(Tabelle, &Tabellenansicht::menueGewuenscht, this, &AppController::zeigeTabellenmenue);
 }
 

@@ -13,8 +13,8 @@ struct Mengenvorschlag
 
 /// What a beginning of an amount may mean, the nearest first: as it was typed, where that is
 /// understood, and then the count with each measure of the food that begins so. Nothing typed asks
-/// for one of each measure. More than 2 kg of a measure is no suggestion: 150 is meant in grams, and
-/// not in slices.
+/// for one of each measure. More than 2 kg of a measure is no suggestion: 150 is meant in grams,
+/// and not in slices.
 QList<Mengenvorschlag> mengenvorschlaege(const QString &text, const QList<Mass> &masse,
                                          Regelsprache sprache);
 

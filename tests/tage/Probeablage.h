@@ -41,7 +41,7 @@ public:
 
     QList<Aufzeichnung> aufzeichnungen;
     QList<Aufzeichnung> gesichert; ///< in the order in which they came
-    QString anderswo; ///< the title that another desk has given the record meanwhile
+    QString anderswo;              ///< the title that another desk has given the record meanwhile
     bool laesstSchreiben = true;
     bool laesstLoeschen = true;
 };

@@ -179,8 +179,9 @@ void TestTagesmodell::theColumnsAreNamed()
     for (int spalte = 0; spalte < m_modell.columnCount(); ++spalte) {
         koepfe << m_modell.headerData(spalte, Qt::Horizontal, Qt::DisplayRole).toString();
     }
-    QCOMPARE(koepfe, QStringList({u"Lebensmittel"_s, u"Menge"_s, u"g"_s, u"kcal"_s, u"Protein (g)"_s,
-                                  u"Fett (g)"_s, u"KH (g)"_s, u"Ü"_s, u"D"_s, u"G"_s, u"H"_s}));
+    QCOMPARE(koepfe,
+             QStringList({u"Lebensmittel"_s, u"Menge"_s, u"g"_s, u"kcal"_s, u"Protein (g)"_s,
+                          u"Fett (g)"_s, u"KH (g)"_s, u"Ü"_s, u"D"_s, u"G"_s, u"H"_s}));
     QCOMPARE(m_modell.headerData(7, Qt::Horizontal, Qt::ToolTipRole).toString(), u"Übergewicht"_s);
     QCOMPARE(m_modell.headerData(6, Qt::Horizontal, Qt::AccessibleTextRole).toString(),
              u"Kohlenhydrate (g)"_s);
