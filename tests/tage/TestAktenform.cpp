@@ -253,23 +253,26 @@ void TestAktenform::anEmptyRecordHasNoFigures()
 void TestAktenform::nothingIsCutOffOnAnyPaper_data()
 {
     QTest::addColumn<QPageLayout>("papier");
+    QTest::addColumn<int>("tage");
     const auto neue = [](const char *name, QPageSize::PageSizeId groesse,
-                         QPageLayout::Orientation lage, const QMarginsF &raender = {}) {
-        QTest::newRow(name) << Druckprobe::papier(groesse, lage, raender);
+                         QPageLayout::Orientation lage, const QMarginsF &raender = {},
+                         int tage = 4) {
+        QTest::newRow(name) << Druckprobe::papier(groesse, lage, raender) << tage;
     };
-    neue("A4 upright", QPageSize::A4, QPageLayout::Portrait);
+    neue("A4 upright, two weeks", QPageSize::A4, QPageLayout::Portrait, {}, 14);
     neue("A4 across", QPageSize::A4, QPageLayout::Landscape);
     neue("Letter upright", QPageSize::Letter, QPageLayout::Portrait);
     neue("Letter across", QPageSize::Letter, QPageLayout::Landscape);
     neue("wide margins", QPageSize::A4, QPageLayout::Portrait, {90, 100, 110, 120});
 }
 
-/// Two weeks of sixteen meals with long names: no word stands beyond the margins or on another.
+/// Days of sixteen meals with long names: no word stands beyond the margins or on another.
 void TestAktenform::nothingIsCutOffOnAnyPaper()
 {
     QFETCH(const QPageLayout, papier);
+    QFETCH(const int, tage);
     m_angaben.klient = probeworte(20).replace(u"wort"_s, u"k"_s);
-    Aufzeichnung eine = neueAufzeichnung(Aufzeichnungsart::Protokoll, QDate(2026, 11, 23), 14);
+    Aufzeichnung eine = neueAufzeichnung(Aufzeichnungsart::Protokoll, QDate(2026, 11, 23), tage);
     eine.titel = probeworte(30).replace(u"wort"_s, u"t"_s);
     eine.mahlzeiten.clear();
     for (int i = 0; i < meisteMahlzeiten; ++i) {
@@ -296,7 +299,7 @@ void TestAktenform::nothingIsCutOffOnAnyPaper()
     }
     // A row for each meal of each day, and one in each of the two tables of sums of it and the
     // mean.
-    QCOMPARE(alles.count(u"Mahlzeit15 "_s), 14 + 2 * 15);
+    QCOMPARE(alles.count(u"Mahlzeit15 "_s), tage + 2 * (tage + 1));
     QCOMPARE(alles.count(u'X'), 80);
     for (const auto &[art, anzahl] : {std::pair(u'k', 20), {u't', 30}, {u'f', 60}, {u'n', 200}}) {
         for (int i = 1; i <= anzahl; ++i) {

@@ -369,11 +369,13 @@ void TestHandzettel::nothingIsCutOffOnAnyPaper_data()
 {
     QTest::addColumn<QPageLayout>("papier");
     QTest::addColumn<bool>("gross");
+    QTest::addColumn<int>("tage");
     const auto neue = [](const char *name, bool gross, QPageSize::PageSizeId groesse,
-                         QPageLayout::Orientation lage, const QMarginsF &raender = {}) {
-        QTest::newRow(name) << Druckprobe::papier(groesse, lage, raender) << gross;
+                         QPageLayout::Orientation lage, const QMarginsF &raender = {},
+                         int tage = 4) {
+        QTest::newRow(name) << Druckprobe::papier(groesse, lage, raender) << gross << tage;
     };
-    neue("A4 upright", false, QPageSize::A4, QPageLayout::Portrait);
+    neue("A4 upright, two weeks", false, QPageSize::A4, QPageLayout::Portrait, {}, 14);
     neue("A4 across", false, QPageSize::A4, QPageLayout::Landscape);
     neue("Letter upright", false, QPageSize::Letter, QPageLayout::Portrait);
     neue("Letter across", false, QPageSize::Letter, QPageLayout::Landscape);
@@ -383,16 +385,17 @@ void TestHandzettel::nothingIsCutOffOnAnyPaper_data()
     neue("A5 in large print", true, QPageSize::A5, QPageLayout::Portrait);
 }
 
-/// Two weeks of sixteen meals with long names: all words are there, none beyond the margins and
+/// Days of sixteen meals with long names: all words are there, none beyond the margins and
 /// none on another.
 void TestHandzettel::nothingIsCutOffOnAnyPaper()
 {
     QFETCH(const QPageLayout, papier);
     QFETCH(const bool, gross);
+    QFETCH(const int, tage);
     m_angaben.klient = probeworte(20).replace(u"wort"_s, u"k"_s);
     m_angaben.briefkopf.name = probeworte(20).replace(u"wort"_s, u"b"_s);
     m_angaben.briefkopf.anschrift = probeworte(12).replace(u"wort"_s, u"a"_s).split(u' ');
-    Aufzeichnung eine = neueAufzeichnung(Aufzeichnungsart::Protokoll, QDate(2026, 11, 23), 14);
+    Aufzeichnung eine = neueAufzeichnung(Aufzeichnungsart::Protokoll, QDate(2026, 11, 23), tage);
     eine.titel = probeworte(30).replace(u"wort"_s, u"t"_s);
     eine.mahlzeiten.clear();
     for (int i = 0; i < meisteMahlzeiten; ++i) {
@@ -418,14 +421,14 @@ void TestHandzettel::nothingIsCutOffOnAnyPaper()
     for (const Druckwort &wort : std::as_const(m_worte)) {
         text += wort.text + u' ';
     }
-    QCOMPARE(text.count(u"Butter"_s), 14 * 16 - 2);
-    QCOMPARE(text.count(u"Mahlzeit15"_s), 14);
+    QCOMPARE(text.count(u"Butter"_s), tage * 16 - 2);
+    QCOMPARE(text.count(u"Mahlzeit15"_s), tage);
     QCOMPARE(text.count(u'X'), 60);
     for (const auto &[art, anzahl, mal] : {std::tuple(u'k', 20, 1),
                                            {u'b', 20, 1},
                                            {u'a', 12, 1},
                                            {u't', 30, 1},
-                                           {u'n', 60, 14},
+                                           {u'n', 60, tage},
                                            {u'f', 300, 1}}) {
         for (int i = 1; i <= anzahl; ++i) {
             const QString eines = art + QStringLiteral("%1").arg(i, 4, 10, QLatin1Char('0'));
