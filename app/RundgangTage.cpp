@@ -7,6 +7,8 @@
 #include "Tagesauswertungsfenster.h"
 #include "Zeichenkettentabelle.h"
 
+#include <QCoreApplication>
+
 namespace {
 
 using Art = Tagesmodell::Art;
@@ -15,7 +17,7 @@ using Art = Tagesmodell::Art;
 struct Tourzeile
 {
     int tag;
-    int mahlzeit; ///< counted as in a new record: breakfast, snack, lunch, snack, supper
+    int mahlzeit; ///< counted as in a new record: from breakfast (0) to supper (4)
     const char *speise;
     const char *angabe;
     bool oder = false; ///< eaten in place of the row before it, on other days
@@ -47,12 +49,14 @@ constexpr Tourzeile aufgeschriebenes[] = {
     {2, 4, vollkornbrot, "3 Scheiben"},
 };
 
-/// Types into a cell, and leaves it.
+/// Types into a cell, and leaves it. What was offered below it goes as soon as nothing else is
+/// done.
 void tippe(Tagesansicht &ansicht, const Tagesmodell::Platz &platz, int spalte, const QString &text)
 {
     ansicht.geheZu(platz, spalte);
     ansicht.beginne(text);
     ansicht.beende();
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
 }
 
 } // namespace

@@ -72,6 +72,7 @@ Fuellfenster::Fuellfenster(const Aufzeichnung &aufzeichnung, int von, QWidget *p
     aufbau->addWidget(m_worte);
     aufbau->addWidget(knoepfe);
     resize(fenstergroesse);
+    setTabOrder(m_fuellen, knoepfe->button(QDialogButtonBox::Cancel));
     connect(m_tage, &QListWidget::itemChanged, this, &Fuellfenster::folge);
     connect(knoepfe, &QDialogButtonBox::accepted, this, &QDialog::accept);
     connect(knoepfe, &QDialogButtonBox::rejected, this, &QDialog::reject);

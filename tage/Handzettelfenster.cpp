@@ -31,7 +31,10 @@ QGroupBox *wahl(const QString &titel, QButtonGroup &gruppe, const QStringList &t
         gruppe.addButton(knopf, i);
         aufbau->addWidget(knopf);
     }
-    gruppe.button(gewaehlt)->setChecked(true); // among its like, so that Tab stops at it
+    gruppe.button(gewaehlt)->setChecked(true);
+    for (QAbstractButton *knopf : gruppe.buttons()) { // Tab stops at the one that is chosen
+        knopf->setFocusPolicy(knopf->isChecked() ? Qt::StrongFocus : Qt::ClickFocus);
+    }
     return kasten;
 }
 
@@ -96,7 +99,7 @@ Handzettelfenster::Handzettelfenster(const Lage &lage, QWidget *parent)
                            "Einstellungen neu."))));
     }
     aufbau->addStretch();
-    auto *knoepfe = new QDialogButtonBox(QDialogButtonBox::Cancel);
+    auto *knoepfe = new QDialogButtonBox;
     aufbau->addWidget(knoepfe); // a button is the default of the window in which it stands
     for (const auto &[text, weg] :
          {std::pair(localizedString(QStringLiteral("&Drucken …")), Weg::Drucken),
@@ -107,6 +110,9 @@ Handzettelfenster::Handzettelfenster(const Lage &lage, QWidget *parent)
         knopf->setDefault(weg == lage.weg);
         connect(knopf, &QPushButton::clicked, this, [this, weg = weg] { schliesseAb(weg); });
     }
+    auto *alsPdf = findChild<QPushButton *>(QStringLiteral("alspdf"));
+    setTabOrder(findChild<QPushButton *>(QStringLiteral("drucken")), alsPdf);
+    setTabOrder(alsPdf, knoepfe->addButton(QDialogButtonBox::Cancel));
     connect(knoepfe, &QDialogButtonBox::rejected, this, &QDialog::reject);
 }
 

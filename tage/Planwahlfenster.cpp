@@ -59,6 +59,7 @@ Planwahlfenster::Planwahlfenster(const QList<Vorratsplan> &plaene, QWidget *pare
     aufbau->addWidget(m_posten, 2);
     aufbau->addWidget(knoepfe);
     resize(fenstergroesse);
+    setTabOrder(nehmen, knoepfe->button(QDialogButtonBox::Cancel));
     connect(m_liste, &QListWidget::currentRowChanged, this, &Planwahlfenster::zeigePlan);
     connect(m_liste, &QListWidget::itemDoubleClicked, this, &QDialog::accept);
     connect(knoepfe, &QDialogButtonBox::accepted, this, &QDialog::accept);

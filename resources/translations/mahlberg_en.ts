@@ -968,7 +968,7 @@ Nothing is worked out for children under 10 years; it resumes at 11 years.</tr
  </message>
  <message>
   <source>&amp;Für alle so</source>
-  <translation>&amp;The same for all</translation>
+  <translation>The same &amp;for all</translation>
  </message>
  <message>
   <source>&amp;Gewicht der Portion:</source>
@@ -3582,7 +3582,7 @@ New: %1</translation>
  </message>
  <message>
   <source>&amp;Klienten</source>
-  <translation>&amp;Clients</translation>
+  <translation>C&amp;lients</translation>
  </message>
  <message>
   <source>&amp;Löschen</source>
@@ -4566,7 +4566,7 @@ New: %1</translation>
  </message>
  <message>
   <source>&amp;Logo wählen …</source>
-  <translation>Choose &amp;logo …</translation>
+  <translation>Choose lo&amp;go …</translation>
  </message>
  <message>
   <source>&amp;Entfernen</source>
@@ -4866,7 +4866,7 @@ New: %1</translation>
  </message>
  <message>
   <source>Ta&amp;ge und Mahlzeiten</source>
-  <translation>Days and &amp;meals</translation>
+  <translation>&amp;Days and meals</translation>
  </message>
  <message>
   <source>Tage und Mahlzeiten</source>
@@ -5110,7 +5110,7 @@ New: %1</translation>
  </message>
  <message>
   <source>Haushalts&amp;maße …</source>
-  <translation>Household &amp;measures …</translation>
+  <translation>&amp;Household measures …</translation>
  </message>
  <message>
   <source>kcal</source>

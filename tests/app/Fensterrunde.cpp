@@ -1,6 +1,9 @@
 #include "Fensterrunde.h"
 
 #include "Archivdatei.h"
+#include "Fuellfenster.h"
+#include "Planwahlfenster.h"
+#include "Tagesauswertungsfenster.h"
 #include "Ueber.h"
 
 #include <QApplication>
@@ -121,6 +124,53 @@ void Fensterrunde::gehe(const Besuch &besuch)
         frage->close();
     });
     zeigeMeldung(&plan, m_heim.meldungen.takeLast());
+    geheDurchDieTage(besuch);
+}
+
+/// A window that asks, as long as it is not answered.
+static void frage(QDialog *fenster)
+{
+    fenster->setAttribute(Qt::WA_DeleteOnClose);
+    fenster->open();
+}
+
+/// Before there is a record, and with one of two rows, of which one was not understood.
+void Fensterrunde::geheDurchDieTage(const Besuch &besuch)
+{
+    Tageanschluss &anschluss = m_fenster->oberflaeche().tage;
+    Tagefenster &tage = anschluss.fenster();
+    oeffne(
+        "Tagefenster", QStringLiteral("days, none"), [&] { tage.zeige(); }, besuch);
+    tage.neuesProtokoll();
+    tage.gibHinein(QStringLiteral("Eigenes"));
+    tage.gibHinein(zaehlname(1));
+    tage.buch.aendere(QStringLiteral("Menge"), [](Aufzeichnung &eine) {
+        Mahlzeitzeile &zeile = eine.tage[0].mahlzeiten[0].zeilen[1];
+        zeile.angabe = QStringLiteral("3 Fuder");
+        zeile.gramm.reset();
+        return true;
+    });
+    oeffne(
+        "Tagefenster", QStringLiteral("days"), [&] { tage.zeige(); }, besuch);
+    oeffne(
+        "Tagesauswertungsfenster", QStringLiteral("days, evaluation"),
+        [&] { tage.zeigeAuswertungsfenster(); }, besuch);
+    oeffne(
+        "Handzettelfenster", QStringLiteral("days, handout"), [&] { tage.handzettelDrucken(); },
+        besuch);
+    oeffne(
+        "Massfenster", QStringLiteral("measures"),
+        [&] { anschluss.zeigeMasse(&tage, QStringLiteral("Eigenes")); }, besuch);
+    oeffne(
+        "Fuellfenster", QStringLiteral("days, filling"),
+        [&] { frage(new Fuellfenster(*tage.buch.jetzige(), 0, &tage)); }, besuch);
+    oeffne(
+        "Planwahlfenster", QStringLiteral("days, kept plans"),
+        [&] {
+            frage(new Planwahlfenster(
+                {{QStringLiteral("Mai"), QDate(2026, 5, 4), {{zaehlname(2), 80, {}}}}}, &tage));
+        },
+        besuch);
 }
 
 bool istVonQt(const QWidget &widget)

@@ -132,12 +132,13 @@ void TestRundgang::theDaysOfTheClientAreTypedIn_data()
     QTest::addColumn<QStringList>("zeilen");
     // A spoon of oats weighs 7 g and half a cup of milk 62.5 g, as the shipped measures have it.
     QTest::newRow("foods that are known")
-        << verzeichnis({lebensmittel(QStringLiteral("Haferflocken")),
-                        lebensmittel(QStringLiteral("Milch, 1,5 % Fett (fettarme Milch, H-Milch)")),
-                        lebensmittel(QStringLiteral("Butter"))})
+        << verzeichnis({lebensmittel(QStringLiteral("Haferflocken"), {{kal, 100}}),
+                        lebensmittel(QStringLiteral("Milch, 1,5 % Fett (fettarme Milch, H-Milch)"),
+                                     {{kal, 100}}),
+                        lebensmittel(QStringLiteral("Butter"), {{kal, 100}})})
         << QStringList{QStringLiteral("   5 EL (35 g) Haferflocken"),
                        QStringLiteral("   ½ Tasse (62,5 g) Milch, 1,5 % Fett"),
-                       QStringLiteral("oder ? Orangen (Apfelsinen), roh")};
+                       QStringLiteral("? oder Orangen (Apfelsinen), roh")};
     QTest::newRow("no food that is known")
         << zaehltabelle(40)
         << QStringList{QStringLiteral("( g) ? Haferflocken"), QStringLiteral("( g) ? Butter")};

@@ -53,8 +53,13 @@ QWidgetList gegangene(QWidget *anfang)
     QWidgetList weg;
     while (QApplication::focusWidget() != nullptr && !weg.contains(QApplication::focusWidget()) &&
            weg.size() < 300) {
-        weg << QApplication::focusWidget();
-        QTest::keyClick(QApplication::focusWidget(), Qt::Key_Tab);
+        QWidget *hier = QApplication::focusWidget();
+        weg << hier;
+        // A date is a stop for each of its parts.
+        constexpr int teileEinesDatums = 3;
+        for (int teil = 0; teil < teileEinesDatums && QApplication::focusWidget() == hier; ++teil) {
+            QTest::keyClick(hier, Qt::Key_Tab);
+        }
     }
     return weg;
 }
