@@ -61,7 +61,7 @@ QString behalteneAngabe(const QString &text, const QList<Mass> &masse, Regelspra
     if (!ergebnis.angabe) {
         return text;
     }
-    const QString schoene = mengentext(*ergebnis.angabe, sprache);
+    QString schoene = mengentext(*ergebnis.angabe, sprache);
     if (leseMenge(schoene, masse).angabe == ergebnis.angabe) {
         return schoene;
     }
