@@ -120,8 +120,13 @@ QAction *Tageanschluss::eintrag(QObject *menue)
 
 void Tageanschluss::bereitePlan()
 {
+    // Beside the clients, above the line that parts the end from all else.
     const Planmodul &plan = *m_hauptfenster.planmodul;
-    plan.menueAblage->insertAction(plan.aktionSchliessen, eintrag(plan.menueAblage));
+    const QList<QAction *> eintraege = plan.menueAblage->actions();
+    QAction *ende = plan.aktionSchliessen;
+    QAction *linie = eintraege.value(eintraege.indexOf(ende) - 1);
+    plan.menueAblage->insertAction(linie != nullptr && linie->isSeparator() ? linie : ende,
+                                   eintrag(plan.menueAblage));
     m_hauptfenster.planmodul->window()->installEventFilter(this);
 }
 

@@ -4354,7 +4354,7 @@ New: %1</translation>
  </message>
  <message>
   <source>Haushalts&amp;maße des Lebensmittels …</source>
-  <translation>&amp;Household measures of the food…</translation>
+  <translation>&amp;Household measures of the food …</translation>
  </message>
  <message>
   <source>Die Datei der eigenen Haushaltsmaße lässt sich nicht lesen oder ist von einer neueren Version. Sie bleibt, wie sie ist, und eigene Maße können nicht geändert werden.</source>
@@ -4638,7 +4638,7 @@ New: %1</translation>
  </message>
  <message>
   <source>In &amp;gewählte Tage füllen …</source>
-  <translation>Fill into &amp;chosen days…</translation>
+  <translation>Fill into &amp;chosen days …</translation>
  </message>
  <message>
   <source>Tag &amp;kopieren</source>
@@ -4658,7 +4658,7 @@ New: %1</translation>
  </message>
  <message>
   <source>&amp;Abgelegten Plan übernehmen …</source>
-  <translation>Take &amp;over a kept plan…</translation>
+  <translation>Take &amp;over a kept plan …</translation>
  </message>
  <message>
   <source>In der Zwischenablage steht nichts, was hierher passt.</source>

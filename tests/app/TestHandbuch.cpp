@@ -125,7 +125,7 @@ void TestHandbuch::klickeAuf(const QString &worte) const
 
 void TestHandbuch::theContentsLeadToEachPage()
 {
-    QCOMPARE(inhalt().count(), 15);
+    QCOMPARE(inhalt().count(), 16);
     QCOMPARE(inhalt().currentRow(), 0);
     QCOMPARE(inhalt().item(5)->text(), u"Mahlzeitenplan"_s);
     QTest::mouseClick(inhalt().viewport(), Qt::LeftButton, {},
