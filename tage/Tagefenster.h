@@ -113,6 +113,7 @@ public:
     void schneideAus();
     void kopiere();
     void fuegeEin();
+    void schneideTagAus();
     void kopiereTag();
     void fuegeTagEin();
     void zeilenHinauf() { rueckeZeilen(false); }

@@ -68,6 +68,8 @@ void Tagefenster::baueUmzug(QMenu &bearbeiten, QMenu &tag)
     fuege(tag, QT_TRANSLATE_NOOP("Mahlberg", "In &gewählte Tage füllen …"), {},
           &Tagefenster::fuelleGewaehlteTage);
     tag.addSeparator();
+    fuege(tag, QT_TRANSLATE_NOOP("Mahlberg", "Tag aus&schneiden"), {},
+          &Tagefenster::schneideTagAus);
     fuege(tag, QT_TRANSLATE_NOOP("Mahlberg", "Tag &kopieren"), {}, &Tagefenster::kopiereTag);
     fuege(tag, QT_TRANSLATE_NOOP("Mahlberg", "Tag &einfügen"), {}, &Tagefenster::fuegeTagEin);
     tag.addSeparator();

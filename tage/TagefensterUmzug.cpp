@@ -277,6 +277,15 @@ void Tagefenster::kopiereTag()
     }
 }
 
+/// The day stays, with nothing on it.
+void Tagefenster::schneideTagAus()
+{
+    if (darfUmziehen()) {
+        kopiereTag();
+        leereTag();
+    }
+}
+
 void Tagefenster::fuegeTagEin()
 {
     if (!darfUmziehen()) {

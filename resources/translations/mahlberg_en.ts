@@ -5152,6 +5152,10 @@ New: %1</translation>
   <source>Wählen Sie zuerst eine Mahlzeit in einer Aufzeichnung, die sich ändern lässt.</source>
   <translation>First choose a meal in a record that can be changed.</translation>
  </message>
+ <message>
+  <source>Tag aus&amp;schneiden</source>
+  <translation>Cu&amp;t day</translation>
+ </message>
 </context>
 <context>
  <name>PlanmodulGestalt</name>

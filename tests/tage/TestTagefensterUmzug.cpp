@@ -42,6 +42,7 @@ private Q_SLOTS:
     void textBecomesRows();
     void damageIsToldAndNothingChanges_data();
     void damageIsToldAndNothingChanges();
+    void aDayIsCutAndPasted();
     void aDayIsCopiedOntoAnother();
     void rowsAreNoDay();
     void theWayBackGoesWithTheNextChange();
@@ -374,6 +375,21 @@ void TestTagefensterUmzug::damageIsToldAndNothingChanges()
     QVERIFY(hinweisknopf() == nullptr);
     eintrag(u"Tag einfügen"_s)->trigger();
     QVERIFY(m_probe->jetzige() == vorher);
+}
+
+void TestTagefensterUmzug::aDayIsCutAndPasted()
+{
+    eintrag(u"Tag ausschneiden"_s)->trigger();
+    QCOMPARE(mahlzeit(0), QString());
+    QCOMPARE(m_probe->hinweise().first(), u"Tag 1 ist leer."_s);
+    einSchritt(0);
+    buch().waehleTag(1);
+    eintrag(u"Tag einfügen"_s)->trigger();
+    QCOMPARE(mahlzeit(0, 1), u"ApfelToast|Milch"_s);
+    QCOMPARE(m_probe->jetzige().tage[1].mahlzeiten[2].notiz, u"im Büro"_s);
+    buch().schritte.undo();
+    buch().schritte.undo();
+    QCOMPARE(mahlzeit(0), u"ApfelToast|Milch"_s);
 }
 
 void TestTagefensterUmzug::aDayIsCopiedOntoAnother()
