@@ -62,6 +62,7 @@ void TestMengenvorschlag::whatFitsABeginningIsOffered_data()
     zeile("a fraction", u"1/2"_s, {u"½ Scheibe (25 g)"_s, u"½ Schachtel (250 g)"_s});
     zeile("a word", u"zwei Scheiben"_s, {u"2 Scheiben (100 g)"_s});
     zeile("a measure without a count is one of it", u"Scha"_s, {u"1 Schachtel (500 g)"_s});
+    zeile("the middle of a name", u"2 heibe"_s, {});
     zeile("what fits nothing", u"2 Fuder"_s, {});
     zeile("nothing of it", u"0"_s, {});
     zeile("less than nothing", u"-1"_s, {});
