@@ -30,6 +30,7 @@ private Q_SLOTS:
     void whatIsNotKeptYetIsKeptBeforeAnythingElse();
     void whatAnotherDeskWroteIsShown();
     void aChangeIsTakenBackAndRepeated();
+    void lettersOfAFieldAreOneStep();
     void whatChangesNothingIsNoStep();
     void anotherRecordHasStepsOfItsOwn();
     void aNewRecordIsWorkedAt();
@@ -162,6 +163,29 @@ void TestTagebuch::aChangeIsTakenBackAndRepeated()
     m_buch->schritte.redo();
     m_buch->schritte.redo();
     QCOMPARE(heute(), u"BA"_s);
+}
+
+void TestTagebuch::lettersOfAFieldAreOneStep()
+{
+    const auto tippe = [this](const QString &titel, const QString &feld) {
+        m_buch->aendere(
+            u"Titel"_s,
+            [&](Aufzeichnung &eine) {
+                eine.titel = titel;
+                return true;
+            },
+            feld);
+    };
+    tippe(u"a"_s, u"titel"_s);
+    tippe(u"ab"_s, u"titel"_s);
+    tippe(u"x"_s, u"anderes"_s);
+    tippe(u"y"_s, {});
+    tippe(u"z"_s, {});
+    QCOMPARE(m_buch->schritte.count(), 4);
+    m_buch->schritte.setIndex(0);
+    QCOMPARE(m_buch->jetzige()->titel, QString());
+    m_buch->schritte.redo();
+    QCOMPARE(m_buch->jetzige()->titel, u"ab"_s);
 }
 
 void TestTagebuch::whatChangesNothingIsNoStep()
