@@ -1,4 +1,5 @@
 #include "Ampel.h"
+#include "Plananzeige.h"
 #include "Planbeispiele.h"
 #include "Planprobe.h"
 
@@ -48,44 +49,7 @@ private:
 
 namespace {
 
-struct Anzeige
-{
-    Textfeld *prozent;
-    WertungView *balken;
-};
-
-std::array<Anzeige, anzahlNaehrwerte> anzeigen(const Planmodul &p)
-{
-    return {{{p.gesamtkal, p.gesamtkalview},
-             {p.gesamtprotein, p.gesamtproteinview},
-             {p.gesamtfett, p.gesamtfettview},
-             {p.gesamtkohlenhydrate, p.gesamtkohlenhydrateview},
-             {p.gesamtballaststoffe, p.gesamtballaststoffeview},
-             {p.gesamtcholesterin, p.gesamtcholesterinview},
-             {p.gesamtnatrium, p.gesamtnatriumview},
-             {p.gesamtkalium, p.gesamtkaliumview},
-             {p.gesamtcalcium, p.gesamtcalciumview},
-             {p.gesamtphosphor, p.gesamtphosphorview},
-             {p.gesamtmagnesium, p.gesamtmagnesiumview},
-             {p.gesamteisen, p.gesamteisenview},
-             {p.gesamtvitamina, p.gesamtvitaminaview},
-             {p.gesamtvitaminb1, p.gesamtvitaminb1view},
-             {p.gesamtvitaminb2, p.gesamtvitaminb2view},
-             {p.gesamtvitaminb6, p.gesamtvitaminb6view},
-             {p.gesamtvitaminc, p.gesamtvitamincview}}};
-}
-
-using Zaehlung = std::array<Zaehlfeld *, 3>;
-
-std::array<Zaehlung, anzahlWertungen> zaehlungen(const Planmodul &p)
-{
-    return {{{p.uebergewichtpos, p.uebergewichtneutral, p.uebergewichtneg},
-             {p.diabetespos, p.diabetesneutral, p.diabetesneg},
-             {p.gichtpos, p.gichtneutral, p.gichtneg},
-             {p.hkkpos, p.hkkneutral, p.hkkneg}}};
-}
-
-QString inWorten(const Anzeige &anzeige)
+QString inWorten(const Plananzeige &anzeige)
 {
     return QString::number(anzeige.prozent->doubleValue(), 'g', 9) +
            u":%1/%2"_s.arg(anzeige.balken->a()).arg(anzeige.balken->value());
@@ -101,7 +65,7 @@ QString wieGezeigt(const QString &erwartet)
     return erwartet.section(u'/', 0, 0) + u"/%1"_s.arg(laenge);
 }
 
-QString ziffern(const Zaehlung &zaehlung)
+QString ziffern(const Planzaehlung &zaehlung)
 {
     QString text;
     for (const Zaehlfeld *feld : zaehlung) {
@@ -111,7 +75,7 @@ QString ziffern(const Zaehlung &zaehlung)
 }
 
 /// The looks of three counts, such as "gruen11 schwarz9 schwarz9"; "neu" is a field never styled.
-QString aussehen(const Zaehlung &zaehlung)
+QString aussehen(const Planzaehlung &zaehlung)
 {
     const QMap<Textfarbe, QString> namen = {{Textfarbe::Schwarz, u"schwarz"_s},
                                             {Textfarbe::Gruen, u"gruen"_s},
@@ -169,14 +133,14 @@ void TestPlanmodulAuswertung::plans()
         }
     }
 
-    const auto gezeigt = anzeigen(this->plan());
+    const auto gezeigt = plananzeigen(this->plan());
     for (const auto &zeile : naehrwerte) {
         const QString soll = wieGezeigt(Planbeispiele::erwartet(prozente, zeile.kennung));
         QCOMPARE(QLatin1String(zeile.kennung) + inWorten(gezeigt[stelle(zeile.wert)]),
                  QLatin1String(zeile.kennung) + soll);
     }
     QStringList gelesen;
-    for (const Zaehlung &zaehlung : zaehlungen(this->plan())) {
+    for (const Planzaehlung &zaehlung : planzaehlungen(this->plan())) {
         gelesen << ziffern(zaehlung);
     }
     QCOMPARE(gelesen.join(u' '), gezaehlt.remove(u'!'));
@@ -190,11 +154,11 @@ void TestPlanmodulAuswertung::anEmptyPlanShowsNothingAndCries()
 {
     Planmodul::klient = {.bedarf = 2000, .unbereinigt = 2200, .gewicht = 80, .groesse = 1.8F};
     oeffne();
-    for (const Anzeige &anzeige : anzeigen(plan())) {
+    for (const Plananzeige &anzeige : plananzeigen(plan())) {
         QCOMPARE(inWorten(anzeige), u"0:0/0"_s);
         QCOMPARE(Planfenster::text(*anzeige.prozent), u"0,0 %"_s);
     }
-    for (const Zaehlung &zaehlung : zaehlungen(plan())) {
+    for (const Planzaehlung &zaehlung : planzaehlungen(plan())) {
         QCOMPARE(ziffern(zaehlung), u"000"_s);
     }
     QCOMPARE(plan().planbeurteilungfaceview->entscheidungszahl(), Gesichtscode::weinend);
@@ -225,8 +189,8 @@ void TestPlanmodulAuswertung::aPlanThatWasEmptiedKeepsColoursLooksAndEnergy()
     QCOMPARE(plan().gesamtvitamincview->color(), QColor(Qt::green));
     QCOMPARE(plan().gesamtvitamincview->a(), 3);
     QVERIFY(plan().gewichtview->isVisible());
-    QCOMPARE(ziffern(zaehlungen(plan())[0]), u"000"_s);
-    QCOMPARE(aussehen(zaehlungen(plan())[0]), u"schwarz9 schwarz9 rot12"_s);
+    QCOMPARE(ziffern(planzaehlungen(plan())[0]), u"000"_s);
+    QCOMPARE(aussehen(planzaehlungen(plan())[0]), u"schwarz9 schwarz9 rot12"_s);
     QCOMPARE(plan().Kalorienbedarf->intValue(), 2200);
     QCOMPARE(plan().Kalorienerrechnet->intValue(), 40);
     QVERIFY(plan().BMI->floatValue() > 24);
@@ -313,7 +277,7 @@ void TestPlanmodulAuswertung::theLeadingCountStandsOut()
     m_heim->schreibeTabelle({speise(u"Ding"_s, {}, {urteil, urteil, urteil, urteil})});
     m_heim->schreibePlan({{u"Ding"_s, 100}});
     oeffne();
-    for (const Zaehlung &zaehlung : zaehlungen(plan())) {
+    for (const Planzaehlung &zaehlung : planzaehlungen(plan())) {
         QTEST(aussehen(zaehlung), "erwartet");
     }
 }
@@ -323,9 +287,9 @@ void TestPlanmodulAuswertung::aTieLeavesTheLooksOfTheRowBefore()
     m_heim->schreibeTabelle({speise(u"1"_s, {}, {u"0"_s}), speise(u"2"_s, {}, {u"-"_s})});
     m_heim->schreibePlan({{u"1"_s, 100}, {u"2"_s, 100}});
     oeffne();
-    QCOMPARE(ziffern(zaehlungen(plan())[0]), u"011"_s);
-    QCOMPARE(aussehen(zaehlungen(plan())[0]), u"schwarz9 blau12 schwarz9"_s);
-    QCOMPARE(aussehen(zaehlungen(plan())[1]), u"neu0 neu0 neu0"_s); // never rated
+    QCOMPARE(ziffern(planzaehlungen(plan())[0]), u"011"_s);
+    QCOMPARE(aussehen(planzaehlungen(plan())[0]), u"schwarz9 blau12 schwarz9"_s);
+    QCOMPARE(aussehen(planzaehlungen(plan())[1]), u"neu0 neu0 neu0"_s); // never rated
 }
 
 void TestPlanmodulAuswertung::aTieFromTheFirstRowOnLeavesTheLooksOfTheEvaluationBefore()
@@ -336,8 +300,8 @@ void TestPlanmodulAuswertung::aTieFromTheFirstRowOnLeavesTheLooksOfTheEvaluation
     plan().nameimportvontoolbar(u"2"_s);
     plan().PlanTabelle->selectRow(0);
     plan().Lebensmittelentfernen(); // only the food without a rating is left
-    QCOMPARE(ziffern(zaehlungen(plan())[0]), u"000"_s);
-    QCOMPARE(aussehen(zaehlungen(plan())[0]), u"gruen11 schwarz9 schwarz9"_s);
+    QCOMPARE(ziffern(planzaehlungen(plan())[0]), u"000"_s);
+    QCOMPARE(aussehen(planzaehlungen(plan())[0]), u"gruen11 schwarz9 schwarz9"_s);
 }
 
 void TestPlanmodulAuswertung::aRatingOfAnyOtherTextIsNotCounted()
@@ -345,7 +309,7 @@ void TestPlanmodulAuswertung::aRatingOfAnyOtherTextIsNotCounted()
     m_heim->schreibeTabelle({speise(u"1"_s, {}, {u"++"_s, u" +"_s, u"gut"_s, u""_s})});
     m_heim->schreibePlan({{u"1"_s, 100}});
     oeffne();
-    for (const Zaehlung &zaehlung : zaehlungen(plan())) {
+    for (const Planzaehlung &zaehlung : planzaehlungen(plan())) {
         QCOMPARE(ziffern(zaehlung), u"000"_s);
     }
 }
@@ -423,7 +387,7 @@ void TestPlanmodulAuswertung::ofAnEmptyPlanNoPointIsMissed()
 void TestPlanmodulAuswertung::everyNumberHasItsBarBesideIt()
 {
     oeffne();
-    for (const Anzeige &anzeige : anzeigen(plan())) {
+    for (const Plananzeige &anzeige : plananzeigen(plan())) {
         QCOMPARE(anzeige.balken->objectName(), anzeige.prozent->objectName() + u"view"_s);
         QVERIFY(anzeige.balken->x() >= anzeige.prozent->geometry().right());
         QVERIFY(anzeige.balken->geometry().top() <= anzeige.prozent->geometry().bottom());
@@ -453,7 +417,7 @@ void TestPlanmodulAuswertung::everyBarHasItsSignBesideIt()
     QCOMPARE(zeichen(plan().gesamteisenview), u"≈"_s);
     plan().PlanTabelle->selectRow(0);
     plan().Lebensmittelentfernen();
-    for (const Anzeige &anzeige : anzeigen(plan())) {
+    for (const Plananzeige &anzeige : plananzeigen(plan())) {
         QCOMPARE(zeichen(anzeige.balken), QString());
     }
 }

@@ -5,29 +5,13 @@
 #include "Tagesauswertungsfenster.h"
 #include "Tagesbilder.h"
 #include "Textfeld.h"
+#include "Woerterbuch.h"
 
 #include <QHeaderView>
 #include <QScrollArea>
 #include <QScrollBar>
-#include <QTranslator>
 
 using namespace Qt::StringLiterals;
-
-namespace {
-
-/// Knows one word.
-class Woerterbuch : public QTranslator
-{
-public:
-    bool isEmpty() const override { return false; }
-    QString translate(const char * /*kontext*/, const char *text, const char * /*unterscheidung*/,
-                      int /*anzahl*/) const override
-    {
-        return qstrcmp(text, "Gicht") == 0 ? QStringLiteral("Gout") : QString();
-    }
-};
-
-} // namespace
 
 class TestTagefensterAuswertung : public QObject
 {

@@ -3,57 +3,22 @@
 
 #include "Ampel.h"
 #include "Aufzeichnungsprobe.h"
+#include "Plananzeige.h"
 #include "Planprobe.h"
 #include "Tagesauswertungsfenster.h"
 #include "Textfeld.h"
 #include "WertungView.h"
+#include "Woerterbuch.h"
 
 #include <QRandomGenerator>
 #include <QTest>
-#include <QTranslator>
 
 using namespace Qt::StringLiterals;
 using Aufzeichnungsprobe::zeile;
 
 namespace {
 
-/// The outlets of the plan's window, in the record's order.
-struct Plananteil
-{
-    Textfeld *prozent;
-    WertungView *balken;
-};
-
-std::array<Plananteil, anzahlNaehrwerte> plananteile(const Planmodul &p)
-{
-    return {{{p.gesamtkal, p.gesamtkalview},
-             {p.gesamtprotein, p.gesamtproteinview},
-             {p.gesamtfett, p.gesamtfettview},
-             {p.gesamtkohlenhydrate, p.gesamtkohlenhydrateview},
-             {p.gesamtballaststoffe, p.gesamtballaststoffeview},
-             {p.gesamtcholesterin, p.gesamtcholesterinview},
-             {p.gesamtnatrium, p.gesamtnatriumview},
-             {p.gesamtkalium, p.gesamtkaliumview},
-             {p.gesamtcalcium, p.gesamtcalciumview},
-             {p.gesamtphosphor, p.gesamtphosphorview},
-             {p.gesamtmagnesium, p.gesamtmagnesiumview},
-             {p.gesamteisen, p.gesamteisenview},
-             {p.gesamtvitamina, p.gesamtvitaminaview},
-             {p.gesamtvitaminb1, p.gesamtvitaminb1view},
-             {p.gesamtvitaminb2, p.gesamtvitaminb2view},
-             {p.gesamtvitaminb6, p.gesamtvitaminb6view},
-             {p.gesamtvitaminc, p.gesamtvitamincview}}};
-}
-
-using Zaehlungen = std::array<std::array<Zaehlfeld *, 3>, anzahlWertungen>;
-
-Zaehlungen planzaehlungen(const Planmodul &p)
-{
-    return {{{p.uebergewichtpos, p.uebergewichtneutral, p.uebergewichtneg},
-             {p.diabetespos, p.diabetesneutral, p.diabetesneg},
-             {p.gichtpos, p.gichtneutral, p.gichtneg},
-             {p.hkkpos, p.hkkneutral, p.hkkneg}}};
-}
+using Zaehlungen = std::array<Planzaehlung, anzahlWertungen>;
 
 QString inWorten(const Zaehlungen &zaehlungen)
 {
@@ -90,18 +55,6 @@ Datenmodul zufallsspeise(QRandomGenerator &zufall, const QString &name)
     }
     return eine;
 }
-
-/// Knows one word.
-class Woerterbuch : public QTranslator
-{
-public:
-    bool isEmpty() const override { return false; }
-    QString translate(const char * /*kontext*/, const char *text, const char * /*unterscheidung*/,
-                      int /*anzahl*/) const override
-    {
-        return qstrcmp(text, "Gicht") == 0 ? QStringLiteral("Gout") : QString();
-    }
-};
 
 } // namespace
 
@@ -291,9 +244,9 @@ void TestTagesauswertungsfenster::aDayLooksAsItsPlan()
 
 void TestTagesauswertungsfenster::vergleiche(const Planmodul &plan) const
 {
-    const auto gezeigt = plananteile(plan);
+    const auto gezeigt = plananzeigen(plan);
     for (const auto &eine : naehrwerte) {
-        const Plananteil &anteil = gezeigt[stelle(eine.wert)];
+        const Plananzeige &anteil = gezeigt[stelle(eine.wert)];
         QCOMPARE(inWorten(m_fenster->bedarfsgitter->prozent(eine.wert),
                           m_fenster->bedarfsgitter->balken(eine.wert)),
                  inWorten(*anteil.prozent, *anteil.balken));
