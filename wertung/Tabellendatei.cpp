@@ -1,9 +1,9 @@
 #include "Tabellendatei.h"
 
 #include "Feldzeilen.h"
+#include "Tabellenworte.h"
 
 #include <cmath>
-#include <utility>
 
 namespace {
 
@@ -39,7 +39,7 @@ private:
     double zahl();
     std::optional<double> freieZahl();
     template <typename Wert>
-    Wert auswahl(const QList<std::pair<QString, Wert>> &moeglich);
+    Wert auswahl(const Tabellenworte::Worte<Wert> &worte);
 
     const QStringList &m_felder;
     Tabellenzeile &m_ziel;
@@ -71,17 +71,15 @@ std::optional<double> Zeilenleser::freieZahl()
 }
 
 template <typename Wert>
-Wert Zeilenleser::auswahl(const QList<std::pair<QString, Wert>> &moeglich)
+Wert Zeilenleser::auswahl(const Tabellenworte::Worte<Wert> &worte)
 {
     const QString spalte = Tabellendatei::spalten().at(m_feld);
     const QString feld = text();
-    for (const auto &[name, wert] : moeglich) {
-        if (feld == name) {
-            return wert;
-        }
+    const auto wert = Tabellenworte::wert(worte, feld);
+    if (!wert) {
+        m_fehler.append(u"\"%1\" is unknown (column %2)"_s.arg(feld, spalte));
     }
-    m_fehler.append(u"\"%1\" is unknown (column %2)"_s.arg(feld, spalte));
-    return moeglich.first().second;
+    return wert.value_or(worte.first().second);
 }
 
 QStringList Zeilenleser::lesen()
@@ -104,16 +102,9 @@ QStringList Zeilenleser::lesen()
     m_ziel.harnsaeure = freieZahl();
     m_ziel.purinquellen = text();
     m_ziel.purinherkunft = text();
-    m_ziel.purinklasse = auswahl<std::optional<Purinklasse>>({{QString(), std::nullopt},
-                                                              {u"low"_s, Purinklasse::Niedrig},
-                                                              {u"moderate"_s, Purinklasse::Mittel},
-                                                              {u"high"_s, Purinklasse::Hoch}});
-    m_ziel.merkmale = auswahl<Merkmale>({{QString(), Merkmale()},
-                                         {u"recommended fat"_s, Merkmal::Fettquelle},
-                                         {u"red meat"_s, Merkmal::RotesFleisch},
-                                         {u"caffeine"_s, Merkmal::Koffein}});
-    m_ziel.zuckerart = auswahl<Zuckerart>(
-        {{QString(), Zuckerart::Ueblich}, {u"no fructose"_s, Zuckerart::OhneFruktose}});
+    m_ziel.purinklasse = auswahl(Tabellenworte::purinklassen());
+    m_ziel.merkmale = auswahl(Tabellenworte::merkmale());
+    m_ziel.zuckerart = auswahl(Tabellenworte::zuckerarten());
     m_ziel.synonymVon = text();
     m_ziel.ausnahmen = text().split(u',', Qt::SkipEmptyParts);
     m_ziel.notiz = text();

@@ -95,12 +95,19 @@ std::vector<Bedingung> erstes(std::vector<Bedingung> liste)
 Wertungserklaerung::Wertungserklaerung(Wertung wertung, const Tabellenzeile &zeile,
                                        Regelsprache sprache, const QLocale &zahlen,
                                        const Regelwerk &regeln)
+    : Wertungserklaerung(wertung, wertungsgroessen(zeile), sprache, zahlen, regeln)
+{
+    m_verzehrfertig = zeile.verzehrfertig;
+    m_purinquellen = zeile.purinquellen;
+}
+
+Wertungserklaerung::Wertungserklaerung(Wertung wertung, const Wertungsgroessen &food,
+                                       Regelsprache sprache, const QLocale &zahlen,
+                                       const Regelwerk &regeln)
     : m_wertung(wertung)
     , m_sprache(sprache)
     , m_zahlen(zahlen)
-    , m_verzehrfertig(zeile.verzehrfertig)
-    , m_purinquellen(zeile.purinquellen)
-    , m_food(wertungsgroessen(zeile))
+    , m_food(food)
     , m_regel(entscheidendeRegel(wertung, m_food, regeln))
 {
     m_zahlen.setNumberOptions(m_zahlen.numberOptions() | QLocale::OmitGroupSeparator);

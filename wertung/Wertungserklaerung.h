@@ -13,6 +13,9 @@ public:
     /// to.
     Wertungserklaerung(Wertung wertung, const Tabellenzeile &zeile, Regelsprache sprache,
                        const QLocale &zahlen, const Regelwerk &regeln = wertungsregeln());
+    /// The same for what stands in no table, such as a dish: by its figures as it is eaten.
+    Wertungserklaerung(Wertung wertung, const Wertungsgroessen &food, Regelsprache sprache,
+                       const QLocale &zahlen, const Regelwerk &regeln = wertungsregeln());
 
     /// The rule that decided; null when none holds, which the build rules out.
     const Wertungsregel *regel() const { return m_regel; }
@@ -73,7 +76,7 @@ private:
     Wertung m_wertung;
     Regelsprache m_sprache;
     QLocale m_zahlen;
-    double m_verzehrfertig;
+    double m_verzehrfertig = 100;
     QString m_purinquellen;
     Wertungsgroessen m_food;
     const Wertungsregel *m_regel;

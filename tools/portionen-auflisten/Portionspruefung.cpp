@@ -1,6 +1,7 @@
 #include "Portionspruefung.h"
 
-#include <QRegularExpression>
+#include "Quellenseite.h"
+
 #include <QSet>
 
 #include <algorithm>
@@ -15,23 +16,6 @@ constexpr auto platzhalter = "-"_L1;
 QString gruppenname(const Tabellenzeile &lebensmittel)
 {
     return QString::fromUtf8(lebensmittel.gruppe->name);
-}
-
-Beanstandungen unbelegte(const Portionszeile &zeile, const QStringList &bekannte)
-{
-    static const QRegularExpression nummer(u"^USDA-\\d{5}$"_s);
-    if (zeile.mass.quellen.isEmpty()) {
-        return {{zeile.zeile, u"key"_s, u"The measure names no publication"_s}};
-    }
-    Beanstandungen liste;
-    for (const QString &einer : zeile.mass.quellen) {
-        const QString gelistet = nummer.match(einer).hasMatch() ? u"USDA-nnnnn"_s : einer;
-        if (!bekannte.contains(gelistet)) {
-            liste.append(
-                {zeile.zeile, u"key"_s, u"\"%1\" is no publication of the page"_s.arg(einer)});
-        }
-    }
-    return liste;
 }
 
 /// Of the lines for one food: those whose measure has, in either language, the name of another's.
@@ -55,21 +39,10 @@ Beanstandungen doppelte(const QList<Portionszeile> &zeilen, const QString &name)
 
 } // namespace
 
-QStringList Portionspruefung::schluessel(const QString &seite)
-{
-    static const QRegularExpression zelle(u"^\\| ([A-Z][A-Z0-9-]*(?:-nnnnn)?) \\|"_s,
-                                          QRegularExpression::MultilineOption);
-    QStringList liste;
-    for (const QRegularExpressionMatch &treffer : zelle.globalMatch(seite)) {
-        liste.append(treffer.captured(1));
-    }
-    return liste;
-}
-
 Beanstandungen Portionspruefung::zeilenPruefen(const QList<Portionszeile> &zeilen,
                                                const Tabelle &lebensmittel, const QString &seite)
 {
-    const QStringList bekannte = schluessel(seite);
+    const QStringList bekannte = Quellenseite::schluessel(seite);
     QSet<int> gebraucht;
     Beanstandungen liste;
     for (const Tabellenzeile &eines : lebensmittel) {
@@ -80,7 +53,7 @@ Beanstandungen Portionspruefung::zeilenPruefen(const QList<Portionszeile> &zeile
         liste += doppelte(seine, eines.nameDe);
     }
     for (const Portionszeile &zeile : zeilen) {
-        liste += unbelegte(zeile, bekannte);
+        liste += Quellenseite::pruefen(zeile.zeile, u"measure"_s, zeile.mass.quellen, bekannte);
         if (!gebraucht.contains(zeile.zeile)) {
             liste.append({zeile.zeile, u"food"_s, u"No food has this measure"_s});
         }

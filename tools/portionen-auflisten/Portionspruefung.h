@@ -5,10 +5,6 @@
 /// What the household measures that ship must keep, beyond being readable.
 namespace Portionspruefung {
 
-/// The keys of publications that the page for people lists, the first cells of its table's lines.
-/// "USDA-nnnnn" stands for every number of a food in that publication.
-QStringList schluessel(const QString &seite);
-
 /// Objects to measures that no food has, to publications that the page does not list, and to a
 /// measure whose name another line gives to the same food with as much right.
 Beanstandungen zeilenPruefen(const QList<Portionszeile> &zeilen, const Tabelle &lebensmittel,

@@ -11,26 +11,30 @@ using namespace Qt::StringLiterals;
 /// What a cell of the source says: no number where it is empty, a trace or not determined.
 struct Quellzelle
 {
-    std::optional<double> zahl;
+    std::optional<double> zahl = {};
     bool lesbar = true;
+    bool bestimmt = true; ///< not so: neither a number, nor a trace, nor less than a limit
 };
 
 Quellzelle zelle(const QString &text)
 {
-    if (text.isEmpty() || text == u"tr." || text == u"n.d.") {
+    if (text.isEmpty() || text == u"n.d.") {
+        return {.bestimmt = false};
+    }
+    if (text == u"tr.") {
         return {};
     }
     const bool darunter = text.startsWith(u'<');
     bool gelungen = false;
     const double wert = (darunter ? text.mid(1) : text).toDouble(&gelungen);
     if (!gelungen || !std::isfinite(wert) || wert < 0) {
-        return {{}, false};
+        return {.lesbar = false};
     }
     return darunter ? Quellzelle() : Quellzelle{wert};
 }
 
 /// Fills the entry from the cells behind the id.
-Quelleintrag eintrag(const QList<std::optional<double>> &zahlen)
+Quelleintrag eintrag(const QList<std::optional<double>> &zahlen, const QStringList &unbestimmt)
 {
     Quelleintrag ergebnis;
     qsizetype stelle = 0;
@@ -42,6 +46,7 @@ Quelleintrag eintrag(const QList<std::optional<double>> &zahlen)
     }
     ergebnis.wasser = zahlen.at(stelle++);
     ergebnis.dichte = zahlen.at(stelle);
+    ergebnis.unbestimmt = unbestimmt;
     return ergebnis;
 }
 
@@ -69,9 +74,13 @@ Quellenvergleich::Ergebnis Quellenvergleich::lesen(QByteArrayView bytes)
     };
     for (const auto &[nummer, felder] : zeilen) {
         QList<std::optional<double>> zahlen;
+        QStringList unbestimmt;
         for (qsizetype i = 1; i < felder.size(); ++i) {
             const Quellzelle eine = zelle(felder.at(i));
             zahlen.append(eine.zahl);
+            if (!eine.bestimmt) {
+                unbestimmt.append(spalten().at(i));
+            }
             if (!eine.lesbar) {
                 const QString meldung = u"\"%1\" is no figure (column %2)"_s;
                 beanstanden(nummer, meldung.arg(felder.at(i), spalten().at(i)));
@@ -80,7 +89,7 @@ Quellenvergleich::Ergebnis Quellenvergleich::lesen(QByteArrayView bytes)
         if (ergebnis.werte.contains(felder.first())) {
             beanstanden(nummer, u"the id %1 stands twice"_s.arg(felder.first()));
         }
-        ergebnis.werte.insert(felder.first(), eintrag(zahlen));
+        ergebnis.werte.insert(felder.first(), eintrag(zahlen, unbestimmt));
     }
     return ergebnis;
 }

@@ -15,6 +15,9 @@ struct Quelleintrag
     double alkohol = 0;           ///< g
     std::optional<double> wasser; ///< g
     std::optional<double> dichte; ///< g per ml
+    /// The columns, by their names, of what was not determined or not given. A trace and "less
+    /// than" a limit were determined.
+    QStringList unbestimmt;
 };
 
 /// The source's foods by their ids.

@@ -8,6 +8,9 @@ namespace {
 
 using namespace Qt::StringLiterals;
 
+/// Grams of water in 100 g that leave no room for purines, whether or not anybody looked for them.
+constexpr double nurWasser = 100;
+
 Datenmodul leererEintrag()
 {
     Datenmodul eintrag;
@@ -16,6 +19,34 @@ Datenmodul leererEintrag()
         eintrag.setWertung(wertung.wertung, u"0"_s);
     }
     return eintrag;
+}
+
+Zusatzwerte zusatz(const Tabellenzeile &zeile, const Quelleintrag &quelle)
+{
+    const auto bestimmt = [&quelle](const QString &spalte, double wert) {
+        return quelle.unbestimmt.contains(spalte) ? std::nullopt : std::optional(wert);
+    };
+    Zusatzwerte werte = {.gruppe = zeile.gruppe,
+                         .zucker = bestimmt(u"sugars"_s, zeile.zucker),
+                         .gesaettigt = bestimmt(u"saturated"_s, zeile.gesaettigt),
+                         .alkohol = bestimmt(u"alcohol"_s, zeile.alkohol),
+                         .wasser = bestimmt(u"water"_s, quelle.wasser.value_or(0)),
+                         .dichte = quelle.dichte,
+                         .harnsaeure = zeile.harnsaeure,
+                         .purinklasse = zeile.purinklasse,
+                         .verzehrfertig = zeile.verzehrfertig,
+                         .merkmale = zeile.merkmale,
+                         .zuckerart = zeile.zuckerart,
+                         .unbestimmt = {}};
+    for (const auto &wert : naehrwerte) {
+        werte.unbestimmt[stelle(wert.wert)] =
+            quelle.unbestimmt.contains(QLatin1String(wert.kennung));
+    }
+    if (werte.wasser == nurWasser) {
+        werte.harnsaeure = 0;
+        werte.purinklasse.reset();
+    }
+    return werte;
 }
 
 } // namespace
@@ -44,6 +75,17 @@ Lebensmittelverzeichnis Tabellenausgabe::verzeichnis(const Tabelle &tabelle)
         foods.insert(zeile.nameDe, datenmodul(zeile));
     }
     return foods;
+}
+
+Zusatztabelle Tabellenausgabe::zusatzwerte(const Tabelle &tabelle, const Quellwerte &quelle)
+{
+    Zusatztabelle alle;
+    for (const Tabellenzeile &zeile : tabelle) {
+        if (const auto eintrag = quelle.constFind(zeile.quelle); eintrag != quelle.cend()) {
+            alle.insert(zeile.nameDe, zusatz(zeile, *eintrag));
+        }
+    }
+    return alle;
 }
 
 QByteArray Tabellenausgabe::uebersetzung(const Tabelle &tabelle)

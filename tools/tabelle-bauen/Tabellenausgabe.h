@@ -1,7 +1,8 @@
 #pragma once
 
 #include "Datenmodul.h"
-#include "Tabellenzeile.h"
+#include "Quellenvergleich.h"
+#include "Zusatzwerte.h"
 
 #include <QByteArray>
 
@@ -16,6 +17,11 @@ Datenmodul datenmodul(const Tabellenzeile &zeile);
 
 /// The store that ships with the program: all foods of the table and the placeholder.
 Lebensmittelverzeichnis verzeichnis(const Tabelle &tabelle);
+
+/// What is known of the foods beside their records. What the source does not determine is absent;
+/// a trace and less than a limit are 0; what is nothing but water holds no purines. Nothing of a
+/// food that the source does not have.
+Zusatztabelle zusatzwerte(const Tabelle &tabelle, const Quellwerte &quelle);
 
 /// The English names as a Qt translation source, for lrelease.
 QByteArray uebersetzung(const Tabelle &tabelle);

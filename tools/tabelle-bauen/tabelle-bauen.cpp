@@ -7,6 +7,7 @@
 #include "Siegel.h"
 #include "Tabellenausgabe.h"
 #include "Tabellenpruefung.h"
+#include "Zusatzdatei.h"
 
 #include <QCoreApplication>
 #include <QDir>
@@ -17,16 +18,16 @@ using namespace Qt::StringLiterals;
 namespace {
 
 const QString gebrauch =
-    u"Usage: tabelle-bauen TABLE.csv SOURCE.csv PURINES.csv FOODS.daten NAMES.ts\n"
+    u"Usage: tabelle-bauen TABLE.csv SOURCE.csv PURINES.csv FOODS.daten NAMES.ts FURTHER.csv\n"
     "       tabelle-bauen --shipped TABLE.csv AGREED.csv RATINGS.md\n"
     "       tabelle-bauen --seal TABLE.csv\n"
     "The first checks the table, compares it with the source's figures and the published\n"
-    "purines, and writes the foods with their ratings, and their English names as a\n"
-    "translation source. The second checks what only the table that ships with the program\n"
-    "must keep: the number of foods, the rows that show another row's food, the ratings that\n"
-    "dietitians agree upon, and the page that explains the rules. The third checks the table\n"
-    "against Quellwerte.csv and Purine.csv beside it and, when all else is well, seals each\n"
-    "line as it now stands.\n"
+    "purines, and writes the foods with their ratings, their English names as a translation\n"
+    "source, and what is known of them besides. The second checks what only the table that\n"
+    "ships with the program must keep: the number of foods, the rows that show another row's\n"
+    "food, the ratings that dietitians agree upon, and the page that explains the rules. The\n"
+    "third checks the table against Quellwerte.csv and Purine.csv beside it and, when all else\n"
+    "is well, seals each line as it now stands.\n"
     "Exit status: 0 all well, 1 a check failed or a file can't be read, 2 wrong usage."_s;
 
 using Tabellenpruefung::Siegelpflicht;
@@ -67,7 +68,9 @@ bool bauen(const QStringList &dateien)
     return melden(dateien.at(0), einwaende + Regelpruefung::aufbauPruefen()) &&
            Kommandozeile::schreiben(dateien.at(3),
                                     Archiver::write(Tabellenausgabe::verzeichnis(tabelle))) &&
-           Kommandozeile::schreiben(dateien.at(4), Tabellenausgabe::uebersetzung(tabelle));
+           Kommandozeile::schreiben(dateien.at(4), Tabellenausgabe::uebersetzung(tabelle)) &&
+           Kommandozeile::schreiben(dateien.at(5), Zusatzdatei::text(Tabellenausgabe::zusatzwerte(
+                                                       tabelle, vergleich->quelle)));
 }
 
 bool auslieferungPruefen(const QStringList &dateien)
@@ -112,7 +115,7 @@ struct Befehl
 };
 
 constexpr std::array<Befehl, 3> befehle = {{
-    {nullptr, 5, bauen},
+    {nullptr, 6, bauen},
     {"--shipped", 3, auslieferungPruefen},
     {"--seal", 1, siegeln},
 }};

@@ -1,9 +1,5 @@
 #include "Auskunftsprobe.h"
-#include "Werkzeuglauf.h"
-
-#include <QFile>
-#include <QTemporaryDir>
-#include <QTest>
+#include "Pruefprogrammtest.h"
 
 using namespace Qt::StringLiterals;
 
@@ -16,20 +12,21 @@ const QString seite = QStringLiteral(PORTIONENSEITE);
 } // namespace
 
 /// The program that lists household measures, as the build and people call it.
-class TestPortionenAuflisten : public QObject
+class TestPortionenAuflisten : public Pruefprogrammtest
 {
     Q_OBJECT
 
+public:
+    TestPortionenAuflisten()
+        : Pruefprogrammtest(AUFLISTEN, {u"--check"_s}, {lebensmittel, portionen, seite}, 1)
+    {
+    }
+
 private Q_SLOTS:
     void wrongUsageIsTold_data();
-    void wrongUsageIsTold();
-    void helpIsPrinted();
     void aMissingFileIsTold_data();
-    void aMissingFileIsTold();
     void whatIsWrongIsToldWithItsLine_data();
-    void whatIsWrongIsToldWithItsLine();
     void aFoodWithoutAMeasureIsToldAtItsLine();
-    void theShippedMeasuresPassTheCheck();
     void everyFoodIsListedWithItsMeasures();
 };
 
@@ -43,40 +40,12 @@ void TestPortionenAuflisten::wrongUsageIsTold_data()
     QTest::newRow("help and a table") << QStringList{u"--help"_s, lebensmittel, portionen};
 }
 
-void TestPortionenAuflisten::wrongUsageIsTold()
-{
-    QFETCH(const QStringList, argumente);
-    const Lauf lauf = starten(AUFLISTEN, argumente);
-    QCOMPARE(lauf.ausgang, 2);
-    QVERIFY(lauf.fehler.startsWith(u"Usage: "));
-    QVERIFY(lauf.ausgabe.isEmpty());
-}
-
-void TestPortionenAuflisten::helpIsPrinted()
-{
-    const Lauf lauf = starten(AUFLISTEN, {u"--help"_s});
-    QCOMPARE(lauf.ausgang, 0);
-    QVERIFY(lauf.ausgabe.startsWith(u"Usage: "));
-    QVERIFY(lauf.fehler.isEmpty());
-}
-
 void TestPortionenAuflisten::aMissingFileIsTold_data()
 {
     QTest::addColumn<int>("stelle");
     QTest::newRow("foods") << 0;
     QTest::newRow("measures") << 1;
     QTest::newRow("page") << 2;
-}
-
-void TestPortionenAuflisten::aMissingFileIsTold()
-{
-    QFETCH(const int, stelle);
-    const QTemporaryDir ordner;
-    QStringList dateien = {lebensmittel, portionen, seite};
-    dateien[stelle] = ordner.filePath(u"fehlt.csv"_s);
-    const Lauf lauf = starten(AUFLISTEN, QStringList{u"--check"_s} + dateien);
-    QCOMPARE(lauf.ausgang, 1);
-    QVERIFY(lauf.fehler.startsWith(dateien.at(stelle) + u": "_s));
 }
 
 void TestPortionenAuflisten::whatIsWrongIsToldWithItsLine_data()
@@ -95,24 +64,6 @@ void TestPortionenAuflisten::whatIsWrongIsToldWithItsLine_data()
                            << u"\"XYZ\" is no publication of the page [key]"_s;
 }
 
-void TestPortionenAuflisten::whatIsWrongIsToldWithItsLine()
-{
-    QFETCH(const QString, zeile);
-    QFETCH(const QString, meldung);
-    QFile gute(portionen);
-    QVERIFY(gute.open(QIODevice::ReadOnly));
-    const QByteArray bytes = gute.readAll();
-    const QTemporaryDir ordner;
-    QFile datei(ordner.filePath(u"P.csv"_s));
-    QVERIFY(datei.open(QIODevice::WriteOnly));
-    datei.write(bytes + zeile.toUtf8() + '\n');
-    datei.close();
-    const Lauf lauf = starten(AUFLISTEN, {u"--check"_s, lebensmittel, datei.fileName(), seite});
-    QCOMPARE(lauf.ausgang, 1);
-    QCOMPARE(lauf.fehler,
-             u"%1:%2: error: %3\n"_s.arg(datei.fileName()).arg(bytes.count('\n') + 1).arg(meldung));
-}
-
 void TestPortionenAuflisten::aFoodWithoutAMeasureIsToldAtItsLine()
 {
     const QTemporaryDir ordner;
@@ -129,14 +80,6 @@ void TestPortionenAuflisten::aFoodWithoutAMeasureIsToldAtItsLine()
     const Lauf lauf = starten(AUFLISTEN, {u"--check"_s, foods.fileName(), masse.fileName(), seite});
     QCOMPARE(lauf.ausgang, 1);
     QCOMPARE(lauf.fehler, foods.fileName() + u":3: error: Zopf has no measure [measure]\n"_s);
-}
-
-void TestPortionenAuflisten::theShippedMeasuresPassTheCheck()
-{
-    const Lauf lauf = starten(AUFLISTEN, {u"--check"_s, lebensmittel, portionen, seite});
-    QCOMPARE(lauf.fehler, QString());
-    QCOMPARE(lauf.ausgabe, QString());
-    QCOMPARE(lauf.ausgang, 0);
 }
 
 void TestPortionenAuflisten::everyFoodIsListedWithItsMeasures()

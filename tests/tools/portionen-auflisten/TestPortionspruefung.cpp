@@ -1,6 +1,7 @@
 // What is objected to in the household measures that ship.
 
 #include "Auskunftsprobe.h"
+#include "Beanstandungsworte.h"
 #include "Portionspruefung.h"
 
 #include <QTest>
@@ -30,15 +31,6 @@ QList<Portionszeile> portionen(const QStringList &zeilen)
     return Portionendatei::lesen(text.toUtf8()).zeilen;
 }
 
-QStringList gemeldet(const Beanstandungen &beanstandungen)
-{
-    QStringList liste;
-    for (const Beanstandung &eine : beanstandungen) {
-        liste.append(u"%1: %2 [%3]"_s.arg(eine.zeile).arg(eine.meldung, eine.regel));
-    }
-    return liste;
-}
-
 } // namespace
 
 class TestPortionspruefung : public QObject
@@ -50,7 +42,6 @@ private Q_SLOTS:
     void brokenMeasuresAreObjectedTo();
     void aFoodWithoutAMeasureIsObjectedToAtItsLine();
     void thePlaceholderNeedsNoMeasure();
-    void thePagesTableListsTheKeys();
 };
 
 void TestPortionspruefung::brokenMeasuresAreObjectedTo_data()
@@ -96,7 +87,7 @@ void TestPortionspruefung::brokenMeasuresAreObjectedTo()
     QFETCH(const QStringList, zeilen);
     QFETCH(const QStringList, meldungen);
     QCOMPARE(portionen(zeilen).size(), zeilen.size());
-    QCOMPARE(gemeldet(Portionspruefung::zeilenPruefen(portionen(zeilen), toastUndZopf().first(2),
+    QCOMPARE(inWorten(Portionspruefung::zeilenPruefen(portionen(zeilen), toastUndZopf().first(2),
                                                       seite)),
              meldungen);
 }
@@ -104,7 +95,7 @@ void TestPortionspruefung::brokenMeasuresAreObjectedTo()
 void TestPortionspruefung::aFoodWithoutAMeasureIsObjectedToAtItsLine()
 {
     const auto zeilen = portionen({u"Toast;;a;b;c;d;5;SGE;"_s});
-    QCOMPARE(gemeldet(Portionspruefung::lebensmittelPruefen(zeilen, toastUndZopf())),
+    QCOMPARE(inWorten(Portionspruefung::lebensmittelPruefen(zeilen, toastUndZopf())),
              QStringList{u"3: Zopf has no measure [measure]"_s});
 }
 
@@ -112,13 +103,6 @@ void TestPortionspruefung::thePlaceholderNeedsNoMeasure()
 {
     const auto zeilen = portionen({u"Toast|Zopf;;a;b;c;d;5;SGE;"_s});
     QVERIFY(Portionspruefung::lebensmittelPruefen(zeilen, toastUndZopf()).isEmpty());
-}
-
-void TestPortionspruefung::thePagesTableListsTheKeys()
-{
-    QCOMPARE(Portionspruefung::schluessel(seite),
-             (QStringList{u"SGE"_s, u"DGE24-N"_s, u"USDA-nnnnn"_s}));
-    QVERIFY(Portionspruefung::schluessel({}).isEmpty());
 }
 
 QTEST_APPLESS_MAIN(TestPortionspruefung)

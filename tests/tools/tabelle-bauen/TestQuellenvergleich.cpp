@@ -53,12 +53,13 @@ void TestQuellenvergleich::cellsAreReadAsPublished_data()
     QTest::addColumn<QString>("zelle");
     QTest::addColumn<double>("wert");
     QTest::addColumn<bool>("bekannt");
-    QTest::newRow("a number") << u"4.5"_s << 4.5 << true;
-    QTest::newRow("zero") << u"0"_s << 0.0 << true;
-    QTest::newRow("a trace") << u"tr."_s << 0.0 << false;
-    QTest::newRow("below a limit") << u"<0.5"_s << 0.0 << false;
-    QTest::newRow("not determined") << u"n.d."_s << 0.0 << false;
-    QTest::newRow("not given") << QString() << 0.0 << false;
+    QTest::addColumn<bool>("bestimmt");
+    QTest::newRow("a number") << u"4.5"_s << 4.5 << true << true;
+    QTest::newRow("zero") << u"0"_s << 0.0 << true << true;
+    QTest::newRow("a trace") << u"tr."_s << 0.0 << false << true;
+    QTest::newRow("below a limit") << u"<0.5"_s << 0.0 << false << true;
+    QTest::newRow("not determined") << u"n.d."_s << 0.0 << false << false;
+    QTest::newRow("not given") << QString() << 0.0 << false << false;
 }
 
 void TestQuellenvergleich::cellsAreReadAsPublished()
@@ -66,11 +67,17 @@ void TestQuellenvergleich::cellsAreReadAsPublished()
     QFETCH(QString, zelle);
     QFETCH(double, wert);
     QFETCH(bool, bekannt);
+    QFETCH(bool, bestimmt);
     const auto alsWert = Quellenvergleich::lesen(quelldatei(u"fe"_s, zelle));
     QVERIFY(alsWert.beanstandungen.isEmpty());
     QCOMPARE(alsWert.werte.value(u"7"_s).werte[stelle(Naehrwert::fe)], wert);
     const auto alsWasser = Quellenvergleich::lesen(quelldatei(u"water"_s, zelle));
     QCOMPARE(alsWasser.werte.value(u"7"_s).wasser.has_value(), bekannt);
+    for (const QString &spalte : Quellenvergleich::spalten().mid(1)) {
+        const auto gelesen = Quellenvergleich::lesen(quelldatei(spalte, zelle));
+        QCOMPARE(gelesen.werte.value(u"7"_s).unbestimmt,
+                 bestimmt ? QStringList() : QStringList{spalte});
+    }
 }
 
 void TestQuellenvergleich::aBrokenSourceIsObjectedTo_data()

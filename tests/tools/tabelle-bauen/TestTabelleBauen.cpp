@@ -1,17 +1,20 @@
 #include "Archivdatei.h"
 #include "Tabellenprobe.h"
-#include "Werkzeuglauf.h"
+#include "Werkzeugtest.h"
+#include "Zusatzdatei.h"
 
 #include <QSet>
 #include <QTemporaryDir>
-#include <QTest>
 
 using namespace Qt::StringLiterals;
 
 /// The program that checks and builds the food table, as the build and people call it.
-class TestTabelleBauen : public QObject
+class TestTabelleBauen : public Werkzeugtest
 {
     Q_OBJECT
+
+public:
+    TestTabelleBauen() : Werkzeugtest(BAUEN) {}
 
 private Q_SLOTS:
     void init();
@@ -27,14 +30,15 @@ private Q_SLOTS:
     void theShippedTableIsChecked_data();
     void theShippedTableIsChecked();
     void wrongUsageIsTold_data();
-    void wrongUsageIsTold();
     void aMissingTableIsTold();
+    void aPlaceThatCantBeWrittenIsTold_data();
     void aPlaceThatCantBeWrittenIsTold();
 
 private:
     QString pfad(const QString &name) const { return m_ordner->filePath(name); }
     QString ablegen(const QString &name, const QByteArray &bytes) const;
     QString tabelleAblegen(const QList<QStringList> &zeilen) const;
+    Lauf bauen(const QString &tabelle) const;
 
     std::unique_ptr<QTemporaryDir> m_ordner;
 };
@@ -70,13 +74,19 @@ QString TestTabelleBauen::tabelleAblegen(const QList<QStringList> &zeilen) const
     return ablegen(u"klein.csv"_s, Tabellenprobe::datei(zeilen));
 }
 
+/// Builds a table into the three files k.daten, k.ts and k.csv.
+Lauf TestTabelleBauen::bauen(const QString &tabelle) const
+{
+    return starten(BAUEN, {tabelle, quellwerte, purine, pfad(u"k.daten"_s), pfad(u"k.ts"_s),
+                           pfad(u"k.csv"_s)});
+}
+
 void TestTabelleBauen::anyGoodTableIsBuilt()
 {
     const QStringList leber = Tabellenprobe::felder(u"657"_s);
     const QStringList apfel = Tabellenprobe::felder(u"378"_s);
     const QString klein = tabelleAblegen({leber, apfel});
-    const Lauf lauf =
-        starten(BAUEN, {klein, quellwerte, purine, pfad(u"k.daten"_s), pfad(u"k.ts"_s)});
+    const Lauf lauf = bauen(klein);
     QCOMPARE(lauf.fehler, QString());
     QCOMPARE(lauf.ausgang, 0);
     const auto inhalt = Archivdatei::lesen(pfad(u"k.daten"_s));
@@ -85,6 +95,11 @@ void TestTabelleBauen::anyGoodTableIsBuilt()
              (QSet<QString>{u"-"_s, leber.first(), apfel.first()}));
     QCOMPARE(inhalt.archiv.verzeichnis.value(leber.first()).gicht(), u"-"_s);
     QVERIFY(Tabellenprobe::dateiinhalt(qPrintable(pfad(u"k.ts"_s))).contains(leber.at(1).toUtf8()));
+    const auto [zusatz, einwaende] =
+        Zusatzdatei::lesen(Tabellenprobe::dateiinhalt(qPrintable(pfad(u"k.csv"_s))));
+    QVERIFY(einwaende.isEmpty());
+    QCOMPARE(zusatz.size(), 2);
+    QCOMPARE(zusatz.value(leber.first()).gruppe, lebensmittelgruppe(u"Innereien"_s));
 }
 
 void TestTabelleBauen::aBrokenLineStopsTheBuild_data()
@@ -111,8 +126,7 @@ void TestTabelleBauen::aBrokenLineStopsTheBuild()
     const QString kaputt =
         tabelleAblegen({Tabellenprobe::felder(u"378"_s),
                         Tabellenprobe::geaendert(Tabellenprobe::felder(u"290"_s), spalte, wert)});
-    const Lauf lauf =
-        starten(BAUEN, {kaputt, quellwerte, purine, pfad(u"k.daten"_s), pfad(u"k.ts"_s)});
+    const Lauf lauf = bauen(kaputt);
     QCOMPARE(lauf.ausgang, 1);
     const QStringList meldungen = lauf.fehler.split(u'\n', Qt::SkipEmptyParts);
     QCOMPARE(meldungen.size(), regeln.size());
@@ -121,7 +135,9 @@ void TestTabelleBauen::aBrokenLineStopsTheBuild()
                      meldungen.at(i).endsWith(regeln.at(i)),
                  qPrintable(meldungen.at(i)));
     }
-    QVERIFY(!QFile::exists(pfad(u"k.daten"_s)) && !QFile::exists(pfad(u"k.ts"_s)));
+    for (const QString &name : {u"k.daten"_s, u"k.ts"_s, u"k.csv"_s}) {
+        QVERIFY2(!QFile::exists(pfad(name)), qPrintable(name));
+    }
 }
 
 void TestTabelleBauen::brokenPublishedFiguresStopTheBuild_data()
@@ -145,7 +161,7 @@ void TestTabelleBauen::brokenPublishedFiguresStopTheBuild()
     QVERIFY(bytes.contains(aus));
     const QString kaputt = ablegen(datei, bytes.replace(aus, wird));
     const Lauf lauf = starten(BAUEN, {klein, pfad(u"Quellwerte.csv"_s), pfad(u"Purine.csv"_s),
-                                      pfad(u"k.daten"_s), pfad(u"k.ts"_s)});
+                                      pfad(u"k.daten"_s), pfad(u"k.ts"_s), pfad(u"k.csv"_s)});
     QCOMPARE(lauf.ausgang, 1);
     QVERIFY2(lauf.fehler.startsWith(kaputt + u':'), qPrintable(lauf.fehler));
     QCOMPARE(lauf.fehler.count(u'\n'), 1);
@@ -165,9 +181,7 @@ void TestTabelleBauen::aGoodTableIsSealed()
     QCOMPARE(zeilen.at(1), Tabellenprobe::felder(u"378"_s).join(u';'));
     QCOMPARE(zeilen.at(2).section(u';', 0, -2), neu.join(u';').section(u';', 0, -2));
     QVERIFY(zeilen.at(2) != neu.join(u';'));
-    QCOMPARE(
-        starten(BAUEN, {klein, quellwerte, purine, pfad(u"k.daten"_s), pfad(u"k.ts"_s)}).ausgang,
-        0);
+    QCOMPARE(bauen(klein).ausgang, 0);
 }
 
 void TestTabelleBauen::aBrokenLineIsNotSealed_data()
@@ -246,21 +260,12 @@ void TestTabelleBauen::wrongUsageIsTold_data()
 {
     QTest::addColumn<QStringList>("argumente");
     QTest::newRow("nothing") << QStringList();
-    QTest::newRow("a file too few") << QStringList{tabelle, quellwerte, purine, u"a"_s};
+    QTest::newRow("a file too few") << QStringList{tabelle, quellwerte, purine, u"a"_s, u"b"_s};
     QTest::newRow("a file too many")
-        << QStringList{tabelle, quellwerte, purine, u"a"_s, u"b"_s, u"c"_s};
+        << QStringList{tabelle, quellwerte, purine, u"a"_s, u"b"_s, u"c"_s, u"d"_s};
     QTest::newRow("nothing to seal") << QStringList{u"--seal"_s};
     QTest::newRow("two tables to seal") << QStringList{u"--seal"_s, tabelle, tabelle};
     QTest::newRow("the shipped table alone") << QStringList{u"--shipped"_s, tabelle};
-}
-
-void TestTabelleBauen::wrongUsageIsTold()
-{
-    QFETCH(QStringList, argumente);
-    const Lauf lauf = starten(BAUEN, argumente);
-    QCOMPARE(lauf.ausgang, 2);
-    QVERIFY(lauf.fehler.startsWith(u"Usage: "));
-    QVERIFY(lauf.ausgabe.isEmpty());
 }
 
 void TestTabelleBauen::aMissingTableIsTold()
@@ -268,19 +273,31 @@ void TestTabelleBauen::aMissingTableIsTold()
     const QString fehlt = pfad(u"fehlt.csv"_s);
     const QString a = pfad(u"a"_s);
     const QString b = pfad(u"b"_s);
-    QCOMPARE(starten(BAUEN, {fehlt, quellwerte, purine, a, b}).ausgang, 1);
-    QCOMPARE(starten(BAUEN, {tabelle, fehlt, purine, a, b}).ausgang, 1);
-    QCOMPARE(starten(BAUEN, {tabelle, quellwerte, fehlt, a, b}).ausgang, 1);
+    const QString c = pfad(u"c"_s);
+    QCOMPARE(starten(BAUEN, {fehlt, quellwerte, purine, a, b, c}).ausgang, 1);
+    QCOMPARE(starten(BAUEN, {tabelle, fehlt, purine, a, b, c}).ausgang, 1);
+    QCOMPARE(starten(BAUEN, {tabelle, quellwerte, fehlt, a, b, c}).ausgang, 1);
     QCOMPARE(starten(BAUEN, {u"--seal"_s, fehlt}).ausgang, 1);
     QCOMPARE(starten(BAUEN, {u"--shipped"_s, tabelle, fehlt, seite}).ausgang, 1);
-    QVERIFY(starten(BAUEN, {fehlt, quellwerte, purine, a, b}).fehler.contains(fehlt));
+    QVERIFY(starten(BAUEN, {fehlt, quellwerte, purine, a, b, c}).fehler.contains(fehlt));
+}
+
+void TestTabelleBauen::aPlaceThatCantBeWrittenIsTold_data()
+{
+    QTest::addColumn<int>("ausgabe");
+    QTest::newRow("of the foods") << 0;
+    QTest::newRow("of the names") << 1;
+    QTest::newRow("of what is known besides") << 2;
 }
 
 void TestTabelleBauen::aPlaceThatCantBeWrittenIsTold()
 {
     const QString klein = tabelleAblegen({Tabellenprobe::felder(u"378"_s)});
-    const QString unterEinerDatei = klein + u"/k.daten"_s;
-    const Lauf lauf = starten(BAUEN, {klein, quellwerte, purine, unterEinerDatei, pfad(u"k.ts"_s)});
+    QFETCH(int, ausgabe);
+    const QString unterEinerDatei = klein + u"/k"_s;
+    QStringList ausgaben = {pfad(u"k.daten"_s), pfad(u"k.ts"_s), pfad(u"k.csv"_s)};
+    ausgaben[ausgabe] = unterEinerDatei;
+    const Lauf lauf = starten(BAUEN, QStringList{klein, quellwerte, purine} + ausgaben);
     QCOMPARE(lauf.ausgang, 1);
     QVERIFY(lauf.fehler.contains(unterEinerDatei));
 }

@@ -1,20 +1,20 @@
 #include "Tabellenprobe.h"
-#include "Werkzeuglauf.h"
+#include "Werkzeugtest.h"
 
 #include <QTemporaryDir>
-#include <QTest>
 
 using namespace Qt::StringLiterals;
 
 /// The program that explains ratings, as people call it.
-class TestWertungErklaeren : public QObject
+class TestWertungErklaeren : public Werkzeughilfetest
 {
     Q_OBJECT
 
+public:
+    TestWertungErklaeren() : Werkzeughilfetest(ERKLAEREN) {}
+
 private Q_SLOTS:
     void wrongUsageIsTold_data();
-    void wrongUsageIsTold();
-    void helpIsPrinted();
     void aMissingTableIsTold();
     void aFoodsRatingsAreExplained_data();
     void aFoodsRatingsAreExplained();
@@ -32,23 +32,6 @@ void TestWertungErklaeren::wrongUsageIsTold_data()
     QTest::newRow("no table") << QStringList{u"--table"_s};
     QTest::newRow("an option that does not exist") << QStringList{u"--tables"_s};
     QTest::newRow("help and a name") << QStringList{u"--help"_s, u"Ei"_s};
-}
-
-void TestWertungErklaeren::wrongUsageIsTold()
-{
-    QFETCH(QStringList, argumente);
-    const Lauf lauf = starten(ERKLAEREN, argumente);
-    QCOMPARE(lauf.ausgang, 2);
-    QVERIFY(lauf.fehler.startsWith(u"Usage: "));
-    QVERIFY(lauf.ausgabe.isEmpty());
-}
-
-void TestWertungErklaeren::helpIsPrinted()
-{
-    const Lauf lauf = starten(ERKLAEREN, {u"--help"_s});
-    QCOMPARE(lauf.ausgang, 0);
-    QVERIFY(lauf.ausgabe.startsWith(u"Usage: "));
-    QVERIFY(lauf.fehler.isEmpty());
 }
 
 void TestWertungErklaeren::aMissingTableIsTold()
