@@ -3,8 +3,6 @@
 #include "Portionendatei.h"
 #include "Zeichenkettentabelle.h"
 
-#include <QJsonArray>
-#include <QJsonDocument>
 #include <QJsonObject>
 
 #include <optional>
@@ -12,11 +10,6 @@
 
 namespace {
 
-const QString artfeld = QStringLiteral("format");
-const QString art = QStringLiteral("Mahlberg measures");
-const QString formfeld = QStringLiteral("version");
-constexpr int form = 1;
-const QString listenfeld = QStringLiteral("foods");
 const QString namensfeld = QStringLiteral("food");
 const QString massfeld = QStringLiteral("measures");
 const QString einesfeld = QStringLiteral("one");
@@ -25,7 +18,6 @@ const QString einesEnfeld = QStringLiteral("oneEn");
 const QString vieleEnfeld = QStringLiteral("manyEn");
 const QString grammfeld = QStringLiteral("grams");
 
-using Verstaendnis = Merkdatei::Verstaendnis;
 using Verzeichnis = QMap<QString, QList<Mass>>;
 
 QJsonObject alsJson(const Mass &mass)
@@ -50,7 +42,7 @@ std::optional<Mass> massAus(const QJsonObject &eintrag)
 }
 
 /// Takes up the measures of a food. False when not all of it was understood.
-bool nimmAuf(const QJsonObject &eintrag, Verzeichnis &verzeichnis)
+bool nimmSpeiseAuf(const QJsonObject &eintrag, Verzeichnis &verzeichnis)
 {
     const QString schluessel = eintrag.value(namensfeld).toString();
     const QJsonArray liste = eintrag.value(massfeld).toArray();
@@ -69,37 +61,6 @@ bool nimmAuf(const QJsonObject &eintrag, Verzeichnis &verzeichnis)
     return masse.size() == liste.size();
 }
 
-Verstaendnis deute(const QByteArray &bytes, Verzeichnis &verzeichnis)
-{
-    const QJsonObject alles = QJsonDocument::fromJson(bytes).object();
-    const int fassung = alles.value(formfeld).toInt();
-    if (alles.value(artfeld) != art || fassung < 1 || !alles.value(listenfeld).isArray()) {
-        return Verstaendnis::Teilweise;
-    }
-    bool ganz = true;
-    const QJsonArray eintraege = alles.value(listenfeld).toArray();
-    for (const auto &eintrag : eintraege) {
-        ganz = nimmAuf(eintrag.toObject(), verzeichnis) && ganz;
-    }
-    return fassung > form ? Verstaendnis::Neuer
-           : ganz         ? Verstaendnis::Ganz
-                          : Verstaendnis::Teilweise;
-}
-
-QByteArray alsText(const Verzeichnis &verzeichnis)
-{
-    QJsonArray eintraege;
-    for (auto eintrag = verzeichnis.begin(); eintrag != verzeichnis.end(); ++eintrag) {
-        QJsonArray masse;
-        for (const Mass &mass : eintrag.value()) {
-            masse.append(alsJson(mass));
-        }
-        eintraege.append(QJsonObject{{namensfeld, eintrag.key()}, {massfeld, masse}});
-    }
-    return QJsonDocument(QJsonObject{{artfeld, art}, {formfeld, form}, {listenfeld, eintraege}})
-        .toJson();
-}
-
 /// What was given to a food under a former name is its own under the name of today, unless it was
 /// given others under that one.
 void benenneUm(Verzeichnis &verzeichnis, const Namenswechsel &wechsel)
@@ -115,14 +76,15 @@ void benenneUm(Verzeichnis &verzeichnis, const Namenswechsel &wechsel)
 } // namespace
 
 EigeneMasse::EigeneMasse(const QString &path, Namenswechsel wechsel)
-    : m_wechsel(std::move(wechsel))
-    , m_gelesene{Merkdatei(path), {}}
+    : Merkablage(path, {QStringLiteral("Mahlberg measures"), 1, QStringLiteral("foods")})
+    , m_wechsel(std::move(wechsel))
 {
 }
 
 QList<Mass> EigeneMasse::masseFuer(const QString &schluessel) const
 {
-    return gelesene().masse.value(schluessel);
+    lies();
+    return m_masse.value(schluessel);
 }
 
 bool EigeneMasse::setze(const QString &schluessel, const QList<Mass> &masse)
@@ -134,60 +96,47 @@ bool EigeneMasse::setze(const QString &schluessel, const QList<Mass> &masse)
         return sichere();
     }
     if (masse.isEmpty()) {
-        m_gelesene.masse.remove(schluessel);
+        m_masse.remove(schluessel);
     } else {
-        m_gelesene.masse.insert(schluessel, masse);
+        m_masse.insert(schluessel, masse);
     }
-    const bool geschrieben = schreibe();
-    Q_EMIT geaendert();
-    return geschrieben;
+    return uebernimm();
 }
 
-bool EigeneMasse::sichere()
+bool EigeneMasse::nimmAuf(const QJsonArray &eintraege) const
 {
-    return m_gesichert || schreibe();
-}
-
-bool EigeneMasse::schreibe()
-{
-    const bool vorher = m_gesichert;
-    const Verzeichnis &masse = m_gelesene.masse;
-    m_gesichert = m_gelesene.datei.schreibe(masse.isEmpty() ? QByteArray() : alsText(masse));
-    if (m_gesichert != vorher) {
-        Q_EMIT sicherungGewechselt();
+    bool ganz = true;
+    for (const auto &eintrag : eintraege) {
+        ganz = nimmSpeiseAuf(eintrag.toObject(), m_masse) && ganz;
     }
-    return m_gesichert;
+    benenneUm(m_masse, m_wechsel);
+    return ganz;
 }
 
-QString EigeneMasse::hindernis() const
+QJsonArray EigeneMasse::eintraege() const
 {
-    if (istGesperrt()) {
-        return localizedString(QStringLiteral(
+    QJsonArray liste;
+    for (auto eintrag = m_masse.cbegin(); eintrag != m_masse.cend(); ++eintrag) {
+        QJsonArray masse;
+        for (const Mass &mass : eintrag.value()) {
+            masse.append(alsJson(mass));
+        }
+        liste.append(QJsonObject{{namensfeld, eintrag.key()}, {massfeld, masse}});
+    }
+    return liste;
+}
+
+Merkablage::Saetze EigeneMasse::saetze() const
+{
+    return {
+        .gesperrt = localizedString(QStringLiteral(
             "Die Datei der eigenen Haushaltsmaße lässt sich nicht lesen oder ist von einer neueren "
-            "Version. Sie bleibt, wie sie ist, und eigene Maße können nicht geändert werden."));
-    }
-    if (!m_gesichert) {
-        return localizedString(QStringLiteral(
+            "Version. Sie bleibt, wie sie ist, und eigene Maße können nicht geändert werden.")),
+        .ungesichert = localizedString(QStringLiteral(
             "Die eigenen Haushaltsmaße ließen sich nicht sichern. Sie gelten weiter, und mit der "
-            "nächsten Änderung wird es wieder versucht."));
-    }
-    const QString &beiseite = gelesene().datei.beiseite();
-    return beiseite.isNull()
-               ? QString()
-               : localizedString(QStringLiteral("Die Datei der eigenen Haushaltsmaße war "
-                                                "beschädigt. Was sich lesen ließ, gilt; sie "
-                                                "selbst liegt jetzt hier: %1"))
-                     .arg(beiseite);
-}
-
-const EigeneMasse::Gelesene &EigeneMasse::gelesene() const
-{
-    if (!m_gelesene.gelesen) {
-        m_gelesene.gelesen = true;
-        m_gelesene.datei.lies(
-            [this](const QByteArray &bytes) { return deute(bytes, m_gelesene.masse); },
-            QDateTime::currentDateTime());
-        benenneUm(m_gelesene.masse, m_wechsel);
-    }
-    return m_gelesene;
+            "nächsten Änderung wird es wieder versucht.")),
+        .beschaedigt = localizedString(QStringLiteral(
+            "Die Datei der eigenen Haushaltsmaße war beschädigt. Was sich lesen ließ, gilt; sie "
+            "selbst liegt jetzt hier: %1")),
+    };
 }

@@ -1,17 +1,12 @@
 // The measures that the user gave foods outlast the program, and what stands in the way is told.
 
 #include "EigeneMasse.h"
-#include "Stoerung.h"
+#include "Merkdateitest.h"
 
-#include <QDir>
-#include <QFile>
 #include <QFileInfo>
 #include <QSignalSpy>
-#include <QTemporaryDir>
-#include <QTest>
 
 using namespace Qt::StringLiterals;
-using Schritt = Stoerung::Schritt;
 
 namespace {
 
@@ -30,16 +25,16 @@ QByteArray speise(const QByteArray &name, const QByteArray &masse)
 
 } // namespace
 
-class TestEigeneMasse : public QObject
+class TestEigeneMasse : public Merkdateitest
 {
     Q_OBJECT
 
-private Q_SLOTS:
-    void init() { m_ordner = std::make_unique<QTemporaryDir>(); }
+public:
+    TestEigeneMasse() : Merkdateitest(u"Masse.json"_s) {}
 
+private Q_SLOTS:
     void nothingIsMadeBeforeTheFirstMeasure();
     void measuresComeBackAsTheyWereAndInTheirOrder();
-    void onlyTheUserCanReadThem();
     void theFileHasItsForm();
     void aFoodWithoutMeasuresIsTakenOut();
     void everyChangeIsToldOnce();
@@ -57,24 +52,11 @@ private Q_SLOTS:
     void measuresUnderTheNameOfTodayGoBeforeThoseOfAFormerOne();
 
 private:
-    QString path() const { return m_ordner->filePath(u"Masse.json"_s); }
-    QByteArray bytes() const
-    {
-        QFile datei(path());
-        return datei.open(QIODevice::ReadOnly) ? datei.readAll() : QByteArray();
-    }
-    void lege(const QByteArray &inhalt) const
-    {
-        QFile datei(path());
-        QVERIFY(datei.open(QIODevice::WriteOnly));
-        QCOMPARE(datei.write(inhalt), inhalt.size());
-    }
+    bool merke() const override { return EigeneMasse(path()).setze(suppe, {teller}); }
     QList<Mass> gesicherte(const QString &schluessel) const
     {
         return EigeneMasse(path()).masseFuer(schluessel);
     }
-
-    std::unique_ptr<QTemporaryDir> m_ordner;
 };
 
 void TestEigeneMasse::nothingIsMadeBeforeTheFirstMeasure()
@@ -102,14 +84,6 @@ void TestEigeneMasse::measuresComeBackAsTheyWereAndInTheirOrder()
     QVERIFY(spaeter.hindernis().isNull());
 }
 
-void TestEigeneMasse::onlyTheUserCanReadThem()
-{
-    QVERIFY(EigeneMasse(path()).setze(suppe, {teller}));
-    QCOMPARE(QFile::permissions(path()) &
-                 (QFile::ReadGroup | QFile::WriteGroup | QFile::ReadOther | QFile::WriteOther),
-             QFile::Permissions());
-}
-
 void TestEigeneMasse::theFileHasItsForm()
 {
     lege(kopf + speise("Saft", gutes) + "]}");
@@ -131,9 +105,7 @@ void TestEigeneMasse::aFoodWithoutMeasuresIsTakenOut()
     QVERIFY(gesicherte(suppe).isEmpty());
     QCOMPARE(gesicherte(u"Apfel"_s), QList<Mass>{schale});
     QVERIFY(masse.setze(u"Apfel"_s, {}));
-    QCOMPARE(
-        QDir(m_ordner->path()).entryList(QDir::AllEntries | QDir::Hidden | QDir::NoDotAndDotDot),
-        QStringList());
+    QCOMPARE(m_ordner->dateien(), QStringList());
 }
 
 void TestEigeneMasse::everyChangeIsToldOnce()
@@ -199,16 +171,15 @@ void TestEigeneMasse::whatIsNotUnderstoodIsKeptBeside()
     EigeneMasse masse(path());
     QCOMPARE(masse.masseFuer(u"Saft"_s).size(), gelesen);
     QVERIFY(!masse.istGesperrt());
-    const QStringList kopien = QDir(m_ordner->path()).entryList({u"Masse *.json"_s}, QDir::Files);
+    const QStringList kopien =
+        QDir(m_ordner->path(u"."_s)).entryList({u"Masse *.json"_s}, QDir::Files);
     QCOMPARE(kopien.size(), 1);
-    QVERIFY(masse.hindernis().contains(m_ordner->filePath(kopien.constFirst())));
+    QVERIFY(masse.hindernis().contains(m_ordner->path(kopien.constFirst())));
     QVERIFY(masse.setze(suppe, {teller}));
     QCOMPARE(gesicherte(suppe), QList<Mass>{teller});
     QCOMPARE(gesicherte(u"Saft"_s).size(), gelesen);
     QVERIFY(EigeneMasse(path()).hindernis().isNull());
-    QFile kopie(m_ordner->filePath(kopien.constFirst()));
-    QVERIFY(kopie.open(QIODevice::ReadOnly));
-    QCOMPARE(kopie.readAll(), inhalt);
+    istKopie(m_ordner->path(kopien.constFirst()), inhalt);
 }
 
 void TestEigeneMasse::gramsAtTheirLimitsAreRead()
@@ -241,9 +212,7 @@ void TestEigeneMasse::aNewerFileIsReadAndNotWritten()
 
 void TestEigeneMasse::whatCanNotBeReadIsNotWrittenOver_data()
 {
-    QTest::addColumn<Schritt>("schritt");
-    QTest::newRow("it does not open") << Schritt::Oeffnen;
-    QTest::newRow("it can't be read") << Schritt::Lesen;
+    lesestoerungen();
 }
 
 void TestEigeneMasse::whatCanNotBeReadIsNotWrittenOver()
@@ -265,11 +234,7 @@ void TestEigeneMasse::whatCanNotBeReadIsNotWrittenOver()
 
 void TestEigeneMasse::whatCanNotBeWrittenHoldsAndIsWrittenLater_data()
 {
-    QTest::addColumn<Schritt>("schritt");
-    QTest::newRow("nothing can be made") << Schritt::Anlegen;
-    QTest::newRow("the disk is full") << Schritt::Schreiben;
-    QTest::newRow("it does not get to the disk") << Schritt::DateiSichern;
-    QTest::newRow("the folder does not get to the disk") << Schritt::OrdnerSichern;
+    schreibstoerungen();
 }
 
 void TestEigeneMasse::whatCanNotBeWrittenHoldsAndIsWrittenLater()
