@@ -75,6 +75,16 @@ QString kurzerName(const QString &name)
     return name.size() <= laengster ? name : name.left(laengster - 1) + u'…';
 }
 
+QString aufzaehlung(const QStringList &namen, qsizetype hoechstens)
+{
+    const qsizetype weitere = namen.size() - hoechstens;
+    const QString erste =
+        namen.first(std::min(hoechstens, namen.size())).join(QStringLiteral(", "));
+    return weitere <= 0 ? erste
+                        : QCoreApplication::translate("Mahlberg", "%1 und %2 weitere")
+                              .arg(erste, QString::number(weitere));
+}
+
 Hinweisstreifen::Hinweisstreifen(QWidget *parent)
     : QFrame(parent)
     , m_anordnung(new QVBoxLayout(this))
@@ -193,6 +203,7 @@ Hinweisstreifen::Zeile Hinweisstreifen::neueZeile(const Hinweis &hinweis)
     if (!hinweis.knopf.isEmpty()) {
         auto *knopf = new QPushButton(hinweis.knopf, flaeche);
         knopf->setObjectName(QStringLiteral("hinweisknopf"));
+        knopf->setAutoDefault(false); // Return in a field of a dialog answers no notice
         connect(knopf, &QPushButton::clicked, this,
                 [this, kennung = hinweis.kennung] { druecke(kennung); });
         anordnung->addWidget(knopf);

@@ -25,6 +25,10 @@ struct Hinweis
 /// word of hundreds of letters would be all that can be seen.
 QString kurzerName(const QString &name);
 
+/// Names one after the other, as they may stand in a sentence: of many the first ones, and how many
+/// more there are.
+QString aufzaehlung(const QStringList &namen, qsizetype hoechstens);
+
 /// A strip at the lower edge of a window that tells what happened without asking for an answer:
 /// nobody has to press anything, and nobody is kept from their work. Hidden while there is nothing
 /// to say. A notice goes when it is settled, when its time is over (never while the mouse or the

@@ -1,0 +1,3 @@
+#include "Einblickblatt.h"
+
+Einblickblatt::Einblickblatt(QWidget *parent) : QWidget(parent) {}
