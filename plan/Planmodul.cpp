@@ -296,11 +296,11 @@ void Planmodul::uebernimmEigene(const Lebensmittelverzeichnis &eigene)
     folgePlannamen();
 }
 
-void Planmodul::uebernimmPlan(const Planliste &zeilen)
+void Planmodul::uebernimmPlan(const Planliste &zeilen, const Aenderung &was)
 {
     setzePlan(zeilen);
     pruefePlannamen();
-    Q_EMIT geaendert({Aenderungsart::Planstand});
+    Q_EMIT geaendert(was);
 }
 
 void Planmodul::setzePlan(const Planliste &zeilen)

@@ -103,8 +103,8 @@ public:
     /// Takes these own foods as the copy to work with from now on. The file is left to the caller.
     void uebernimmEigene(const Lebensmittelverzeichnis &eigene);
     /// Takes over these rows in place of those that are there, saves and shows them, and tells of
-    /// foods that have another name now or none any more.
-    void uebernimmPlan(const Planliste &zeilen);
+    /// foods that have another name now or none any more. Taking back says what it was.
+    void uebernimmPlan(const Planliste &zeilen, const Aenderung &was = {Aenderungsart::Planstand});
     /// Takes back or repeats a change: these rows come in place of those that are there, and are
     /// saved and shown. The first one that has changed is selected.
     void setzePlan(const Planliste &zeilen);

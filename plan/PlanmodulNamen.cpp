@@ -21,18 +21,14 @@ QString inWorten(const QString &name)
     return localizedString(QStringLiteral("„%1“")).arg(kurzerName(localizedString(name)));
 }
 
-/// The names one after the other; of many the first ones and how many more there are.
+/// The names in quotes, one after the other; of many the first ones and how many more there are.
 QString aufgezaehlt(const QStringList &namen)
 {
-    constexpr qsizetype hoechstens = 6;
     QStringList worte;
-    for (const QString &name : namen.first(std::min(hoechstens, namen.size()))) {
+    for (const QString &name : namen) {
         worte << inWorten(name);
     }
-    const QString liste = worte.join(QStringLiteral(", "));
-    return namen.size() <= hoechstens ? liste
-                                      : localizedString(QStringLiteral("%1 und %2 weitere"))
-                                            .arg(liste, QString::number(namen.size() - hoechstens));
+    return aufzaehlung(worte, 6);
 }
 
 /// The sentence about foods that are called something else now.

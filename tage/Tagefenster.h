@@ -79,6 +79,14 @@ public:
     /// Puts a food at the end of the meal with the cursor, with one of its first measure, or 100 g.
     /// Where it stands now, in words; null where nothing could be put in.
     QString gibHinein(const QString &schluessel);
+    /// Takes the user to a row: its day is shown, the row is chosen. Where there is none, nothing
+    /// happens.
+    void zeigeZeile(const Aufzeichnungsaenderung::Stelle &stelle);
+    /// Puts a food in place of a row, or, where `statt` is absent, at the end of the meal with the
+    /// cursor; one step of undo. `angabe` is the amount as it is said, such as "1 Scheibe"; where
+    /// it is not understood of this food, `gramm` count. False: nothing was changed.
+    bool nimmVorschlag(const QString &schluessel, double gramm, const QString &angabe,
+                       const std::optional<Aufzeichnungsaenderung::Stelle> &statt);
     /// What the days are measured against has changed.
     void frischeAuf();
     /// Another language is spoken.

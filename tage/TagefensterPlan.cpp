@@ -9,23 +9,16 @@
 #include <QCoreApplication>
 #include <QMenu>
 
-#include <algorithm>
-
 namespace {
 
 /// Some names for a notice; of many the first ones.
 QString namensliste(const QStringList &schluessel)
 {
-    constexpr qsizetype meiste = 4;
     QStringList namen;
-    for (const QString &einer : schluessel.first(std::min(meiste, schluessel.size()))) {
+    for (const QString &einer : schluessel) {
         namen << kurzerName(localizedString(einer));
     }
-    const QString alle = namen.join(QStringLiteral(", "));
-    return schluessel.size() <= meiste
-               ? alle
-               : localizedString(QStringLiteral("%1 und %2 weitere"))
-                     .arg(alle, QString::number(schluessel.size() - meiste));
+    return aufzaehlung(namen, 4);
 }
 
 /// A sentence with the names; nothing where there are none.
