@@ -73,6 +73,7 @@ Oberflaeche::Oberflaeche(const Tueren &tueren, const Klientenanschluss::Kopfzeil
     , austausch(hauptfenster, mitDateien(tueren, dateien))
     , klienten(hauptfenster, rechner, tueren, kopfzeile)
     , tage(hauptfenster, rechner, klienten, tueren)
+    , einblick(hauptfenster, rechner, klienten, tage, tueren)
     , m_sprich(tueren.sprich)
     , m_einstellungen(*tueren.einstellungen)
     , m_datenordner(tueren.datenordner)
@@ -86,6 +87,7 @@ Oberflaeche::Oberflaeche(const Tueren &tueren, const Klientenanschluss::Kopfzeil
                      [this](const QWidget *fenster) { hilfe.zeige(*fenster); });
     QObject::connect(&tage, &Tageanschluss::hilfeGewuenscht, &hilfe,
                      [this](const QWidget *fenster) { hilfe.zeige(*fenster); });
+    QObject::connect(&verlauf, &Verlauf::gestellt, &einblick, &Einblickanschluss::folgeVerlauf);
     QObject::connect(&abwurf, &Dateiabwurf::abgeworfen, &empfang, &Dateiempfang::oeffneAdressen);
     QObject::connect(&hauptfenster, &AppController::einstellungenGewuenscht, &hauptfenster,
                      [this] { zeigeEinstellungen(); });
@@ -106,6 +108,7 @@ void Oberflaeche::awakeFromNib()
     verlauf.beginne();
     klienten.beginne();
     tage.beginne();
+    einblick.beginne();
 }
 
 void Oberflaeche::zeigeEinstellungen()
@@ -151,6 +154,7 @@ void Oberflaeche::sprich(const QString &kuerzel)
     folgeSprache(rechner.plan);
     klienten.folgeSprache();
     tage.folgeSprache();
+    einblick.folgeSprache();
     hilfe.folgeSprache();
 }
 

@@ -5,6 +5,7 @@
 #include "Dateiabwurf.h"
 #include "Dateiansage.h"
 #include "Dateiempfang.h"
+#include "Einblickanschluss.h"
 #include "Fenstergedaechtnis.h"
 #include "Hilfe.h"
 #include "Klientenanschluss.h"
@@ -47,6 +48,7 @@ public:
     Tabellenaustausch austausch;
     Klientenanschluss klienten;
     Tageanschluss tage;
+    Einblickanschluss einblick;
 
 private:
     Oberflaeche(const Tueren &tueren, const Klientenanschluss::Kopfzeile &kopfzeile);

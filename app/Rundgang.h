@@ -10,8 +10,8 @@ class QWidget;
 
 /// A short tour of the program without anyone at the keys: it starts, chooses foods, sets amounts,
 /// goes through the views, searches, keeps a food, works out body measures, plans a day, advises a
-/// client and types in what they ate, and leaves a picture of each stop and a summary in plain
-/// text. The pictures in the README and the handbook come from it.
+/// client, types in what they ate and looks into it, and leaves a picture of each stop and a
+/// summary in plain text. The pictures in the README and the handbook come from it.
 class Rundgang
 {
 public:
@@ -31,10 +31,14 @@ private:
     void plane();
     void berate();
     void zeichneAuf();
+    void blickeHinein();
+    void reihe();
+    void kocheAus();
     void halt(const QString &name, const QString &worte);
     void haltBeimPlan(const QString &name, const QString &worte);
     void haltBeimKlienten(const QString &name, const QString &worte);
     void haltBeiTagen(QWidget &fenster, const QString &name, const QString &worte);
+    void haltBeimEinblick(QWidget &fenster, const QString &name, const QString &worte);
     QString bildname(const QString &name) const;
     void bild(QWidget &fenster, const QString &name);
     QString angezeigteWerte() const;

@@ -83,6 +83,7 @@ void Rundgang::berate()
     fenster.seiten->setCurrentIndex(3);
     haltBeimKlienten(QStringLiteral("client-progress"), QStringLiteral("What has become: %1."));
     zeichneAuf();
+    blickeHinein();
     fenster.tischknopf->click();
     fenster.close();
 }

@@ -230,7 +230,7 @@ Tagetueren Tageanschluss::fenstertueren()
         return speise(schluessel);
     };
     tueren.masse = [this](const QString &schluessel) {
-        return m_masse->masseFuer(schluessel);
+        return masse(schluessel);
     };
     tueren.massfenster = [this](QWidget *fenster, const QString &schluessel) {
         zeigeMasse(fenster, schluessel);
@@ -256,7 +256,7 @@ Tagetueren Tageanschluss::fenstertueren()
         return Briefkopfablage(*m_tueren.einstellungen, m_tueren.datenordner).lies();
     };
     tueren.klient = [this] {
-        return m_desKlienten != nullptr ? m_desKlienten->wessen() : QString();
+        return klient();
     };
     tueren.einstellungen = m_tueren.einstellungen;
     return tueren;
@@ -277,6 +277,7 @@ Tagefenster &Tageanschluss::fenster()
         m_platz->stelleWiederHer();
         folgeKlient();
         sageZustand();
+        Q_EMIT fensterBereit();
     }
     return *m_fenster;
 }

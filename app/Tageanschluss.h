@@ -40,6 +40,23 @@ public:
     /// Shows the household measures of a food in front of a window, to add own ones.
     void zeigeMasse(QWidget *fenster, const QString &schluessel);
 
+    /// The record of what can be eaten; null for a key that no store has, and for a line that
+    /// stands for no food.
+    const Datenmodul *speise(const QString &schluessel) const;
+    /// The foods whose name contains a text, without the lines that stand for none.
+    Namenssuchergebnis suche(const QString &text) const;
+    /// The household measures of a food, the best first.
+    QList<Mass> masse(const QString &schluessel) const { return m_masse->masseFuer(schluessel); }
+    /// Those that the user gave.
+    EigeneMasse &eigeneMasse() { return *m_eigeneMasse; }
+    /// The rows of the plan on the desk.
+    QList<Planmenge> planVomTisch();
+    /// Whose records they are; empty: nobody's.
+    QString klient() const
+    {
+        return m_desKlienten != nullptr ? m_desKlienten->wessen() : QString();
+    }
+
     /// Another language is spoken.
     void folgeSprache();
 
@@ -49,6 +66,8 @@ protected:
 Q_SIGNALS:
     /// The user of the window wants the handbook.
     void hilfeGewuenscht(const QWidget *fenster);
+    /// The window is there from now on.
+    void fensterBereit();
 
 private:
     void beginneMasse();
@@ -60,11 +79,8 @@ private:
     void sageZustand();
     QString pfad(const char *datei) const;
     Tagetueren fenstertueren();
-    const Datenmodul *speise(const QString &schluessel) const;
-    Namenssuchergebnis suche(const QString &text) const;
     QString schluesselVon(const QString &name);
     bool legeAufTisch(const QList<Planmenge> &posten);
-    QList<Planmenge> planVomTisch();
     QList<Vorratsplan> abgelegtePlaene() const;
 
     AppController &m_hauptfenster;

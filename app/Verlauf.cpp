@@ -148,6 +148,7 @@ void Verlauf::nimmZurueck()
     m_schritte.undo();
     sage(satz.arg(inWorten(schritt->was())), localizedString(QStringLiteral("Wiederholen")),
          [this] { wiederhole(); });
+    Q_EMIT gestellt();
 }
 
 void Verlauf::wiederhole()
@@ -162,6 +163,7 @@ void Verlauf::wiederhole()
     m_schritte.redo();
     sage(satz.arg(inWorten(schritt->was())), localizedString(QStringLiteral("Zurücknehmen")),
          [this] { nimmZurueck(); });
+    Q_EMIT gestellt();
 }
 
 /// In the window in which the user works.

@@ -27,6 +27,10 @@ public:
     /// Remembers from now on; what stands there now is where taking back ends.
     void beginne();
 
+Q_SIGNALS:
+    /// A step was taken back or repeated, which is told by nothing else.
+    void gestellt();
+
 private:
     class Schritt;
 
