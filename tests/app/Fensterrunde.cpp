@@ -10,8 +10,11 @@
 #include <QFile>
 #include <QLineEdit>
 #include <QTabBar>
+#include <QTabWidget>
+#include <QTableView>
 #include <QTest>
 #include <QTimer>
+#include <QToolButton>
 
 Fensterrunde::Fensterrunde(const QString &sprache) : m_sprache(sprache)
 {
@@ -125,6 +128,9 @@ void Fensterrunde::gehe(const Besuch &besuch)
     });
     zeigeMeldung(&plan, m_heim.meldungen.takeLast());
     geheDurchDieTage(besuch);
+    geheDurchDenEinblick(besuch);
+    geheDurchDieRangliste(besuch);
+    geheDurchDasRezept(besuch);
 }
 
 /// A window that asks, as long as it is not answered.
@@ -171,6 +177,86 @@ void Fensterrunde::geheDurchDieTage(const Besuch &besuch)
                 {{QStringLiteral("Mai"), QDate(2026, 5, 4), {{zaehlname(2), 80, {}}}}}, &tage));
         },
         besuch);
+}
+
+namespace {
+
+/// The window with each of its tabs in front, called by this and the tab.
+void geheDurchReiter(QTabWidget &reiter, const QString &name,
+                     const std::function<void(const QString &name, QWidget &fenster)> &besuch)
+{
+    for (int i = 0; i < reiter.count(); ++i) {
+        reiter.setCurrentIndex(i);
+        QCoreApplication::processEvents();
+        besuch(QStringLiteral("%1, sheet %2").arg(name).arg(i + 1), *reiter.window());
+    }
+}
+
+template <class Klasse>
+Klasse *teil(const QWidget &fenster, const char *name)
+{
+    return fenster.findChild<Klasse *>(QLatin1String(name));
+}
+
+} // namespace
+
+/// About the plan, first folded as it opens, then with all that can be said of the person and of
+/// the suggestions.
+void Fensterrunde::geheDurchDenEinblick(const Besuch &besuch)
+{
+    Einblickanschluss &anschluss = m_fenster->oberflaeche().einblick;
+    const auto besuche = [&](const QString &name, QWidget &fenster) {
+        auto *reiter = teil<QTabWidget>(fenster, "blaetter");
+        geheDurchReiter(*reiter, name, besuch);
+        reiter->setCurrentIndex(0);
+        teil<QToolButton>(fenster, "oeffner")->click();
+        QCoreApplication::processEvents();
+        besuch(name + QStringLiteral(", person"), fenster);
+        teil<QToolButton>(fenster, "oeffner")->click();
+        reiter->setCurrentIndex(2);
+        QCoreApplication::processEvents();
+        teil<QToolButton>(fenster, "klappe")->click();
+        QCoreApplication::processEvents();
+        besuch(name + QStringLiteral(", conditions"), fenster);
+    };
+    oeffne(
+        "Einblickfenster", QStringLiteral("insight"), [&] { anschluss.oeffne(Gegenstand::Plan); },
+        besuche);
+}
+
+/// With two foods side by side, and with what the foods are narrowed down by.
+void Fensterrunde::geheDurchDieRangliste(const Besuch &besuch)
+{
+    Einblickanschluss &anschluss = m_fenster->oberflaeche().einblick;
+    const auto besuche = [&](const QString &name, QWidget &fenster) {
+        auto *tabelle = teil<QTableView>(fenster, "rangliste");
+        tabelle->setFocus();
+        for (int zeile = 0; zeile < 2; ++zeile) {
+            tabelle->selectRow(zeile);
+            QTest::keyClick(tabelle, Qt::Key_Space);
+        }
+        geheDurchReiter(*teil<QTabWidget>(fenster, "rangseiten"), name, besuch);
+        teil<QTabWidget>(fenster, "rangseiten")->setCurrentIndex(0);
+        teil<QToolButton>(fenster, "eingrenzen")->click();
+        teil<QAbstractButton>(fenster, "neuerbereich")->click();
+        QCoreApplication::processEvents();
+        besuch(name + QStringLiteral(", narrowed"), fenster);
+    };
+    oeffne(
+        "Ranglistenfenster", QStringLiteral("ranking"),
+        [&] { anschluss.rangliste().zeige(Kenngroesse::kal); }, besuche);
+}
+
+/// Of the rows of the plan.
+void Fensterrunde::geheDurchDasRezept(const Besuch &besuch)
+{
+    QMainWindow &plan = *m_fenster->controller().planmodul->window();
+    const auto besuche = [&](const QString &name, QWidget &fenster) {
+        geheDurchReiter(*teil<QTabWidget>(fenster, "rezeptseiten"), name, besuch);
+    };
+    oeffne(
+        "Rezeptfenster", QStringLiteral("recipe"),
+        [&] { plan.findChild<QAction *>(QStringLiteral("aktionRezept"))->trigger(); }, besuche);
 }
 
 bool istVonQt(const QWidget &widget)

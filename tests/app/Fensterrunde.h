@@ -8,8 +8,9 @@
 /// All windows of the program, one after the other, in one language: the main window with each of
 /// its tabs, with the box for saving and with the profile, the sheet for own foods, the plan, the
 /// former states, the settings, a file that is opened, what goes out and comes in as a table, the
-/// palette of the toolbar, the one about the program, the question before a print, and the window
-/// of the days with those that it opens.
+/// palette of the toolbar, the one about the program, the question before a print, the window of
+/// the days with those that it opens, the insight with each of its sheets and what folds out there,
+/// the ranking, and a recipe.
 class Fensterrunde
 {
 public:
@@ -26,6 +27,9 @@ private:
     using Besuch = std::function<void(const QString &name, QWidget &fenster)>;
     void geheDurchsHauptfenster(const Besuch &besuch);
     void geheDurchDieTage(const Besuch &besuch);
+    void geheDurchDenEinblick(const Besuch &besuch);
+    void geheDurchDieRangliste(const Besuch &besuch);
+    void geheDurchDasRezept(const Besuch &besuch);
     void schreibeTabellendatei() const;
     void oeffne(const char *klasse, const QString &name, const std::function<void()> &oeffner,
                 const Besuch &besuch);

@@ -9,6 +9,17 @@
 #include <QKeyEvent>
 #include <QLabel>
 #include <QTest>
+#include <QTimer>
+
+/// Until all that was to follow at once has happened: such timers go off one after the other.
+inline void ruhe()
+{
+    QTimer gleich;
+    gleich.setSingleShot(true);
+    gleich.start(0);
+    QVERIFY(QTest::qWaitFor([&gleich] { return !gleich.isActive(); }));
+    QCoreApplication::processEvents();
+}
 
 /// The clients' window of a program, and the hands of its user.
 class Klientenprobe

@@ -1,3 +1,4 @@
+#include "../model/Warten.h"
 #include "Absturzhelfer.h"
 #include "Archivdatei.h"
 #include "Probefenster.h"
@@ -9,6 +10,7 @@
 #include <QRandomGenerator>
 #include <QRegularExpression>
 #include <QTest>
+#include <QThread>
 
 #include <csignal>
 
@@ -70,9 +72,8 @@ void TestEigeneAbsturz::theFileIsTheOldOneOrTheNewOne()
         QElapsedTimer uhr;
         uhr.start();
         if (dauer > 0) {
-            const qint64 moment = QRandomGenerator::global()->bounded(dauer);
-            while (uhr.nsecsElapsed() < moment) {
-            }
+            const auto moment = static_cast<quint64>(QRandomGenerator::global()->bounded(dauer));
+            warteBis(uhr, moment);
             kill(kind, SIGKILL);
         }
         const int ende = empfange();
@@ -98,7 +99,7 @@ void TestEigeneAbsturz::theFileIsTheOldOneOrTheNewOne()
 
     // Each helper has cleaned up after the one before; the program does after the last one.
     const Probefenster fenster(heim);
-    QCOMPARE(fenster->KundenArray.size(), 300);
+    QCOMPARE(fenster->KundenArray.size(), anzahlGesicherte);
     // What a save left that was killed when both the old and the new file were there may be all
     // that there is of one of them: it is kept under its moment, and nothing else is left.
     const QRegularExpression kopie(
@@ -108,7 +109,8 @@ void TestEigeneAbsturz::theFileIsTheOldOneOrTheNewOne()
     QVERIFY(rest.size() <= 10);
     for (const QString &name : std::as_const(rest)) {
         QVERIFY2(kopie.match(name).hasMatch(), qPrintable(name));
-        QCOMPARE(Archivdatei::lesen(ordner.filePath(name)).archiv.verzeichnis.size(), 300);
+        QCOMPARE(Archivdatei::lesen(ordner.filePath(name)).archiv.verzeichnis.size(),
+                 anzahlGesicherte);
     }
 }
 

@@ -125,7 +125,7 @@ void TestHandbuch::klickeAuf(const QString &worte) const
 
 void TestHandbuch::theContentsLeadToEachPage()
 {
-    QCOMPARE(inhalt().count(), 16);
+    QCOMPARE(inhalt().count(), 17);
     QCOMPARE(inhalt().currentRow(), 0);
     QCOMPARE(inhalt().item(5)->text(), u"Mahlzeitenplan"_s);
     QTest::mouseClick(inhalt().viewport(), Qt::LeftButton, {},
@@ -352,8 +352,8 @@ void TestHandbuch::aTableIsNoWiderThanTheWindow()
     QFETCH(QString, seite);
     m_handbuch->oeffne(seite);
     m_handbuch->resize(680, 500);
-    QCoreApplication::processEvents();
-    QCOMPARE(blatt().horizontalScrollBar()->maximum(), 0);
+    // The end of a long page is laid out when there is time.
+    QTRY_COMPARE(blatt().horizontalScrollBar()->maximum(), 0);
     int tabellen = 0;
     for (const QTextFrame *rahmen : blatt().document()->rootFrame()->childFrames()) {
         if (const auto *tabelle = qobject_cast<const QTextTable *>(rahmen)) {

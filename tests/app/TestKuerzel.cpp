@@ -1,11 +1,16 @@
 #include "Fensterrunde.h"
 
+#include "Vorschlagsblatt.h"
+
+#include <QComboBox>
 #include <QGroupBox>
 #include <QLabel>
 #include <QMenu>
 #include <QMenuBar>
 #include <QTabBar>
+#include <QTabWidget>
 #include <QTest>
+#include <QToolButton>
 
 /// The letters that are pressed together with Alt: each means one thing in a window.
 class TestKuerzel : public QObject
@@ -15,6 +20,8 @@ class TestKuerzel : public QObject
 private Q_SLOTS:
     void noLetterStandsTwiceInAWindow_data();
     void noLetterStandsTwiceInAWindow();
+    void noLetterStandsTwiceBesideThePersonsFields_data();
+    void noLetterStandsTwiceBesideThePersonsFields();
     void noLetterStandsTwiceInAMenu_data();
     void noLetterStandsTwiceInAMenu();
 };
@@ -107,8 +114,57 @@ void TestKuerzel::noLetterStandsTwiceInAWindow()
             gefunden << name + QLatin1String(":\n") + doppelt;
         }
     });
-    QCOMPARE(besucht, 24);
+    QCOMPARE(besucht, 37);
     QVERIFY2(gefunden.isEmpty(), qPrintable(gefunden.join(u'\n')));
+}
+
+void TestKuerzel::noLetterStandsTwiceBesideThePersonsFields_data()
+{
+    QTest::addColumn<QString>("sprache");
+    QTest::addColumn<QString>("feld");
+    QTest::addColumn<int>("stelle");
+    for (const char *sprache : {"de", "en"}) {
+        const auto zeile = [sprache](const char *was, const char *feld, int stelle) {
+            QTest::addRow("%s, %s", was, sprache)
+                << QString::fromLatin1(sprache) << QString::fromLatin1(feld) << stelle;
+        };
+        zeile("before menopause", "menopause", 1);
+        zeile("pregnant", "zustand", 1);
+        zeile("nursing", "zustand", 2);
+    }
+}
+
+/// Something about the client is answered in another way, and one food is crossed out: all that
+/// can be asked and taken back is there, on each sheet.
+void TestKuerzel::noLetterStandsTwiceBesideThePersonsFields()
+{
+    QFETCH(QString, sprache);
+    QFETCH(QString, feld);
+    QFETCH(int, stelle);
+    Fensterrunde runde(sprache);
+    Einblickanschluss &anschluss = runde.fenster().oberflaeche().einblick;
+    anschluss.oeffne(Gegenstand::Plan);
+    Einblickfenster &fenster = anschluss.fenster();
+    QVERIFY(QTest::qWaitForWindowActive(&fenster));
+    fenster.personenwahl->setSatz(Referenzsatz::Dach);
+    fenster.setzeKlient({.geschlecht = Referenzgeschlecht::Frau, .alter = 40, .pal = 1.6}, {});
+    fenster.vorschlagsblatt->setzeGestrichene({zaehlname(3)});
+    fenster.findChild<QToolButton *>(QStringLiteral("oeffner"))->click();
+    auto &wahl = *fenster.findChild<QComboBox *>(feld);
+    wahl.setCurrentIndex(stelle);
+    Q_EMIT wahl.activated(stelle);
+    QVERIFY(fenster.findChild<QToolButton *>(QStringLiteral("zurueck"))->isVisible());
+    for (int i = 0; i < fenster.blaetter->count(); ++i) {
+        fenster.blaetter->setCurrentIndex(i);
+        QCOMPARE(doppelte(buchstabenIn(fenster)), QString());
+    }
+    fenster.blaetter->setCurrentWidget(fenster.vorschlagsblatt);
+    fenster.findChild<QToolButton *>(QStringLiteral("klappe"))->click();
+    for (const char *knopf : {"nehmen", "streichen"}) { // as they are beside a suggestion
+        fenster.findChild<QAbstractButton *>(QLatin1String(knopf))->show();
+    }
+    QVERIFY(fenster.findChild<QAbstractButton *>(QStringLiteral("aufnehmen"))->isVisible());
+    QCOMPARE(doppelte(buchstabenIn(fenster)), QString());
 }
 
 void TestKuerzel::noLetterStandsTwiceInAMenu_data()

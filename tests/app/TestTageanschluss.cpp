@@ -36,6 +36,8 @@ private Q_SLOTS:
     void aKeptPlanBecomesRows();
     void ownFoodsAreFoundAndHaveMeasures();
     void theMainWindowLeadsToTheMeasures();
+    void whatCanNotBeKeptIsToldAndKeptLater();
+    void measuresThatCanNotBeKeptAreTold();
     void aDamagedFileIsKeptBeside();
     void aNewerFileIsLeftAlone();
     void theLanguageChangesTheWindowToo();
@@ -115,6 +117,18 @@ private:
     {
         QFile file(path);
         QVERIFY(file.open(QIODevice::WriteOnly) && file.write(bytes) == bytes.size());
+    }
+    /// Something lies where the folder of the user's files is; or the folder is back.
+    void verstelleOrdner(bool verstellt) const
+    {
+        const QString ordner = QFileInfo(m_heim->eigeneDatei()).path();
+        if (verstellt) {
+            QVERIFY(QFile::rename(ordner, ordner + u"-weg"_s));
+            schreibe(ordner, "x");
+        } else {
+            QVERIFY(QFile::remove(ordner));
+            QVERIFY(QFile::rename(ordner + u"-weg"_s, ordner));
+        }
     }
     static QByteArray bytes(const QString &path)
     {
@@ -373,6 +387,40 @@ void TestTageanschluss::theMainWindowLeadsToTheMeasures()
     programm.klicke(1, inName);
     masse->trigger();
     QVERIFY(programm->Hauptfenster->findChild<Massfenster *>() != nullptr);
+}
+
+void TestTageanschluss::whatCanNotBeKeptIsToldAndKeptLater()
+{
+    oeffne();
+    neuesProtokoll();
+    verstelleOrdner(true);
+    gibEin(u"Apfel"_s, u"150"_s);
+    QCoreApplication::processEvents();
+    QVERIFY(fenster().hinweise->hinweise().constFirst().text.startsWith(
+        u"Die Aufzeichnungen lassen sich gerade nicht sichern;"_s));
+    verstelleOrdner(false);
+    gibEin(u"Milch"_s, u"100"_s);
+    QCoreApplication::processEvents();
+    QVERIFY(fenster().hinweise->hinweise().isEmpty());
+    m_probe.reset();
+    oeffne();
+    oeffneTage();
+    QCOMPARE(zeilen(), u"Apfel 150, Milch 100"_s);
+}
+
+void TestTageanschluss::measuresThatCanNotBeKeptAreTold()
+{
+    const auto becher = [](double gramm) {
+        return QList<Mass>{{u"Becher"_s, u"Becher"_s, u"cup"_s, u"cups"_s, gramm}};
+    };
+    oeffne();
+    verstelleOrdner(true);
+    QVERIFY(!anschluss().eigeneMasse().setze(u"Apfel"_s, becher(200)));
+    QCOMPARE(m_probe->hauptsaetze(), QStringList{anschluss().eigeneMasse().hindernis()});
+    verstelleOrdner(false);
+    QVERIFY(anschluss().eigeneMasse().setze(u"Apfel"_s, becher(250)));
+    QVERIFY(m_probe->hauptsaetze().isEmpty());
+    QCOMPARE(EigeneMasse(pfad(u"MahlbergMasse.json"_s)).masseFuer(u"Apfel"_s), becher(250));
 }
 
 void TestTageanschluss::aDamagedFileIsKeptBeside()
