@@ -2,6 +2,7 @@
 
 #include "Druckname.h"
 
+#include <QFileInfo>
 #include <QFont>
 #include <QPainter>
 #include <QPrinter>
@@ -57,6 +58,7 @@ Drucktuer Druckprobe::tuer()
 void Druckprobe::drucke(const Druckauftrag &auftrag)
 {
     ++auftraege;
+    m_gelesenes = {};
     titel = auftrag.titel;
     name = druckname(auftrag);
     QPrinter drucker(QPrinter::HighResolution);
@@ -68,8 +70,23 @@ void Druckprobe::drucke(const Druckauftrag &auftrag)
     QVERIFY2(!fehler, qPrintable(fehler.value_or(QString())));
 }
 
+Druckprobe::Gelesenes &Druckprobe::gelesenes() const
+{
+    const QDateTime geschrieben = QFileInfo(pdf()).lastModified();
+    if (m_gelesenes.geschrieben != geschrieben) {
+        m_gelesenes = {geschrieben, {}, {}};
+    }
+    return m_gelesenes;
+}
+
+/// Most tests look at one file again and again, and to begin a program takes longer than to read a
+/// page: the same is asked once.
 QByteArray Druckprobe::befrage(const QString &programm, const QStringList &argumente) const
 {
+    QByteArray &antwort = gelesenes().antworten[QStringList(programm) + argumente];
+    if (!antwort.isNull()) {
+        return antwort;
+    }
     QProcess prozess;
     // The sanitizer's settings are for the tests, not for what they start.
     prozess.start(programm, argumente);
@@ -78,15 +95,21 @@ QByteArray Druckprobe::befrage(const QString &programm, const QStringList &argum
     if (!gelungen) {
         qWarning() << programm << argumente << prozess.readAllStandardError();
     }
-    return prozess.readAllStandardOutput();
+    antwort = prozess.readAllStandardOutput();
+    return antwort;
 }
 
 QList<Druckwort> Druckprobe::worte() const
 {
-    QXmlStreamReader leser(befrage(QStringLiteral("pdftotext"),
-                                   {QStringLiteral("-bbox"), pdf(), QStringLiteral("-")}));
+    const QByteArray text =
+        befrage(QStringLiteral("pdftotext"), {QStringLiteral("-bbox"), pdf(), QStringLiteral("-")});
+    std::optional<QList<Druckwort>> &worte = gelesenes().worte;
+    if (worte) {
+        return *worte;
+    }
+    worte.emplace();
+    QXmlStreamReader leser(text);
     leser.setEntityExpansionLimit(0);
-    QList<Druckwort> worte;
     int seite = 0;
     while (!leser.atEnd()) {
         if (leser.readNext() != QXmlStreamReader::StartElement) {
@@ -95,11 +118,11 @@ QList<Druckwort> Druckprobe::worte() const
         if (leser.name() == QLatin1String("page")) {
             ++seite;
         } else if (leser.name() == QLatin1String("word")) {
-            worte << gelesenesWort(leser.attributes(), seite);
-            worte.last().text = leser.readElementText();
+            *worte << gelesenesWort(leser.attributes(), seite);
+            worte->last().text = leser.readElementText();
         }
     }
-    return worte;
+    return *worte;
 }
 
 QStringList Druckprobe::zeilen(int seite) const
@@ -145,8 +168,8 @@ QImage Druckprobe::bild(int seite, int pixelJePunkt) const
     const QString nummer = QString::number(seite);
     return QImage::fromData(
         befrage(QStringLiteral("pdftoppm"),
-                {QStringLiteral("-png"), QStringLiteral("-r"), QString::number(72 * pixelJePunkt),
-                 QStringLiteral("-f"), nummer, QStringLiteral("-l"), nummer, pdf()}));
+                {QStringLiteral("-r"), QString::number(72 * pixelJePunkt), QStringLiteral("-f"),
+                 nummer, QStringLiteral("-l"), nummer, pdf()}));
 }
 
 QStringList Druckprobe::schriften() const

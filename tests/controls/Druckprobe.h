@@ -2,6 +2,8 @@
 
 #include "Drucktuer.h"
 
+#include <QDateTime>
+#include <QHash>
 #include <QImage>
 #include <QList>
 #include <QPageLayout>
@@ -58,10 +60,20 @@ public:
     int bilder() const;
 
 private:
+    /// What the other programs told of the file as it stands.
+    struct Gelesenes
+    {
+        QDateTime geschrieben;                    ///< invalid: there is none
+        QHash<QStringList, QByteArray> antworten; ///< from program and arguments
+        std::optional<QList<Druckwort>> worte;
+    };
+
+    Gelesenes &gelesenes() const;
     QByteArray befrage(const QString &programm, const QStringList &argumente) const;
 
     QPageLayout m_seite;
     QTemporaryDir m_ordner;
+    mutable Gelesenes m_gelesenes;
 };
 
 /// The first word of this text, on whatever page; an empty one with page 0 when there is none.

@@ -62,11 +62,9 @@ void Pruefserver::halteAn()
 
 QString Pruefserver::angabe(const QString &datenbank)
 {
-    const QString da =
-        frage(QStringLiteral("postgres"),
-              QStringLiteral("SELECT 1 FROM pg_database WHERE datname = '%1'").arg(datenbank));
-    if (da.trimmed() != QLatin1String("1")) {
+    if (!m_datenbanken.contains(datenbank)) {
         frage(QStringLiteral("postgres"), QStringLiteral("CREATE DATABASE \"%1\"").arg(datenbank));
+        m_datenbanken.insert(datenbank);
     }
     return QStringLiteral("host=%1 user=praxis dbname=%2").arg(m_ordner.path(), datenbank);
 }

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QProcess>
+#include <QSet>
 #include <QString>
 #include <QTemporaryDir>
 
@@ -32,4 +33,5 @@ private:
     QString m_programme; ///< folder of the server's programs
     QString m_nutzer;    ///< whom the server runs as; empty: whoever runs the test
     QString m_grund;
+    QSet<QString> m_datenbanken; ///< that were made
 };

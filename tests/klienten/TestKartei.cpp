@@ -16,7 +16,7 @@ class TestKartei : public QObject
 private Q_SLOTS:
     void initTestCase_data() { Pruefspeicher::zeilen(); }
     void init();
-    void cleanup();
+    void cleanup() { m_kartei.reset(); }
 
     void aNewClientGetsAKeyAndStandsInTheList();
     void aVisitIsToldOfToWhoeverShowsTheClient();
@@ -46,9 +46,13 @@ private:
     QString angelegt(const QString &name);
     Klientenakte akte(const QString &kennung) { return m_kartei->akte(kennung).value(); }
     QString neuerBesuch(const QString &kennung, double gewicht, const QDate &tag);
+    void andererTischSchreibt(Person gelesen);
+    void oeffne();
 
     Pruefspeicher m_speicher;
     std::unique_ptr<Kartei> m_kartei;
+    std::optional<Kollision> m_kollision;        ///< the last that the user was asked about
+    std::optional<Schreibwunsch> m_verschwunden; ///< what was last said to be gone
 };
 
 Q_DECLARE_METATYPE(Kollision)
@@ -57,13 +61,20 @@ Q_DECLARE_METATYPE(Schreibwunsch)
 void TestKartei::init()
 {
     m_speicher.beginne();
-    m_kartei = std::make_unique<Kartei>([this] { return m_speicher.ort(); });
+    oeffne();
     m_kartei->lade();
 }
 
-void TestKartei::cleanup()
+/// A program that has begun.
+void TestKartei::oeffne()
 {
-    m_kartei.reset();
+    m_kollision.reset();
+    m_verschwunden.reset();
+    m_kartei = std::make_unique<Kartei>([this] { return m_speicher.ort(); });
+    connect(m_kartei.get(), &Kartei::kollidiert, this,
+            [this](const Kollision &eine) { m_kollision = eine; });
+    connect(m_kartei.get(), &Kartei::verschwunden, this,
+            [this](const Schreibwunsch &einer) { m_verschwunden = einer; });
 }
 
 QString TestKartei::angelegt(const QString &name)
@@ -77,6 +88,12 @@ QString TestKartei::neuerBesuch(const QString &kennung, double gewicht, const QD
     besuch.datum = tag;
     besuch.gewicht = gewicht;
     return m_kartei->sichere({kennung, besuch, {}});
+}
+
+void TestKartei::andererTischSchreibt(Person gelesen)
+{
+    gelesen.nummer = QStringLiteral("17");
+    QVERIFY(m_speicher.tisch()->sichere(gelesen));
 }
 
 void TestKartei::aNewClientGetsAKeyAndStandsInTheList()
@@ -220,9 +237,7 @@ void TestKartei::whatWaitsKeepsTheGroundItWasChangedFrom()
 {
     const QString kennung = angelegt(QStringLiteral("Anna"));
     const Person gelesen = akte(kennung).person;
-    Person anderes = gelesen;
-    anderes.nummer = QStringLiteral("17");
-    QVERIFY(m_speicher.tisch()->sichere(anderes));
+    andererTischSchreibt(gelesen);
 
     m_speicher.nimmWeg();
     Person erste = gelesen;
@@ -233,14 +248,11 @@ void TestKartei::whatWaitsKeepsTheGroundItWasChangedFrom()
     m_kartei->sichere({kennung, zweite, Satz(erste)});
     m_speicher.gibZurueck();
 
-    std::optional<Kollision> kollision;
-    connect(m_kartei.get(), &Kartei::kollidiert, this,
-            [&](const Kollision &eine) { kollision = eine; });
     m_kartei->versucheNochmals();
-    QVERIFY(kollision.has_value());
-    QCOMPARE(std::get<Person>(kollision->meines.neu).name, QStringLiteral("Anna Muster"));
-    QVERIFY(kollision->meines.alt.has_value());
-    QCOMPARE(std::get<Person>(*kollision->meines.alt).name, QStringLiteral("Anna"));
+    QVERIFY(m_kollision.has_value());
+    QCOMPARE(std::get<Person>(m_kollision->meines.neu).name, QStringLiteral("Anna Muster"));
+    QVERIFY(m_kollision->meines.alt.has_value());
+    QCOMPARE(std::get<Person>(*m_kollision->meines.alt).name, QStringLiteral("Anna"));
 }
 
 void TestKartei::whileSomethingWaitsTheStoreIsNotChanged()
@@ -266,7 +278,7 @@ void TestKartei::whatWaitsOutlivesTheProgram()
     m_kartei->versucheNochmals(); // whoever is tried first stays first
     QVERIFY(m_kartei->istFestgehalten());
 
-    m_kartei = std::make_unique<Kartei>([this] { return m_speicher.ort(); });
+    oeffne();
     QCOMPARE(m_kartei->vorgemerkt(), 2);
     QVERIFY(m_kartei->istFestgehalten());
     m_kartei->versucheNochmals();
@@ -289,9 +301,7 @@ void TestKartei::whatTheUserWasAskedAboutOutlivesTheProgramToo()
 {
     const QString kennung = angelegt(QStringLiteral("Anna"));
     const Person gelesen = akte(kennung).person;
-    Person anderes = gelesen;
-    anderes.nummer = QStringLiteral("17");
-    QVERIFY(m_speicher.tisch()->sichere(anderes));
+    andererTischSchreibt(gelesen);
     Person meines = gelesen;
     meines.name = QStringLiteral("Anna Muster");
     const QString weg = neuerBesuch(kennung, 80, QDate(2026, 11, 23));
@@ -303,22 +313,16 @@ void TestKartei::whatTheUserWasAskedAboutOutlivesTheProgramToo()
     QCOMPARE(m_kartei->offene(), 2);
     QVERIFY(!m_kartei->beginneNeu());
 
-    m_kartei = std::make_unique<Kartei>([this] { return m_speicher.ort(); }); // no answer was given
-    std::optional<Kollision> kollision;
-    std::optional<Schreibwunsch> verschwundener;
-    connect(m_kartei.get(), &Kartei::kollidiert, this,
-            [&](const Kollision &eine) { kollision = eine; });
-    connect(m_kartei.get(), &Kartei::verschwunden, this,
-            [&](const Schreibwunsch &einer) { verschwundener = einer; });
+    oeffne(); // no answer was given
     m_kartei->versucheNochmals();
-    QVERIFY(kollision.has_value());
-    QCOMPARE(std::get<Person>(kollision->meines.neu).name, QStringLiteral("Anna Muster"));
-    QCOMPARE(std::get<Person>(*kollision->meines.alt).name, QStringLiteral("Anna"));
-    QVERIFY(verschwundener.has_value());
-    QCOMPARE(::kennung(verschwundener->neu), weg);
-    m_kartei->verzichte(*verschwundener);
+    QVERIFY(m_kollision.has_value());
+    QCOMPARE(std::get<Person>(m_kollision->meines.neu).name, QStringLiteral("Anna Muster"));
+    QCOMPARE(std::get<Person>(*m_kollision->meines.alt).name, QStringLiteral("Anna"));
+    QVERIFY(m_verschwunden.has_value());
+    QCOMPARE(::kennung(m_verschwunden->neu), weg);
+    m_kartei->verzichte(*m_verschwunden);
     QCOMPARE(m_kartei->offene(), 1);
-    m_kartei->entscheide(*kollision, kollision->meines.neu);
+    m_kartei->entscheide(*m_kollision, m_kollision->meines.neu);
     QCOMPARE(m_kartei->offene(), 0);
     QVERIFY(!QFileInfo::exists(m_speicher.vormerkdatei()));
     QCOMPARE(akte(kennung).person.name, QStringLiteral("Anna Muster"));
@@ -363,24 +367,18 @@ void TestKartei::theSecondDeskIsToldAndChooses()
 {
     const QString kennung = angelegt(QStringLiteral("Anna"));
     const Person gelesen = akte(kennung).person;
-    Person anderes = gelesen;
-    anderes.nummer = QStringLiteral("17");
-    QVERIFY(m_speicher.tisch()->sichere(anderes));
-
-    std::optional<Kollision> kollision;
-    connect(m_kartei.get(), &Kartei::kollidiert, this,
-            [&](const Kollision &eine) { kollision = eine; });
+    andererTischSchreibt(gelesen);
     Person meines = gelesen;
     meines.name = QStringLiteral("Anna Muster");
     m_kartei->sichere({kennung, meines, Satz(gelesen)});
-    QVERIFY(kollision.has_value());
-    QCOMPARE(std::get<Person>(kollision->anderes).nummer, QStringLiteral("17"));
-    QCOMPARE(std::get<Person>(kollision->meines.neu).name, QStringLiteral("Anna Muster"));
+    QVERIFY(m_kollision.has_value());
+    QCOMPARE(std::get<Person>(m_kollision->anderes).nummer, QStringLiteral("17"));
+    QCOMPARE(std::get<Person>(m_kollision->meines.neu).name, QStringLiteral("Anna Muster"));
     QCOMPARE(akte(kennung).person.name, QStringLiteral("Anna"));
 
-    Person beide = std::get<Person>(kollision->anderes);
+    Person beide = std::get<Person>(m_kollision->anderes);
     beide.name = QStringLiteral("Anna Muster");
-    m_kartei->entscheide(*kollision, beide);
+    m_kartei->entscheide(*m_kollision, beide);
     QCOMPARE(akte(kennung).person.name, QStringLiteral("Anna Muster"));
     QCOMPARE(akte(kennung).person.nummer, QStringLiteral("17"));
     QCOMPARE(akte(kennung).person.fassung, 3);
@@ -393,13 +391,10 @@ void TestKartei::whatTheUserGivesUpIsNotWritten()
     Person anderes = gelesen;
     anderes.name = QStringLiteral("Anders");
     QVERIFY(m_speicher.tisch()->sichere(anderes));
-    std::optional<Kollision> kollision;
-    connect(m_kartei.get(), &Kartei::kollidiert, this,
-            [&](const Kollision &eine) { kollision = eine; });
     Person meines = gelesen;
     meines.name = QStringLiteral("Meine");
     m_kartei->sichere({kennung, meines, Satz(gelesen)});
-    m_kartei->verzichte(kollision.value().meines);
+    m_kartei->verzichte(m_kollision.value().meines);
     QCOMPARE(akte(kennung).person.name, QStringLiteral("Anders"));
     QCOMPARE(m_kartei->liste().suche({}, false).constFirst().name, QStringLiteral("Anders"));
 }
@@ -409,14 +404,11 @@ void TestKartei::whatAnotherDeskDeletedIsToldOf()
     const QString kennung = angelegt(QStringLiteral("Anna"));
     const Person gelesen = akte(kennung).person;
     QVERIFY(m_speicher.tisch()->loesche(kennung));
-    std::optional<Schreibwunsch> wunsch;
-    connect(m_kartei.get(), &Kartei::verschwunden, this,
-            [&](const Schreibwunsch &einer) { wunsch = einer; });
     Person meines = gelesen;
     meines.name = QStringLiteral("Anna Muster");
     m_kartei->sichere({kennung, meines, Satz(gelesen)});
-    QVERIFY(wunsch.has_value());
-    QCOMPARE(kennung, wunsch->person);
+    QVERIFY(m_verschwunden.has_value());
+    QCOMPARE(kennung, m_verschwunden->person);
     QVERIFY(!m_kartei->akte(kennung));
     QCOMPARE(m_kartei->vorgemerkt(), 0);
 }

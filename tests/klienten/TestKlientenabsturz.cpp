@@ -1,11 +1,13 @@
 // The program is killed while it saves, and two desks write the same client again and again: what
 // was told as saved is there, whole.
 
+#include "../model/Warten.h"
 #include "Pruefspeicher.h"
 
 #include <QElapsedTimer>
 #include <QRandomGenerator>
 #include <QTest>
+#include <QThread>
 
 #include <csignal>
 
@@ -24,6 +26,104 @@ Person stand(Person person, int nummer)
     return person;
 }
 
+/// Another process that does something and ends with 0 when it went well.
+pid_t zweige(const std::function<bool()> &aufgabe)
+{
+    const pid_t kind = fork();
+    if (kind == 0) {
+        _exit(aufgabe() ? 0 : 1);
+    }
+    return kind;
+}
+
+template <typename Wert>
+bool sende(int rohr, const Wert &wert)
+{
+    return write(rohr, &wert, sizeof wert) == sizeof wert;
+}
+
+/// What came through a pipe; a person's version and number are never below 0.
+template <typename Wert>
+Wert empfange(int rohr)
+{
+    Wert wert = {-1};
+    return read(rohr, &wert, sizeof wert) == sizeof wert ? wert : Wert{-1};
+}
+
+/// A process that has others save, each of which can be killed. It branches off before the test has
+/// grown: whoever branches off is given a copy of all that is in memory, and a thousand copies of
+/// little are made sooner.
+class Schreibstube
+{
+public:
+    Schreibstube(Pruefspeicher &speicher, const Person &person);
+    ~Schreibstube();
+
+    /// Lets one begin to save the next state over a version; its process, or -1 when it can't open
+    /// the store.
+    pid_t beginne(int nummer, int fassung);
+    /// How the one ended who began last, as `waitpid` tells it.
+    int ende() const { return empfange<int>(m_antworten[0]); }
+
+private:
+    struct Auftrag
+    {
+        int nummer;
+        int fassung = 0;
+    };
+
+    bool fuehreAus(Pruefspeicher &speicher, Person person) const;
+
+    int m_auftraege[2] = {};
+    int m_antworten[2] = {};
+    pid_t m_prozess = 0;
+};
+
+Schreibstube::Schreibstube(Pruefspeicher &speicher, const Person &person)
+{
+    if (pipe(m_auftraege) != 0 || pipe(m_antworten) != 0) {
+        qFatal("no pipe");
+    }
+    m_prozess = zweige([&] {
+        close(m_auftraege[1]);
+        return fuehreAus(speicher, person);
+    });
+    close(m_auftraege[0]);
+    close(m_antworten[1]);
+}
+
+Schreibstube::~Schreibstube()
+{
+    close(m_auftraege[1]); // there is nothing more to do
+    waitpid(m_prozess, nullptr, 0);
+    close(m_antworten[0]);
+}
+
+pid_t Schreibstube::beginne(int nummer, int fassung)
+{
+    return sende(m_auftraege[1], Auftrag{nummer, fassung}) ? empfange<pid_t>(m_antworten[0]) : -1;
+}
+
+bool Schreibstube::fuehreAus(Pruefspeicher &speicher, Person person) const
+{
+    for (;;) {
+        const auto auftrag = empfange<Auftrag>(m_auftraege[0]);
+        if (auftrag.nummer < 0) {
+            return true;
+        }
+        const pid_t kind = zweige([&] {
+            const auto tisch = speicher.tisch();
+            person.fassung = auftrag.fassung;
+            Person ihre = stand(person, auftrag.nummer);
+            return sende(m_antworten[1], tisch->oeffne() ? getpid() : -1) && tisch->sichere(ihre);
+        });
+        int ende = 0;
+        if (waitpid(kind, &ende, 0) != kind || !sende(m_antworten[1], ende)) {
+            return false;
+        }
+    }
+}
+
 } // namespace
 
 class TestKlientenabsturz : public QObject
@@ -38,60 +138,35 @@ private Q_SLOTS:
     void twoDesksCollide();
 
 private:
-    pid_t zweige(const std::function<bool()> &aufgabe);
-
     Pruefspeicher m_speicher;
 };
-
-/// Another process that does something and ends with 0 when it went well.
-pid_t TestKlientenabsturz::zweige(const std::function<bool()> &aufgabe)
-{
-    const pid_t kind = fork();
-    if (kind == 0) {
-        _exit(aufgabe() ? 0 : 1);
-    }
-    return kind;
-}
 
 void TestKlientenabsturz::killedDuringASave()
 {
     // On a server nothing but the connection is lost; there, fewer times do.
     const int male = m_speicher.istServer() ? 100 : 1000;
     Person person;
-    {
-        person = stand(person, 0);
-        QVERIFY(m_speicher.tisch()->sichere(person));
-    }
+    person = stand(person, 0);
+    QVERIFY(m_speicher.tisch()->sichere(person));
+    Schreibstube stube(m_speicher, person);
     int getoetet = 0;
     int neue = 0;
     qint64 dauer = 0; // of the last save that came to its end
     for (int nummer = 1; getoetet < male; ++nummer) {
         QVERIFY(nummer < 5 * male);
         const Person neu = stand(person, nummer);
-        int rohr[2] = {};
-        QCOMPARE(pipe(rohr), 0);
-        const pid_t kind = zweige([&] {
-            const auto tisch = m_speicher.tisch();
-            Person ihre = neu;
-            const char bereit = 1;
-            return tisch->oeffne() && write(rohr[1], &bereit, 1) == 1 && tisch->sichere(ihre);
-        });
-        char bereit = 0;
-        QCOMPARE(read(rohr[0], &bereit, 1), 1);
+        const pid_t kind = stube.beginne(nummer, person.fassung);
+        QVERIFY(kind > 1);
         QElapsedTimer uhr;
         uhr.start();
         if (dauer > 0) {
-            const qint64 moment = QRandomGenerator::global()->bounded(dauer);
-            while (uhr.nsecsElapsed() < moment) {
-            }
+            const auto moment = static_cast<quint64>(QRandomGenerator::global()->bounded(dauer));
+            warteBis(uhr, moment);
             kill(kind, SIGKILL);
         }
-        int ende = 0;
-        QCOMPARE(waitpid(kind, &ende, 0), kind);
-        close(rohr[0]);
-        close(rohr[1]);
+        const int ende = stube.ende();
         const bool sofort = WIFSIGNALED(ende);
-        QVERIFY(sofort || WEXITSTATUS(ende) == 0);
+        QVERIFY(sofort || (WIFEXITED(ende) && WEXITSTATUS(ende) == 0));
         dauer = sofort ? dauer : uhr.nsecsElapsed();
 
         // A server may finish what it was told after the one who told it is gone.

@@ -1,24 +1,14 @@
 // Everything that is kept of a client, on paper.
 
-#include "Klientenblatt.h"
-
-#include "Aktenprobe.h"
-#include "Druckprobe.h"
-
-#include <QApplication>
-#include <QPainter>
-#include <QPalette>
-#include <QTest>
+#include "Klientenblatttest.h"
 
 using namespace Qt::StringLiterals;
 
-class TestKlientenblatt : public QObject
+class TestKlientenblatt : public Klientenblatttest
 {
     Q_OBJECT
 
 private Q_SLOTS:
-    void init();
-    void cleanup();
     void thePersonStandsAtTheTop();
     void whatIsNotKnownIsLeftOut();
     void withoutANameItSaysSo();
@@ -34,8 +24,6 @@ private Q_SLOTS:
     void allPlansHaveTheirNumbersInTheSamePlace();
     void aPlanWithoutFoodsSaysSo();
     void manyPlansGoOverPages();
-    void recordsOfDaysStandBelow();
-    void aRecordIsCalledByItsTitleAndKind();
     void theOrderIsPersonVisitsCoursePlans();
     void nothingIsCutOffOnAnyPaper_data();
     void nothingIsCutOffOnAnyPaper();
@@ -45,57 +33,7 @@ private Q_SLOTS:
     void anotherPaperIsLaidOutAnew();
     void aDarkDesktopPrintsTheSame();
     void inEnglishAllIsEnglish();
-
-private:
-    void drucke(const Klientenakte &akte,
-                const QPageLayout &papier = Druckprobe::papier(QPageSize::A4,
-                                                               QPageLayout::Portrait));
-    QString seite(int nummer) const { return m_probe->zeilen(nummer).join(u'\n'); }
-    QStringList alleZeilen() const;
-    Druckwort wort(const QString &text) const { return finde(m_worte, text); }
-
-    std::unique_ptr<Probesprache> m_sprache;
-    std::unique_ptr<Druckprobe> m_probe;
-    QList<Druckwort> m_worte; ///< of the last print
 };
-
-namespace {
-
-/// The lines of a page without what stands at the head and foot of each.
-QStringList ohneRaender(QStringList zeilen, int seite)
-{
-    zeilen.removeLast();
-    return zeilen.mid(seite == 1 ? 0 : 1);
-}
-
-} // namespace
-
-void TestKlientenblatt::init()
-{
-    m_sprache.reset();
-    m_sprache = std::make_unique<Probesprache>(QLocale::German);
-}
-
-void TestKlientenblatt::cleanup()
-{
-    QApplication::setPalette(QPalette());
-}
-
-void TestKlientenblatt::drucke(const Klientenakte &akte, const QPageLayout &papier)
-{
-    m_probe = std::make_unique<Druckprobe>(papier);
-    m_probe->drucke(klientenblatt(akte, Aktenprobe::heute));
-    m_worte = m_probe->worte();
-}
-
-QStringList TestKlientenblatt::alleZeilen() const
-{
-    QStringList alle;
-    for (int nummer = 1; nummer <= m_probe->seiten(); ++nummer) {
-        alle += ohneRaender(m_probe->zeilen(nummer), nummer);
-    }
-    return alle;
-}
 
 void TestKlientenblatt::thePersonStandsAtTheTop()
 {
@@ -332,40 +270,6 @@ void TestKlientenblatt::manyPlansGoOverPages()
         QCOMPARE(mengen[i - 1].seite, titel.seite);
         davor = titel;
     }
-}
-
-void TestKlientenblatt::recordsOfDaysStandBelow()
-{
-    Klientenakte akte{Aktenprobe::person(), {}, {}};
-    drucke(akte);
-    QVERIFY(!alleZeilen().contains(u"Aufzeichnungen"_s));
-    akte.aufzeichnungen = {Aktenprobe::tage()};
-    akte.aufzeichnungen[0].tage[0].mahlzeiten[0].notiz = u"Im Stehen"_s;
-    akte.aufzeichnungen[0].tage[1].notiz = u"Krank"_s;
-    drucke(akte);
-    QStringList zeilen = alleZeilen().replaceInStrings(QString(QChar(QChar::Nbsp)), u" "_s);
-    zeilen = zeilen.mid(zeilen.indexOf(u"Aufzeichnungen"_s));
-    QCOMPARE(
-        zeilen,
-        QStringList({u"Aufzeichnungen"_s, u"Zwei Tage, Protokoll, 07.09.2026 bis 08.09.2026"_s,
-                     u"Montag, 7. September 2026"_s, u"Frühstück Weißbrot – 2 Scheiben (50 g)"_s,
-                     u"oder Äpfel, roh – 150 g"_s, u"Omas Auflauf – 1 Teller"_s, u"Im Stehen"_s,
-                     u"Dienstag, 8. September 2026"_s, u"Mittagessen Äpfel, roh – 150 g"_s,
-                     u"Notiz Krank"_s}));
-}
-
-void TestKlientenblatt::aRecordIsCalledByItsTitleAndKind()
-{
-    Klientenakte akte{Aktenprobe::person(), {}, {}};
-    akte.aufzeichnungen = {neueAufzeichnung(Aufzeichnungsart::Wochenplan, {}, 1),
-                           neueAufzeichnung(Aufzeichnungsart::Protokoll, QDate(2026, 9, 7), 1)};
-    akte.aufzeichnungen[0].titel = u"%1 <b>"_s;
-    drucke(akte);
-    const QStringList zeilen = alleZeilen();
-    QCOMPARE(zeilen.mid(zeilen.indexOf(u"Aufzeichnungen"_s) + 1),
-             QStringList({u"%1 <b>, Wochenplan"_s, u"Tag 1"_s, u"Nichts aufgezeichnet."_s,
-                          u"Protokoll, 07.09.2026"_s, u"Montag, 7. September 2026"_s,
-                          u"Nichts aufgezeichnet."_s}));
 }
 
 void TestKlientenblatt::theOrderIsPersonVisitsCoursePlans()

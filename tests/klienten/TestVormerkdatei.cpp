@@ -2,17 +2,12 @@
 // it should be is neither lost nor written over.
 
 #include "Hindernisse.h"
-#include "Stoerung.h"
+#include "Merkdateitest.h"
 #include "Vormerkdatei.h"
 
-#include <QDir>
-#include <QFile>
 #include <QFileInfo>
-#include <QTemporaryDir>
-#include <QTest>
 
 using namespace Qt::StringLiterals;
-using Schritt = Stoerung::Schritt;
 
 namespace {
 
@@ -55,15 +50,15 @@ QList<Schreibwunsch> dreierlei()
 
 } // namespace
 
-class TestVormerkdatei : public QObject
+class TestVormerkdatei : public Merkdateitest
 {
     Q_OBJECT
 
-private Q_SLOTS:
-    void init() { m_ordner = std::make_unique<QTemporaryDir>(); }
+public:
+    TestVormerkdatei() : Merkdateitest(u"Vorgemerkt.json"_s) {}
 
+private Q_SLOTS:
     void whatWaitsComesBackAsItWas();
-    void onlyTheUserCanReadIt();
     void forNothingThereIsNoFile();
     void whatIsNotUnderstoodIsKeptBeside_data();
     void whatIsNotUnderstoodIsKeptBeside();
@@ -76,20 +71,7 @@ private Q_SLOTS:
     void whatAWriterLeftBehindGoes();
 
 private:
-    QString path() const { return m_ordner->filePath(u"Vorgemerkt.json"_s); }
-    QByteArray bytes() const
-    {
-        QFile datei(path());
-        return datei.open(QIODevice::ReadOnly) ? datei.readAll() : QByteArray();
-    }
-    void lege(const QByteArray &inhalt) const
-    {
-        QFile datei(path());
-        QVERIFY(datei.open(QIODevice::WriteOnly));
-        QCOMPARE(datei.write(inhalt), inhalt.size());
-    }
-
-    std::unique_ptr<QTemporaryDir> m_ordner;
+    bool merke() const override { return Vormerkdatei(path()).schreibe(dreierlei()); }
 };
 
 void TestVormerkdatei::whatWaitsComesBackAsItWas()
@@ -101,14 +83,6 @@ void TestVormerkdatei::whatWaitsComesBackAsItWas()
     QVERIFY(!datei.istGesperrt());
 }
 
-void TestVormerkdatei::onlyTheUserCanReadIt()
-{
-    QVERIFY(Vormerkdatei(path()).schreibe(dreierlei()));
-    QCOMPARE(QFile::permissions(path()) &
-                 (QFile::ReadGroup | QFile::WriteGroup | QFile::ReadOther | QFile::WriteOther),
-             QFile::Permissions());
-}
-
 void TestVormerkdatei::forNothingThereIsNoFile()
 {
     Vormerkdatei datei(path());
@@ -118,9 +92,7 @@ void TestVormerkdatei::forNothingThereIsNoFile()
     QVERIFY(datei.schreibe(dreierlei()));
     QVERIFY(QFileInfo::exists(path()));
     QVERIFY(datei.schreibe({}));
-    QCOMPARE(
-        QDir(m_ordner->path()).entryList(QDir::AllEntries | QDir::Hidden | QDir::NoDotAndDotDot),
-        QStringList());
+    QCOMPARE(m_ordner->dateien(), QStringList());
 }
 
 void TestVormerkdatei::whatIsNotUnderstoodIsKeptBeside_data()
@@ -160,19 +132,15 @@ void TestVormerkdatei::whatIsNotUnderstoodIsKeptBeside()
     Vormerkdatei datei(path());
     QCOMPARE(datei.lies(jetzt).size(), gelesen);
     QVERIFY(!datei.istGesperrt());
-    QCOMPARE(datei.beiseite(), m_ordner->filePath(u"Vorgemerkt 2026-11-23 09.30.00.json"_s));
+    QCOMPARE(datei.beiseite(), m_ordner->path(u"Vorgemerkt 2026-11-23 09.30.00.json"_s));
     QVERIFY(datei.schreibe(dreierlei()));
     QCOMPARE(Vormerkdatei(path()).lies(jetzt), dreierlei());
-    QFile kopie(datei.beiseite());
-    QVERIFY(kopie.open(QIODevice::ReadOnly));
-    QCOMPARE(kopie.readAll(), inhalt);
+    istKopie(datei.beiseite(), inhalt);
 }
 
 void TestVormerkdatei::whatCanNotBeReadIsNotWrittenOver_data()
 {
-    QTest::addColumn<Schritt>("schritt");
-    QTest::newRow("it does not open") << Schritt::Oeffnen;
-    QTest::newRow("it can't be read") << Schritt::Lesen;
+    lesestoerungen();
 }
 
 void TestVormerkdatei::whatCanNotBeReadIsNotWrittenOver()
@@ -209,11 +177,7 @@ void TestVormerkdatei::whatCanNotBeKeptBesideStays()
 
 void TestVormerkdatei::aFailingStepLeavesWhatStood_data()
 {
-    QTest::addColumn<Schritt>("schritt");
-    QTest::newRow("nothing can be made") << Schritt::Anlegen;
-    QTest::newRow("the disk is full") << Schritt::Schreiben;
-    QTest::newRow("it does not get to the disk") << Schritt::DateiSichern;
-    QTest::newRow("the folder does not get to the disk") << Schritt::OrdnerSichern;
+    schreibstoerungen();
 }
 
 void TestVormerkdatei::aFailingStepLeavesWhatStood()
@@ -247,16 +211,12 @@ void TestVormerkdatei::aFileThatCanNotGoIsToldOf()
 
 void TestVormerkdatei::whatAWriterLeftBehindGoes()
 {
-    const QString rest = path() + u".schreibe-aB3xYz"_s;
-    QFile datei(rest);
-    QVERIFY(datei.open(QIODevice::WriteOnly) && datei.write("{") == 1);
-    datei.close();
-    QVERIFY(datei.open(QIODevice::ReadWrite));
-    QVERIFY(datei.setFileTime(QDateTime::currentDateTime().addDays(-1),
-                              QFileDevice::FileModificationTime));
-    datei.close();
+    const QString rest = u"Vorgemerkt.json.schreibe-aB3xYz"_s;
+    m_ordner->lege("{", rest);
+    m_ordner->datiere(QDateTime::currentDateTime().addDays(-1), rest);
+    QVERIFY(QFileInfo::exists(m_ordner->path(rest)));
     Vormerkdatei(path()).lies(QDateTime::currentDateTime());
-    QVERIFY(!QFileInfo::exists(rest));
+    QVERIFY(!QFileInfo::exists(m_ordner->path(rest)));
 }
 
 QTEST_GUILESS_MAIN(TestVormerkdatei)

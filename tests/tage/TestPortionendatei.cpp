@@ -1,6 +1,7 @@
 // The household measures as people write them, and which of them are for a food.
 
 #include "Portionendatei.h"
+#include "Tabellendateitest.h"
 
 #include <QTest>
 
@@ -13,7 +14,7 @@ const QString kopf = u"group;name;except;de;de_many;en;en_many;grams;keys;note"_
 
 Portionendatei::Ergebnis gelesen(const QStringList &zeilen)
 {
-    return Portionendatei::lesen((kopf + u'\n' + zeilen.join(u'\n') + u'\n').toUtf8());
+    return Portionendatei::lesen(tabelle(kopf, zeilen));
 }
 
 /// A line for bread; the measure's English is of no matter.
@@ -35,13 +36,17 @@ QString masse(const QStringList &zeilen, const QString &name)
 
 } // namespace
 
-class TestPortionendatei : public QObject
+class TestPortionendatei : public Tabellendateitest
 {
     Q_OBJECT
 
+public:
+    TestPortionendatei()
+        : Tabellendateitest(kopf, {brot + u";;;Schei"_s, 2, u"4 fields instead of 10"_s})
+    {
+    }
+
 private Q_SLOTS:
-    void aBrokenFileIsObjectedTo_data();
-    void aBrokenFileIsObjectedTo();
     void aBrokenLineIsLeftOutAndObjectedTo_data();
     void aBrokenLineIsLeftOutAndObjectedTo();
     void gramsAtTheirLimitsAreTaken_data();
@@ -51,42 +56,18 @@ private Q_SLOTS:
     void aLineIsForTheFoodsThatItNames();
     void aFoodOfAnotherGroupHasNoneOfIt();
     void whatIsForAFoodGoesBeforeWhatIsForItsGroup();
+
+private:
+    Gelesenes lies(const QByteArray &bytes) const override
+    {
+        const auto [zeilen, einwaende] = Portionendatei::lesen(bytes);
+        return {zeilen.isEmpty(), einwaende};
+    }
 };
-
-void TestPortionendatei::aBrokenFileIsObjectedTo_data()
-{
-    QTest::addColumn<QByteArray>("bytes");
-    QTest::addColumn<int>("ort");
-    QTest::addColumn<QString>("meldung");
-    QTest::newRow("empty") << QByteArray() << 0 << u"The table is empty"_s;
-    QTest::newRow("no UTF-8") << QByteArray("\xff\n") << 0 << u"The file is not in UTF-8"_s;
-    QTest::newRow("other columns")
-        << QByteArray("# x\ngroup;name\n") << 2 << u"The columns must be "_s + kopf;
-    QTest::newRow("cut off within a line")
-        << (kopf + u"\nBrot und Brötchen;;;Schei"_s).toUtf8() << 2 << u"4 fields instead of 10"_s;
-}
-
-void TestPortionendatei::aBrokenFileIsObjectedTo()
-{
-    QFETCH(const QByteArray, bytes);
-    QFETCH(const int, ort);
-    QFETCH(const QString, meldung);
-    const auto [zeilen, einwaende] = Portionendatei::lesen(bytes);
-    QVERIFY(zeilen.isEmpty());
-    QVERIFY(!einwaende.isEmpty());
-    QCOMPARE(einwaende.first().zeile, ort);
-    QCOMPARE(einwaende.first().meldung, meldung);
-}
 
 void TestPortionendatei::aBrokenLineIsLeftOutAndObjectedTo_data()
 {
-    QTest::addColumn<QString>("felder");
-    QTest::addColumn<QString>("regel");
-    QTest::addColumn<QString>("meldung");
-    const auto schlecht = [](const char *name, const QString &felder, const QString &regel,
-                             const QString &meldung) {
-        QTest::newRow(name) << felder << regel << meldung;
-    };
+    schlechteZeilen();
     schlecht("an unknown group", u"Brote;;;a;b;c;d;5;SGE;"_s, u"format"_s,
              u"\"Brote\" is unknown (column group)"_s);
     schlecht("an unknown second group", brot + u"|Brote;;;a;b;c;d;5;SGE;"_s, u"format"_s,
@@ -115,17 +96,12 @@ void TestPortionendatei::aBrokenLineIsLeftOutAndObjectedTo_data()
 
 void TestPortionendatei::aBrokenLineIsLeftOutAndObjectedTo()
 {
-    QFETCH(const QString, felder);
-    QFETCH(const QString, regel);
-    QFETCH(const QString, meldung);
+    QFETCH(const QString, zeile);
     const auto [zeilen, einwaende] =
-        gelesen({u"# a remark"_s, felder, zeile({}, {}, u"Scheibe"_s, 50)});
+        gelesen({u"# a remark"_s, zeile, ::zeile({}, {}, u"Scheibe"_s, 50)});
     QCOMPARE(zeilen.size(), 1);
     QCOMPARE(zeilen.first().zeile, 4);
-    QCOMPARE(einwaende.size(), 1);
-    QCOMPARE(einwaende.first().zeile, 3);
-    QCOMPARE(einwaende.first().regel, regel);
-    QCOMPARE(einwaende.first().meldung, meldung);
+    istDerEinwand(einwaende, 3);
 }
 
 void TestPortionendatei::gramsAtTheirLimitsAreTaken_data()

@@ -1,17 +1,12 @@
 // The records of days that belong to no client: kept in a file of the desk, and not lost with it.
 
 #include "Aufzeichnungsprobe.h"
-#include "Stoerung.h"
+#include "Merkdateitest.h"
 #include "Tagebuchdatei.h"
 
-#include <QDir>
-#include <QFile>
 #include <QFileInfo>
-#include <QTemporaryDir>
-#include <QTest>
 
 using namespace Qt::StringLiterals;
-using Schritt = Stoerung::Schritt;
 
 namespace {
 
@@ -29,16 +24,16 @@ Aufzeichnung eine(const QString &kennung)
 
 } // namespace
 
-class TestTagebuchdatei : public QObject
+class TestTagebuchdatei : public Merkdateitest
 {
     Q_OBJECT
 
-private Q_SLOTS:
-    void init() { m_ordner = std::make_unique<QTemporaryDir>(); }
+public:
+    TestTagebuchdatei() : Merkdateitest(u"Tage.json"_s) {}
 
+private Q_SLOTS:
     void recordsComeBackInTheirOrder();
     void forNoneThereIsNoFile();
-    void onlyTheUserCanReadIt();
     void oneThatCanNotBeUnderstoodIsKeptBeside();
     void whatIsNoDiaryIsKeptBeside_data();
     void whatIsNoDiaryIsKeptBeside();
@@ -51,20 +46,7 @@ private Q_SLOTS:
     void theStateOfAnEarlierDayIsKept();
 
 private:
-    QString path() const { return m_ordner->filePath(u"Tage.json"_s); }
-    QByteArray bytes() const
-    {
-        QFile datei(path());
-        return datei.open(QIODevice::ReadOnly) ? datei.readAll() : QByteArray();
-    }
-    void lege(const QByteArray &inhalt) const
-    {
-        QFile datei(path());
-        QVERIFY(datei.open(QIODevice::WriteOnly));
-        QCOMPARE(datei.write(inhalt), inhalt.size());
-    }
-
-    std::unique_ptr<QTemporaryDir> m_ordner;
+    bool merke() const override { return Tagebuchdatei(path()).schreibe({eine(u"a"_s)}); }
 };
 
 void TestTagebuchdatei::recordsComeBackInTheirOrder()
@@ -88,14 +70,6 @@ void TestTagebuchdatei::forNoneThereIsNoFile()
     QVERIFY(!QFileInfo::exists(path()));
 }
 
-void TestTagebuchdatei::onlyTheUserCanReadIt()
-{
-    QVERIFY(Tagebuchdatei(path()).schreibe({eine(u"a"_s)}));
-    QCOMPARE(QFile::permissions(path()) &
-                 (QFile::ReadGroup | QFile::WriteGroup | QFile::ReadOther | QFile::WriteOther),
-             QFile::Permissions());
-}
-
 void TestTagebuchdatei::oneThatCanNotBeUnderstoodIsKeptBeside()
 {
     QVERIFY(Tagebuchdatei(path()).schreibe({eine(u"a"_s), eine(u"b"_s)}));
@@ -109,9 +83,7 @@ void TestTagebuchdatei::oneThatCanNotBeUnderstoodIsKeptBeside()
     QCOMPARE(gelesen.size(), 1);
     QCOMPARE(gelesen.constFirst().kennung, u"b"_s);
     QVERIFY(datei.schreibe(gelesen));
-    QFile kopie(datei.beiseite());
-    QVERIFY(kopie.open(QIODevice::ReadOnly));
-    QCOMPARE(kopie.readAll(), inhalt);
+    istKopie(datei.beiseite(), inhalt);
 }
 
 void TestTagebuchdatei::whatIsNoDiaryIsKeptBeside_data()
@@ -132,11 +104,9 @@ void TestTagebuchdatei::whatIsNoDiaryIsKeptBeside()
     lege(inhalt);
     Tagebuchdatei datei(path());
     QVERIFY(datei.lies(jetzt).isEmpty());
-    QCOMPARE(datei.beiseite(), m_ordner->filePath(u"Tage 2026-11-23 09.30.00.json"_s));
+    QCOMPARE(datei.beiseite(), m_ordner->path(u"Tage 2026-11-23 09.30.00.json"_s));
     QVERIFY(datei.schreibe({eine(u"a"_s)}));
-    QFile kopie(datei.beiseite());
-    QVERIFY(kopie.open(QIODevice::ReadOnly));
-    QCOMPARE(kopie.readAll(), inhalt);
+    istKopie(datei.beiseite(), inhalt);
 }
 
 void TestTagebuchdatei::aNewerFileIsReadAndNotWritten()
@@ -176,9 +146,7 @@ void TestTagebuchdatei::aNewerRecordIsHandedOn()
 
 void TestTagebuchdatei::whatCanNotBeReadStays_data()
 {
-    QTest::addColumn<Schritt>("schritt");
-    QTest::newRow("it does not open") << Schritt::Oeffnen;
-    QTest::newRow("it can't be read") << Schritt::Lesen;
+    lesestoerungen();
 }
 
 void TestTagebuchdatei::whatCanNotBeReadStays()
@@ -199,11 +167,7 @@ void TestTagebuchdatei::whatCanNotBeReadStays()
 
 void TestTagebuchdatei::aFailingStepLeavesWhatStood_data()
 {
-    QTest::addColumn<Schritt>("schritt");
-    QTest::newRow("nothing can be made") << Schritt::Anlegen;
-    QTest::newRow("the disk is full") << Schritt::Schreiben;
-    QTest::newRow("it does not get to the disk") << Schritt::DateiSichern;
-    QTest::newRow("the folder does not get to the disk") << Schritt::OrdnerSichern;
+    schreibstoerungen();
 }
 
 void TestTagebuchdatei::aFailingStepLeavesWhatStood()
@@ -227,19 +191,13 @@ void TestTagebuchdatei::theStateOfAnEarlierDayIsKept()
     Tagebuchdatei datei(path());
     QVERIFY(datei.schreibe({eine(u"a"_s)}));
     QVERIFY(datei.schreibe({eine(u"b"_s)}));
-    const QDir kopien(m_ordner->filePath(u"Sicherungen"_s));
+    const QDir kopien(m_ordner->path(u"Sicherungen"_s));
     QVERIFY(!kopien.exists()); // two states of one day
     const QByteArray vorher = bytes();
-    QFile alte(path());
-    QVERIFY(alte.open(QIODevice::ReadWrite));
-    QVERIFY(alte.setFileTime(QDateTime(QDate(2026, 11, 20), QTime(18, 0)),
-                             QFileDevice::FileModificationTime));
-    alte.close();
+    datiere(QDateTime(QDate(2026, 11, 20), QTime(18, 0)));
     QVERIFY(datei.schreibe({eine(u"c"_s)}));
     QCOMPARE(kopien.entryList(QDir::Files), QStringList(u"Tage 2026-11-20.json"_s));
-    QFile kopie(kopien.filePath(u"Tage 2026-11-20.json"_s));
-    QVERIFY(kopie.open(QIODevice::ReadOnly));
-    QCOMPARE(kopie.readAll(), vorher);
+    istKopie(kopien.filePath(u"Tage 2026-11-20.json"_s), vorher);
 }
 
 QTEST_GUILESS_MAIN(TestTagebuchdatei)

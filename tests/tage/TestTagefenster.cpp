@@ -1,7 +1,7 @@
 // The window of the days under the hands of its user: foods and amounts from the keyboard, what is
 // told, what can be taken back, and whose records they are.
 
-#include "Fensterprobe.h"
+#include "Tagefenstertest.h"
 
 #include <QLabel>
 #include <QMenuBar>
@@ -12,15 +12,11 @@ using Aufzeichnungsprobe::namen;
 using Art = Tagesmodell::Art;
 using Platz = Tagesmodell::Platz;
 
-class TestTagefenster : public QObject
+class TestTagefenster : public Tagefenstertest
 {
     Q_OBJECT
 
 private Q_SLOTS:
-    void initTestCase() { QLocale::setDefault(QLocale(QLocale::German, QLocale::Germany)); }
-    void init() { m_probe = std::make_unique<Fensterprobe>(); }
-    void cleanup() { m_probe.reset(); }
-
     void withoutARecordThereAreWords();
     void aRecordBeginsWithItsFirstRow();
     void foodAndAmountLeadToTheNextRow();
@@ -54,15 +50,6 @@ private Q_SLOTS:
     void deletingAsks();
 
 private:
-    QAction *eintrag(const QString &text) const
-    {
-        for (QAction *einer : m_probe->fenster->findChildren<QAction *>()) {
-            if (einer->text().remove(u'&') == text) {
-                return einer;
-            }
-        }
-        return nullptr;
-    }
     QString zeilen(int mahlzeit = 0, int tag = 0) const
     {
         return namen(m_probe->jetzige(), tag, mahlzeit);
@@ -71,8 +58,6 @@ private:
     {
         QTest::keyClick(m_probe->fenster.get(), Qt::Key_Z, Qt::ControlModifier);
     }
-
-    std::unique_ptr<Fensterprobe> m_probe;
 };
 
 void TestTagefenster::withoutARecordThereAreWords()

@@ -1,7 +1,7 @@
 // What days come to, in the window in which they are typed: the pictures below the sums, and the
 // evaluation that follows in a window of its own.
 
-#include "Fensterprobe.h"
+#include "Tagefenstertest.h"
 #include "Tagesauswertungsfenster.h"
 #include "Tagesbilder.h"
 #include "Textfeld.h"
@@ -13,14 +13,12 @@
 
 using namespace Qt::StringLiterals;
 
-class TestTagefensterAuswertung : public QObject
+class TestTagefensterAuswertung : public Tagefenstertest
 {
     Q_OBJECT
 
 private Q_SLOTS:
-    void initTestCase() { QLocale::setDefault(QLocale(QLocale::German, QLocale::Germany)); }
     void init();
-    void cleanup() { m_probe.reset(); }
 
     void picturesFollowWhatIsTyped();
     void picturesFollowTheDay();
@@ -44,8 +42,6 @@ private:
             .replace(QChar(QChar::Nbsp), u' ');
     }
     void oeffne() const { QTest::keyClick(m_probe->fenster.get(), Qt::Key_E, Qt::ControlModifier); }
-
-    std::unique_ptr<Fensterprobe> m_probe;
 };
 
 /// 100 g of any food are 100 kcal, of which all come from 25 g of carbohydrate.

@@ -1,29 +1,25 @@
 // What joins the days with each other, with the plan on the desk, with kept plans and with the
 // foods of today.
 
-#include "Fensterprobe.h"
+#include "Tagefenstertest.h"
 
 #include <QListWidget>
-#include <QMenuBar>
 #include <QPushButton>
 #include <QTimer>
 
 using namespace Qt::StringLiterals;
-using Aufzeichnungsprobe::namen;
 using Aufzeichnungsprobe::oder;
 using Aufzeichnungsprobe::speise;
 using Aufzeichnungsprobe::zeile;
 using Art = Tagesmodell::Art;
 using Platz = Tagesmodell::Platz;
 
-class TestTagefensterPlan : public QObject
+class TestTagefensterPlan : public Tagefenstertest
 {
     Q_OBJECT
 
 private Q_SLOTS:
-    void initTestCase() { QLocale::setDefault(QLocale(QLocale::German, QLocale::Germany)); }
     void init();
-    void cleanup() { m_probe.reset(); }
 
     void aDayGoesToTheDesk();
     void whatIsAddedUpAndLeftOutIsTold();
@@ -44,20 +40,6 @@ private Q_SLOTS:
     void whatIsUpToDateIsNoStep();
 
 private:
-    Tagebuch &buch() const { return m_probe->fenster->buch; }
-    QString mahlzeit(int welche, int tag = 0) const
-    {
-        return namen(m_probe->jetzige(), tag, welche);
-    }
-    QAction *eintrag(const QString &text) const
-    {
-        for (QAction *einer : m_probe->fenster->menuBar()->findChildren<QAction *>()) {
-            if (einer->text().remove(u'&') == text) {
-                return einer;
-            }
-        }
-        return nullptr;
-    }
     void waehle(const QString &text) const { eintrag(text)->trigger(); }
     /// Answers the window that opens next with a key.
     void antworte(const std::function<void(QWidget &)> &tat)
@@ -74,7 +56,6 @@ private:
     }
     QString hinweis() const { return m_probe->hinweise().value(0); }
 
-    std::unique_ptr<Fensterprobe> m_probe;
     bool m_geoeffnet = false;
 };
 

@@ -1,18 +1,17 @@
 #pragma once
 
-#include "Fensterprobe.h"
+#include "Tagefenstertest.h"
 
 #include <QClipboard>
 #include <QGuiApplication>
 
 /// What the tests share that move rows about in the window of the days: a record of two days; for
 /// breakfast an apple, toast or milk; for lunch water.
-class Umzugstest : public QObject
+class Umzugstest : public Tagefenstertest
 {
     Q_OBJECT
 
 private Q_SLOTS:
-    void initTestCase() { QLocale::setDefault(QLocale(QLocale::German, QLocale::Germany)); }
     void init()
     {
         using Aufzeichnungsprobe::zeile;
@@ -28,21 +27,13 @@ private Q_SLOTS:
         QVERIFY(m_probe->aktiv);
         ansicht().setFocus();
     }
-    void cleanup() { m_probe.reset(); }
 
 protected:
     Tagesansicht &ansicht() const { return *m_probe->fenster->ansicht; }
-    Tagebuch &buch() const { return m_probe->fenster->buch; }
-    QString mahlzeit(int welche, int tag = 0) const
-    {
-        return Aufzeichnungsprobe::namen(m_probe->jetzige(), tag, welche);
-    }
     void zumPlatz(const Tagesmodell::Platz &platz) const
     {
         ansicht().geheZu(platz, Tagesmodell::Name);
     }
     void waehle(const QList<Tagesmodell::Platz> &plaetze) const { ansicht().waehle(plaetze); }
     void einSchritt(int vorher) const { QCOMPARE(buch().schritte.index(), vorher + 1); }
-
-    std::unique_ptr<Fensterprobe> m_probe;
 };
