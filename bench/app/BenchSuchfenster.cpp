@@ -159,13 +159,3 @@ BENCHMARK_CAPTURE(sucheNamen, alle, jederName, false)
     ->Unit(benchmark::kMillisecond);
 BENCHMARK_CAPTURE(sucheProfil, keinen, 1000.0F)->Arg(viele)->Unit(benchmark::kMillisecond);
 BENCHMARK_CAPTURE(sucheProfil, alle, -1.0F)->Arg(viele)->Unit(benchmark::kMillisecond);
-
-int main(int argc, char **argv)
-{
-    qputenv("QT_QPA_PLATFORM", "offscreen");
-    qputenv("QT_LOGGING_RULES", "qt.*=false");
-    QApplication app(argc, argv);
-    benchmark::Initialize(&argc, argv);
-    benchmark::RunSpecifiedBenchmarks();
-    return 0;
-}

@@ -307,12 +307,3 @@ BENCHMARK(bisZuDenTreffern)->Unit(benchmark::kMillisecond);
 BENCHMARK(bisZumKlienten)->Unit(benchmark::kMillisecond);
 BENCHMARK(rohesStellen)->Unit(benchmark::kMillisecond);
 BENCHMARK(bisZumTisch)->Unit(benchmark::kMillisecond);
-
-int main(int argc, char **argv)
-{
-    qputenv("QT_QPA_PLATFORM", "offscreen");
-    const QApplication app(argc, argv);
-    benchmark::Initialize(&argc, argv);
-    benchmark::RunSpecifiedBenchmarks();
-    return 0;
-}

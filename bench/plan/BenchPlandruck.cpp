@@ -7,7 +7,6 @@
 
 #include <benchmark/benchmark.h>
 
-#include <QApplication>
 #include <QPrintPreviewWidget>
 #include <QPrinter>
 #include <QTemporaryDir>
@@ -82,13 +81,3 @@ BENCHMARK_CAPTURE(showInThePreview, baselineSimpleList, &Planmodul::drucken)
 BENCHMARK_CAPTURE(showInThePreview, detailedList, &Planmodul::drucken3)
     ->Arg(5000)
     ->Unit(benchmark::kMillisecond);
-
-int main(int argc, char **argv)
-{
-    qputenv("QT_QPA_PLATFORM", "offscreen");
-    qputenv("QT_LOGGING_RULES", "qt.*=false");
-    QApplication app(argc, argv);
-    benchmark::Initialize(&argc, argv);
-    benchmark::RunSpecifiedBenchmarks();
-    return 0;
-}

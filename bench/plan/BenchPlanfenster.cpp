@@ -121,13 +121,3 @@ BENCHMARK_CAPTURE(changeAnAmount, own, true)->Arg(30)->Arg(1000)->Unit(benchmark
 BENCHMARK(baselineScrollAPlainTable)->Arg(30)->Unit(benchmark::kMillisecond);
 BENCHMARK_CAPTURE(scrollTheTable, builtIn, false)->Arg(30)->Unit(benchmark::kMillisecond);
 BENCHMARK_CAPTURE(scrollTheTable, own, true)->Arg(30)->Unit(benchmark::kMillisecond);
-
-int main(int argc, char **argv)
-{
-    qputenv("QT_QPA_PLATFORM", "offscreen");
-    qputenv("QT_LOGGING_RULES", "qt.*=false");
-    QApplication app(argc, argv);
-    benchmark::Initialize(&argc, argv);
-    benchmark::RunSpecifiedBenchmarks();
-    return 0;
-}

@@ -173,12 +173,3 @@ BENCHMARK_CAPTURE(inDerDatei, gesichert, true)->Unit(benchmark::kMillisecond);
 BENCHMARK_CAPTURE(beimKlienten, gesichert, true)->Unit(benchmark::kMillisecond);
 
 } // namespace
-
-int main(int argc, char **argv)
-{
-    qputenv("QT_QPA_PLATFORM", "offscreen");
-    const QApplication app(argc, argv);
-    benchmark::Initialize(&argc, argv);
-    benchmark::RunSpecifiedBenchmarks();
-    return 0;
-}
