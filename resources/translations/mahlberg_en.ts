@@ -5156,6 +5156,1606 @@ New: %1</translation>
   <source>Tag aus&amp;schneiden</source>
   <translation>Cu&amp;t day</translation>
  </message>
+ <message>
+  <source>Woh&amp;er kommt:</source>
+  <translation>&amp;Where it comes from:</translation>
+ </message>
+ <message>
+  <source>Beiträge der Lebensmittel</source>
+  <translation>Contributions of the foods</translation>
+ </message>
+ <message>
+  <source>Die Eingabetaste führt zur Zeile des Lebensmittels.</source>
+  <translation>Return leads to the row of the food.</translation>
+ </message>
+ <message>
+  <source>Ungeeignet: %1</source>
+  <translation>Unsuitable: %1</translation>
+ </message>
+ <message>
+  <source>Ungeeignete Lebensmittel: %1, %2 der Menge</source>
+  <translation>Unsuitable foods: %1, %2 of the amount</translation>
+ </message>
+ <message>
+  <source>Hier zählt noch kein Lebensmittel.</source>
+  <translation>No food counts here yet.</translation>
+ </message>
+ <message>
+  <source>Kein Lebensmittel ist hierfür ungeeignet.</source>
+  <translation>No food is unsuitable for this.</translation>
+ </message>
+ <message>
+  <source>Beitrag</source>
+  <translation>Contribution</translation>
+ </message>
+ <message>
+  <source>bei %1 der Menge unbekannt</source>
+  <translation>unknown for %1 of the amount</translation>
+ </message>
+ <message>
+  <source>Gesättigte Fettsäuren</source>
+  <translation>Saturated fat</translation>
+ </message>
+ <message>
+  <source>Zucker</source>
+  <translation>Sugars</translation>
+ </message>
+ <message>
+  <source>Alkohol</source>
+  <translation>Alcohol</translation>
+ </message>
+ <message>
+  <source>Wasser</source>
+  <translation>Water</translation>
+ </message>
+ <message>
+  <source>Harnsäure aus Purinen</source>
+  <translation>Uric acid from purines</translation>
+ </message>
+ <message>
+  <source>BE</source>
+  <translation>BU</translation>
+ </message>
+ <message>
+  <source>Das Gericht braucht einen Namen.</source>
+  <translation>The dish needs a name.</translation>
+ </message>
+ <message>
+  <source>Das Rezept hat keine Zutaten.</source>
+  <translation>The recipe has no ingredients.</translation>
+ </message>
+ <message>
+  <source>Ein Rezept kann höchstens 100 Zutaten haben.</source>
+  <translation>A recipe can have 100 ingredients at most.</translation>
+ </message>
+ <message>
+  <source>Eine Zutat hat keinen Namen.</source>
+  <translation>An ingredient has no name.</translation>
+ </message>
+ <message>
+  <source>Jede Zutat braucht eine Menge über 0 g.</source>
+  <translation>Each ingredient needs an amount above 0 g.</translation>
+ </message>
+ <message>
+  <source>Eine Zutat kann höchstens 100 kg wiegen.</source>
+  <translation>An ingredient can weigh 100 kg at most.</translation>
+ </message>
+ <message>
+  <source>Das fertige Gericht muss mindestens 1 g wiegen.</source>
+  <translation>The finished dish must weigh at least 1 g.</translation>
+ </message>
+ <message>
+  <source>Ein Gericht kann höchstens 100 kg wiegen.</source>
+  <translation>A dish can weigh 100 kg at most.</translation>
+ </message>
+ <message>
+  <source>Fertig kann das Gericht nicht weniger wiegen als Protein, Fett, Kohlenhydrate und Ballaststoffe der Zutaten zusammen.</source>
+  <translation>Finished, the dish can't weigh less than the protein, fat, carbohydrate and fibre of its ingredients together.</translation>
+ </message>
+ <message>
+  <source>Die Zahl der Portionen muss zwischen 0,1 und 1000 liegen.</source>
+  <translation>The number of portions must be between 0.1 and 1000.</translation>
+ </message>
+ <message>
+  <source>Das Gericht kann nicht seine eigene Zutat sein, auch nicht auf dem Weg über andere Rezepte.</source>
+  <translation>The dish can't be its own ingredient, nor by way of other recipes.</translation>
+ </message>
+ <message>
+  <source>Die Datei der Rezepte lässt sich nicht lesen oder ist von einer neueren Version. Sie bleibt, wie sie ist, und Rezepte können nicht geändert werden.</source>
+  <translation>The file of the recipes can't be read, or is from a newer version. It stays as it is, and recipes can't be changed.</translation>
+ </message>
+ <message>
+  <source>Die Rezepte ließen sich nicht sichern. Sie gelten weiter, und mit der nächsten Änderung wird es wieder versucht.</source>
+  <translation>The recipes could not be saved. They hold all the same, and the next change will try again.</translation>
+ </message>
+ <message>
+  <source>Die Datei der Rezepte war beschädigt. Was sich lesen ließ, gilt; sie selbst liegt jetzt hier: %1</source>
+  <translation>The file of the recipes was damaged. What could be read holds; the file itself is here now: %1</translation>
+ </message>
+ <message>
+  <source>je 100 g</source>
+  <translation>per 100 g</translation>
+ </message>
+ <message>
+  <source>je 100 kcal</source>
+  <translation>per 100 kcal</translation>
+ </message>
+ <message>
+  <source>je Portion</source>
+  <translation>per portion</translation>
+ </message>
+ <message>
+  <source>mind. %1</source>
+  <translation>at least %1</translation>
+ </message>
+ <message>
+  <source>ohne Portion</source>
+  <translation>no portion</translation>
+ </message>
+ <message>
+  <source>ohne Rang, eine Angabe fehlt</source>
+  <translation>no rank, a figure is missing</translation>
+ </message>
+ <message>
+  <source>Rang %1</source>
+  <translation>Rank %1</translation>
+ </message>
+ <message>
+  <source>zum Vergleich angehakt</source>
+  <translation>ticked for comparing</translation>
+ </message>
+ <message>
+  <source>Rang</source>
+  <translation>Rank</translation>
+ </message>
+ <message>
+  <source>Gehalt</source>
+  <translation>Content</translation>
+ </message>
+ <message>
+  <source>vom Höchsten</source>
+  <translation>of highest</translation>
+ </message>
+ <message>
+  <source>Portion</source>
+  <translation>Portion</translation>
+ </message>
+ <message>
+  <source>von</source>
+  <translation>from</translation>
+ </message>
+ <message>
+  <source>bis</source>
+  <translation>to</translation>
+ </message>
+ <message>
+  <source>Diesen Bereich herausnehmen</source>
+  <translation>Take this range out</translation>
+ </message>
+ <message>
+  <source>Bereich: Angabe</source>
+  <translation>Range: value</translation>
+ </message>
+ <message>
+  <source>Bereich für %1: Bezug</source>
+  <translation>Range of %1: basis</translation>
+ </message>
+ <message>
+  <source>%1 von, in %2</source>
+  <translation>%1 from, in %2</translation>
+ </message>
+ <message>
+  <source>%1 bis, in %2</source>
+  <translation>%1 to, in %2</translation>
+ </message>
+ <message>
+  <source>Bereich für %1 herausnehmen</source>
+  <translation>Take the range of %1 out</translation>
+ </message>
+ <message>
+  <source>beliebig</source>
+  <translation>any</translation>
+ </message>
+ <message>
+  <source>+ oder 0</source>
+  <translation>+ or 0</translation>
+ </message>
+ <message>
+  <source>&amp;Gruppe:</source>
+  <translation>&amp;Group:</translation>
+ </message>
+ <message>
+  <source>Bewertung: %1</source>
+  <translation>Rating: %1</translation>
+ </message>
+ <message>
+  <source>&amp;Bereich hinzufügen</source>
+  <translation>Add r&amp;ange</translation>
+ </message>
+ <message>
+  <source>Alle Gruppen</source>
+  <translation>All groups</translation>
+ </message>
+ <message>
+  <source>besser</source>
+  <translation>better</translation>
+ </message>
+ <message>
+  <source>Be&amp;zug:</source>
+  <translation>Ba&amp;sis:</translation>
+ </message>
+ <message>
+  <source>Lebensmittel im Vergleich</source>
+  <translation>Foods side by side</translation>
+ </message>
+ <message>
+  <source>Haken Sie in der Rangliste zwei bis fünf Lebensmittel an, mit der Maus oder mit der Leertaste. Hier stehen sie dann nebeneinander.</source>
+  <translation>Tick two to five foods in the ranking, with the mouse or the space bar. They will stand side by side here.</translation>
+ </message>
+ <message>
+  <source>✓ besser nach dieser einen Angabe, für Erwachsene mit gesunden Nieren. Wo es darauf ankommt, wer es isst, ist nichts markiert. Unbekanntes wird nicht verglichen.</source>
+  <translation>✓ better by this one value, for adults with healthy kidneys. Where it depends on who eats it, nothing is marked. What is unknown is not compared.</translation>
+ </message>
+ <message>
+  <source>Einheit</source>
+  <translation>Unit</translation>
+ </message>
+ <message>
+  <source>Besser</source>
+  <translation>Better</translation>
+ </message>
+ <message>
+  <source>Rangliste der Lebensmittel</source>
+  <translation>Ranking of foods</translation>
+ </message>
+ <message>
+  <source>&amp;Rangliste</source>
+  <translation>&amp;Ranking</translation>
+ </message>
+ <message>
+  <source>&amp;Wonach:</source>
+  <translation>Rank b&amp;y:</translation>
+ </message>
+ <message>
+  <source>Bezug</source>
+  <translation>Basis</translation>
+ </message>
+ <message>
+  <source>Reihenfolge</source>
+  <translation>Order</translation>
+ </message>
+ <message>
+  <source>Höchste zuerst</source>
+  <translation>Highest first</translation>
+ </message>
+ <message>
+  <source>Niedrigste zuerst</source>
+  <translation>Lowest first</translation>
+ </message>
+ <message>
+  <source>Eingrenzung auf&amp;heben</source>
+  <translation>Narro&amp;w no more</translation>
+ </message>
+ <message>
+  <source>Rangliste</source>
+  <translation>Ranking</translation>
+ </message>
+ <message>
+  <source>Die Eingabetaste zeigt das Lebensmittel im Hauptfenster, die Leertaste hakt es zum Vergleich an, mit Strg und Eingabetaste kommt es in den Plan.</source>
+  <translation>Return shows the food in the main window, the space bar ticks it for comparing, Ctrl+Return takes it into the plan.</translation>
+ </message>
+ <message>
+  <source>&amp;Nebeneinander stellen</source>
+  <translation>&amp;Set side by side</translation>
+ </message>
+ <message>
+  <source>&amp;Alle abhaken</source>
+  <translation>&amp;Untick all</translation>
+ </message>
+ <message>
+  <source>%1 Lebensmittel ohne Angabe</source>
+  <translation>%1 foods without a figure</translation>
+ </message>
+ <message>
+  <source>%1 Lebensmittel ohne Portion</source>
+  <translation>%1 foods without a portion</translation>
+ </message>
+ <message>
+  <source>Kein Lebensmittel: Der Bereich für %1 hört auf, bevor er anfängt.</source>
+  <translation>No food: the range of %1 ends before it begins.</translation>
+ </message>
+ <message>
+  <source>Es gibt noch keine eigenen Lebensmittel.</source>
+  <translation>There are no own foods yet.</translation>
+ </message>
+ <message>
+  <source>Die Gruppen der Lebensmittel konnten nicht gelesen werden.</source>
+  <translation>The groups of the foods could not be read.</translation>
+ </message>
+ <message>
+  <source>Es gibt keine Lebensmittel.</source>
+  <translation>There are no foods.</translation>
+ </message>
+ <message>
+  <source>Kein Lebensmittel erfüllt alles, was unter „Eingrenzen“ gewählt ist.</source>
+  <translation>No food meets all that is chosen under “Narrow”.</translation>
+ </message>
+ <message>
+  <source>&amp;Eingrenzen</source>
+  <translation>&amp;Narrow</translation>
+ </message>
+ <message>
+  <source>&amp;Eingrenzen (%1)</source>
+  <translation>&amp;Narrow (%1)</translation>
+ </message>
+ <message>
+  <source>Mehr als fünf passen nicht nebeneinander. %1</source>
+  <translation>More than five have no room side by side. %1</translation>
+ </message>
+ <message>
+  <source>Zum Vergleichen anhaken.</source>
+  <translation>Tick foods to compare them.</translation>
+ </message>
+ <message>
+  <source>Zum Vergleich: %1</source>
+  <translation>To compare: %1</translation>
+ </message>
+ <message>
+  <source>&amp;Vergleich</source>
+  <translation>&amp;Comparison</translation>
+ </message>
+ <message>
+  <source>&amp;Vergleich (%1)</source>
+  <translation>&amp;Comparison (%1)</translation>
+ </message>
+ <message>
+  <source>Zwei bis fünf Lebensmittel müssen angehakt sein.</source>
+  <translation>Two to five foods must be ticked.</translation>
+ </message>
+ <message>
+  <source>Im Hauptfenster &amp;zeigen</source>
+  <translation>&amp;Show in the main window</translation>
+ </message>
+ <message>
+  <source>Zum &amp;Vergleich nehmen</source>
+  <translation>Take for &amp;comparing</translation>
+ </message>
+ <message>
+  <source>Aus dem &amp;Vergleich nehmen</source>
+  <translation>Take out of the &amp;comparison</translation>
+ </message>
+ <message>
+  <source>Nach &amp;Rang sortieren</source>
+  <translation>Sort by &amp;rank</translation>
+ </message>
+ <message>
+  <source>Nach &amp;Namen sortieren</source>
+  <translation>Sort by &amp;name</translation>
+ </message>
+ <message>
+  <source>Brot und Brötchen</source>
+  <translation>Bread and rolls</translation>
+ </message>
+ <message>
+  <source>Flocken und Müsli</source>
+  <translation>Flakes and muesli</translation>
+ </message>
+ <message>
+  <source>Mehl und Teig</source>
+  <translation>Flour and dough</translation>
+ </message>
+ <message>
+  <source>Getreide, Reis und Nudeln</source>
+  <translation>Grain, rice and pasta</translation>
+ </message>
+ <message>
+  <source>Kartoffeln</source>
+  <translation>Potatoes</translation>
+ </message>
+ <message>
+  <source>Hülsenfrüchte</source>
+  <translation>Pulses</translation>
+ </message>
+ <message>
+  <source>Gemüse</source>
+  <translation>Vegetables</translation>
+ </message>
+ <message>
+  <source>Pilze</source>
+  <translation>Mushrooms</translation>
+ </message>
+ <message>
+  <source>Kräuter, Gewürze und Zutaten</source>
+  <translation>Herbs, spices and ingredients</translation>
+ </message>
+ <message>
+  <source>Hefe</source>
+  <translation>Yeast</translation>
+ </message>
+ <message>
+  <source>Obst</source>
+  <translation>Fruit</translation>
+ </message>
+ <message>
+  <source>Obstkonserven und Kompott</source>
+  <translation>Canned and stewed fruit</translation>
+ </message>
+ <message>
+  <source>Trockenobst</source>
+  <translation>Dried fruit</translation>
+ </message>
+ <message>
+  <source>Nüsse und Samen</source>
+  <translation>Nuts and seeds</translation>
+ </message>
+ <message>
+  <source>Eier</source>
+  <translation>Eggs</translation>
+ </message>
+ <message>
+  <source>Milch und Sahne</source>
+  <translation>Milk and cream</translation>
+ </message>
+ <message>
+  <source>Joghurt und Quark</source>
+  <translation>Yoghurt and curd cheese</translation>
+ </message>
+ <message>
+  <source>Käse</source>
+  <translation>Cheese</translation>
+ </message>
+ <message>
+  <source>Fette und Öle</source>
+  <translation>Fats and oils</translation>
+ </message>
+ <message>
+  <source>Suppen und Soßen</source>
+  <translation>Soups and sauces</translation>
+ </message>
+ <message>
+  <source>Rind- und Kalbfleisch</source>
+  <translation>Beef and veal</translation>
+ </message>
+ <message>
+  <source>Schweinefleisch</source>
+  <translation>Pork</translation>
+ </message>
+ <message>
+  <source>Lamm, Pferd und Wild</source>
+  <translation>Lamb, horse and game</translation>
+ </message>
+ <message>
+  <source>Geflügel und Kaninchen</source>
+  <translation>Poultry and rabbit</translation>
+ </message>
+ <message>
+  <source>Innereien</source>
+  <translation>Offal</translation>
+ </message>
+ <message>
+  <source>Wurst und Schinken</source>
+  <translation>Sausage and ham</translation>
+ </message>
+ <message>
+  <source>Fisch</source>
+  <translation>Fish</translation>
+ </message>
+ <message>
+  <source>Krusten- und Weichtiere</source>
+  <translation>Shellfish and molluscs</translation>
+ </message>
+ <message>
+  <source>Pflanzendrinks und Pflanzenjoghurt</source>
+  <translation>Plant drinks and plant yoghurt</translation>
+ </message>
+ <message>
+  <source>Tofu und Fleischersatz</source>
+  <translation>Tofu and meat substitutes</translation>
+ </message>
+ <message>
+  <source>Käseersatz</source>
+  <translation>Cheese substitutes</translation>
+ </message>
+ <message>
+  <source>Gerichte mit Fleisch oder Fisch</source>
+  <translation>Dishes with meat or fish</translation>
+ </message>
+ <message>
+  <source>Gerichte ohne Fleisch</source>
+  <translation>Dishes without meat</translation>
+ </message>
+ <message>
+  <source>Kuchen und Gebäck</source>
+  <translation>Cakes and pastries</translation>
+ </message>
+ <message>
+  <source>Süßspeisen und Eis</source>
+  <translation>Desserts and ice cream</translation>
+ </message>
+ <message>
+  <source>Zucker und Süßwaren</source>
+  <translation>Sugar and sweets</translation>
+ </message>
+ <message>
+  <source>Knabbergebäck</source>
+  <translation>Savoury snacks</translation>
+ </message>
+ <message>
+  <source>Wasser, Kaffee und Tee</source>
+  <translation>Water, coffee and tea</translation>
+ </message>
+ <message>
+  <source>Saft und Erfrischungsgetränke</source>
+  <translation>Juice and soft drinks</translation>
+ </message>
+ <message>
+  <source>Bier</source>
+  <translation>Beer</translation>
+ </message>
+ <message>
+  <source>Wein und Spirituosen</source>
+  <translation>Wine and spirits</translation>
+ </message>
+ <message>
+  <source>Alkohol in der Woche</source>
+  <translation>Alcohol in a week</translation>
+ </message>
+ <message>
+  <source>Wasser insgesamt</source>
+  <translation>Water altogether</translation>
+ </message>
+ <message>
+  <source>Wasser in Getränken</source>
+  <translation>Water in drinks</translation>
+ </message>
+ <message>
+  <source>Wasser in Speisen</source>
+  <translation>Water in foods</translation>
+ </message>
+ <message>
+  <source>Energiedichte ohne Getränke</source>
+  <translation>Energy density without drinks</translation>
+ </message>
+ <message>
+  <source>Energie aus gesättigten Fettsäuren</source>
+  <translation>Energy from saturated fat</translation>
+ </message>
+ <message>
+  <source>Energie aus allem Zucker</source>
+  <translation>Energy from all sugars</translation>
+ </message>
+ <message>
+  <source>Energie aus freiem Zucker, geschätzt</source>
+  <translation>Energy from free sugars, estimated</translation>
+ </message>
+ <message>
+  <source>purinarm</source>
+  <translation>low in purines</translation>
+ </message>
+ <message>
+  <source>streng purinarm</source>
+  <translation>strictly low in purines</translation>
+ </message>
+ <message>
+  <source>unter 18 Jahren</source>
+  <translation>under 18 years</translation>
+ </message>
+ <message>
+  <source>geringes Risiko</source>
+  <translation>low risk</translation>
+ </message>
+ <message>
+  <source>in der Schwangerschaft</source>
+  <translation>in pregnancy</translation>
+ </message>
+ <message>
+  <source>in der Stillzeit</source>
+  <translation>while breastfeeding</translation>
+ </message>
+ <message>
+  <source>angemessene Zufuhr</source>
+  <translation>adequate intake</translation>
+ </message>
+ <message>
+  <source>angemessen und sicher</source>
+  <translation>adequate and safe</translation>
+ </message>
+ <message>
+  <source>höchstens %1 (%2)</source>
+  <translation>at most %1 (%2)</translation>
+ </message>
+ <message>
+  <source>unter %1 (%2)</source>
+  <translation>under %1 (%2)</translation>
+ </message>
+ <message>
+  <source>mindestens %1 (%2)</source>
+  <translation>at least %1 (%2)</translation>
+ </message>
+ <message>
+  <source>gar nichts (%1)</source>
+  <translation>none at all (%1)</translation>
+ </message>
+ <message>
+  <source>eingehalten</source>
+  <translation>kept</translation>
+ </message>
+ <message>
+  <source>nicht eingehalten</source>
+  <translation>not kept</translation>
+ </message>
+ <message>
+  <source>offen, weil nicht alles bekannt ist</source>
+  <translation>open, since not all is known</translation>
+ </message>
+ <message>
+  <source>Eine Grenze hat niemand veröffentlicht.</source>
+  <translation>Nobody has published a limit.</translation>
+ </message>
+ <message>
+  <source>Die Grenze hängt vom Geschlecht ab, und das fehlt.</source>
+  <translation>The limit differs by sex, and that is missing.</translation>
+ </message>
+ <message>
+  <source>Für dieses Alter ist keine Grenze veröffentlicht.</source>
+  <translation>No limit is published for this age.</translation>
+ </message>
+ <message>
+  <source>So viel Harnsäure entsteht aus den Purinen.</source>
+  <translation>So much uric acid comes from the purines.</translation>
+ </message>
+ <message>
+  <source>Eine Broteinheit sind 12 g verwertbare Kohlenhydrate.</source>
+  <translation>A bread unit is 12 g of available carbohydrate.</translation>
+ </message>
+ <message>
+  <source>So viel wäre es an sieben solchen Tagen.</source>
+  <translation>So much it would be in seven such days.</translation>
+ </message>
+ <message>
+  <source>Das Wasser in Getränken und Speisen zusammen.</source>
+  <translation>The water in drinks and foods together.</translation>
+ </message>
+ <message>
+  <source>Aus dem Natrium: das 2,5-Fache.</source>
+  <translation>From sodium: 2.5 times as much.</translation>
+ </message>
+ <message>
+  <source>Alles außer Getränken; Milch zählt als Speise.</source>
+  <translation>All but drinks; milk counts as a food.</translation>
+ </message>
+ <message>
+  <source>Aller Zucker, auch der in Obst und Milch.</source>
+  <translation>All sugars, those in fruit and milk too.</translation>
+ </message>
+ <message>
+  <source>Ohne den Zucker, den Obst, Gemüse und Milch von Natur aus enthalten. Der Anteil ist aus der Art der Lebensmittel geschätzt.</source>
+  <translation>Without the sugars that fruit, vegetables and milk hold by nature. The part is estimated from the kinds of foods.</translation>
+ </message>
+ <message>
+  <source>%1 (wenig Purine)</source>
+  <translation>%1 (few purines)</translation>
+ </message>
+ <message>
+  <source>%1 (mäßig viele Purine)</source>
+  <translation>%1 (a moderate amount of purines)</translation>
+ </message>
+ <message>
+  <source>%1 (viele Purine)</source>
+  <translation>%1 (many purines)</translation>
+ </message>
+ <message>
+  <source>Grenze: %1</source>
+  <translation>Limit: %1</translation>
+ </message>
+ <message>
+  <source>Quelle: %1</source>
+  <translation>Source: %1</translation>
+ </message>
+ <message>
+  <source>Unbekannt bei %1 der Menge: %2</source>
+  <translation>Unknown for %1 of the amount: %2</translation>
+ </message>
+ <message>
+  <source>Weitere Werte des Tages</source>
+  <translation>Further figures of the day</translation>
+ </message>
+ <message>
+  <source>Einzelheiten zur gewählten Zeile stehen unter der Tabelle.</source>
+  <translation>Details of the chosen row stand below the table.</translation>
+ </message>
+ <message>
+  <source>Einzelheiten zur gewählten Zeile</source>
+  <translation>Details of the chosen row</translation>
+ </message>
+ <message>
+  <source>Die Grenzen gelten für einen ganzen Tag; ein einzelnes Lebensmittel wird nicht daran gemessen.</source>
+  <translation>The limits are for a whole day; a single food is not measured against them.</translation>
+ </message>
+ <message>
+  <source>Ohne Alter gelten die Grenzen für Erwachsene.</source>
+  <translation>Without an age the limits of grown-ups count.</translation>
+ </message>
+ <message>
+  <source>An den Grenzen für Purine wird nur bei Gicht gemessen.</source>
+  <translation>Only with gout the limits of purines are measured.</translation>
+ </message>
+ <message>
+  <source>&amp;Beiträge</source>
+  <translation>&amp;Contributions</translation>
+ </message>
+ <message>
+  <source>&amp;Einblick</source>
+  <translation>&amp;Insight</translation>
+ </message>
+ <message>
+  <source>Einb&amp;lick in:</source>
+  <translation>&amp;Insight into:</translation>
+ </message>
+ <message>
+  <source>&amp;Rangliste und Vergleich</source>
+  <translation>&amp;Ranking and comparing</translation>
+ </message>
+ <message>
+  <source>&amp;Referenzwerte</source>
+  <translation>&amp;Reference values</translation>
+ </message>
+ <message>
+  <source>&amp;Weitere Werte</source>
+  <translation>&amp;Further figures</translation>
+ </message>
+ <message>
+  <source>Was &amp;hilft</source>
+  <translation>What &amp;helps</translation>
+ </message>
+ <message>
+  <source>Anteil</source>
+  <translation>Share</translation>
+ </message>
+ <message>
+  <source>Einblick</source>
+  <translation>Insight</translation>
+ </message>
+ <message>
+  <source>Mahlzeitenplan, Zeilen: %1</source>
+  <translation>Meal plan, rows: %1</translation>
+ </message>
+ <message>
+  <source>Kein Lebensmittel ist gewählt.</source>
+  <translation>No food is chosen.</translation>
+ </message>
+ <message>
+  <source>„%1“ steht jetzt im Plan.</source>
+  <translation>“%1” is in the plan now.</translation>
+ </message>
+ <message>
+  <source>„%1“ kam nicht in den Plan.</source>
+  <translation>“%1” did not come into the plan.</translation>
+ </message>
+ <message>
+  <source>„%1“ kam nicht zu den Tagen: Die Aufzeichnung lässt sich nicht ändern.</source>
+  <translation>“%1” did not come to the days: the record can't be changed.</translation>
+ </message>
+ <message>
+  <source>%1 % der Energie</source>
+  <translation>%1 % of energy</translation>
+ </message>
+ <message>
+  <source>%1 Jahre</source>
+  <translation>%1 years</translation>
+ </message>
+ <message>
+  <source>%1 davon</source>
+  <translation>%1 of it</translation>
+ </message>
+ <message>
+  <source>%1 g je kg Körpergewicht bei %2 kg</source>
+  <translation>%1 g for each kg of body weight, at %2 kg</translation>
+ </message>
+ <message>
+  <source>%1 mg je MJ der Energie</source>
+  <translation>%1 mg for each MJ of energy</translation>
+ </message>
+ <message>
+  <source>&amp;Alter (Jahre):</source>
+  <translation>Age (&amp;years):</translation>
+ </message>
+ <message>
+  <source>&amp;Geschlecht:</source>
+  <translation>Se&amp;x:</translation>
+ </message>
+ <message>
+  <source>St&amp;illzeit:</source>
+  <translation>&amp;Lactation:</translation>
+ </message>
+ <message>
+  <source>Tr&amp;imester:</source>
+  <translation>Trim&amp;ester:</translation>
+ </message>
+ <message>
+  <source>Zustan&amp;d:</source>
+  <translation>S&amp;tate:</translation>
+ </message>
+ <message>
+  <source>1 Jahr</source>
+  <translation>1 year</translation>
+ </message>
+ <message>
+  <source>1. Trimester</source>
+  <translation>1st trimester</translation>
+ </message>
+ <message>
+  <source>2. Trimester</source>
+  <translation>2nd trimester</translation>
+ </message>
+ <message>
+  <source>3. Trimester</source>
+  <translation>3rd trimester</translation>
+ </message>
+ <message>
+  <source>A&amp;ktivität (PAL):</source>
+  <translation>Acti&amp;vity (PAL):</translation>
+ </message>
+ <message>
+  <source>Alter unbekannt</source>
+  <translation>age unknown</translation>
+ </message>
+ <message>
+  <source>Angegeben für PAL %1, den nächsten zum gewählten</source>
+  <translation>Printed for PAL %1, the nearest to the one chosen</translation>
+ </message>
+ <message>
+  <source>Allgemeiner Tagesbedarf</source>
+  <translation>General daily needs</translation>
+ </message>
+ <message>
+  <source>Bis dahin gilt, was oben steht.</source>
+  <translation>Until then what stands above holds.</translation>
+ </message>
+ <message>
+  <source>Bis zu 10 % daneben gelten hier als richtig</source>
+  <translation>Up to 10 % off counts as right here</translation>
+ </message>
+ <message>
+  <source>Darin für Schwangerschaft oder Stillzeit: %1</source>
+  <translation>Of this for pregnancy or lactation: %1</translation>
+ </message>
+ <message>
+  <source>Das Alter fehlt</source>
+  <translation>The age is missing</translation>
+ </message>
+ <message>
+  <source>Das Geschlecht fehlt</source>
+  <translation>The sex is missing</translation>
+ </message>
+ <message>
+  <source>Das Gewicht fehlt</source>
+  <translation>The weight is missing</translation>
+ </message>
+ <message>
+  <source>Das Trimester fehlt</source>
+  <translation>The trimester is missing</translation>
+ </message>
+ <message>
+  <source>Der Monat der Stillzeit fehlt</source>
+  <translation>The month of lactation is missing</translation>
+ </message>
+ <message>
+  <source>Der PAL-Wert fehlt</source>
+  <translation>The PAL is missing</translation>
+ </message>
+ <message>
+  <source>Der Zuschlag ist für PAL %1 angegeben</source>
+  <translation>The addition is printed for PAL %1</translation>
+ </message>
+ <message>
+  <source>Die Balken zeigen, was diese Menge zu einem Tag beiträgt.</source>
+  <translation>The bars show what this amount adds to a day.</translation>
+ </message>
+ <message>
+  <source>Durchschnittsbedarf</source>
+  <translation>Average need</translation>
+ </message>
+ <message>
+  <source>Einklappen</source>
+  <translation>Fold</translation>
+ </message>
+ <message>
+  <source>Empfehlung</source>
+  <translation>Recommended</translation>
+ </message>
+ <message>
+  <source>Er hängt von der Menopause ab; die Angabe fehlt</source>
+  <translation>It depends on menopause, which is not known</translation>
+ </message>
+ <message>
+  <source>Er ist ein Anteil der Energie, und deren Wert fehlt</source>
+  <translation>It is a share of the energy, whose value is missing</translation>
+ </message>
+ <message>
+  <source>Es ist keiner festgelegt</source>
+  <translation>None is set</translation>
+ </message>
+ <message>
+  <source>Europäische Behörde für Lebensmittelsicherheit</source>
+  <translation>European Food Safety Authority</translation>
+ </message>
+ <message>
+  <source>Fachgesellschaften in Deutschland, Österreich und der Schweiz</source>
+  <translation>Nutrition societies of Germany, Austria and Switzerland</translation>
+ </message>
+ <message>
+  <source>Für Schwangerschaft oder Stillzeit ist in diesem Alter keiner angegeben</source>
+  <translation>None is printed for pregnancy or lactation at this age</translation>
+ </message>
+ <message>
+  <source>Für das Referenzgewicht dieses Alters, weil das Gewicht fehlt</source>
+  <translation>For the reference weight of this age, since the weight is missing</translation>
+ </message>
+ <message>
+  <source>Für diesen Monat der Stillzeit ist keiner angegeben</source>
+  <translation>None is printed for this month of lactation</translation>
+ </message>
+ <message>
+  <source>Für dieses Alter ist keiner angegeben</source>
+  <translation>None is printed for this age</translation>
+ </message>
+ <message>
+  <source>Für einen PAL-Wert in der Nähe ist keiner angegeben</source>
+  <translation>None is printed for a PAL near to this one</translation>
+ </message>
+ <message>
+  <source>Gerechnet mit dem eigenen Bedarf: %1</source>
+  <translation>Worked out with the person's own need: %1</translation>
+ </message>
+ <message>
+  <source>Gerechnet mit der Energie dieser Referenzwerte: %1</source>
+  <translation>Worked out with the energy of these reference values: %1</translation>
+ </message>
+ <message>
+  <source>Geschlecht unbekannt</source>
+  <translation>sex unknown</translation>
+ </message>
+ <message>
+  <source>Gewicht unbekannt</source>
+  <translation>weight unknown</translation>
+ </message>
+ <message>
+  <source>In Retinolaktivitätsäquivalenten: 12 µg Betacarotin zählen 1, in der Lebensmitteltabelle schon 6. Carotin aus Gemüse zählt in der Menge also doppelt</source>
+  <translation>In retinol activity equivalents: 12 µg beta-carotene count as 1, in the food table 6 µg do. So carotene of vegetables counts twice in the amount</translation>
+ </message>
+ <message>
+  <source>In Retinoläquivalenten, wie in der Lebensmitteltabelle: 6 µg Betacarotin zählen 1</source>
+  <translation>In retinol equivalents, as in the food table: 6 µg beta-carotene count as 1</translation>
+ </message>
+ <message>
+  <source>Kein Wert: %1</source>
+  <translation>No value. %1</translation>
+ </message>
+ <message>
+  <source>Keine Obergrenze festgelegt; das heißt nicht, dass jede Menge unbedenklich ist</source>
+  <translation>No upper level is set; that does not mean that any amount is harmless</translation>
+ </message>
+ <message>
+  <source>Maßstab und Person ändern</source>
+  <translation>Change measure and person</translation>
+ </message>
+ <message>
+  <source>Mehr zu einer Zeile: F1 oder die Maus darauf.</source>
+  <translation>More about a row: F1, or the mouse on it.</translation>
+ </message>
+ <message>
+  <source>Men&amp;opause:</source>
+  <translation>Men&amp;opause:</translation>
+ </message>
+ <message>
+  <source>Obergrenze: %1</source>
+  <translation>Upper level: %1</translation>
+ </message>
+ <message>
+  <source>PAL unbekannt</source>
+  <translation>PAL unknown</translation>
+ </message>
+ <message>
+  <source>Richtwert</source>
+  <translation>Guiding value</translation>
+ </message>
+ <message>
+  <source>Schätzwert</source>
+  <translation>Adequate</translation>
+ </message>
+ <message>
+  <source>Sicher bis %1; eine Obergrenze ist das nicht</source>
+  <translation>Safe up to %1; that is no upper level</translation>
+ </message>
+ <message>
+  <source>Sie gilt nur für Ergänzungsmittel und Zusätze; die Menge wird daran nicht gemessen</source>
+  <translation>It is for supplements and additions only; the amount is not judged by it</translation>
+ </message>
+ <message>
+  <source>Sie gilt nur für Retinol, nicht für Carotin; die Menge wird daran nicht gemessen</source>
+  <translation>It is for retinol only, not for carotene; the amount is not judged by it</translation>
+ </message>
+ <message>
+  <source>Verglichen mit: %1</source>
+  <translation>Compared with: %1</translation>
+ </message>
+ <message>
+  <source>Weniger gilt hier nicht als Mangel, mehr als zu viel</source>
+  <translation>Less does not count as a shortage here, more counts as too much</translation>
+ </message>
+ <message>
+  <source>Wert ohne Schwangerschaft: Für sie ist erst ab einem späteren Monat einer angegeben</source>
+  <translation>The value without pregnancy: one for it is printed from a later month on</translation>
+ </message>
+ <message>
+  <source>Wieder so, wie sie vom Klienten und Rechner kommen</source>
+  <translation>As they come from the client and the calculator</translation>
+ </message>
+ <message>
+  <source>Wird hier nicht als Ziel beurteilt</source>
+  <translation>Is not judged as a goal here</translation>
+ </message>
+ <message>
+  <source>etwa %1</source>
+  <translation>about %1</translation>
+ </message>
+ <message>
+  <source>höchstens %1</source>
+  <translation>at most %1</translation>
+ </message>
+ <message>
+  <source>Energiebedarf noch nicht bekannt</source>
+  <translation>energy need not yet known</translation>
+ </message>
+ <message>
+  <source>kein Wert: %1</source>
+  <translation>no value: %1</translation>
+ </message>
+ <message>
+  <source>nach der Menopause</source>
+  <translation>after menopause</translation>
+ </message>
+ <message>
+  <source>noch nicht</source>
+  <translation>not yet</translation>
+ </message>
+ <message>
+  <source>passt</source>
+  <translation>fits</translation>
+ </message>
+ <message>
+  <source>schwanger (%1. Trimester)</source>
+  <translation>pregnant (trimester %1)</translation>
+ </message>
+ <message>
+  <source>sicher bis %1</source>
+  <translation>safe up to %1</translation>
+ </message>
+ <message>
+  <source>stillend (ab 7. Monat)</source>
+  <translation>nursing (from month 7)</translation>
+ </message>
+ <message>
+  <source>stillend (bis 6. Monat)</source>
+  <translation>nursing (to month 6)</translation>
+ </message>
+ <message>
+  <source>vielleicht zu wenig</source>
+  <translation>maybe too little</translation>
+ </message>
+ <message>
+  <source>vor der Menopause</source>
+  <translation>before menopause</translation>
+ </message>
+ <message>
+  <source>zu viel</source>
+  <translation>too much</translation>
+ </message>
+ <message>
+  <source>zu wenig</source>
+  <translation>too little</translation>
+ </message>
+ <message>
+  <source>über %1</source>
+  <translation>more than %1</translation>
+ </message>
+ <message>
+  <source>über der Obergrenze</source>
+  <translation>above the upper level</translation>
+ </message>
+ <message>
+  <source>⚠ Das Alter ist eine ganze Zahl von 0 bis %1.</source>
+  <translation>⚠ The age is a whole number from 0 to %1.</translation>
+ </message>
+ <message>
+  <source>⚠ Das Gewicht liegt über 0 und bis %1 kg, etwa 64,5.</source>
+  <translation>⚠ The weight is above 0 and up to %1 kg, such as 64.5.</translation>
+ </message>
+ <message>
+  <source>Re&amp;zept …</source>
+  <translation>Re&amp;cipe …</translation>
+ </message>
+ <message>
+  <source>Re&amp;zept aus dem Plan …</source>
+  <translation>Re&amp;cipe from the plan …</translation>
+ </message>
+ <message>
+  <source>Re&amp;zept aus dieser Mahlzeit …</source>
+  <translation>Re&amp;cipe from this meal …</translation>
+ </message>
+ <message>
+  <source>Gerichte, die ihren Zutaten gefolgt sind: %1.</source>
+  <translation>Dishes that followed their ingredients: %1.</translation>
+ </message>
+ <message>
+  <source>Gerichte, die ihren Zutaten nicht folgen, weil sie von Hand geändert sind: %1.</source>
+  <translation>Dishes that do not follow their ingredients, because they were changed by hand: %1.</translation>
+ </message>
+ <message>
+  <source>Gerichte, die mit den neuen Zutaten nicht zu rechnen sind und bleiben, wie sie waren: %1.</source>
+  <translation>Dishes that can't be reckoned with the new ingredients and stay as they were: %1.</translation>
+ </message>
+ <message>
+  <source>Gewi&amp;cht (kg):</source>
+  <translation>Weight (&amp;kg):</translation>
+ </message>
+ <message>
+  <source>Angaben z&amp;urücksetzen</source>
+  <translation>Reset det&amp;ails</translation>
+ </message>
+ <message>
+  <source>Fleisch und Wurst</source>
+  <translation>Meat and sausage</translation>
+ </message>
+ <message>
+  <source>Milch und Milchprodukte</source>
+  <translation>Milk and milk products</translation>
+ </message>
+ <message>
+  <source>Fisch und Meeresfrüchte</source>
+  <translation>Fish and seafood</translation>
+ </message>
+ <message>
+  <source>Getreide mit Gluten</source>
+  <translation>Cereals with gluten</translation>
+ </message>
+ <message>
+  <source>Nüsse und Erdnüsse</source>
+  <translation>Nuts and peanuts</translation>
+ </message>
+ <message>
+  <source>Zutat</source>
+  <translation>Ingredient</translation>
+ </message>
+ <message>
+  <source>Zutaten des Gerichts</source>
+  <translation>Ingredients of the dish</translation>
+ </message>
+ <message>
+  <source>F2 ändert die Menge der gewählten Zutat, die Entfernen-Taste nimmt sie heraus.</source>
+  <translation>F2 changes the amount of the chosen ingredient, the Delete key takes it out.</translation>
+ </message>
+ <message>
+  <source>Zutat he&amp;rausnehmen</source>
+  <translation>&amp;Take the ingredient out</translation>
+ </message>
+ <message>
+  <source>Zutat &amp;hinzufügen:</source>
+  <translation>A&amp;dd an ingredient:</translation>
+ </message>
+ <message>
+  <source>Name eines Lebensmittels</source>
+  <translation>Name of a food</translation>
+ </message>
+ <message>
+  <source>Passende Lebensmittel</source>
+  <translation>Foods that fit</translation>
+ </message>
+ <message>
+  <source>Kein Lebensmittel heißt so.</source>
+  <translation>No food is called so.</translation>
+ </message>
+ <message>
+  <source>%1 Wasser verkocht</source>
+  <translation>%1 of water boiled away</translation>
+ </message>
+ <message>
+  <source>%1 Wasser aufgenommen</source>
+  <translation>%1 of water taken up</translation>
+ </message>
+ <message>
+  <source>= %1 je Portion</source>
+  <translation>= %1 a portion</translation>
+ </message>
+ <message>
+  <source>= %1 je Portion, zu viel für ein Maß</source>
+  <translation>= %1 a portion, too much for a measure</translation>
+ </message>
+ <message>
+  <source>Wertung für %1</source>
+  <translation>Rating for %1</translation>
+ </message>
+ <message>
+  <source>Wie vorgeschlagen</source>
+  <translation>As proposed</translation>
+ </message>
+ <message>
+  <source>Vorschlag, unsicher: %1</source>
+  <translation>Proposed, uncertain: %1</translation>
+ </message>
+ <message>
+  <source>Vorschlag: %1</source>
+  <translation>Proposed: %1</translation>
+ </message>
+ <message>
+  <source>So heißt ein eingebautes Lebensmittel. Das Gericht braucht einen anderen Namen.</source>
+  <translation>A built-in food is called so. The dish needs another name.</translation>
+ </message>
+ <message>
+  <source>Gewicht nach dem Garen: %1</source>
+  <translation>Weight after cooking: %1</translation>
+ </message>
+ <message>
+  <source>Gewicht der Zutaten: %1</source>
+  <translation>Weight of the ingredients: %1</translation>
+ </message>
+ <message>
+  <source>wie die Zutaten (%1)</source>
+  <translation>as the ingredients (%1)</translation>
+ </message>
+ <message>
+  <source>Das eigene Lebensmittel ersetzen?</source>
+  <translation>Replace your own food?</translation>
+ </message>
+ <message>
+  <source>Es wurde von Hand geändert. Diese Änderungen gehen verloren.</source>
+  <translation>It was changed by hand. Those changes will be lost.</translation>
+ </message>
+ <message>
+  <source>Es gibt schon ein eigenes Lebensmittel dieses Namens.</source>
+  <translation>There is a food of your own of this name already.</translation>
+ </message>
+ <message>
+  <source>Das Gericht ließ sich nicht sichern.</source>
+  <translation>The dish could not be saved.</translation>
+ </message>
+ <message>
+  <source>Die Änderungen am Rezept verwerfen?</source>
+  <translation>Discard the changes to the recipe?</translation>
+ </message>
+ <message>
+  <source>Was hier geändert wurde, ist nicht gesichert.</source>
+  <translation>What was changed here is not saved.</translation>
+ </message>
+ <message>
+  <source>Weiter bearbeiten</source>
+  <translation>Go on editing</translation>
+ </message>
+ <message>
+  <source>Rezept</source>
+  <translation>Recipe</translation>
+ </message>
+ <message>
+  <source>&amp;Name:</source>
+  <translation>&amp;Name:</translation>
+ </message>
+ <message>
+  <source>&amp;Zutaten</source>
+  <translation>&amp;Ingredients</translation>
+ </message>
+ <message>
+  <source>W&amp;ertungen</source>
+  <translation>&amp;Ratings</translation>
+ </message>
+ <message>
+  <source>Zu&amp;bereitung</source>
+  <translation>Pre&amp;paration</translation>
+ </message>
+ <message>
+  <source>Gewicht nach dem &amp;Garen (g):</source>
+  <translation>Weight after &amp;cooking (g):</translation>
+ </message>
+ <message>
+  <source>&amp;Portionen:</source>
+  <translation>P&amp;ortions:</translation>
+ </message>
+ <message>
+  <source>Werte je 100 g des fertigen Gerichts</source>
+  <translation>Values per 100 g of the finished dish</translation>
+ </message>
+ <message>
+  <source>Gewertet wie die Lebensmittelgr&amp;uppe:</source>
+  <translation>Rated as the food &amp;group:</translation>
+ </message>
+ <message>
+  <source>Zubereitung und Notizen</source>
+  <translation>Preparation and notes</translation>
+ </message>
+ <message>
+  <source>&amp;Folgt den Zutaten</source>
+  <translation>&amp;Follows the ingredients</translation>
+ </message>
+ <message>
+  <source>Ändert sich eine Zutat, wird das Gericht neu gerechnet.</source>
+  <translation>When an ingredient changes, the dish is reckoned anew.</translation>
+ </message>
+ <message>
+  <source>Verluste beim Garen sind nicht eingerechnet: Vitamine, Mineralstoffe im Kochwasser, abgegossenes Fett.</source>
+  <translation>Losses in cooking are not reckoned: vitamins, minerals in the cooking water, fat poured off.</translation>
+ </message>
+ <message>
+  <source>&amp;Sichern</source>
+  <translation>&amp;Save</translation>
+ </message>
+ <message>
+  <source>Verwerfen</source>
+  <translation>Discard</translation>
+ </message>
+ <message>
+  <source>Retinol höchstens %1</source>
+  <translation>retinol at most %1</translation>
+ </message>
+ <message>
+  <source>aus Zusätzen höchstens %1</source>
+  <translation>from additions at most %1</translation>
+ </message>
+ <message>
+  <source>%1 statt %2</source>
+  <translation>%1 in place of %2</translation>
+ </message>
+ <message>
+  <source>%1: %2 zu viel</source>
+  <translation>%1: %2 too much</translation>
+ </message>
+ <message>
+  <source>%1: %2 zu wenig</source>
+  <translation>%1: %2 too little</translation>
+ </message>
+ <message>
+  <source>&amp;Einschränken</source>
+  <translation>&amp;Narrow down</translation>
+ </message>
+ <message>
+  <source>Ersetze&amp;n</source>
+  <translation>Re&amp;place</translation>
+ </message>
+ <message>
+  <source>Hi&amp;nzufügen</source>
+  <translation>A&amp;dd</translation>
+ </message>
+ <message>
+  <source>Nicht &amp;vorschlagen</source>
+  <translation>Don't s&amp;uggest</translation>
+ </message>
+ <message>
+  <source>&amp;Tausch:</source>
+  <translation>S&amp;wap:</translation>
+ </message>
+ <message>
+  <source>Wieder au&amp;fnehmen</source>
+  <translation>Su&amp;ggest again</translation>
+ </message>
+ <message>
+  <source>&amp;Ziel:</source>
+  <translation>Ai&amp;m:</translation>
+ </message>
+ <message>
+  <source>Alle Ziele zusammen</source>
+  <translation>All aims together</translation>
+ </message>
+ <message>
+  <source>Alles ist im Zielbereich.</source>
+  <translation>Everything is within its range.</translation>
+ </message>
+ <message>
+  <source>Bringt</source>
+  <translation>Gives</translation>
+ </message>
+ <message>
+  <source>Dafür muss bekannt sein, was ein Tag enthalten soll, und das fehlt.</source>
+  <translation>For this it must be known what a day should hold, and that is missing.</translation>
+ </message>
+ <message>
+  <source>Das ersetzt keine Allergieberatung: Was drin ist, sagt das Etikett.</source>
+  <translation>This is no allergy check: what a food holds stands on its label.</translation>
+ </message>
+ <message>
+  <source>Die Eingabetaste nimmt den Vorschlag an, Entf streicht das Lebensmittel.</source>
+  <translation>Return takes the suggestion, Del crosses the food out.</translation>
+ </message>
+ <message>
+  <source>Diese Zeile lässt sich hier nicht ersetzen.</source>
+  <translation>This row can't be replaced here.</translation>
+ </message>
+ <message>
+  <source>Eigene Lebensmittel, von denen niemand weiß, ob sie das Weggelassene enthalten, und nicht dabei: %1.</source>
+  <translation>Own foods of which nobody knows whether they hold what is left out, and which are not listed: %1.</translation>
+ </message>
+ <message>
+  <source>Für alle Ziele zusammen wählen Sie beim Tausch eine Zeile.</source>
+  <translation>For all aims together, choose a row to swap.</translation>
+ </message>
+ <message>
+  <source>Ge&amp;strichen:</source>
+  <translation>Cro&amp;ssed out:</translation>
+ </message>
+ <message>
+  <source>Geeignet: %1.</source>
+  <translation>Suitable: %1.</translation>
+ </message>
+ <message>
+  <source>Hier hilft kein Lebensmittel, ohne mehr zu schaden als zu nützen.</source>
+  <translation>No food helps here without doing more harm than good.</translation>
+ </message>
+ <message>
+  <source>Im Mittel lässt sich nichts ändern. Wählen Sie einen Tag.</source>
+  <translation>Nothing can be changed in a mean. Choose a day.</translation>
+ </message>
+ <message>
+  <source>Nicht ungeeignet: %1.</source>
+  <translation>Not unsuitable: %1.</translation>
+ </message>
+ <message>
+  <source>Ohne Angabe zu %1 und nicht dabei: %2.</source>
+  <translation>Without a figure for %1 and not listed: %2.</translation>
+ </message>
+ <message>
+  <source>Ohne: %1.</source>
+  <translation>Without: %1.</translation>
+ </message>
+ <message>
+  <source>Vorschläge</source>
+  <translation>Suggestions</translation>
+ </message>
+ <message>
+  <source>Vorschläge gibt es zu einem Plan, einem Tag oder dem Mittel der Tage.</source>
+  <translation>There are suggestions for a plan, a day or the mean of the days.</translation>
+ </message>
+ <message>
+  <source>Was „%1“ ändert:</source>
+  <translation>What “%1” changes:</translation>
+ </message>
+ <message>
+  <source>Weglassen, auch wo es nur drin sein kann:</source>
+  <translation>Leave out, also where it only may be in it:</translation>
+ </message>
+ <message>
+  <source>Wertung der Vorschläge:</source>
+  <translation>Rating of the suggestions:</translation>
+ </message>
+ <message>
+  <source>Wirkung</source>
+  <translation>Effect</translation>
+ </message>
+ <message>
+  <source>Wirkung des gewählten Vorschlags</source>
+  <translation>Effect of the chosen suggestion</translation>
+ </message>
+ <message>
+  <source>Ziel</source>
+  <translation>Aim</translation>
+ </message>
+ <message>
+  <source>hilft zu %1</source>
+  <translation>helps by %1</translation>
+ </message>
+ <message>
+  <source>nicht ungeeignet</source>
+  <translation>not unsuitable</translation>
+ </message>
+ <message>
+  <source>nur geeignet</source>
+  <translation>suitable only</translation>
+ </message>
+ <message>
+  <source>schlechter</source>
+  <translation>worse</translation>
+ </message>
+ <message>
+  <source>keine bestimmte Zeile</source>
+  <translation>no particular row</translation>
+ </message>
+ <message>
+  <source>vorher → nachher</source>
+  <translation>before → after</translation>
+ </message>
+ <message>
+  <source>Übergewicht, Diabetes, Gicht, Herz und Kreislauf: + geeignet, 0 neutral, - ungeeignet</source>
+  <translation>Overweight, diabetes, gout, heart and circulation: + suitable, 0 neutral, - unsuitable</translation>
+ </message>
+ <message>
+  <source>%1 Lebensmittel mit Rang.</source>
+  <translation>%1 foods with a rank.</translation>
+ </message>
+ <message>
+  <source>%1 Am Ende der Liste: %2.</source>
+  <translation>%1 At the end of the list: %2.</translation>
+ </message>
+ <message>
+  <source>&amp;Werte</source>
+  <translation>&amp;Values</translation>
+ </message>
+ <message>
+  <source>keiner</source>
+  <translation>neither</translation>
+ </message>
+ <message>
+  <source>1.–6. Monat</source>
+  <translation>1st–6th month</translation>
+ </message>
+ <message>
+  <source>ab 7. Monat</source>
+  <translation>from 7th month</translation>
+ </message>
+ <message>
+  <source>vorüber</source>
+  <translation>over</translation>
+ </message>
+ <message>
+  <source>sitzend</source>
+  <translation>sitting</translation>
+ </message>
+ <message>
+  <source>Meist sitzend</source>
+  <translation>Mostly sitting</translation>
+ </message>
+ <message>
+  <source>gemischt</source>
+  <translation>mixed</translation>
+ </message>
+ <message>
+  <source>Sitzend, auch gehend und stehend</source>
+  <translation>Sitting, with some walking and standing</translation>
+ </message>
+ <message>
+  <source>gehend</source>
+  <translation>walking</translation>
+ </message>
+ <message>
+  <source>Meist gehend oder stehend</source>
+  <translation>Mostly walking or standing</translation>
+ </message>
+ <message>
+  <source>Körperlich schwere Arbeit</source>
+  <translation>Hard bodily work</translation>
+ </message>
+ <message>
+  <source>Maßstab</source>
+  <translation>Standard</translation>
+ </message>
+ <message>
+  <source>„%1“ steht mit seinem Rezept bei den eigenen Lebensmitteln.</source>
+  <translation>“%1” is among the own foods, with its recipe.</translation>
+ </message>
+ <message>
+  <source>schwer</source>
+  <translation>hard</translation>
+ </message>
+ <message>
+  <source>Nichts ist eingegrenzt.</source>
+  <translation>Nothing is narrowed.</translation>
+ </message>
+ <message>
+  <source>Zeilen, deren Lebensmittel oder Menge unbekannt ist, kamen nicht ins Rezept.</source>
+  <translation>Rows whose food or amount is unknown did not go into the recipe.</translation>
+ </message>
+ <message>
+  <source>Eine Menge war nicht zu lesen und ist geblieben, wie sie war.</source>
+  <translation>An amount could not be read and has stayed as it was.</translation>
+ </message>
+ <message>
+  <source>„%1“ ist noch keine Zutat.</source>
+  <translation>“%1” is no ingredient yet.</translation>
+ </message>
+ <message>
+  <source>Ein Rezept ist noch offen.</source>
+  <translation>A recipe is still open.</translation>
+ </message>
+ <message>
+  <source>Sichern oder schließen Sie es, dann lässt sich ein anderes öffnen.</source>
+  <translation>Save or close it, then another one can be opened.</translation>
+ </message>
 </context>
 <context>
  <name>PlanmodulGestalt</name>

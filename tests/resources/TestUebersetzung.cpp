@@ -32,8 +32,8 @@ QString inhalt(const QString &datei)
 QStringList dateien(const QString &muster)
 {
     QStringList ergebnis;
-    for (const char *raum : {"model", "analysis", "austausch", "controls", "views", "plan",
-                             "anthro", "tage", "klienten", "befehle", "app"}) {
+    for (const char *raum : {"model", "analysis", "wertung", "austausch", "controls", "views",
+                             "plan", "anthro", "tage", "einblick", "klienten", "befehle", "app"}) {
         QDirIterator suche(QStringLiteral(MAHLBERG_SOURCE_DIR "/") + QLatin1String(raum), {muster},
                            QDir::Files);
         while (suche.hasNext()) {
