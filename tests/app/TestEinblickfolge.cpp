@@ -1,23 +1,18 @@
 // The insight and the ranking stay true while what they show changes elsewhere.
 
-#include "Klientenprobe.h"
+#include "Einblickprobe.h"
 
-#include "Sprache.h"
-#include "Vorschlagsblatt.h"
-
-#include <QTabWidget>
-#include <QTableView>
 #include <QToolButton>
 
 using namespace Qt::StringLiterals;
 
-class TestEinblickfolge : public QObject
+class TestEinblickfolge : public QObject, private Einblickprobe
 {
     Q_OBJECT
 
 private Q_SLOTS:
     void init();
-    void cleanup();
+    void cleanup() { raeumeAuf(); }
 
     void takingBackNamesTheFoodThatCame();
     void theWayBackGoesWithTheNextChangeOfThePlan();
@@ -34,66 +29,9 @@ private Q_SLOTS:
     void aWindowThatWasPutAwayComesBack();
 
 private:
-    void oeffne() { m_probe = std::make_unique<Klientenprobe>(*m_heim); }
-    Probefenster &programm() const { return m_probe->programm(); }
-    Einblickanschluss &anschluss() const { return programm().oberflaeche().einblick; }
-    Einblickfenster &fenster() const { return anschluss().fenster(); }
-    Tagefenster &tage() const { return programm().oberflaeche().tage.fenster(); }
-    Planmodul &plan() const { return programm()->holePlan(); }
-    QStringList hinweise() const
-    {
-        QStringList alle;
-        for (const Hinweis &einer : fenster().hinweise->hinweise()) {
-            alle << einer.text;
-        }
-        return alle;
-    }
-    void legePlan() const
-    {
-        programm()->Planmoduloeffnen();
-        plan().gibHinein(u"Apfel"_s, 150);
-        plan().gibHinein(u"Milch"_s, 200);
-        ruhe();
-    }
-    QString imPlan() const
-    {
-        QStringList alle;
-        for (qsizetype i = 0; i < plan().PlanArray.size(); ++i) {
-            alle << u"%1 %2"_s.arg(plan().PlanArray[i]).arg(plan().mengenarray[i]);
-        }
-        return alle.join(u", "_s);
-    }
-    void nimm(const QString &schluessel, double gramm, int ort = -1) const
-    {
-        Q_EMIT fenster().vorschlagsblatt->aenderungGewuenscht(
-            {.ort = ort, .schluessel = schluessel, .gramm = gramm});
-    }
-    /// The first cells of a table, each without its second line.
-    static QStringList namen(const QWidget &wo, const QString &tabelle, int spalte)
-    {
-        const QAbstractItemModel &modell = *wo.findChild<QTableView *>(tabelle)->model();
-        QStringList alle;
-        for (int zeile = 0; zeile < modell.rowCount(); ++zeile) {
-            alle << modell.index(zeile, spalte).data().toString();
-        }
-        return alle;
-    }
     QStringList rangliste() const
     {
-        return namen(anschluss().rangliste(), u"rangliste"_s, Rangmodell::Name);
-    }
-    QStringList vorschlaege() const
-    {
-        return namen(*fenster().vorschlagsblatt, u"vorschlaege"_s, Vorschlagsmodell::Lebensmittel);
-    }
-    /// Opens the sheet of suggestions for a plan that lacks energy.
-    void zeigeVorschlaege() const
-    {
-        Planmodul::klient.bedarf = 2000;
-        anschluss().oeffne(Gegenstand::Plan);
-        fenster().blaetter->setCurrentWidget(fenster().vorschlagsblatt);
-        ruhe();
-        fenster().vorschlagsblatt->waehleZiel(Kenngroesse::kal);
+        return spalte(anschluss().rangliste(), u"rangliste"_s, Rangmodell::Name);
     }
     void loescheMuesli() const
     {
@@ -109,36 +47,12 @@ private:
         ruhe();
         return gelungen;
     }
-    QString anna() const
-    {
-        Person person;
-        person.name = u"Anna"_s;
-        person.geschlecht = Personengeschlecht::Frau;
-        person.geburt = QDate(1998, 3, 1);
-        return m_probe->kartei().sichere({QString(), person, {}});
-    }
-
-    std::unique_ptr<Probeheim> m_heim;
-    std::unique_ptr<Klientenprobe> m_probe;
+    QString anna() const { return klient(u"Anna"_s, Personengeschlecht::Frau, QDate(1998, 3, 1)); }
 };
 
 void TestEinblickfolge::init()
 {
-    Planmodul::klient = {};
-    m_heim = std::make_unique<Probeheim>();
-    m_heim->schreibeTabelle(
-        verzeichnis({lebensmittel(u"-"_s),
-                     lebensmittel(u"Apfel"_s, {{Naehrwert::kal, 50}, {Naehrwert::vitc, 12}}),
-                     lebensmittel(u"Milch"_s, {{Naehrwert::kal, 60}, {Naehrwert::ca, 120}}),
-                     lebensmittel(u"Toast"_s, {{Naehrwert::kal, 200}})}));
-    m_heim->schreibeEigene(verzeichnis({lebensmittel(u"Müsli"_s, {{Naehrwert::kal, 400}})}));
-}
-
-void TestEinblickfolge::cleanup()
-{
-    m_probe.reset();
-    m_heim.reset();
-    Planmodul::klient = {};
+    richteEin(verzeichnis({lebensmittel(u"Müsli"_s, {{Naehrwert::kal, 400}})}));
 }
 
 void TestEinblickfolge::takingBackNamesTheFoodThatCame()
@@ -146,7 +60,7 @@ void TestEinblickfolge::takingBackNamesTheFoodThatCame()
     oeffne();
     legePlan();
     anschluss().oeffne(Gegenstand::Plan);
-    nimm(u"Toast"_s, 40);
+    nimm({.schluessel = u"Toast"_s, .gramm = 40});
     QCOMPARE(plan().aktionRueckgaengig->text(), u"&Rückgängig: „Toast“ in den Plan"_s);
 }
 
@@ -155,7 +69,7 @@ void TestEinblickfolge::theWayBackGoesWithTheNextChangeOfThePlan()
     oeffne();
     legePlan();
     anschluss().oeffne(Gegenstand::Plan);
-    nimm(u"Toast"_s, 40);
+    nimm({.schluessel = u"Toast"_s, .gramm = 40});
     ruhe();
     QCOMPARE(hinweise(), QStringList{u"„Toast“ steht jetzt im Plan."_s});
     // What the button would take back now is another change.
@@ -172,7 +86,7 @@ void TestEinblickfolge::theWayBackGoesWithTheNextChangeOfTheDays()
     tage().buch.beginne(neueAufzeichnung(Aufzeichnungsart::Protokoll, QDate(2026, 11, 23), 2));
     ruhe();
     anschluss().oeffne(Gegenstand::Tag);
-    nimm(u"Toast"_s, 40);
+    nimm({.schluessel = u"Toast"_s, .gramm = 40});
     ruhe();
     QCOMPARE(hinweise(), QStringList{u"„Toast“ steht jetzt bei den Tagen: 40 g."_s});
     tage().buch.waehleTag(1); // nothing has changed by that
@@ -188,7 +102,7 @@ void TestEinblickfolge::theWayBackGoesWithAChangeOfAnOwnFood()
     oeffne();
     legePlan();
     anschluss().oeffne(Gegenstand::Plan);
-    nimm(u"Toast"_s, 40);
+    nimm({.schluessel = u"Toast"_s, .gramm = 40});
     QCOMPARE(hinweise().size(), 1);
     loescheMuesli(); // plan and own foods have one line of changes
     QCOMPARE(hinweise(), QStringList());
@@ -200,11 +114,11 @@ void TestEinblickfolge::twoQuickKeysTakeOneSuggestion()
     legePlan();
     anschluss().oeffne(Gegenstand::Plan);
     // Both come before the window shows what the first one did.
-    nimm(u"Milch"_s, 50, 0);
-    nimm(u"Milch"_s, 50, 0);
+    nimm({.ort = 0, .schluessel = u"Milch"_s, .gramm = 50});
+    nimm({.ort = 0, .schluessel = u"Milch"_s, .gramm = 50});
     QCOMPARE(imPlan(), u"Milch 250"_s);
     ruhe();
-    nimm(u"Apfel"_s, 120, 0);
+    nimm({.ort = 0, .schluessel = u"Apfel"_s, .gramm = 120});
     QCOMPARE(imPlan(), u"Apfel 120"_s);
 }
 

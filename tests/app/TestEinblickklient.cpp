@@ -1,67 +1,37 @@
 // For whom the insight speaks: the client at the desk, or whoever the calculator reckons for.
 
-#include "Klientenprobe.h"
+#include "Einblickprobe.h"
 
 #include "Matrix.h"
-#include "Vorschlagsblatt.h"
-
-#include <QTabWidget>
 
 using namespace Qt::StringLiterals;
 
-class TestEinblickklient : public QObject
+class TestEinblickklient : public QObject, private Einblickprobe
 {
     Q_OBJECT
 
 private Q_SLOTS:
     void init();
-    void cleanup();
+    void cleanup() { raeumeAuf(); }
 
     void withoutAClientTheCalculatorIsMeant();
     void theConditionsComeWithTheClient();
     void whatWasTypedStaysWithTheSameClient();
     void theCalculatorIsAskedOnceItIsDone();
     void theNeedAloneIsFollowed();
+    void theNeedOfWhoComesIsShownOnceItIsKnown();
 
 private:
-    Probefenster &programm() const { return m_probe->programm(); }
-    Einblickanschluss &anschluss() const { return programm().oberflaeche().einblick; }
-    Einblickfenster &fenster() const { return anschluss().fenster(); }
-    /// Shows the window, and waits until it has taken in what there is.
-    void zeige() const
-    {
-        anschluss().oeffne(Gegenstand::Plan);
-        ruhe();
-    }
     QString bert() const
     {
-        Person person;
-        person.name = u"Bert"_s;
-        person.geschlecht = Personengeschlecht::Mann;
-        person.geburt = QDate(1959, 3, 1);
-        person.leiden[stelle(Wertung::gicht)] = true;
-        return m_probe->kartei().sichere({QString(), person, {}});
+        return klient(u"Bert"_s, Personengeschlecht::Mann, QDate(1959, 3, 1), true);
     }
-
-    std::unique_ptr<Probeheim> m_heim;
-    std::unique_ptr<Klientenprobe> m_probe;
 };
 
 void TestEinblickklient::init()
 {
-    Planmodul::klient = {};
-    m_heim = std::make_unique<Probeheim>();
-    m_heim->schreibeTabelle(
-        verzeichnis({lebensmittel(u"-"_s), lebensmittel(u"Apfel"_s, {{Naehrwert::kal, 50}}),
-                     lebensmittel(u"Milch"_s, {{Naehrwert::kal, 60}, {Naehrwert::ca, 120}})}));
-    m_probe = std::make_unique<Klientenprobe>(*m_heim);
-}
-
-void TestEinblickklient::cleanup()
-{
-    m_probe.reset();
-    m_heim.reset();
-    Planmodul::klient = {};
+    richteEin({});
+    oeffne();
 }
 
 void TestEinblickklient::withoutAClientTheCalculatorIsMeant()
@@ -72,7 +42,7 @@ void TestEinblickklient::withoutAClientTheCalculatorIsMeant()
     rechner.arbeit->waehle(1);
     Planmodul::klient.gewicht = 71;
     Planmodul::klient.bedarf = 1900;
-    zeige();
+    zeige(Gegenstand::Plan);
     Referenzperson erwartet;
     erwartet.geschlecht = Referenzgeschlecht::Frau;
     erwartet.alter = 47;
@@ -88,7 +58,7 @@ void TestEinblickklient::withoutAClientTheCalculatorIsMeant()
 
 void TestEinblickklient::theConditionsComeWithTheClient()
 {
-    zeige();
+    zeige(Gegenstand::Plan);
     const auto *gicht = fenster().vorschlagsblatt->findChild<QComboBox *>(u"wunsch_gicht"_s);
     QCOMPARE(gicht->currentText(), u"beliebig"_s);
     QVERIFY(m_probe->tisch().nimm(bert()));
@@ -103,7 +73,7 @@ void TestEinblickklient::theConditionsComeWithTheClient()
 void TestEinblickklient::whatWasTypedStaysWithTheSameClient()
 {
     QVERIFY(m_probe->tisch().nimm(bert()));
-    zeige();
+    zeige(Gegenstand::Plan);
     Referenzperson getippt = fenster().personenwahl->person();
     getippt.alter = 30;
     fenster().personenwahl->setPerson(getippt);
@@ -121,7 +91,7 @@ void TestEinblickklient::whatWasTypedStaysWithTheSameClient()
 
 void TestEinblickklient::theCalculatorIsAskedOnceItIsDone()
 {
-    zeige();
+    zeige(Gegenstand::Plan);
     Q_EMIT programm().rechner().angabeGeaendert();
     Planmodul::klient.gewicht = 64; // which comes to the plan a little later
     ruhe();
@@ -138,7 +108,7 @@ void TestEinblickklient::theNeedAloneIsFollowed()
     kind.geburt = QDate::currentDate().addYears(-6);
     QVERIFY(m_probe->tisch().nimm(m_probe->kartei().sichere({QString(), kind, {}})));
     Planmodul::klient.bedarf = 1500;
-    zeige();
+    zeige(Gegenstand::Plan);
     fenster().blaetter->setCurrentWidget(fenster().vorschlagsblatt);
     ruhe();
     fenster().vorschlagsblatt->waehleZiel(Kenngroesse::kal);
@@ -150,6 +120,24 @@ void TestEinblickklient::theNeedAloneIsFollowed()
     ruhe(); // and what follows from it
     QVERIFY(!fenster().personenwahl->person().energiebedarf);
     QVERIFY2(ziel->currentText() != vorher, qUtf8Printable(vorher));
+}
+
+/// What the calculator says of a client comes to the plan with the same action, but maybe after.
+void TestEinblickklient::theNeedOfWhoComesIsShownOnceItIsKnown()
+{
+    const QString kennung = bert();
+    programm()->holePlan().gibHinein(u"Apfel"_s, 150);
+    Planmodul::klient.bedarf = 1500;
+    zeige(Gegenstand::Plan);
+    fenster().blaetter->setCurrentWidget(fenster().vorschlagsblatt);
+    ruhe();
+    const auto *ziel = fenster().vorschlagsblatt->findChild<QComboBox *>(u"ziel"_s);
+    fenster().vorschlagsblatt->waehleZiel(Kenngroesse::kal);
+    QVERIFY(m_probe->tisch().nimm(kennung));
+    Planmodul::klient.bedarf = 2700;
+    ruhe(); // what the calculator says
+    ruhe(); // and what follows from it
+    QVERIFY2(ziel->currentText().contains(u"2700"_s), qUtf8Printable(ziel->currentText()));
 }
 
 QTEST_MAIN(TestEinblickklient)

@@ -1,24 +1,19 @@
 // Where the windows of the insight stand and lead, what they are about, and in which words.
 
-#include "Klientenprobe.h"
+#include "Einblickprobe.h"
 
 #include "Beitragsblatt.h"
-#include "Sprache.h"
 #include "Standaufbau.h"
-#include "Vorschlagsblatt.h"
-
-#include <QTabWidget>
-#include <QTableView>
 
 using namespace Qt::StringLiterals;
 
-class TestEinblickwege : public QObject
+class TestEinblickwege : public QObject, private Einblickprobe
 {
     Q_OBJECT
 
 private Q_SLOTS:
     void init();
-    void cleanup();
+    void cleanup() { raeumeAuf(); }
 
     void theWindowComesBesideTheOneItWasCalledFrom_data();
     void theWindowComesBesideTheOneItWasCalledFrom();
@@ -29,6 +24,8 @@ private Q_SLOTS:
     void theMainWindowComesUpWithTheFood();
     void theBuiltInFoodOfANameIsMeant();
     void theRankingNamesEachFoodOnce();
+    void theRankingKnowsWhichFoodsAreOwn();
+    void theRankingKnowsThePortions();
     void aFoodIsShownAsItWasChosen();
     void aSuggestionForAFoodLeavesTheDaysAlone();
     void suggestionsComeInWithTheirPortion();
@@ -45,52 +42,11 @@ private Q_SLOTS:
     void theLanguageChangesTheRankingToo();
 
 private:
-    void oeffne() { m_probe = std::make_unique<Klientenprobe>(*m_heim); }
-    Probefenster &programm() const { return m_probe->programm(); }
-    Einblickanschluss &anschluss() const { return programm().oberflaeche().einblick; }
-    Einblickfenster &fenster() const { return anschluss().fenster(); }
-    Tagefenster &tage() const { return programm().oberflaeche().tage.fenster(); }
-    Planmodul &plan() const { return programm()->holePlan(); }
-    /// Shows the window, and waits until it has taken in what there is.
-    void zeige(Gegenstand gegenstand) const
-    {
-        anschluss().oeffne(gegenstand);
-        ruhe();
-    }
-    QString titel() const { return fenster().findChild<QLabel *>(u"titel"_s)->text(); }
     QString menge(Kenngroesse groesse) const
     {
         fenster().beitragsblatt->waehle(groesse);
         const auto *tabelle = fenster().beitragsblatt->findChild<QTableView *>(u"beitraege"_s);
         return tabelle->model()->index(0, Beitragsmodell::Menge).data().toString();
-    }
-    static QStringList spalte(const QWidget &wo, const QString &tabelle, int welche)
-    {
-        const QAbstractItemModel &modell = *wo.findChild<QTableView *>(tabelle)->model();
-        QStringList alle;
-        for (int zeile = 0; zeile < modell.rowCount(); ++zeile) {
-            alle << modell.index(zeile, welche).data().toString();
-        }
-        return alle;
-    }
-    QStringList vorschlaege() const
-    {
-        return spalte(*fenster().vorschlagsblatt, u"vorschlaege"_s, Vorschlagsmodell::Lebensmittel);
-    }
-    void legePlan() const
-    {
-        programm()->Planmoduloeffnen();
-        plan().gibHinein(u"Apfel"_s, 150);
-        plan().gibHinein(u"Milch"_s, 200);
-        ruhe();
-    }
-    void zeigeVorschlaege(std::int32_t bedarf) const
-    {
-        Planmodul::klient.bedarf = bedarf;
-        zeige(Gegenstand::Plan);
-        fenster().blaetter->setCurrentWidget(fenster().vorschlagsblatt);
-        ruhe();
-        fenster().vorschlagsblatt->waehleZiel(Kenngroesse::kal);
     }
     Aufzeichnung aufzeichnung(const QString &name) const
     {
@@ -99,43 +55,14 @@ private:
             Mahlzeitzeile{.schluessel = name, .gramm = 120.0F, .eintrag = lebensmittel(name)}};
         return eine;
     }
-    QStringList hinweise() const
-    {
-        QStringList alle;
-        for (const Hinweis &einer : fenster().hinweise->hinweise()) {
-            alle << einer.text;
-        }
-        return alle;
-    }
-    void nimm(const Speisenaenderung &was) const
-    {
-        Q_EMIT fenster().vorschlagsblatt->aenderungGewuenscht(was);
-    }
-
-    std::unique_ptr<Probeheim> m_heim;
-    std::unique_ptr<Klientenprobe> m_probe;
 };
 
 void TestEinblickwege::init()
 {
-    Planmodul::klient = {};
-    m_heim = std::make_unique<Probeheim>();
-    m_heim->schreibeTabelle(
-        verzeichnis({lebensmittel(u"-"_s),
-                     lebensmittel(u"Apfel"_s, {{Naehrwert::kal, 50}, {Naehrwert::vitc, 12}}),
-                     lebensmittel(u"Apfelmus, gezuckert"_s, {{Naehrwert::kal, 90}}),
-                     lebensmittel(u"Milch"_s, {{Naehrwert::kal, 60}, {Naehrwert::ca, 120}}),
-                     lebensmittel(u"Toast"_s, {{Naehrwert::kal, 200}})}));
     // An own food that is called as a built-in one is.
-    m_heim->schreibeEigene(verzeichnis({lebensmittel(u"Apfel"_s, {{Naehrwert::kal, 400}}),
-                                        lebensmittel(u"Müsli"_s, {{Naehrwert::kal, 380}})}));
-}
-
-void TestEinblickwege::cleanup()
-{
-    m_probe.reset();
-    m_heim.reset();
-    Planmodul::klient = {};
+    richteEin(verzeichnis({lebensmittel(u"Apfel"_s, {{Naehrwert::kal, 400}}),
+                           lebensmittel(u"Müsli"_s, {{Naehrwert::kal, 380}})}),
+              {lebensmittel(u"Apfelmus, gezuckert"_s, {{Naehrwert::kal, 90}})});
 }
 
 void TestEinblickwege::theWindowComesBesideTheOneItWasCalledFrom_data()
@@ -242,6 +169,34 @@ void TestEinblickwege::theRankingNamesEachFoodOnce()
     QCOMPARE(
         spalte(anschluss().rangliste(), u"rangliste"_s, Rangmodell::Name),
         (QStringList{u"Müsli"_s, u"Toast"_s, u"Apfelmus, gezuckert"_s, u"Milch"_s, u"Apfel"_s}));
+}
+
+void TestEinblickwege::theRankingKnowsWhichFoodsAreOwn()
+{
+    oeffne();
+    anschluss().rangliste().zeige(Kenngroesse::kal);
+    auto *gruppe = anschluss().rangliste().findChild<QComboBox *>(u"gruppe"_s);
+    gruppe->setCurrentIndex(gruppe->findText(u"Eigene Lebensmittel"_s));
+    QCOMPARE(spalte(anschluss().rangliste(), u"rangliste"_s, Rangmodell::Name),
+             QStringList{u"Müsli"_s});
+}
+
+/// A bowl of 60 g holds 228 kcal of 380 in 100 g.
+void TestEinblickwege::theRankingKnowsThePortions()
+{
+    oeffne();
+    QVERIFY(programm().oberflaeche().tage.eigeneMasse().setze(
+        u"Müsli"_s, {{u"Schale"_s, u"Schalen"_s, u"bowl"_s, u"bowls"_s, 60}}));
+    anschluss().rangliste().zeige(Kenngroesse::kal);
+    auto *bezug = anschluss().rangliste().findChild<QComboBox *>(u"rangbezug"_s);
+    bezug->setCurrentIndex(bezug->findText(u"je Portion"_s));
+    const QStringList namen = spalte(anschluss().rangliste(), u"rangliste"_s, Rangmodell::Name);
+    const qsizetype muesli = namen.indexOf(u"Müsli"_s);
+    QVERIFY(muesli >= 0);
+    QCOMPARE(spalte(anschluss().rangliste(), u"rangliste"_s, Rangmodell::Portion).value(muesli),
+             u"1 Schale (60 g)"_s);
+    QCOMPARE(spalte(anschluss().rangliste(), u"rangliste"_s, Rangmodell::Wert).value(muesli),
+             u"228 kcal"_s);
 }
 
 void TestEinblickwege::aFoodIsShownAsItWasChosen()
@@ -369,7 +324,7 @@ void TestEinblickwege::everySliderIsFollowed()
 void TestEinblickwege::theSuggestionsKnowWhatTheyAreAbout()
 {
     oeffne();
-    zeigeVorschlaege(2000);
+    zeigeVorschlaege();
     zeige(Gegenstand::Lebensmittel);
     QCOMPARE(fenster().vorschlagsblatt->findChild<QLabel *>(u"leer"_s)->text(),
              u"Vorschläge gibt es zu einem Plan, einem Tag oder dem Mittel der Tage."_s);
@@ -400,7 +355,7 @@ void TestEinblickwege::portionsAreSaidInTheLanguageOfTheWindows()
     QVERIFY(programm().oberflaeche().tage.eigeneMasse().setze(
         u"Müsli"_s, {{u"Schale"_s, u"Schalen"_s, u"bowl"_s, u"bowls"_s, 60}}));
     legePlan();
-    zeigeVorschlaege(2000);
+    zeigeVorschlaege();
     QVERIFY(vorschlaege().contains(u"Müsli\n1 Schale (60 g)"_s));
     programm().oberflaeche().sprich(u"en"_s);
     ruhe();

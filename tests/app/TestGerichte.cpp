@@ -1,10 +1,9 @@
 // Dishes beside the other foods of the desk: their names, portions and files, and what is told of
 // them.
 
-#include "Klientenprobe.h"
+#include "Gerichteprobe.h"
 
 #include "Sprache.h"
-#include "Zutatenliste.h"
 
 #include <QLineEdit>
 #include <QListWidget>
@@ -14,13 +13,13 @@
 
 using namespace Qt::StringLiterals;
 
-class TestGerichte : public QObject
+class TestGerichte : public QObject, private Gerichteprobe
 {
     Q_OBJECT
 
 private Q_SLOTS:
     void init();
-    void cleanup();
+    void cleanup() { raeumeAuf(); }
 
     void aMealOfTheDayOnDisplayBecomesARecipe();
     void theRecipeStandsBeforeTheWindowItCameFrom();
@@ -45,44 +44,10 @@ private Q_SLOTS:
     void theLanguageChangesTheOpenRecipe();
 
 private:
-    void oeffne() { m_probe = std::make_unique<Klientenprobe>(*m_heim); }
-    Probefenster &programm() const { return m_probe->programm(); }
-    Rezeptanschluss &anschluss() const { return programm().oberflaeche().einblick.rezepte; }
-    Tageanschluss &tage() const { return programm().oberflaeche().tage; }
-    QString rezeptdatei() const
-    {
-        return QFileInfo(m_heim->eigeneDatei()).dir().filePath(u"MahlbergRezepte.json"_s);
-    }
-    static QAction *eintrag(const QWidget *fenster)
-    {
-        return fenster->findChild<QAction *>(u"aktionRezept"_s);
-    }
-    template <typename Teil>
-    Teil *teil(const QString &name) const
-    {
-        return anschluss().offenes()->findChild<Teil *>(name);
-    }
-    QStringList zutaten() const
-    {
-        QStringList alle;
-        for (const Rezeptzutat &eine :
-             anschluss().offenes()->findChild<Zutatenliste *>()->zutaten()) {
-            alle << u"%1 %2"_s.arg(eine.schluessel).arg(eine.gramm);
-        }
-        return alle;
-    }
     Rezeptzutat zutat(const QString &name, double gramm) const
     {
         const Datenmodul *satz = tage().speise(name);
         return {name, gramm, satz != nullptr ? *satz : Datenmodul()};
-    }
-    /// Names the dish in the open window, with so many portions, and keeps it.
-    void sichereAls(const QString &name, const QString &portionen = {}) const
-    {
-        teil<QLineEdit>(u"rezeptname"_s)->setText(name);
-        teil<QLineEdit>(u"portionen"_s)->setText(portionen);
-        anschluss().offenes()->sichere();
-        ruhe();
     }
     /// 100 g of broth and 300 g of water.
     void koche(const QString &name = u"Suppe"_s, const QString &portionen = {}) const
@@ -91,40 +56,15 @@ private:
                                   programm()->Hauptfenster);
         sichereAls(name, portionen);
     }
-    /// Saves the broth with these values, as the sheet for own foods does.
-    void setzeBruehe(const Wertliste &werte) const
-    {
-        Lebensmittelverzeichnis eigene = programm()->KundenDictionary;
-        eigene[u"Brühe"_s] = lebensmittel(u"Brühe"_s, werte);
-        programm()->uebernimmEigene(eigene, programm()->KundenArray);
-        Q_EMIT programm()->eigeneGeaendert({Aenderungsart::Geaendert, u"Brühe"_s});
-        ruhe();
-    }
-    float kal(const QString &name) const { return programm()->KundenDictionary.value(name).kal(); }
     qsizetype wieOft(const QString &teil) const
     {
         return m_probe->hauptsaetze().filter(teil).size();
     }
-
-    std::unique_ptr<Probeheim> m_heim;
-    std::unique_ptr<Klientenprobe> m_probe;
 };
 
 void TestGerichte::init()
 {
-    m_heim = std::make_unique<Probeheim>();
-    m_heim->schreibeTabelle(
-        verzeichnis({lebensmittel(u"-"_s), lebensmittel(u"Linsen"_s, {{Naehrwert::kal, 120}}),
-                     lebensmittel(u"Möhren"_s, {{Naehrwert::kal, 40}}),
-                     lebensmittel(u"Agar-Agar (Geliermittel aus Algen)"_s, {{Naehrwert::kal, 160}}),
-                     lebensmittel(u"Wasser"_s, {{Naehrwert::na, 1}})}));
-    m_heim->schreibeEigene(verzeichnis({lebensmittel(u"Brühe"_s, {{Naehrwert::kal, 40}})}));
-}
-
-void TestGerichte::cleanup()
-{
-    m_probe.reset();
-    m_heim.reset();
+    richteEin({lebensmittel(u"Agar-Agar (Geliermittel aus Algen)"_s, {{Naehrwert::kal, 160}})});
 }
 
 void TestGerichte::aMealOfTheDayOnDisplayBecomesARecipe()
@@ -244,7 +184,7 @@ void TestGerichte::aPortionThatCanNotBeKeptIsTold()
 {
     oeffne();
     // A newer version has written the measures: they are not overwritten.
-    QFile datei(QFileInfo(rezeptdatei()).dir().filePath(u"MahlbergMasse.json"_s));
+    QFile datei(pfad(u"MahlbergMasse.json"_s));
     QVERIFY(datei.open(QIODevice::WriteOnly));
     datei.write(R"({"format": "Mahlberg measures", "version": 2, "foods": []})");
     datei.close();
@@ -323,15 +263,15 @@ void TestGerichte::aFolderThatTakesNothingIsTold()
 {
     oeffne();
     koche();
-    QVERIFY(QFile::remove(rezeptdatei()));
-    QVERIFY(QDir().mkpath(rezeptdatei() + u"/darin"_s));
+    QVERIFY(QFile::remove(pfad(u"MahlbergRezepte.json"_s)));
+    QVERIFY(QDir().mkpath(pfad(u"MahlbergRezepte.json"_s) + u"/darin"_s));
     anschluss().beginneRezept({zutat(u"Linsen"_s, 100)}, programm()->Hauptfenster);
     sichereAls(u"Mus"_s);
     QVERIFY(!programm()->KundenDictionary.contains(u"Mus"_s));
     QVERIFY(!anschluss().ablage.rezept(u"Mus"_s));
     QCOMPARE(teil<QLabel>(u"rezeptworte"_s)->text(), u"⚠ Das Gericht ließ sich nicht sichern."_s);
     QVERIFY(teil<QLabel>(u"rezeptworte"_s)->isVisible());
-    QVERIFY(QDir(rezeptdatei()).removeRecursively());
+    QVERIFY(QDir(pfad(u"MahlbergRezepte.json"_s)).removeRecursively());
     sichereAls(u"Mus"_s);
     QVERIFY(programm()->KundenDictionary.contains(u"Mus"_s));
     QVERIFY(anschluss().ablage.rezept(u"Mus"_s).has_value());
@@ -342,8 +282,8 @@ void TestGerichte::aRecipeThatCouldNotBeKeptLeavesTheFormer()
 {
     oeffne();
     koche();
-    QVERIFY(QFile::remove(rezeptdatei()));
-    QVERIFY(QDir().mkpath(rezeptdatei() + u"/darin"_s));
+    QVERIFY(QFile::remove(pfad(u"MahlbergRezepte.json"_s)));
+    QVERIFY(QDir().mkpath(pfad(u"MahlbergRezepte.json"_s) + u"/darin"_s));
     programm()->zeigeEigenes(u"Suppe"_s);
     eintrag(programm()->Hauptfenster)->trigger();
     anschluss().offenes()->findChild<Zutatenliste *>()->zeige({zutat(u"Brühe"_s, 100)});
@@ -352,7 +292,7 @@ void TestGerichte::aRecipeThatCouldNotBeKeptLeavesTheFormer()
     QCOMPARE(anschluss().ablage.rezept(u"Suppe"_s).value_or(Rezept()).zutaten.size(), 2);
     m_heim->antworten << 1; // the window is closed all the same
     anschluss().offenes()->close();
-    QVERIFY(QDir(rezeptdatei()).removeRecursively());
+    QVERIFY(QDir(pfad(u"MahlbergRezepte.json"_s)).removeRecursively());
     setzeBruehe({{Naehrwert::kal, 80}});
     QCOMPARE(kal(u"Suppe"_s), 20.0F);
     QCOMPARE(wieOft(u"von Hand"_s), 0);
@@ -362,16 +302,16 @@ void TestGerichte::aDishFollowsWhileItsRecipeCanNotBeWritten()
 {
     oeffne();
     koche();
-    QVERIFY(QFile::remove(rezeptdatei()));
-    QVERIFY(QDir().mkpath(rezeptdatei() + u"/darin"_s));
+    QVERIFY(QFile::remove(pfad(u"MahlbergRezepte.json"_s)));
+    QVERIFY(QDir().mkpath(pfad(u"MahlbergRezepte.json"_s) + u"/darin"_s));
     setzeBruehe({{Naehrwert::kal, 80}});
     QCOMPARE(kal(u"Suppe"_s), 20.0F);
     QCOMPARE(wieOft(u"Die Rezepte ließen sich nicht sichern."_s), 1);
-    QVERIFY(QDir(rezeptdatei()).removeRecursively());
+    QVERIFY(QDir(pfad(u"MahlbergRezepte.json"_s)).removeRecursively());
     setzeBruehe({{Naehrwert::kal, 120}});
     QCOMPARE(kal(u"Suppe"_s), 30.0F);
     QCOMPARE(wieOft(u"von Hand"_s), 0);
-    QVERIFY(QFile::exists(rezeptdatei()));
+    QVERIFY(QFile::exists(pfad(u"MahlbergRezepte.json"_s)));
 }
 
 void TestGerichte::ingredientsAreFoundAndMeasured()

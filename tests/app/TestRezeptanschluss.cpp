@@ -1,23 +1,22 @@
 // Recipes joined to the desk: from plan and meal to an own food, and how it follows its
 // ingredients.
 
-#include "Klientenprobe.h"
+#include "Gerichteprobe.h"
 
 #include "Beitragsblatt.h"
-#include "Zutatenliste.h"
 
 #include <QLineEdit>
 #include <QMenuBar>
 
 using namespace Qt::StringLiterals;
 
-class TestRezeptanschluss : public QObject
+class TestRezeptanschluss : public QObject, private Gerichteprobe
 {
     Q_OBJECT
 
 private Q_SLOTS:
     void init();
-    void cleanup();
+    void cleanup() { raeumeAuf(); }
 
     void thePlanBecomesARecipe();
     void aMealBecomesARecipe();
@@ -40,36 +39,6 @@ private Q_SLOTS:
     void theInsightKnowsNoRecipeOfADishChangedByHand();
 
 private:
-    void oeffne() { m_probe = std::make_unique<Klientenprobe>(*m_heim); }
-    Probefenster &programm() const { return m_probe->programm(); }
-    Rezeptanschluss &anschluss() const { return programm().oberflaeche().einblick.rezepte; }
-    Planmodul &plan() const { return programm()->holePlan(); }
-    QString pfad(const QString &name) const
-    {
-        return QFileInfo(m_heim->eigeneDatei()).dir().filePath(name);
-    }
-    QAction *eintrag(const QWidget *fenster) const
-    {
-        return fenster->findChild<QAction *>(u"aktionRezept"_s);
-    }
-    QStringList zutaten() const
-    {
-        QStringList alle;
-        for (const Rezeptzutat &eine :
-             anschluss().offenes()->findChild<Zutatenliste *>()->zutaten()) {
-            alle << u"%1 %2"_s.arg(eine.schluessel).arg(eine.gramm);
-        }
-        return alle;
-    }
-    /// Names the dish in the open window and keeps it.
-    void sichereAls(const QString &name) const
-    {
-        auto *feld = anschluss().offenes()->findChild<QLineEdit *>(u"rezeptname"_s);
-        QVERIFY(feld != nullptr);
-        feld->setText(name);
-        anschluss().offenes()->sichere();
-        ruhe();
-    }
     /// A broth of 100 g and 300 g of water: 400 g of soup with 10 kcal in 100 g.
     Rezept suppe(bool folgt = true) const
     {
@@ -91,41 +60,17 @@ private:
         sichereAls(u"Suppe"_s);
         QVERIFY(programm()->KundenDictionary.contains(u"Suppe"_s));
     }
-    /// Saves the broth with so many kcal, as the sheet for own foods does.
-    void verstaerkeBruehe(float kal) const
-    {
-        Lebensmittelverzeichnis eigene = programm()->KundenDictionary;
-        eigene[u"Brühe"_s].setkal(kal);
-        programm()->uebernimmEigene(eigene, programm()->KundenArray);
-        Q_EMIT programm()->eigeneGeaendert({Aenderungsart::Geaendert, u"Brühe"_s});
-        ruhe();
-    }
-    float kal(const QString &name) const { return programm()->KundenDictionary.value(name).kal(); }
     bool sagt(const QString &teil) const
     {
         const QStringList alle = m_probe->hauptsaetze();
         return std::any_of(alle.begin(), alle.end(),
                            [&](const QString &satz) { return satz.contains(teil); });
     }
-
-    std::unique_ptr<Probeheim> m_heim;
-    std::unique_ptr<Klientenprobe> m_probe;
 };
 
 void TestRezeptanschluss::init()
 {
-    m_heim = std::make_unique<Probeheim>();
-    m_heim->schreibeTabelle(
-        verzeichnis({lebensmittel(u"-"_s), lebensmittel(u"Linsen"_s, {{Naehrwert::kal, 120}}),
-                     lebensmittel(u"Möhren"_s, {{Naehrwert::kal, 40}}),
-                     lebensmittel(u"Wasser"_s, {{Naehrwert::na, 1}})}));
-    m_heim->schreibeEigene(verzeichnis({lebensmittel(u"Brühe"_s, {{Naehrwert::kal, 40}})}));
-}
-
-void TestRezeptanschluss::cleanup()
-{
-    m_probe.reset();
-    m_heim.reset();
+    richteEin();
 }
 
 void TestRezeptanschluss::thePlanBecomesARecipe()
@@ -208,7 +153,7 @@ void TestRezeptanschluss::theRecipeOutlastsTheProgram()
     m_probe.reset();
     oeffne();
     QCOMPARE(anschluss().rezepte().keys(), QStringList{u"Suppe"_s});
-    verstaerkeBruehe(80);
+    setzeBruehe({{Naehrwert::kal, 80}});
     QCOMPARE(kal(u"Suppe"_s), 20.0F);
 }
 
@@ -230,11 +175,11 @@ void TestRezeptanschluss::theDishFollowsAnIngredient()
 {
     oeffne();
     koche();
-    verstaerkeBruehe(80);
+    setzeBruehe({{Naehrwert::kal, 80}});
     QCOMPARE(kal(u"Suppe"_s), 20.0F);
     QVERIFY(sagt(u"ihren Zutaten gefolgt sind: Suppe."_s));
     // And again, since it is still what its recipe gave.
-    verstaerkeBruehe(20);
+    setzeBruehe({{Naehrwert::kal, 20}});
     QCOMPARE(kal(u"Suppe"_s), 5.0F);
 }
 
@@ -242,7 +187,7 @@ void TestRezeptanschluss::aDishThatDoesNotFollowStays()
 {
     oeffne();
     koche(false);
-    verstaerkeBruehe(80);
+    setzeBruehe({{Naehrwert::kal, 80}});
     QCOMPARE(kal(u"Suppe"_s), 10.0F);
 }
 
@@ -253,7 +198,7 @@ void TestRezeptanschluss::aDishChangedByHandIsLeftAndTold()
     Lebensmittelverzeichnis eigene = programm()->KundenDictionary;
     eigene[u"Suppe"_s].setkal(33);
     programm()->uebernimmEigene(eigene, programm()->KundenArray);
-    verstaerkeBruehe(80);
+    setzeBruehe({{Naehrwert::kal, 80}});
     QCOMPARE(kal(u"Suppe"_s), 33.0F);
     QVERIFY(sagt(u"von Hand geändert sind: Suppe."_s));
 }
@@ -262,14 +207,14 @@ void TestRezeptanschluss::aDishFollowsOnAfterItsIngredientWasTakenBack()
 {
     oeffne();
     koche();
-    verstaerkeBruehe(80);
+    setzeBruehe({{Naehrwert::kal, 80}});
     QCOMPARE(kal(u"Suppe"_s), 20.0F);
     Q_EMIT programm()->zuruecknehmenGewuenscht(); // the dish, then the broth
     Q_EMIT programm()->zuruecknehmenGewuenscht();
     ruhe();
     QCOMPARE(kal(u"Brühe"_s), 40.0F);
     QCOMPARE(kal(u"Suppe"_s), 10.0F);
-    verstaerkeBruehe(60);
+    setzeBruehe({{Naehrwert::kal, 60}});
     QCOMPARE(kal(u"Suppe"_s), 15.0F);
     QVERIFY(!sagt(u"von Hand"_s));
 }
@@ -348,7 +293,7 @@ void TestRezeptanschluss::aFileThatCouldNotBeReadIsTold()
     eintrag(programm()->Hauptfenster)->trigger();
     QVERIFY(sagt(satz));
     programm()->hinweise->nimmZurueck(u"rezeptablage"_s); // it was read
-    verstaerkeBruehe(80);
+    setzeBruehe({{Naehrwert::kal, 80}});
     QVERIFY(!sagt(satz));
 }
 
