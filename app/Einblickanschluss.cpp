@@ -368,7 +368,6 @@ void Einblickanschluss::folgeKlient()
         m_fenster->setzeLeiden(leidenVon(akte));
         folgeRechner();
     }
-    m_gleich.start();
 }
 
 void Einblickanschluss::folgeRechner()

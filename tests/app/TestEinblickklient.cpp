@@ -19,7 +19,6 @@ private Q_SLOTS:
     void whatWasTypedStaysWithTheSameClient();
     void theCalculatorIsAskedOnceItIsDone();
     void theNeedAloneIsFollowed();
-    void theNeedOfWhoComesIsShownOnceItIsKnown();
 
 private:
     QString bert() const
@@ -120,24 +119,6 @@ void TestEinblickklient::theNeedAloneIsFollowed()
     ruhe(); // and what follows from it
     QVERIFY(!fenster().personenwahl->person().energiebedarf);
     QVERIFY2(ziel->currentText() != vorher, qUtf8Printable(vorher));
-}
-
-/// What the calculator says of a client comes to the plan with the same action, but maybe after.
-void TestEinblickklient::theNeedOfWhoComesIsShownOnceItIsKnown()
-{
-    const QString kennung = bert();
-    programm()->holePlan().gibHinein(u"Apfel"_s, 150);
-    Planmodul::klient.bedarf = 1500;
-    zeige(Gegenstand::Plan);
-    fenster().blaetter->setCurrentWidget(fenster().vorschlagsblatt);
-    ruhe();
-    const auto *ziel = fenster().vorschlagsblatt->findChild<QComboBox *>(u"ziel"_s);
-    fenster().vorschlagsblatt->waehleZiel(Kenngroesse::kal);
-    QVERIFY(m_probe->tisch().nimm(kennung));
-    Planmodul::klient.bedarf = 2700;
-    ruhe(); // what the calculator says
-    ruhe(); // and what follows from it
-    QVERIFY2(ziel->currentText().contains(u"2700"_s), qUtf8Printable(ziel->currentText()));
 }
 
 QTEST_MAIN(TestEinblickklient)

@@ -191,8 +191,9 @@ void TestKlientenabsturz::killedDuringASave()
         QElapsedTimer uhr;
         uhr.start();
         if (stube.dauer() > 0) {
-            const auto moment =
-                static_cast<quint64>(QRandomGenerator::global()->bounded(stube.dauer()));
+            // A quarter of the moments lies behind the save, for some take longer than others.
+            const auto moment = static_cast<quint64>(
+                QRandomGenerator::global()->bounded(stube.dauer() + stube.dauer() / 3));
             warteBis(uhr, moment);
             kill(kind, SIGKILL);
         }
