@@ -292,11 +292,13 @@ bool Klientenanschluss::eventFilter(QObject *watched, QEvent *event)
 }
 
 /// What waits to be written is not with the other desks yet; where it could not even be kept here,
-/// it would be lost with the program.
+/// it would be lost with the program. The clients' window asks about what it can't save before the
+/// main one goes: it would be left alone otherwise.
 bool Klientenanschluss::darfEnden()
 {
-    if (m_fenster != nullptr) {
-        m_fenster->sichere();
+    const bool offen = m_fenster != nullptr && m_fenster->isVisible();
+    if (offen && !m_fenster->close()) {
+        return false;
     }
     tisch.verlasse();
     if (kartei.vorgemerkt() > 0) {
@@ -311,11 +313,15 @@ bool Klientenanschluss::darfEnden()
                                              "beim nächsten Start gesichert."))
             : localizedString(QStringLiteral("%1 Was davon nicht gesichert ist, geht beim "
                                              "Beenden verloren."));
-    return m_tueren.melde(
-               m_hauptfenster.Hauptfenster,
-               {.text = localizedString(QStringLiteral("Noch nicht alles ist gesichert.")),
-                .erklaerung = folge.arg(inWorten(kartei.hindernis())).trimmed(),
-                .knoepfe = {localizedString(QStringLiteral("Zurück")),
-                            localizedString(QStringLiteral("Trotzdem beenden"))},
-                .gefahr = !kartei.istFestgehalten()}) == 1;
+    const bool endet =
+        m_tueren.melde(m_hauptfenster.Hauptfenster,
+                       {.text = localizedString(QStringLiteral("Noch nicht alles ist gesichert.")),
+                        .erklaerung = folge.arg(inWorten(kartei.hindernis())).trimmed(),
+                        .knoepfe = {localizedString(QStringLiteral("Zurück")),
+                                    localizedString(QStringLiteral("Trotzdem beenden"))},
+                        .gefahr = !kartei.istFestgehalten()}) == 1;
+    if (!endet && offen) {
+        m_fenster->show();
+    }
+    return endet;
 }

@@ -8,6 +8,7 @@
 #include "Zeichenkettentabelle.h"
 
 #include <QApplication>
+#include <QCloseEvent>
 #include <QDir>
 #include <QFileInfo>
 #include <QMenuBar>
@@ -73,6 +74,7 @@ void Rezeptanschluss::beginne()
     QMenu &menue = *m_hauptfenster.Hauptfenster->menuBar()->actions().constFirst()->menu();
     QAction *eintrag = neuerEintrag(menue, localizedString(QStringLiteral("Re&zept …")));
     connect(eintrag, &QAction::triggered, this, &Rezeptanschluss::zeigeRezept);
+    m_hauptfenster.Hauptfenster->installEventFilter(this);
     const QList<QAction *> eintraege = menue.actions();
     menue.insertAction(*std::find_if(eintraege.begin(), eintraege.end() - 1,
                                      [](const QAction *einer) { return einer->isSeparator(); }),
@@ -85,6 +87,15 @@ void Rezeptanschluss::beginne()
     connect(&m_hauptfenster, &AppController::eigeneGeaendert, this, &Rezeptanschluss::zieheNach);
     connect(&ablage, &Rezeptablage::geaendert, this, &Rezeptanschluss::geaendert);
     connect(&ablage, &Rezeptablage::sicherungGewechselt, this, &Rezeptanschluss::sageZustand);
+}
+
+bool Rezeptanschluss::eventFilter(QObject *watched, QEvent *event)
+{
+    if (event->type() == QEvent::Close && m_fenster != nullptr && !m_fenster->close()) {
+        event->ignore();
+        return true;
+    }
+    return QObject::eventFilter(watched, event);
 }
 
 void Rezeptanschluss::bereitePlan()

@@ -45,6 +45,9 @@ public:
     /// Another language is spoken.
     void folgeSprache();
 
+    /// The program does not end without the recipe that the user goes on with.
+    bool eventFilter(QObject *watched, QEvent *event) override;
+
     Rezeptablage ablage;
 
 Q_SIGNALS:

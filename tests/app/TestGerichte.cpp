@@ -24,6 +24,7 @@ private Q_SLOTS:
     void aMealOfTheDayOnDisplayBecomesARecipe();
     void theRecipeStandsBeforeTheWindowItCameFrom();
     void anOpenRecipeComesToTheFront();
+    void theProgramEndsOnlyAfterItsRecipe();
     void theRecipeOfAFoodThatIsGoneIsNotShown();
     void aBuiltInNameIsNotTaken();
     void anotherFoodIsReplacedOnlyAfterAQuestion();
@@ -108,6 +109,23 @@ void TestGerichte::anOpenRecipeComesToTheFront()
     QVERIFY(QTest::qWaitForWindowActive(programm()->Hauptfenster));
     eintrag(programm()->Hauptfenster)->trigger();
     QVERIFY(QTest::qWaitForWindowActive(anschluss().offenes()));
+}
+
+void TestGerichte::theProgramEndsOnlyAfterItsRecipe()
+{
+    oeffne();
+    const QSignalSpy ende(&programm().oberflaeche().hauptfenster, &AppController::beendet);
+    eintrag(programm()->Hauptfenster)->trigger();
+    teil<QLineEdit>(u"rezeptname"_s)->setText(u"Suppe"_s);
+    m_heim->antworten << 0 << 1; // goes on with the recipe, then lets it go
+    QVERIFY(!programm()->Hauptfenster->close());
+    QCOMPARE(ende.count(), 0);
+    QVERIFY(programm()->Hauptfenster->isVisible());
+    QCOMPARE(teil<QLineEdit>(u"rezeptname"_s)->text(), u"Suppe"_s);
+    QVERIFY(programm()->Hauptfenster->close());
+    QCOMPARE(ende.count(), 1);
+    QCOMPARE(m_heim->meldungen.size(), 2);
+    QVERIFY(anschluss().offenes() == nullptr || !anschluss().offenes()->isVisible());
 }
 
 void TestGerichte::theRecipeOfAFoodThatIsGoneIsNotShown()

@@ -34,6 +34,7 @@ private Q_SLOTS:
     void theEndKeepsWhatWasMeasured();
     void whatCanNotBeSavedHoldsTheEndUp();
     void whatCouldNotBeKeptWouldBeLost();
+    void theProgramEndsOnlyAfterAFieldThatCanNotBeSaved();
     void whatWaitedIsSavedAtTheNextStart();
     void whatWaitedAndCanNotBeReadIsKeptBeside();
     void theLanguageChangesTheWindowToo();
@@ -277,6 +278,7 @@ void TestKlientenanschluss::whatCanNotBeSavedHoldsTheEndUp()
         [&] {
             QCOMPARE(m_probe->kartei().vorgemerkt(), 1);
         }();
+        m_probe->fenster().show();
         m_heim->meldungen.clear();
         m_heim->antworten = {0, 1};
         [&] {
@@ -284,6 +286,7 @@ void TestKlientenanschluss::whatCanNotBeSavedHoldsTheEndUp()
         }();
         [&] {
             QVERIFY(m_probe->programm()->Hauptfenster->isVisible());
+            QVERIFY(m_probe->fenster().isVisible());
         }();
         [&] {
             QCOMPARE(m_heim->meldungen.constFirst().text, u"Noch nicht alles ist gesichert."_s);
@@ -316,6 +319,25 @@ void TestKlientenanschluss::whatCouldNotBeKeptWouldBeLost()
     QVERIFY(m_heim->meldungen.constFirst().erklaerung.endsWith(
         u" Was davon nicht gesichert ist, geht beim Beenden verloren."_s));
     QVERIFY(m_heim->meldungen.constFirst().gefahr);
+}
+
+void TestKlientenanschluss::theProgramEndsOnlyAfterAFieldThatCanNotBeSaved()
+{
+    oeffne();
+    m_probe->oeffne();
+    m_probe->legeAn(u"Anna"_s);
+    auto *geburt = m_probe->fenster().personenblatt->findChild<QLineEdit *>(u"geburt"_s);
+    Klientenprobe::tippe(geburt, u"neulich"_s);
+    m_heim->meldungen.clear();
+    m_heim->antworten = {0, 1};
+    QWidget &hauptfenster = *m_probe->programm()->Hauptfenster;
+    QVERIFY(!hauptfenster.close());
+    QVERIFY(hauptfenster.isVisible());
+    QVERIFY(m_probe->fenster().isVisible());
+    QCOMPARE(geburt->text(), u"neulich"_s);
+    QVERIFY(hauptfenster.close());
+    QCOMPARE(m_heim->meldungen.size(), 2);
+    QVERIFY(!m_probe->fenster().isVisible());
 }
 
 void TestKlientenanschluss::whatWaitedIsSavedAtTheNextStart()
