@@ -5,6 +5,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <numeric>
 #include <tuple>
 #include <vector>
 
@@ -131,8 +132,9 @@ public:
     std::optional<std::size_t> zielstelle() const { return m_ziel; }
     double vorher(std::size_t stelle) const { return m_vorher[stelle]; }
 
+    /// The foods that may come in addition, or in place of one of these rows.
     void lasseZu(const Kandidaten &kandidaten, const Vorschlagsbedingungen &bedingungen,
-                 Eignung mindestens);
+                 const std::optional<QList<int>> &stattZeilen);
     void gibDazu();
     void ersetze(int zeile);
     Vorschlagsliste ergebnis();
@@ -140,6 +142,7 @@ public:
 private:
     bool istErlaubt(const Vorschlagskandidat &kandidat, const Lebensmittelgruppe *gruppe,
                     const Vorschlagsbedingungen &bedingungen);
+    std::optional<Platz> platzDer(int zeile) const;
     Stoffangabe aenderung(const Zugelassener &einer, double gramm, const Angaben *statt,
                           std::size_t stelle) const;
     void pruefe(const Zugelassener &einer, double gramm, int zeile, const Angaben *statt);
@@ -190,10 +193,27 @@ bool Vorschlagsrechnung::istErlaubt(const Vorschlagskandidat &kandidat,
     return !(kannEnthalten(gruppe, kandidat.schluessel) & bedingungen.ohne);
 }
 
-/// Keeps the foods that may be suggested and have a figure for the aim.
-void Vorschlagsrechnung::lasseZu(const Kandidaten &kandidaten,
-                                 const Vorschlagsbedingungen &bedingungen, Eignung mindestens)
+/// What can stand in place of a row; absent where nothing can.
+std::optional<Platz> Vorschlagsrechnung::platzDer(int zeile) const
 {
+    const Speise &speise = m_grundlage.speisen[zeile];
+    const Speiseart art =
+        speiseart(gruppeVon(m_grundlage.wissen, speise.schluessel), speise.schluessel);
+    const Platz platz = platzVon(m_grundlage.wissen, speise.schluessel, art);
+    return speise.lebensmittel && !platz.art.empty() ? std::optional(platz) : std::nullopt;
+}
+
+/// Keeps the foods that may be suggested and have a figure for the aim. What could stand nowhere is
+/// not missed for want of one.
+void Vorschlagsrechnung::lasseZu(const Kandidaten &kandidaten,
+                                 const Vorschlagsbedingungen &bedingungen,
+                                 const std::optional<QList<int>> &stattZeilen)
+{
+    const Eignung mindestens = stattZeilen ? Eignung::Ersatz : Eignung::Zugabe;
+    std::vector<std::optional<Platz>> plaetze;
+    for (const int zeile : stattZeilen.value_or(QList<int>())) {
+        plaetze.push_back(platzDer(zeile));
+    }
     const std::optional<Kenngroesse> ziel =
         m_ziel ? std::optional(m_grundlage.ziele[static_cast<qsizetype>(*m_ziel)].groesse)
                : std::nullopt;
@@ -201,8 +221,10 @@ void Vorschlagsrechnung::lasseZu(const Kandidaten &kandidaten,
     for (const Vorschlagskandidat &kandidat : kandidaten) {
         const Lebensmittelgruppe *gruppe = gruppeVon(m_grundlage.wissen, kandidat.schluessel);
         const Speiseart art = speiseart(gruppe, kandidat.schluessel);
-        if (art.eignung < mindestens || (nuetztNicht && art.oxalsaeure) ||
-            (mindestens == Eignung::Zugabe && !(kandidat.gramm > 0)) ||
+        const Platz platz = platzVon(m_grundlage.wissen, kandidat.schluessel, art);
+        const bool findetPlatz =
+            stattZeilen ? std::ranges::find(plaetze, platz) != plaetze.end() : kandidat.gramm > 0;
+        if (art.eignung < mindestens || (nuetztNicht && art.oxalsaeure) || !findetPlatz ||
             !istErlaubt(kandidat, gruppe, bedingungen)) {
             continue;
         }
@@ -211,9 +233,7 @@ void Vorschlagsrechnung::lasseZu(const Kandidaten &kandidaten,
             ++m_ergebnis.ohneAngabe;
             continue;
         }
-        m_zugelassene.push_back({&kandidat, gruppe,
-                                 platzVon(m_grundlage.wissen, kandidat.schluessel, art),
-                                 std::move(angaben)});
+        m_zugelassene.push_back({&kandidat, gruppe, platz, std::move(angaben)});
     }
 }
 
@@ -228,10 +248,8 @@ void Vorschlagsrechnung::ersetze(int zeile)
 {
     const Speise &speise = m_grundlage.speisen[zeile];
     const double gramm = zaehlendeGramm(speise);
-    const Speiseart art =
-        speiseart(gruppeVon(m_grundlage.wissen, speise.schluessel), speise.schluessel);
-    const Platz platz = platzVon(m_grundlage.wissen, speise.schluessel, art);
-    if (!speise.lebensmittel || platz.art.empty()) {
+    const std::optional<Platz> platz = platzDer(zeile);
+    if (!platz) {
         return;
     }
     const Angaben statt = angabenVon(m_grundlage, speise.schluessel, *speise.lebensmittel);
@@ -385,13 +403,13 @@ Vorschlagsliste vorschlaege(const Vorschlagsgrundlage &grundlage, Kenngroesse zi
     const double fehlt =
         fehlbetrag(grundlage.ziele[static_cast<qsizetype>(*stelle)], rechnung.vorher(*stelle));
     if (fehlt > 0) {
-        rechnung.lasseZu(kandidaten, bedingungen, Eignung::Zugabe);
+        rechnung.lasseZu(kandidaten, bedingungen, std::nullopt);
         rechnung.gibDazu();
     } else if (fehlt < 0) {
-        rechnung.lasseZu(kandidaten, bedingungen, Eignung::Ersatz);
-        for (int zeile = 0; zeile < grundlage.speisen.size(); ++zeile) {
-            rechnung.ersetze(zeile);
-        }
+        QList<int> zeilen(grundlage.speisen.size());
+        std::iota(zeilen.begin(), zeilen.end(), 0);
+        rechnung.lasseZu(kandidaten, bedingungen, zeilen);
+        std::ranges::for_each(zeilen, [&](int zeile) { rechnung.ersetze(zeile); });
     }
     return rechnung.ergebnis();
 }
@@ -404,7 +422,7 @@ Vorschlagsliste stattZeile(const Vorschlagsgrundlage &grundlage, int zeile,
     if (zeile < 0 || zeile >= grundlage.speisen.size() || (ziel && !rechnung.zielstelle())) {
         return {};
     }
-    rechnung.lasseZu(kandidaten, bedingungen, Eignung::Ersatz);
+    rechnung.lasseZu(kandidaten, bedingungen, QList<int>{zeile});
     rechnung.ersetze(zeile);
     return rechnung.ergebnis();
 }

@@ -87,6 +87,9 @@ void Einblickanschluss::beginne()
         connect(regler, &Schieber::betaetigt, this, bald);
     }
     connect(&m_klienten.tisch, &Tischklient::gewechselt, this, &Einblickanschluss::folgeKlient);
+    connect(&m_klienten.kartei, &Kartei::klientVergessen, this, [this](const QString &kennung) {
+        m_tueren.einstellungen->remove(QStringLiteral("Einblick/") + kennung);
+    });
     // What the calculator says comes to the plan with the same action, but maybe after this.
     connect(&m_rechner, &AnthroController::angabeGeaendert, this, &Einblickanschluss::folgeRechner,
             Qt::QueuedConnection);

@@ -219,17 +219,30 @@ Rezepttueren Rezeptanschluss::fenstertueren()
     tueren.sichere = [this](const Rezept &eines, const Datenmodul &satz) {
         return sichere(eines, satz);
     };
-    tueren.portion = [this](const QString &schluessel, double gramm) {
-        QList<Mass> masse = m_tage.eigeneMasse().masseFuer(schluessel);
-        masse.removeIf([](const Mass &eines) { return eines.eines == QStringLiteral("Portion"); });
-        if (!m_tage.eigeneMasse().setze(schluessel, QList<Mass>{portionsmass(gramm)} + masse)) {
-            m_hauptfenster.hinweise->zeige({.kennung = hinweisMasse,
-                                            .text = m_tage.eigeneMasse().hindernis(),
-                                            .warnung = true});
-        }
+    tueren.portion = [this](const QString &schluessel, std::optional<double> gramm,
+                            std::optional<double> bisher) {
+        setzePortion(schluessel, gramm, bisher);
     };
     tueren.melde = m_tueren.melde;
     return tueren;
+}
+
+/// A portion that the user has weighed by hand since stays when nobody counts them any more.
+void Rezeptanschluss::setzePortion(const QString &schluessel, std::optional<double> gramm,
+                                   std::optional<double> bisher)
+{
+    EigeneMasse &eigene = m_tage.eigeneMasse();
+    QList<Mass> masse = eigene.masseFuer(schluessel);
+    masse.removeIf([&](const Mass &eines) {
+        return eines.eines == QStringLiteral("Portion") && (gramm || eines.gramm == bisher);
+    });
+    if (gramm) {
+        masse.prepend(portionsmass(*gramm));
+    }
+    if (!eigene.setze(schluessel, masse)) {
+        m_hauptfenster.hinweise->zeige(
+            {.kennung = hinweisMasse, .text = eigene.hindernis(), .warnung = true});
+    }
 }
 
 /// One recipe at a time: two windows could each take the place of the other's dish.

@@ -61,6 +61,8 @@ private:
     void ausDerMahlzeit();
     Rezepttueren fenstertueren();
     void oeffne(const Rezept &rezept, QWidget *davor);
+    void setzePortion(const QString &schluessel, std::optional<double> gramm,
+                      std::optional<double> bisher);
     bool sichere(const Rezept &rezept, const Datenmodul &satz);
     void sageFehlende(const QStringList &namen);
     void sageZustand();

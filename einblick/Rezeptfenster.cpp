@@ -54,6 +54,14 @@ Rezept benannt(Rezept rezept)
     return rezept;
 }
 
+/// What a portion weighs as a household measure, in g. Absent where nobody counts them, or one
+/// weighs too much for a measure.
+std::optional<double> massgramm(const Rezept &rezept)
+{
+    const std::optional<double> eine = portionsgramm(rezept);
+    return eine && *eine <= Portionendatei::meisteGramm ? eine : std::nullopt;
+}
+
 } // namespace
 
 void Rezeptfenster::zeigeRezept()
@@ -230,9 +238,11 @@ void Rezeptfenster::sichere()
         warne(localizedString(QStringLiteral("Das Gericht ließ sich nicht sichern.")));
         return;
     }
-    const std::optional<double> portion = portionsgramm(rezept);
-    if (portion && *portion <= Portionendatei::meisteGramm) {
-        m_tueren.portion(rezept.schluessel, *portion);
+    const std::optional<double> portion = massgramm(rezept);
+    const std::optional<double> bisher =
+        rezept.schluessel == m_rezept.schluessel ? massgramm(m_rezept) : std::nullopt;
+    if (portion || bisher) {
+        m_tueren.portion(rezept.schluessel, portion, bisher);
     }
     accept();
 }

@@ -31,8 +31,11 @@ struct Rezepttueren
     /// Keeps the recipe, and the food that it gives. False: that could not be done, and the window
     /// stays as it is.
     std::function<bool(const Rezept &rezept, const Datenmodul &satz)> sichere = {};
-    /// Makes a portion a household measure of the food, after it was kept.
-    std::function<void(const QString &schluessel, double gramm)> portion = {};
+    /// Makes a portion of so many g a household measure of the food, after it was kept, or takes
+    /// the one of before back where nobody counts them any more. Absent: no measure.
+    std::function<void(const QString &schluessel, std::optional<double> gramm,
+                       std::optional<double> bisher)>
+        portion = {};
     Meldungstuer melde = zeigeMeldung;
 };
 

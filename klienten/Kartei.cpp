@@ -327,6 +327,7 @@ bool Kartei::loesche(const Klientenakte &akte)
     m_vorgemerkt.removeIf(davon);
     m_strittig.removeIf(davon);
     halteFest();
+    vergiss();
     m_geloescht = Geloeschtes{schluessel, akte};
     m_gelesene.removeIf(
         [&](const Klientenakte &eine) { return eine.person.kennung == schluessel; });
@@ -351,6 +352,7 @@ bool Kartei::loesche(const QString &person, const Satz &satz)
     if (ausgang) {
         entlasse(kennung(satz));
         halteFest();
+        vergiss();
         m_geloescht = Geloeschtes{person, satz};
     }
     Q_EMIT akteGeaendert(person); // another desk may have changed it, which is seen then
@@ -382,7 +384,10 @@ bool Kartei::holeZurueck()
 
 void Kartei::vergiss()
 {
-    m_geloescht.reset();
+    const std::optional<Geloeschtes> geloescht = std::exchange(m_geloescht, std::nullopt);
+    if (geloescht && std::holds_alternative<Klientenakte>(geloescht->was)) {
+        Q_EMIT klientVergessen(geloescht->person);
+    }
 }
 
 Schreibausgang Kartei::nimmAuf(const Klientenakte &akte)

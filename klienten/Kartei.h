@@ -101,6 +101,8 @@ Q_SIGNALS:
     void listeGeaendert();
     /// Something of this client is kept otherwise than before, or waits to be.
     void akteGeaendert(const QString &kennung);
+    /// This client was taken away and can't be brought back any more.
+    void klientVergessen(const QString &kennung);
     /// Something else stands in the way now, or nothing any more.
     void hindernisGeaendert();
     /// Another desk has changed the record; nothing was written.

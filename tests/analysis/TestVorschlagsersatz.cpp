@@ -18,6 +18,7 @@ private Q_SLOTS:
     void onlyTheSameKindTakesAPlace();
     void withoutAnAimTheSumOfAllDecides();
     void aRowThatIsNoneIsLeftAlone();
+    void whatCouldStandNowhereIsNotMissed();
     void unknownFiguresAreNoGain();
     void theSameFoodMayTakeSeveralPlaces();
     void anUnsuitableFoodIsNoWorseThanAnother();
@@ -147,6 +148,27 @@ void TestVorschlagsersatz::aRowThatIsNoneIsLeftAlone()
 }
 
 /// A food of which nobody knows the fibre is not worse than one with much, nor is its sodium less.
+void TestVorschlagsersatz::whatCouldStandNowhereIsNotMissed()
+{
+    Lager lager;
+    lager.nimm(u"salzig"_s, brot, {{Naehrwert::na, 1000}});
+    lager.nimm(u"Apfel"_s, obst, {{Naehrwert::na, 300}});
+    for (const auto &[name, gruppe] : {std::pair(u"Semmel"_s, brot), std::pair(u"Birne"_s, obst),
+                                       std::pair(u"Käse"_s, "Käse")}) {
+        lager.nimm(name, gruppe, {});
+        lager.zusatz(name).unbestimmt[stelle(Naehrwert::na)] = true;
+    }
+    lager.nimm(u"Eigenes"_s, nullptr, {}); // of which nobody knows what it is
+    const Speisen speisen = {lager.speise(u"Apfel"_s, 100), lager.speise(u"salzig"_s, 50)};
+    const Zielbereiche ziele = {{na, {}, 100, {}}};
+    const Stoffwissen wissen = lager.wissen();
+    const Vorschlagsgrundlage grundlage = {speisen, ziele, wissen};
+    const Vorschlagsbedingungen ohneMilch = {.ohne = Weglassgruppe::Milch};
+    QCOMPARE(stattZeile(grundlage, 1, na, lager.kandidaten, {}).ohneAngabe, 1);
+    QCOMPARE(vorschlaege(grundlage, na, lager.kandidaten, {}).ohneAngabe, 2);
+    QCOMPARE(stattZeile(grundlage, 1, na, lager.kandidaten, ohneMilch).unbeurteilt, 0);
+}
+
 void TestVorschlagsersatz::unknownFiguresAreNoGain()
 {
     Lager lager;

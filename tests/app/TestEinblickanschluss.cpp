@@ -37,6 +37,7 @@ private Q_SLOTS:
     void whatWasTypedGoesWithTheClient();
     void newMeasuresOfTheClientAreTaken();
     void whatAClientLeavesOutIsKept();
+    void whatAClientLeavesOutGoesWithThem();
     void theChosenSetIsKept();
     void theWindowStandsWhereItWasLeft();
     void theRankingShowsAFoodAndPutsItIntoThePlan();
@@ -349,6 +350,34 @@ void TestEinblickanschluss::whatAClientLeavesOutIsKept()
     anschluss().oeffne(Gegenstand::Plan);
     QCOMPARE(fenster().vorschlagsblatt->weggelassene(), Weglassgruppen(Weglassgruppe::Milch));
     QCOMPARE(fenster().vorschlagsblatt->gestrichene(), QStringList{u"Toast"_s});
+}
+
+void TestEinblickanschluss::whatAClientLeavesOutGoesWithThem()
+{
+    oeffne();
+    const QString anna = klient(u"Anna"_s, Personengeschlecht::Frau, QDate(1998, 3, 1));
+    const QString berta = klient(u"Berta"_s, Personengeschlecht::Frau, QDate(1998, 3, 1));
+    for (const QString &kennung : {anna, berta}) {
+        QVERIFY(m_probe->tisch().nimm(kennung));
+        anschluss().oeffne(Gegenstand::Plan);
+        fenster().vorschlagsblatt->setzeGestrichene({u"Toast"_s});
+        Q_EMIT fenster().vorschlagsblatt->auswahlGeaendert();
+    }
+    const auto gemerkt = [this](const QString &kennung) {
+        return m_heim->einstellungen().contains(u"Einblick/%1/Gestrichene"_s.arg(kennung));
+    };
+    Kartei &kartei = m_probe->kartei();
+    QVERIFY(kartei.loesche(kartei.akte(anna).value_or(Klientenakte())));
+    QVERIFY(gemerkt(anna)); // they may come back
+    QVERIFY(kartei.holeZurueck());
+    kartei.vergiss();
+    QVERIFY(gemerkt(anna));
+    QVERIFY(kartei.loesche(kartei.akte(anna).value_or(Klientenakte())));
+    QVERIFY(kartei.loesche(kartei.akte(berta).value_or(Klientenakte())));
+    QVERIFY(!gemerkt(anna)); // only the last one comes back
+    QVERIFY(gemerkt(berta));
+    kartei.vergiss();
+    QVERIFY(!gemerkt(berta));
 }
 
 void TestEinblickanschluss::theChosenSetIsKept()

@@ -30,6 +30,8 @@ private Q_SLOTS:
     void anotherFoodIsReplacedOnlyAfterAQuestion();
     void aChangedDishStaysInItsPlace();
     void otherPortionsTakeThePlaceOfTheFormer();
+    void whoCountsNoPortionsHasNoMeasure_data();
+    void whoCountsNoPortionsHasNoMeasure();
     void aPortionThatCanNotBeKeptIsTold();
     void theDishIsShownAndTold();
     void theDishIsToldWhereItWasBegun();
@@ -56,6 +58,15 @@ private:
         anschluss().beginneRezept({zutat(u"Brühe"_s, 100), zutat(u"Wasser"_s, 300)},
                                   programm()->Hauptfenster);
         sichereAls(name, portionen);
+    }
+    /// The soup's own measures, with the grams of each.
+    QStringList massworte() const
+    {
+        QStringList alle;
+        for (const Mass &eines : tage().eigeneMasse().masseFuer(u"Suppe"_s)) {
+            alle << u"%1 %2"_s.arg(eines.eines).arg(eines.gramm);
+        }
+        return alle;
     }
     qsizetype wieOft(const QString &teil) const
     {
@@ -191,11 +202,37 @@ void TestGerichte::otherPortionsTakeThePlaceOfTheFormer()
     programm()->zeigeEigenes(u"Suppe"_s);
     eintrag(programm()->Hauptfenster)->trigger();
     sichereAls(u"Suppe"_s, u"2"_s);
-    QStringList masse;
-    for (const Mass &eines : tage().eigeneMasse().masseFuer(u"Suppe"_s)) {
-        masse << u"%1 %2"_s.arg(eines.eines).arg(eines.gramm);
-    }
-    QCOMPARE(masse, (QStringList{u"Portion 200"_s, u"Kelle 120"_s}));
+    QCOMPARE(massworte(), (QStringList{u"Portion 200"_s, u"Kelle 120"_s}));
+}
+
+void TestGerichte::whoCountsNoPortionsHasNoMeasure_data()
+{
+    QTest::addColumn<double>("gewogen"); // by hand, in g; 0: not
+    QTest::addColumn<QString>("portionen");
+    QTest::addColumn<QStringList>("masse");
+    QTest::newRow("the recipe's goes") << 0.0 << QString() << QStringList{u"Kelle 120"_s};
+    QTest::newRow("one weighed by hand stays")
+        << 95.0 << QString() << QStringList{u"Portion 95"_s, u"Kelle 120"_s};
+    QTest::newRow("the recipe's counts again")
+        << 95.0 << u"2"_s << QStringList{u"Portion 200"_s, u"Kelle 120"_s};
+}
+
+void TestGerichte::whoCountsNoPortionsHasNoMeasure()
+{
+    QFETCH(const double, gewogen);
+    QFETCH(const QString, portionen);
+    QFETCH(const QStringList, masse);
+    oeffne();
+    koche(u"Suppe"_s, u"4"_s);
+    QList<Mass> alle = tage().masse(u"Suppe"_s);
+    QCOMPARE(alle.size(), 1);
+    alle[0].gramm = gewogen > 0 ? gewogen : alle[0].gramm;
+    alle << Mass{u"Kelle"_s, u"Kellen"_s, u"ladle"_s, u"ladles"_s, 120};
+    QVERIFY(tage().eigeneMasse().setze(u"Suppe"_s, alle));
+    programm()->zeigeEigenes(u"Suppe"_s);
+    eintrag(programm()->Hauptfenster)->trigger();
+    sichereAls(u"Suppe"_s, portionen);
+    QCOMPARE(massworte(), masse);
 }
 
 void TestGerichte::aPortionThatCanNotBeKeptIsTold()

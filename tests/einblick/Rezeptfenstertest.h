@@ -78,6 +78,7 @@ private Q_SLOTS:
         m_rezept.reset();
         m_satz.reset();
         m_portion.reset();
+        m_portionBisher.reset();
     }
     void cleanup() { m_fenster.reset(); }
 
@@ -116,8 +117,12 @@ protected:
                     return m_sichert;
                 },
             .portion =
-                [this](const QString &name, double gramm) {
-                    m_portion = {name, gramm};
+                [this](const QString &name, std::optional<double> gramm,
+                       std::optional<double> bisher) {
+                    if (gramm) {
+                        m_portion = {name, *gramm};
+                    }
+                    m_portionBisher = bisher;
                 },
             .melde =
                 [this](QWidget *, const Meldung &frage) {
@@ -164,4 +169,5 @@ protected:
     std::optional<Rezept> m_rezept; ///< that was kept
     std::optional<Datenmodul> m_satz;
     std::optional<std::pair<QString, double>> m_portion;
+    std::optional<double> m_portionBisher; ///< what one weighed before, in g
 };

@@ -15,6 +15,8 @@ private Q_SLOTS:
     void whatCouldNotBeKeptStaysInTheWindow();
     void aPortionBecomesAMeasure_data();
     void aPortionBecomesAMeasure();
+    void theFormerPortionIsNamed_data();
+    void theFormerPortionIsNamed();
     void allThatWasEnteredIsKept();
     void aDishThatThereIsCanBeChanged();
     void closingAsksWhereSomethingWasChanged();
@@ -144,6 +146,36 @@ void TestRezeptsicherung::aPortionBecomesAMeasure()
         QCOMPARE(m_portion->first, u"Suppe"_s);
         QCOMPARE(m_portion->second, gramm);
     }
+}
+
+void TestRezeptsicherung::theFormerPortionIsNamed_data()
+{
+    QTest::addColumn<double>("gewicht");
+    QTest::addColumn<QString>("name");
+    QTest::addColumn<QString>("portionen");
+    QTest::addColumn<double>("bisher"); // 0: none
+    QTest::newRow("nobody counts them any more") << 1000.0 << u"Suppe"_s << QString() << 500.0;
+    QTest::newRow("there are more") << 1000.0 << u"Suppe"_s << u"4"_s << 500.0;
+    QTest::newRow("one was too heavy") << 4002.0 << u"Suppe"_s << u"4"_s << 0.0;
+    QTest::newRow("another dish") << 1000.0 << u"Eintopf"_s << u"4"_s << 0.0;
+}
+
+void TestRezeptsicherung::theFormerPortionIsNamed()
+{
+    QFETCH(const double, gewicht);
+    QFETCH(const QString, name);
+    QFETCH(const QString, portionen);
+    QFETCH(const double, bisher);
+    Rezept rezept = linsensuppe(u"Suppe"_s);
+    rezept.fertiggewicht = gewicht;
+    rezept.portionen = 2;
+    oeffne(rezept);
+    tippe("rezeptname", name);
+    tippe("portionen", portionen);
+    druecke("sichern");
+    QVERIFY(m_rezept);
+    QCOMPARE(m_portion.has_value(), !portionen.isEmpty());
+    QCOMPARE(m_portionBisher.value_or(0), bisher);
 }
 
 void TestRezeptsicherung::allThatWasEnteredIsKept()
