@@ -370,7 +370,11 @@ void TestEinblickanschluss::whatAClientLeavesOutGoesWithThem()
     QVERIFY(kartei.loesche(kartei.akte(anna).value_or(Klientenakte())));
     QVERIFY(gemerkt(anna)); // they may come back
     QVERIFY(kartei.holeZurueck());
-    kartei.vergiss();
+    Besuch besuch;
+    besuch.datum = QDate(2026, 11, 23);
+    QVERIFY(!kartei.sichere({anna, besuch, {}}).isNull());
+    QVERIFY(kartei.loesche(anna, kartei.akte(anna).value_or(Klientenakte()).besuche.value(0)));
+    kartei.vergiss(); // a visit that is gone
     QVERIFY(gemerkt(anna));
     QVERIFY(kartei.loesche(kartei.akte(anna).value_or(Klientenakte())));
     QVERIFY(kartei.loesche(kartei.akte(berta).value_or(Klientenakte())));
