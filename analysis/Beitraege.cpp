@@ -81,3 +81,13 @@ QList<Ungeeignetes> ungeeignete(const Speisen &speisen, Wertung wertung)
     });
     return liste;
 }
+
+Stoffsumme unbewertete(const Speisen &speisen, Wertung wertung)
+{
+    return summiere(speisen, [wertung](const Speise &eine) {
+        const QString zeichen = eine.lebensmittel ? eine.lebensmittel->wertung(wertung) : QString();
+        const bool bewertet = zeichen == QStringLiteral("+") || zeichen == QStringLiteral("0") ||
+                              zeichen == QStringLiteral("-");
+        return Stoffangabe{.wert = 0, .unbekannt = bewertet ? 0.0 : 1.0};
+    });
+}

@@ -44,3 +44,6 @@ struct Ungeeignetes
 /// The foods that are rated "-" for a condition, those of most grams first. A row whose food is in
 /// no store has no rating and is none of them.
 QList<Ungeeignetes> ungeeignete(const Speisen &speisen, Wertung wertung);
+
+/// The rows without such a rating: nobody knows whether they suit. The sum's value is 0.
+Stoffsumme unbewertete(const Speisen &speisen, Wertung wertung);

@@ -152,6 +152,7 @@ private:
     std::optional<std::size_t> m_ziel;
     std::vector<double> m_vorher;  ///< of each aim
     std::vector<double> m_abstand; ///< the same, as `abstand` has it
+    std::vector<bool> m_bekannt;   ///< whether anything is known of it
     std::vector<Zugelassener> m_zugelassene;
     std::vector<Fund> m_funde;
     Vorschlagsliste m_ergebnis;
@@ -165,8 +166,10 @@ Vorschlagsrechnung::Vorschlagsrechnung(const Vorschlagsgrundlage &grundlage,
         if (eines.groesse == ziel && !m_ziel) {
             m_ziel = m_vorher.size();
         }
-        m_vorher.push_back(summiere(grundlage.speisen, eines.groesse, grundlage.wissen).wert);
+        const Stoffsumme summe = summiere(grundlage.speisen, eines.groesse, grundlage.wissen);
+        m_vorher.push_back(summe.wert);
         m_abstand.push_back(abstand(eines, m_vorher.back()));
+        m_bekannt.push_back(summe.unbekannt < 1);
     }
 }
 
@@ -297,7 +300,7 @@ void Vorschlagsrechnung::pruefe(const Zugelassener &einer, double gramm, int zei
         const double besser =
             m_abstand[stelle] - abstand(m_grundlage.ziele[static_cast<qsizetype>(stelle)], nachher);
         punkte -= abzug * eine.unbekannt;
-        if (stelle != m_ziel) {
+        if (stelle != m_ziel && m_bekannt[stelle]) {
             punkte += m_ziel && besser > 0 ? anteilNebenbei * besser : besser;
         }
     }
@@ -380,7 +383,7 @@ QList<Abweichung> abweichungen(const Vorschlagsgrundlage &grundlage)
     for (const Zielbereich &ziel : grundlage.ziele) {
         const Stoffsumme summe = summiere(grundlage.speisen, ziel.groesse, grundlage.wissen);
         const double anteil = abstand(ziel, summe.wert);
-        if (anteil > 0) {
+        if (anteil > 0 && summe.unbekannt < 1) { // else nobody knows
             const double fehlt = fehlbetrag(ziel, summe.wert);
             const bool ueberhoeht = ziel.obergrenze && summe.wert > *ziel.obergrenze;
             const Lage zuViel = ueberhoeht ? Lage::Ueberhoeht : Lage::ZuViel;
@@ -433,7 +436,9 @@ QList<Wirkung> wirkung(const Vorschlagsgrundlage &grundlage, const Vorschlag &vo
     const bool ersetzt = vorschlag.zeile >= 0 && vorschlag.zeile < grundlage.speisen.size();
     for (const Zielbereich &ziel : grundlage.ziele) {
         Wirkung eine = {.ziel = ziel};
-        eine.vorher = summiere(grundlage.speisen, ziel.groesse, grundlage.wissen).wert;
+        const Stoffsumme summe = summiere(grundlage.speisen, ziel.groesse, grundlage.wissen);
+        eine.vorher = summe.wert;
+        eine.vorherUnbekannt = summe.unbekannt;
         const Stoffangabe neu = stoffangabe(vorschlag.speise, ziel.groesse, grundlage.wissen);
         const Stoffangabe alt = ersetzt ? stoffangabe(grundlage.speisen[vorschlag.zeile],
                                                       ziel.groesse, grundlage.wissen)
@@ -442,7 +447,7 @@ QList<Wirkung> wirkung(const Vorschlagsgrundlage &grundlage, const Vorschlag &vo
         eine.unbekannt = offen ? 1 : neu.unbekannt;
         eine.nachher = offen ? eine.vorher : eine.vorher + neu.wert - alt.wert;
         const double besser = abstand(ziel, eine.vorher) - abstand(ziel, eine.nachher);
-        if (std::abs(besser) >= mindestensSpuerbar) {
+        if (std::abs(besser) >= mindestensSpuerbar && summe.unbekannt < 1) {
             eine.richtung = besser > 0 ? Wirkung::Richtung::Besser : Wirkung::Richtung::Schlechter;
         }
         alle.append(eine);

@@ -86,6 +86,8 @@ struct Wirkung
     /// The part of the suggested food's grams of which it is not known, 0 to 1.
     double unbekannt = 0;
     Richtung richtung = Richtung::Gleich;
+    /// The part of the grams of what is eaten of which it is not known, 0 to 1.
+    double vorherUnbekannt = 0;
 };
 
 /// More than these of one food group would leave no room for others.

@@ -162,14 +162,25 @@ void Beitragsblatt::zeigeUngeeignete(Wertung wertung)
     }
     m_summe->setText(localizedString(QStringLiteral("Ungeeignete Lebensmittel: %1, %2 der Menge"))
                          .arg(QString::number(alle.size()), Einblickworte::anteil(anteil)));
-    m_unbekannt->hide();
+    const Stoffsumme offen = unbewertete(m_stand.speisen, wertung);
+    m_unbekannt->setText(
+        offen.unbekannt > 0
+            ? localizedString(QStringLiteral("Ohne Bewertung sind %1 der Menge: %2"))
+                  .arg(Einblickworte::anteil(offen.unbekannt),
+                       Einblickworte::namen(offen.unbekannte))
+            : QString());
+    m_unbekannt->setVisible(offen.unbekannt > 0);
 }
 
 QString Beitragsblatt::leerWorte() const
 {
-    return zaehltEtwas(m_stand.speisen)
+    if (!zaehltEtwas(m_stand.speisen)) {
+        return localizedString(QStringLiteral("Hier zählt noch kein Lebensmittel."));
+    }
+    return m_unbekannt->text().isEmpty()
                ? localizedString(QStringLiteral("Kein Lebensmittel ist hierfür ungeeignet."))
-               : localizedString(QStringLiteral("Hier zählt noch kein Lebensmittel."));
+               : localizedString(
+                     QStringLiteral("Kein bewertetes Lebensmittel ist hierfür ungeeignet."));
 }
 
 /// The names get what the figures leave.

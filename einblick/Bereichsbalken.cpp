@@ -23,9 +23,10 @@ struct Verdikt
 };
 
 /// In the order of `Bereichsurteil`.
-constexpr std::array<Verdikt, 6> verdikte = {{
+constexpr std::array<Verdikt, 7> verdikte = {{
     {u"", "", Textfarbe::Standard},
     {u"✓", QT_TRANSLATE_NOOP("Mahlberg", "passt"), Textfarbe::Gruen},
+    {u"?", QT_TRANSLATE_NOOP("Mahlberg", "passt, soweit bekannt"), Textfarbe::Blau},
     {u"≈", QT_TRANSLATE_NOOP("Mahlberg", "vielleicht zu wenig"), Textfarbe::Blau},
     {u"↓", QT_TRANSLATE_NOOP("Mahlberg", "zu wenig"), Textfarbe::Rot},
     {u"↑", QT_TRANSLATE_NOOP("Mahlberg", "zu viel"), Textfarbe::Rot},
@@ -70,7 +71,9 @@ Bereichsurteil beurteile(const Zielbereich &ziel, double menge, double unbekannt
     case Lage::Richtig:
         break;
     }
-    return Bereichsurteil::Richtig;
+    const bool nachObenOffen = !ziel.oben && !ziel.obergrenze;
+    return unbekannt > 0 && !nachObenOffen ? Bereichsurteil::VielleichtRichtig
+                                           : Bereichsurteil::Richtig;
 }
 
 QString urteilswort(Bereichsurteil urteil)

@@ -10,6 +10,7 @@
 enum class Bereichsurteil {
     Keines, ///< there is no range, or nothing is to be judged
     Richtig,
+    VielleichtRichtig, ///< right of what is known, and what is not known may be too much
     VielleichtZuWenig, ///< too little of what is known, and some is not known
     ZuWenig,
     ZuViel,
@@ -42,8 +43,8 @@ public:
     void leere();
 
     Bereichsurteil urteil() const { return m_urteil; }
-    /// The verdict in one character: ✓ right, ≈ maybe too little, ↓ too little, ↑ too much, ‼ above
-    /// the upper level; empty without one.
+    /// The verdict in one character: ✓ right, ? right as far as is known, ≈ maybe too little, ↓ too
+    /// little, ↑ too much, ‼ above the upper level; empty without one.
     QString zeichen() const;
     /// For those who can't see it: "612 mg, zu wenig (mind. 950 mg)", in the user's language.
     QString beschreibung() const;

@@ -39,13 +39,18 @@ QComboBox *auswahl(const char *name)
     return eine;
 }
 
-/// "Eisen: 6,8 mg zu wenig"
+/// "Eisen: 6,8 mg zu wenig"; of what is known in part only, how far it may go.
 QString abweichungswort(const Abweichung &eine)
 {
     const QString menge = Einblickworte::menge(eine.ziel.groesse, std::abs(eine.fehlt));
-    return (eine.fehlt > 0 ? localizedString(QStringLiteral("%1: %2 zu wenig"))
-                           : localizedString(QStringLiteral("%1: %2 zu viel")))
-        .arg(nameVon(eine.ziel.groesse), menge);
+    const bool ganzBekannt = !(eine.unbekannt > 0);
+    const QString satz =
+        eine.fehlt > 0
+            ? (ganzBekannt ? localizedString(QStringLiteral("%1: %2 zu wenig"))
+                           : localizedString(QStringLiteral("%1: bis zu %2 zu wenig")))
+            : (ganzBekannt ? localizedString(QStringLiteral("%1: %2 zu viel"))
+                           : localizedString(QStringLiteral("%1: mindestens %2 zu viel")));
+    return satz.arg(nameVon(eine.ziel.groesse), menge);
 }
 
 } // namespace
@@ -293,7 +298,13 @@ QString Vorschlagsblatt::leerWorte() const
             QStringLiteral("Dafür muss bekannt sein, was ein Tag enthalten soll, und das fehlt."));
     }
     if (m_abweichungen.isEmpty() && zeile() < 0) {
-        return localizedString(QStringLiteral("Alles ist im Zielbereich."));
+        const bool ganzBekannt =
+            std::ranges::none_of(m_stand.ziele, [this](const Zielbereich &eines) {
+                return summiere(m_stand.speisen, eines.groesse, m_stand.wissen).unbekannt > 0;
+            });
+        return ganzBekannt ? localizedString(QStringLiteral("Alles ist im Zielbereich."))
+                           : localizedString(QStringLiteral(
+                                 "Alles ist im Zielbereich, soweit es bekannt ist."));
     }
     if (!ziel() && zeile() < 0) {
         return localizedString(

@@ -10,10 +10,19 @@
 
 namespace {
 
-/// "8,2 → 12,2 mg"; of what is unknown only what is there now.
+/// Of the suggested food, or of all that is eaten, nobody knows it.
+bool istUnbekannt(const Wirkung &wirkung)
+{
+    return wirkung.unbekannt >= 1 || wirkung.vorherUnbekannt >= 1;
+}
+
+/// "8,2 → 12,2 mg"; of what is unknown only what is there now, as far as it is known.
 QString menge(const Wirkung &wirkung)
 {
     const Kenngroesse groesse = wirkung.ziel.groesse;
+    if (wirkung.vorherUnbekannt >= 1) {
+        return localizedString(QStringLiteral("unbekannt"));
+    }
     if (wirkung.unbekannt >= 1) {
         return QStringLiteral("%1 → ?").arg(Einblickworte::menge(groesse, wirkung.vorher));
     }
@@ -23,7 +32,7 @@ QString menge(const Wirkung &wirkung)
 
 QString urteil(const Wirkung &wirkung)
 {
-    if (wirkung.unbekannt >= 1) {
+    if (istUnbekannt(wirkung)) {
         return QStringLiteral("? ") + localizedString(QStringLiteral("unbekannt"));
     }
     switch (wirkung.richtung) {
@@ -40,7 +49,7 @@ QString urteil(const Wirkung &wirkung)
 /// The verdict's colour on what windows look like now; absent: the text's own.
 std::optional<QColor> farbe(const Wirkung &wirkung)
 {
-    if (wirkung.unbekannt >= 1 || wirkung.richtung == Wirkung::Richtung::Gleich) {
+    if (istUnbekannt(wirkung) || wirkung.richtung == Wirkung::Richtung::Gleich) {
         return std::nullopt;
     }
     const bool besser = wirkung.richtung == Wirkung::Richtung::Besser;

@@ -5185,6 +5185,10 @@ New: %1</translation>
   <translation>No food is unsuitable for this.</translation>
  </message>
  <message>
+  <source>Kein bewertetes Lebensmittel ist hierfür ungeeignet.</source>
+  <translation>No food with a rating is unsuitable for this.</translation>
+ </message>
+ <message>
   <source>Beitrag</source>
   <translation>Contribution</translation>
  </message>
@@ -5878,7 +5882,7 @@ New: %1</translation>
  </message>
  <message>
   <source>An den Grenzen für Purine wird nur bei Gicht gemessen.</source>
-  <translation>Only with gout the limits of purines are measured.</translation>
+  <translation>The limits for purines apply only with gout.</translation>
  </message>
  <message>
   <source>&amp;Beiträge</source>
@@ -6138,7 +6142,7 @@ New: %1</translation>
  </message>
  <message>
   <source>Maßstab und Person ändern</source>
-  <translation>Change measure and person</translation>
+  <translation>Change standard and person</translation>
  </message>
  <message>
   <source>Mehr zu einer Zeile: F1 oder die Maus darauf.</source>
@@ -6513,6 +6517,26 @@ New: %1</translation>
   <translation>%1: %2 too little</translation>
  </message>
  <message>
+  <source>passt, soweit bekannt</source>
+  <translation>fits, as far as known</translation>
+ </message>
+ <message>
+  <source>%1: bis zu %2 zu wenig</source>
+  <translation>%1: up to %2 too little</translation>
+ </message>
+ <message>
+  <source>%1: mindestens %2 zu viel</source>
+  <translation>%1: at least %2 too much</translation>
+ </message>
+ <message>
+  <source>Alles ist im Zielbereich, soweit es bekannt ist.</source>
+  <translation>Everything is within its range, as far as it is known.</translation>
+ </message>
+ <message>
+  <source>Ohne Bewertung sind %1 der Menge: %2</source>
+  <translation>Without a rating is %1 of the amount: %2</translation>
+ </message>
+ <message>
   <source>&amp;Einschränken</source>
   <translation>&amp;Narrow down</translation>
  </message>
@@ -6718,7 +6742,7 @@ New: %1</translation>
  </message>
  <message>
   <source>Körperlich schwere Arbeit</source>
-  <translation>Hard bodily work</translation>
+  <translation>Hard physical work</translation>
  </message>
  <message>
   <source>Maßstab</source>

@@ -18,6 +18,7 @@ private Q_SLOTS:
     void onlyTheSameKindTakesAPlace();
     void withoutAnAimTheSumOfAllDecides();
     void aRowThatIsNoneIsLeftAlone();
+    void whatIsWhollyUnknownIsNoAim();
     void whatCouldStandNowhereIsNotMissed();
     void unknownFiguresAreNoGain();
     void theSameFoodMayTakeSeveralPlaces();
@@ -148,6 +149,37 @@ void TestVorschlagsersatz::aRowThatIsNoneIsLeftAlone()
 }
 
 /// A food of which nobody knows the fibre is not worse than one with much, nor is its sodium less.
+void TestVorschlagsersatz::whatIsWhollyUnknownIsNoAim()
+{
+    Lager lager;
+    lager.nimm(u"Eigenes"_s, nullptr, {{Naehrwert::kal, 100}}); // its 0 mg of iron are unknown
+    lager.nimm(u"Linsen"_s, obst, {{Naehrwert::kal, 100}, {Naehrwert::fe, 3}});
+    lager.nimm(u"Reis"_s, obst, {{Naehrwert::kal, 100}, {Naehrwert::fe, 0.5}});
+    const Zielbereiche ziele = {{fe, 15, {}, {}}, {kal, 2000, {}, {}}};
+    const Stoffwissen wissen = lager.wissen();
+    Speisen speisen = {lager.speise(u"Eigenes"_s, 300)};
+    const auto fehlende = [&] {
+        QList<Kenngroesse> alle;
+        for (const Abweichung &eine : abweichungen({speisen, ziele, wissen})) {
+            alle << eine.ziel.groesse;
+        }
+        return alle;
+    };
+    QCOMPARE(fehlende(), QList<Kenngroesse>{kal});
+    // Iron that nobody knows is lacking is no reason to take the one rather than the other.
+    const Vorschlagsliste liste = vorschlaege({speisen, ziele, wissen}, kal, lager.kandidaten, {});
+    QCOMPARE(liste.vorschlaege[0].punkte, liste.vorschlaege[1].punkte);
+    const QList<Wirkung> alle = wirkung({speisen, ziele, wissen}, liste.vorschlaege[0]);
+    QCOMPARE(alle[0].vorherUnbekannt, 1.0);
+    QCOMPARE(alle[0].richtung, Wirkung::Richtung::Gleich);
+    QCOMPARE(alle[1].richtung, Wirkung::Richtung::Besser);
+    speisen << lager.speise(u"Reis"_s, 100); // of a quarter it is known
+    QCOMPARE(fehlende(), (QList<Kenngroesse>{fe, kal}));
+    QCOMPARE(abweichungen({speisen, ziele, wissen})[0].unbekannt, 0.75);
+    speisen.clear(); // nothing is eaten, which is known
+    QCOMPARE(fehlende(), (QList<Kenngroesse>{fe, kal}));
+}
+
 void TestVorschlagsersatz::whatCouldStandNowhereIsNotMissed()
 {
     Lager lager;

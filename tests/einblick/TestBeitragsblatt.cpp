@@ -26,6 +26,7 @@ private Q_SLOTS:
     void nothingKnownIsNotNought();
     void unsuitableFoodsAreListed();
     void noneUnsuitableIsSaid();
+    void foodsWithoutARatingAreNamed();
     void nothingToCountIsSaid();
     void rowsWithoutGramsDoNotCount();
     void whatIsCutOffIsReadWhole();
@@ -209,12 +210,36 @@ void TestBeitragsblatt::unsuitableFoodsAreListed()
 
 void TestBeitragsblatt::noneUnsuitableIsSaid()
 {
-    m_blatt->zeige(tag());
+    Einblickstand stand = tag();
+    for (Speise &eine : stand.speisen) {
+        eine.lebensmittel->setdiabetes(QStringLiteral("0"));
+    }
+    m_blatt->zeige(stand);
     m_blatt->waehle(Wertung::diabetes);
     QVERIFY(!m_tabelle->isVisible());
     QVERIFY(!zeigtWort("summe"));
     QVERIFY(zeigtWort("leer"));
     QCOMPARE(wort("leer"), QStringLiteral("Kein Lebensmittel ist hierfür ungeeignet."));
+}
+
+/// Whoever has no rating may be unsuitable.
+void TestBeitragsblatt::foodsWithoutARatingAreNamed()
+{
+    Einblickstand stand = tag();
+    stand.speisen = {{QStringLiteral("Brot"), satz(1, "0"), 150, 0},
+                     {QStringLiteral("Eigenes"), satz(1, ""), 50, 1},
+                     {QStringLiteral("Fort"), {}, 50, 2}};
+    m_blatt->zeige(stand);
+    m_blatt->waehle(Wertung::gicht);
+    QCOMPARE(wort("leer"), QStringLiteral("Kein bewertetes Lebensmittel ist hierfür ungeeignet."));
+    QCOMPARE(wort("unbekannt"),
+             QStringLiteral("Ohne Bewertung sind 40 % der Menge: Eigenes, Fort"));
+    QVERIFY(zeigtWort("unbekannt"));
+    stand.speisen << Speise{QStringLiteral("Leber"), satz(10, "-"), 250, 3};
+    m_blatt->zeige(stand);
+    QCOMPARE(wort("summe"), QStringLiteral("Ungeeignete Lebensmittel: 1, 50 % der Menge"));
+    QCOMPARE(wort("unbekannt"),
+             QStringLiteral("Ohne Bewertung sind 20 % der Menge: Eigenes, Fort"));
 }
 
 void TestBeitragsblatt::nothingToCountIsSaid()

@@ -67,7 +67,12 @@ void TestBereichsbalken::theVerdictFollowsTheRange_data()
     fall("at the level", spanne, 2500, 0, Bereichsurteil::ZuViel);
     fall("above the level", spanne, 2500.1, 0, Bereichsurteil::Ueberhoeht);
     fall("below, as far as is known", spanne, 700, 0.01, Bereichsurteil::VielleichtZuWenig);
-    fall("enough of what is known", spanne, 900, 0.5, Bereichsurteil::Richtig);
+    fall("right, as far as is known", spanne, 900, 0.01, Bereichsurteil::VielleichtRichtig);
+    fall("not too much of what is known", {Kenngroesse::na, {}, 1500, {}}, 900, 0.9,
+         Bereichsurteil::VielleichtRichtig);
+    fall("below the level, as far as is known", {ca, 800, {}, 2500}, 900, 0.5,
+         Bereichsurteil::VielleichtRichtig);
+    fall("enough, and no end above", {ca, 800, {}, {}}, 900, 0.5, Bereichsurteil::Richtig);
     fall("too much of what is known", spanne, 1300, 0.5, Bereichsurteil::ZuViel);
     fall("no range", {ca, {}, {}, {}}, 900, 0, Bereichsurteil::Keines);
     fall("only a level", {ca, {}, {}, 2500}, 0, 0, Bereichsurteil::Richtig);
@@ -91,6 +96,8 @@ void TestBereichsbalken::eachVerdictHasItsSignItsWordAndItsColour_data()
     QTest::newRow("none") << Bereichsurteil::Keines << QString() << QString()
                           << Textfarbe::Standard;
     QTest::newRow("right") << Bereichsurteil::Richtig << u"✓"_s << u"passt"_s << Textfarbe::Gruen;
+    QTest::newRow("as far as known") << Bereichsurteil::VielleichtRichtig << u"?"_s
+                                     << u"passt, soweit bekannt"_s << Textfarbe::Blau;
     QTest::newRow("maybe") << Bereichsurteil::VielleichtZuWenig << u"≈"_s
                            << u"vielleicht zu wenig"_s << Textfarbe::Blau;
     QTest::newRow("little") << Bereichsurteil::ZuWenig << u"↓"_s << u"zu wenig"_s << Textfarbe::Rot;

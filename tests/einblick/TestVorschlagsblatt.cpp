@@ -20,6 +20,7 @@ private Q_SLOTS:
     void cleanup() { m_blatt.reset(); }
 
     void whatIsMissedComesFirst();
+    void whatIsKnownInPartIsSaidSo();
     void suggestionsStandInTheirOrder();
     void anotherAimGivesOtherSuggestions();
     void tooMuchIsSwapped();
@@ -48,6 +49,25 @@ void TestVorschlagsblatt::whatIsMissedComesFirst()
     QCOMPARE(ziel().itemText(1), u"Eisen: 10,0 mg zu wenig"_s);
     QCOMPARE(ziel().itemText(2), u"Alle Ziele zusammen"_s);
     QCOMPARE(ziel().currentIndex(), 0);
+}
+
+void TestVorschlagsblatt::whatIsKnownInPartIsSaidSo()
+{
+    Einblickstand stand = tag();
+    Datenmodul eigenes = satz(proben[5]);
+    eigenes.setfe(0);
+    eigenes.setna(0); // both unknown
+    stand.speisen << Speise{u"Mutters Eintopf"_s, eigenes, 100, 8};
+    m_blatt->zeige(stand);
+    QCOMPARE(ziel().itemText(0), u"Natrium: mindestens 1000 mg zu viel"_s);
+    QCOMPARE(ziel().itemText(1), u"Eisen: bis zu 10,0 mg zu wenig"_s);
+    stand.ziele = {{fe, 1, {}, {}}, {na, {}, 3000, {}}};
+    m_blatt->zeige(stand);
+    QCOMPARE(m_blatt->findChild<QLabel *>(u"leer"_s)->text(),
+             u"Alles ist im Zielbereich, soweit es bekannt ist."_s);
+    stand.speisen.removeLast();
+    m_blatt->zeige(stand);
+    QCOMPARE(m_blatt->findChild<QLabel *>(u"leer"_s)->text(), u"Alles ist im Zielbereich."_s);
 }
 
 void TestVorschlagsblatt::suggestionsStandInTheirOrder()

@@ -51,6 +51,11 @@ void TestWirkungsmodell::theVerdictHasASignAWordAndAColour_data()
                               << QString() << QVariant();
     QTest::newRow("unknown") << Wirkung{eisen, 8.2, 8.2, 1, Gleich} << u"8,2 mg → ?"_s
                              << u"? unbekannt"_s << QVariant();
+    QTest::newRow("unknown before")
+        << Wirkung{eisen, 0, 4, 0, Gleich, 1} << u"unbekannt"_s << u"? unbekannt"_s << QVariant();
+    QTest::newRow("partly unknown before")
+        << Wirkung{eisen, 8.2, 12.2, 0, Besser, 0.5} << u"8,2 → 12,2 mg"_s << u"✓ besser"_s
+        << farbe(Textfarbe::Gruen);
     QTest::newRow("partly unknown") << Wirkung{eisen, 8.2, 12.2, 0.5, Besser} << u"8,2 → 12,2 mg"_s
                                     << u"✓ besser"_s << farbe(Textfarbe::Gruen);
 }
