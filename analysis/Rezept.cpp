@@ -40,14 +40,6 @@ bool gleich(const Datenmodul &eines, const Datenmodul &anderes)
     return eines.name() == anderes.name() && gleicherInhalt(eines, anderes);
 }
 
-bool gleicheWerte(Datenmodul eines, const Datenmodul &anderes)
-{
-    for (const Wertungsbeschreibung &eine : wertungen) {
-        eines.setWertung(eine.wertung, anderes.wertung(eine.wertung));
-    }
-    return gleicherInhalt(eines, anderes);
-}
-
 bool sindZaehlbar(double portionen)
 {
     return portionen >= wenigstePortionen && portionen <= meistePortionen;

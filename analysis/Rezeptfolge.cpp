@@ -21,11 +21,14 @@ public:
     {
         m_wissen.setzeRezepte({});
         for (const QString &schluessel : kochfolge(m_rezepte)) {
+            Rezept rezept = m_rezepte[schluessel];
             const auto lebensmittel = m_eigene.constFind(schluessel);
-            if (lebensmittel != m_eigene.cend() && m_rezepte[schluessel].folgt) {
-                zieheNach(schluessel, *lebensmittel);
+            if (lebensmittel != m_eigene.cend() && rezept.folgt) {
+                rezept = zieheNach(schluessel, *lebensmittel);
             }
-            if (const Rezeptergebnis ergebnis = rezeptwerte(m_rezepte[schluessel], m_wissen)) {
+            // Of a dish that was changed by hand no recipe tells what is in it.
+            const Rezeptergebnis ergebnis = rezeptwerte(rezept, m_wissen);
+            if (ergebnis && gleicheWerte(rezept.gegeben, m_eigene.value(schluessel))) {
                 m_angaben.insert(schluessel, ergebnis.angaben);
                 m_wissen.setzeRezepte(m_angaben);
             }
@@ -34,27 +37,31 @@ public:
     }
 
 private:
-    void zieheNach(const QString &schluessel, const Datenmodul &lebensmittel)
+    /// The recipe that tells of the dish from now on.
+    Rezept zieheNach(const QString &schluessel, const Datenmodul &lebensmittel)
     {
         const Rezept &bisher = m_rezepte[schluessel];
         Rezept heute = mitHeutigen(bisher, m_eingebaute, m_eigene);
         if (heute.zutaten == bisher.zutaten) {
-            return;
+            return bisher;
         }
         const std::optional<Datenmodul> satz = gerichtssatz(heute, m_wissen, m_rezepte);
         if (!satz) {
             m_zuege.unmoegliche << schluessel;
-            return;
+            return bisher;
         }
         const bool unberuehrt = gleicherInhalt(bisher.gegeben, lebensmittel);
         const bool schonSo = gleicherInhalt(*satz, lebensmittel);
         if (!unberuehrt && !schonSo) {
             m_zuege.vonHandGeaenderte << schluessel;
-        } else if (!unberuehrt || !schonSo) {
-            heute.gegeben = *satz;
+            return bisher;
+        }
+        heute.gegeben = *satz;
+        if (!unberuehrt || !schonSo) {
             m_zuege.folgende << Nachzug{heute, lebensmittel, *satz};
             m_eigene.insert(schluessel, *satz);
         }
+        return heute;
     }
 
     const Rezepte &m_rezepte;

@@ -112,7 +112,8 @@ Anteile gerichtsanteile(const Rezept &rezept, const Stoffwissen &wissen, Rezepte
         const auto gericht = andere.constFind(zutat.schluessel);
         if (const Zusatzwerte *zusatz = wissen.zusatz(zutat.schluessel)) {
             anteile = tabellenanteile(zutat.satz, *zusatz);
-        } else if (gericht != andere.cend() && rezeptwerte(*gericht, wissen)) {
+        } else if (gericht != andere.cend() && wissen.istGericht(zutat.schluessel) &&
+                   rezeptwerte(*gericht, wissen)) {
             anteile = gerichtsanteile(*gericht, wissen, andere);
         }
         zaehleZu(summe.freierZucker, anteile.freierZucker, zutat.gramm);
@@ -134,7 +135,8 @@ bool enthaeltFleisch(const Rezept &rezept, const Stoffwissen &wissen, Rezepte an
             return istFleischgruppe(*zusatz->gruppe);
         }
         const auto gericht = andere.constFind(zutat.schluessel);
-        return gericht != andere.cend() && istFleischgruppe(gruppeVon(*gericht, wissen, andere));
+        return gericht != andere.cend() && wissen.istGericht(zutat.schluessel) &&
+               istFleischgruppe(gruppeVon(*gericht, wissen, andere));
     });
 }
 

@@ -41,6 +41,13 @@ Stoffwissen Stoffwissen::mitEigenem(const QString &schluessel) const
     return wissen;
 }
 
+void Stoffwissen::setzeRezepte(const QHash<QString, Rezeptangaben> &rezepte,
+                               const Lebensmittelverzeichnis &gegebene)
+{
+    m_rezepte = rezepte;
+    m_gegebene = gegebene;
+}
+
 Stoffangabe Stoffwissen::je100g(const QString &schluessel, const Datenmodul &lebensmittel,
                                 Kenngroesse groesse) const
 {
@@ -55,7 +62,7 @@ Stoffangabe Stoffwissen::je100g(const QString &schluessel, const Datenmodul &leb
         const Stoffangabe kh = ausSatz(schluessel, lebensmittel, Naehrwert::kh);
         return {kh.wert / kohlenhydrateJeBroteinheit, kh.unbekannt};
     }
-    return ausTabelle(schluessel, groesse);
+    return ausTabelle(schluessel, lebensmittel, groesse);
 }
 
 Stoffangabe Stoffwissen::ausSatz(const QString &schluessel, const Datenmodul &lebensmittel,
@@ -68,13 +75,14 @@ Stoffangabe Stoffwissen::ausSatz(const QString &schluessel, const Datenmodul &le
     if (const Zusatzwerte *zusatz = this->zusatz(schluessel)) {
         return zahl == 0 && zusatz->unbestimmt[stelle(wert)] ? ungewusst : Stoffangabe{zahl, 0};
     }
-    if (const auto rezept = m_rezepte.constFind(schluessel); rezept != m_rezepte.cend()) {
+    if (const Rezeptangaben *rezept = this->rezept(schluessel, lebensmittel)) {
         return {zahl, (*rezept)[stelle(kenngroesse(wert))].unbekannt};
     }
     return zahl == 0 && !stehtImmerDa(wert) ? ungewusst : Stoffangabe{zahl, 0};
 }
 
-Stoffangabe Stoffwissen::ausTabelle(const QString &schluessel, Kenngroesse groesse) const
+Stoffangabe Stoffwissen::ausTabelle(const QString &schluessel, const Datenmodul &lebensmittel,
+                                    Kenngroesse groesse) const
 {
     if (const Zusatzwerte *zusatz = this->zusatz(schluessel)) {
         for (const Tabellenspalte &eine : spalten) {
@@ -85,12 +93,31 @@ Stoffangabe Stoffwissen::ausTabelle(const QString &schluessel, Kenngroesse groes
         }
         return ungewusst;
     }
-    const auto rezept = m_rezepte.constFind(schluessel);
-    return rezept != m_rezepte.cend() ? (*rezept)[stelle(groesse)] : ungewusst;
+    const Rezeptangaben *rezept = this->rezept(schluessel, lebensmittel);
+    return rezept != nullptr ? (*rezept)[stelle(groesse)] : ungewusst;
+}
+
+const Rezeptangaben *Stoffwissen::rezept(const QString &schluessel,
+                                         const Datenmodul &lebensmittel) const
+{
+    const auto eines = m_rezepte.constFind(schluessel);
+    if (eines == m_rezepte.cend()) {
+        return nullptr;
+    }
+    const auto gegeben = m_gegebene.constFind(schluessel);
+    return gegeben == m_gegebene.cend() || gleicheWerte(*gegeben, lebensmittel) ? &*eines : nullptr;
 }
 
 const Zusatzwerte *Stoffwissen::zusatz(const QString &schluessel) const
 {
     const auto eintrag = m_tabelle.constFind(schluessel);
     return eintrag != m_tabelle.cend() ? &*eintrag : nullptr;
+}
+
+bool gleicheWerte(Datenmodul eines, const Datenmodul &anderes)
+{
+    for (const Wertungsbeschreibung &eine : wertungen) {
+        eines.setWertung(eine.wertung, anderes.wertung(eine.wertung));
+    }
+    return gleicherInhalt(eines, anderes);
 }

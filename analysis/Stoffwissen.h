@@ -32,8 +32,14 @@ public:
     /// an own food.
     explicit Stoffwissen(Zusatztabelle tabelle = {}) : m_tabelle(std::move(tabelle)) {}
 
-    /// What is known of the dishes among the own foods, by their keys.
-    void setzeRezepte(const QHash<QString, Rezeptangaben> &rezepte) { m_rezepte = rezepte; }
+    /// What is known of the dishes among the own foods, by their keys. Of those that stand in
+    /// `gegebene` it holds for a record with these values only: one that was kept before the dish
+    /// was cooked otherwise tells of another dish.
+    void setzeRezepte(const QHash<QString, Rezeptangaben> &rezepte,
+                      const Lebensmittelverzeichnis &gegebene = {});
+
+    /// Whether it is known of what this own food was cooked.
+    bool istGericht(const QString &schluessel) const { return m_rezepte.contains(schluessel); }
 
     /// The same where the food of this key is an own one. One that is called as a built-in food has
     /// that one's name alone, and none of its figures.
@@ -60,8 +66,14 @@ public:
 private:
     Stoffangabe ausSatz(const QString &schluessel, const Datenmodul &lebensmittel,
                         Naehrwert wert) const;
-    Stoffangabe ausTabelle(const QString &schluessel, Kenngroesse groesse) const;
+    Stoffangabe ausTabelle(const QString &schluessel, const Datenmodul &lebensmittel,
+                           Kenngroesse groesse) const;
+    const Rezeptangaben *rezept(const QString &schluessel, const Datenmodul &lebensmittel) const;
 
     Zusatztabelle m_tabelle;
     QHash<QString, Rezeptangaben> m_rezepte;
+    Lebensmittelverzeichnis m_gegebene; ///< dishes as their recipes gave them
 };
+
+/// Whether two records hold the same but for their ratings, which users set by hand.
+bool gleicheWerte(Datenmodul eines, const Datenmodul &anderes);

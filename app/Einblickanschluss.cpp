@@ -233,8 +233,13 @@ const Stoffwissen &Einblickanschluss::wissen()
 {
     if (!m_wissen) {
         m_wissen = m_zusatz.wissen();
-        m_wissen->setzeRezepte(rezeptangaben(
-            geltendeRezepte(rezepte.rezepte(), m_hauptfenster.KundenDictionary), *m_wissen));
+        const Rezepte geltende =
+            geltendeRezepte(rezepte.rezepte(), m_hauptfenster.KundenDictionary);
+        Lebensmittelverzeichnis gegebene;
+        for (const Rezept &eines : geltende) {
+            gegebene.insert(eines.schluessel, eines.gegeben);
+        }
+        m_wissen->setzeRezepte(rezeptangaben(geltende, *m_wissen), gegebene);
     }
     return *m_wissen;
 }
@@ -434,12 +439,11 @@ QString Einblickanschluss::merkname(const char *was) const
         .arg(m_kennung.isEmpty() ? QStringLiteral("Ohne Klient") : m_kennung, QLatin1String(was));
 }
 
-/// Dishes follow an ingredient that is as it was.
 void Einblickanschluss::folgeVerlauf()
 {
     vergissRueckweg();
     vergissSpeisen();
-    rezepte.zieheNach();
+    rezepte.folgeVerlauf();
 }
 
 void Einblickanschluss::folgeSprache()

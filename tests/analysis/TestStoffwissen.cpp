@@ -25,6 +25,7 @@ private Q_SLOTS:
     void saltFollowsSodium();
     void breadUnitsFollowCarbohydrate();
     void aDishIsAsUnknownAsItsIngredients();
+    void aRecipeTellsOfTheDishThatItGave();
 };
 
 namespace {
@@ -217,6 +218,24 @@ void TestStoffwissen::aDishIsAsUnknownAsItsIngredients()
     QCOMPARE(wissen.je100g(eigenes, satz, Kenngroesse::salz), (Stoffangabe{1, 0.25}));
     // All of whose ingredients are known to hold none.
     QCOMPARE(wissen.je100g(eigenes, satz, Kenngroesse::vitc), (Stoffangabe{0, 0}));
+}
+
+/// A day keeps the dish as it was eaten, and today's recipe tells of another one.
+void TestStoffwissen::aRecipeTellsOfTheDishThatItGave()
+{
+    Rezeptangaben angaben = {};
+    angaben[stelle(Kenngroesse::zucker)] = {.wert = 3, .unbekannt = 0};
+    Datenmodul heutiges = mit(Naehrwert::na, 400);
+    Stoffwissen wissen(tabelle());
+    wissen.setzeRezepte({{eigenes, angaben}}, {{eigenes, heutiges}});
+    QCOMPARE(wissen.je100g(eigenes, heutiges, Kenngroesse::zucker), (Stoffangabe{3, 0}));
+    QCOMPARE(wissen.je100g(eigenes, heutiges, Kenngroesse::vitc), (Stoffangabe{0, 0}));
+    heutiges.setgicht(QStringLiteral("-")); // by hand, which is no other dish
+    QCOMPARE(wissen.je100g(eigenes, heutiges, Kenngroesse::zucker), (Stoffangabe{3, 0}));
+    const Datenmodul frueheres = mit(Naehrwert::na, 300);
+    QCOMPARE(wissen.je100g(eigenes, frueheres, Kenngroesse::na), (Stoffangabe{300, 0}));
+    QCOMPARE(wissen.je100g(eigenes, frueheres, Kenngroesse::zucker), (Stoffangabe{0, 1}));
+    QCOMPARE(wissen.je100g(eigenes, frueheres, Kenngroesse::vitc), (Stoffangabe{0, 1}));
 }
 
 QTEST_APPLESS_MAIN(TestStoffwissen)
