@@ -85,6 +85,7 @@ void Rezeptanschluss::beginne()
     }
     connect(&m_tage, &Tageanschluss::fensterBereit, this, &Rezeptanschluss::bereiteTage);
     connect(&m_hauptfenster, &AppController::eigeneGeaendert, this, &Rezeptanschluss::zieheNach);
+    connect(&m_hauptfenster, &AppController::eigeneGeaendert, this, &Rezeptanschluss::zeigeHeutige);
     connect(&ablage, &Rezeptablage::geaendert, this, &Rezeptanschluss::geaendert);
     connect(&ablage, &Rezeptablage::sicherungGewechselt, this, &Rezeptanschluss::sageZustand);
 }
@@ -130,6 +131,7 @@ Rezepte Rezeptanschluss::rezepte()
 
 void Rezeptanschluss::ausDemPlan()
 {
+    m_hauptfenster.planmodul->PlanTabelle->beendeEingabe();
     QList<Rezeptzutat> zutaten;
     QStringList fehlende;
     for (const Planmenge &eine : m_tage.planVomTisch()) {
@@ -139,14 +141,16 @@ void Rezeptanschluss::ausDemPlan()
             fehlende << eine.schluessel;
         }
     }
-    beginneRezept(zutaten, m_hauptfenster.planmodul->window());
-    sageFehlende(fehlende);
+    if (beginneRezept(zutaten, m_hauptfenster.planmodul->window())) {
+        sageFehlende(fehlende);
+    }
 }
 
 /// The meal with the cursor; what does not count there is no ingredient.
 void Rezeptanschluss::ausDerMahlzeit()
 {
     Tagefenster &tage = m_tage.fenster();
+    tage.ansicht->beende();
     QList<Rezeptzutat> zutaten;
     QStringList fehlende;
     if (const std::optional<Aufzeichnung> eine = tage.buch.jetzige()) {
@@ -162,8 +166,9 @@ void Rezeptanschluss::ausDerMahlzeit()
             }
         }
     }
-    beginneRezept(zutaten, &tage);
-    sageFehlende(fehlende);
+    if (beginneRezept(zutaten, &tage)) {
+        sageFehlende(fehlende);
+    }
 }
 
 /// A dish that lacks what stands there would have too little of everything.
@@ -179,9 +184,9 @@ void Rezeptanschluss::sageFehlende(const QStringList &namen)
     }
 }
 
-void Rezeptanschluss::beginneRezept(const QList<Rezeptzutat> &zutaten, QWidget *davor)
+bool Rezeptanschluss::beginneRezept(const QList<Rezeptzutat> &zutaten, QWidget *davor)
 {
-    oeffne(Rezept{.schluessel = {}, .zutaten = zutaten}, davor);
+    return oeffne(Rezept{.schluessel = {}, .zutaten = zutaten}, davor);
 }
 
 void Rezeptanschluss::zeigeRezept()
@@ -246,12 +251,14 @@ void Rezeptanschluss::setzePortion(const QString &schluessel, std::optional<doub
 }
 
 /// One recipe at a time: two windows could each take the place of the other's dish.
-void Rezeptanschluss::oeffne(const Rezept &rezept, QWidget *davor)
+bool Rezeptanschluss::oeffne(const Rezept &rezept, QWidget *davor)
 {
     if (m_fenster != nullptr) {
         m_fenster->raise();
         m_fenster->activateWindow();
-        if (rezept.schluessel.isEmpty() && !rezept.zutaten.isEmpty()) {
+        const bool leer = rezept.schluessel.isEmpty() && rezept.zutaten.isEmpty();
+        const bool dasOffene = !rezept.schluessel.isEmpty() && rezept.schluessel == m_offenes;
+        if (!leer && !dasOffene) {
             m_tueren.melde(m_fenster,
                            {.text = localizedString(QStringLiteral("Ein Rezept ist noch offen.")),
                             .erklaerung = localizedString(
@@ -259,11 +266,22 @@ void Rezeptanschluss::oeffne(const Rezept &rezept, QWidget *davor)
                                                "anderes öffnen.")),
                             .knoepfe = {localizedString(QStringLiteral("ok"))}});
         }
-        return;
+        return false;
     }
+    m_offenes = rezept.schluessel;
     m_fenster = new Rezeptfenster(rezept, m_wissen(), rezepte(), fenstertueren(), davor);
     m_fenster->setAttribute(Qt::WA_DeleteOnClose);
     m_fenster->show();
+    return true;
+}
+
+/// The window that is open shows foods as they are now.
+void Rezeptanschluss::zeigeHeutige()
+{
+    if (m_fenster != nullptr) {
+        m_fenster->folgeSpeisen(m_wissen(), rezepte(), m_hauptfenster.Dictionary,
+                                m_hauptfenster.KundenDictionary);
+    }
 }
 
 /// The recipe goes to the disk first: a dish without it would be known by nobody, while a recipe
@@ -277,6 +295,7 @@ bool Rezeptanschluss::sichere(const Rezept &rezept, const Datenmodul &satz)
         sageZustand();
         return false;
     }
+    m_gesicherte[rezept.schluessel] << (bisher ? QList{*bisher, rezept} : QList{rezept});
     Lebensmittelverzeichnis eigene = m_hauptfenster.KundenDictionary;
     QStringList namen = m_hauptfenster.KundenArray;
     const bool neu = !eigene.contains(rezept.schluessel);
@@ -294,6 +313,41 @@ bool Rezeptanschluss::sichere(const Rezept &rezept, const Datenmodul &satz)
     return true;
 }
 
+Nachzuege Rezeptanschluss::nachzuege(const Rezepte &alle)
+{
+    return nachgezogen(alle, m_hauptfenster.Dictionary, m_hauptfenster.KundenDictionary,
+                       m_wissen());
+}
+
+void Rezeptanschluss::folgeVerlauf()
+{
+    QList<Rezept> neue;
+    for (const Rezept &eines : rezepte()) {
+        const Datenmodul gericht = m_hauptfenster.KundenDictionary.value(eines.schluessel);
+        const QList<Rezept> fruehere = m_gesicherte.value(eines.schluessel);
+        const auto seines =
+            std::find_if(fruehere.crbegin(), fruehere.crend(), [&](const Rezept &frueheres) {
+                return gleicherInhalt(frueheres.gegeben, gericht);
+            });
+        if (!gleicherInhalt(eines.gegeben, gericht) && seines != fruehere.crend()) {
+            neue << *seines;
+        }
+    }
+    if (!neue.isEmpty()) {
+        ablage.setze(neue);
+        neue.clear();
+    }
+    for (const Nachzug &einer : nachzuege(rezepte()).folgende) {
+        if (gleicherInhalt(einer.vorher, einer.nachher)) {
+            neue << einer.rezept;
+        }
+    }
+    if (!neue.isEmpty()) {
+        ablage.setze(neue);
+    }
+    zeigeHeutige();
+}
+
 /// Dishes follow their ingredients. A dish that was changed by hand is not touched, but told.
 void Rezeptanschluss::zieheNach()
 {
@@ -302,8 +356,7 @@ void Rezeptanschluss::zieheNach()
         return;
     }
     const QScopedValueRollback zieht(m_zieht, true);
-    const Nachzuege zuege =
-        nachgezogen(alle, m_hauptfenster.Dictionary, m_hauptfenster.KundenDictionary, m_wissen());
+    const Nachzuege zuege = nachzuege(alle);
     QStringList gefolgt;
     QList<Rezept> neue;
     Lebensmittelverzeichnis eigene = m_hauptfenster.KundenDictionary;
@@ -322,6 +375,11 @@ void Rezeptanschluss::zieheNach()
         Q_EMIT m_hauptfenster.eigeneGeaendert({Aenderungsart::Geaendert, gefolgt.constFirst()});
         sage(localizedString(QStringLiteral("Gerichte, die ihren Zutaten gefolgt sind: %1."))
                  .arg(Einblickworte::namen(gefolgt)));
+    }
+    // A notice that was read does not come again with each change of something else.
+    const QStringList gesagte = zuege.vonHandGeaenderte + zuege.unmoegliche;
+    if (std::exchange(m_gesagte, gesagte) == gesagte) {
+        return;
     }
     if (!zuege.vonHandGeaenderte.isEmpty()) {
         sage(

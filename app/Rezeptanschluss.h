@@ -34,9 +34,13 @@ public:
     Rezepte rezepte();
     /// Lets the dishes follow their ingredients as they are now.
     void zieheNach();
+    /// Own foods are as they were before, or again as they were after: the recipes go with their
+    /// dishes. No dish changes by it, for that would be a new step, and what can be repeated gone.
+    void folgeVerlauf();
 
-    /// The window of a new recipe with these ingredients, in front of `davor`.
-    void beginneRezept(const QList<Rezeptzutat> &zutaten, QWidget *davor);
+    /// The window of a new recipe with these ingredients, in front of `davor`. False: another one
+    /// is open, which is told.
+    bool beginneRezept(const QList<Rezeptzutat> &zutaten, QWidget *davor);
     /// The window of the recipe of the own food on display; of a new one where it has none.
     void zeigeRezept();
     /// The window of a recipe that is open; null where none is.
@@ -60,7 +64,9 @@ private:
     void ausDemPlan();
     void ausDerMahlzeit();
     Rezepttueren fenstertueren();
-    void oeffne(const Rezept &rezept, QWidget *davor);
+    bool oeffne(const Rezept &rezept, QWidget *davor);
+    void zeigeHeutige();
+    Nachzuege nachzuege(const Rezepte &alle);
     void setzePortion(const QString &schluessel, std::optional<double> gramm,
                       std::optional<double> bisher);
     bool sichere(const Rezept &rezept, const Datenmodul &satz);
@@ -74,6 +80,10 @@ private:
     Tueren m_tueren;
     std::function<const Stoffwissen &()> m_wissen;
     QPointer<Rezeptfenster> m_fenster;
+    QString m_offenes; ///< whose recipe it is; empty: of a new dish
+    /// The recipes that were kept since the program began, the last at the end.
+    QHash<QString, QList<Rezept>> m_gesicherte;
+    QStringList m_gesagte;  ///< dishes that don't follow, as they were told last
     bool m_zieht = false;   ///< what changes now are the dishes that follow
     bool m_gefragt = false; ///< for the recipes
 };

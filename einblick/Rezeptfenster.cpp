@@ -3,6 +3,7 @@
 #include "Einblickworte.h"
 #include "Hinweisstreifen.h"
 #include "Portionendatei.h"
+#include "Rezeptfolge.h"
 #include "Rezeptworte.h"
 #include "Wertungswahl.h"
 #include "Zeichenkettentabelle.h"
@@ -79,6 +80,27 @@ void Rezeptfenster::zeigeRezept()
     fuelleGruppen();
     m_gruppe->setCurrentIndex(std::max(0, m_gruppe->findData(m_rezept.gruppe)));
     rechne();
+}
+
+void Rezeptfenster::folgeSpeisen(const Stoffwissen &wissen, const Rezepte &andere,
+                                 const Lebensmittelverzeichnis &eingebaute,
+                                 const Lebensmittelverzeichnis &eigene)
+{
+    m_zutaten->beendeEingabe();
+    const bool unberuehrt = m_anfang && eingegebenes() == *m_anfang;
+    m_wissen = wissen;
+    m_andere = andere;
+    const auto heutiges = andere.constFind(m_rezept.schluessel);
+    if (heutiges != andere.cend()) {
+        m_rezept.gegeben = heutiges->gegeben;
+    }
+    if (m_folgt->isChecked()) {
+        m_zutaten->zeige(mitHeutigen(eingegebenes(), eingebaute, eigene).zutaten);
+    }
+    rechne();
+    if (unberuehrt) {
+        m_anfang = eingegebenes();
+    }
 }
 
 Rezept Rezeptfenster::eingegebenes() const
@@ -218,6 +240,7 @@ bool Rezeptfenster::darfErsetzen(const Rezept &rezept)
 
 void Rezeptfenster::sichere()
 {
+    m_zutaten->beendeEingabe();
     Rezept rezept = eingegebenes();
     const std::optional<Datenmodul> satz = gerichtssatz(rezept, m_wissen, m_andere);
     const QString einwand = einwandGegen(rezept);
@@ -268,6 +291,7 @@ bool Rezeptfenster::sagtUebersehenes()
 
 void Rezeptfenster::reject()
 {
+    m_zutaten->beendeEingabe();
     if (m_anfang && !(eingegebenes() == *m_anfang)) {
         const Meldung frage = {
             .text = localizedString(QStringLiteral("Die Änderungen am Rezept verwerfen?")),

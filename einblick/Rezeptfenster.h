@@ -57,6 +57,12 @@ public:
 
     /// Keeps the dish and closes the window, unless something is in the way: that is told.
     void sichere();
+    /// Foods or other dishes have changed: what is reckoned here goes by them as they are now, the
+    /// ingredients of a dish that follows among them.
+    void folgeSpeisen(const Stoffwissen &wissen, const Rezepte &andere,
+                      const Lebensmittelverzeichnis &eingebaute,
+                      const Lebensmittelverzeichnis &eigene);
+
     /// Closes the window without keeping anything, after a question where something was changed.
     void reject() override;
 

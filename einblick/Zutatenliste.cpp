@@ -133,6 +133,15 @@ void Zutatenliste::zeige(const QList<Rezeptzutat> &zutaten)
     fuelle();
 }
 
+void Zutatenliste::beendeEingabe()
+{
+    if (QWidget *feld = m_tabelle->indexWidget(m_tabelle->currentIndex())) {
+        m_tipptNeue = false; // the keyboard goes where the user wants it
+        Q_EMIT m_tabelle->itemDelegate()->commitData(feld);
+        Q_EMIT m_tabelle->itemDelegate()->closeEditor(feld);
+    }
+}
+
 QString Zutatenliste::nimmAngefangenes()
 {
     const QString text = m_feld->text().trimmed();

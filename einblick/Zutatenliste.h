@@ -44,6 +44,9 @@ public:
     void zeige(const QList<Rezeptzutat> &zutaten);
     const QList<Rezeptzutat> &zutaten() const { return m_zutaten; }
 
+    /// Takes the amount that is still being typed.
+    void beendeEingabe();
+
     /// Another language is spoken: all texts anew.
     void folgeSprache();
     /// Whether the amount that was typed last could not be read, which is told once.

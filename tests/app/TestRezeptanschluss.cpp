@@ -29,6 +29,10 @@ private Q_SLOTS:
     void theDishFollowsAnIngredient();
     void aDishThatDoesNotFollowStays();
     void aDishChangedByHandIsLeftAndTold();
+    void whatWasTakenBackIsRepeatedToItsEnd();
+    void aRecipeIsTakenBackWithItsDish();
+    void theOpenRecipeGoesWithItsIngredients();
+    void anAmountThatIsBeingTypedComesAlong();
     void aDishFollowsOnAfterItsIngredientWasTakenBack();
     void rowsThatNobodyKnowsAreTold();
     void onlyOneRecipeIsOpen();
@@ -198,6 +202,92 @@ void TestRezeptanschluss::aDishChangedByHandIsLeftAndTold()
     setzeBruehe({{Naehrwert::kal, 80}});
     QCOMPARE(kal(u"Suppe"_s), 33.0F);
     QVERIFY(sagt(u"von Hand geändert sind: Suppe."_s));
+    for (const Hinweis &einer : programm()->hinweise->hinweise()) {
+        programm()->hinweise->nimmZurueck(einer.kennung);
+    }
+    Lebensmittelverzeichnis mehr = programm()->KundenDictionary;
+    mehr[u"Tee"_s] = lebensmittel(u"Tee"_s);
+    programm()->uebernimmEigene(mehr, programm()->KundenArray + QStringList(u"Tee"_s));
+    Q_EMIT programm()->eigeneGeaendert({Aenderungsart::Gesichert, u"Tee"_s});
+    ruhe();
+    QVERIFY(!sagt(u"von Hand geändert sind"_s)); // it was told
+}
+
+/// What follows is a step of its own, and steps that were taken back are all there to be repeated.
+void TestRezeptanschluss::whatWasTakenBackIsRepeatedToItsEnd()
+{
+    oeffne();
+    koche();
+    setzeBruehe({{Naehrwert::kal, 80}});
+    Lebensmittelverzeichnis mehr = programm()->KundenDictionary;
+    mehr[u"Tee"_s] = lebensmittel(u"Tee"_s);
+    programm()->uebernimmEigene(mehr, programm()->KundenArray + QStringList(u"Tee"_s));
+    Q_EMIT programm()->eigeneGeaendert({Aenderungsart::Gesichert, u"Tee"_s});
+    for (int mal = 0; mal < 3; ++mal) { // the tea, the dish, the broth
+        Q_EMIT programm()->zuruecknehmenGewuenscht();
+    }
+    ruhe();
+    QCOMPARE(kal(u"Brühe"_s), 40.0F);
+    QCOMPARE(kal(u"Suppe"_s), 10.0F);
+    for (int mal = 0; mal < 3; ++mal) {
+        Q_EMIT programm()->wiederholenGewuenscht();
+    }
+    ruhe();
+    QCOMPARE(kal(u"Brühe"_s), 80.0F);
+    QCOMPARE(kal(u"Suppe"_s), 20.0F);
+    QVERIFY(programm()->KundenDictionary.contains(u"Tee"_s));
+    setzeBruehe({{Naehrwert::kal, 60}});
+    QCOMPARE(kal(u"Suppe"_s), 15.0F);
+    QVERIFY(!sagt(u"von Hand"_s));
+}
+
+void TestRezeptanschluss::aRecipeIsTakenBackWithItsDish()
+{
+    oeffne();
+    koche();
+    programm()->zeigeEigenes(u"Suppe"_s);
+    eintrag(programm()->Hauptfenster)->trigger();
+    teil<Zutatenliste>({})->zeige({suppe().zutaten.constFirst()});
+    sichereAls(u"Suppe"_s);
+    QCOMPARE(kal(u"Suppe"_s), 40.0F);
+    Q_EMIT programm()->zuruecknehmenGewuenscht();
+    ruhe();
+    QCOMPARE(kal(u"Suppe"_s), 10.0F);
+    QCOMPARE(anschluss().rezepte().value(u"Suppe"_s).zutaten.size(), 2);
+    Q_EMIT programm()->wiederholenGewuenscht();
+    ruhe();
+    QCOMPARE(anschluss().rezepte().value(u"Suppe"_s).zutaten.size(), 1);
+    setzeBruehe({{Naehrwert::kal, 80}});
+    QCOMPARE(kal(u"Suppe"_s), 80.0F);
+    QVERIFY(!sagt(u"von Hand"_s));
+}
+
+void TestRezeptanschluss::theOpenRecipeGoesWithItsIngredients()
+{
+    oeffne();
+    koche();
+    programm()->zeigeEigenes(u"Suppe"_s);
+    eintrag(programm()->Hauptfenster)->trigger();
+    setzeBruehe({{Naehrwert::kal, 80}});
+    sichereAls(u"Suppe"_s);
+    QVERIFY(m_heim->meldungen.isEmpty()); // nobody changed it by hand
+    QVERIFY(anschluss().offenes() == nullptr || !anschluss().offenes()->isVisible());
+    QCOMPARE(kal(u"Suppe"_s), 20.0F);
+}
+
+void TestRezeptanschluss::anAmountThatIsBeingTypedComesAlong()
+{
+    oeffne();
+    programm()->Planmoduloeffnen();
+    plan().gibHinein(u"Linsen"_s, 200);
+    auto &tabelle = *plan().PlanTabelle;
+    tabelle.setCurrentIndex(tabelle.model()->index(0, 1));
+    tabelle.edit(tabelle.currentIndex());
+    auto *feld = tabelle.findChild<QLineEdit *>();
+    QVERIFY(feld != nullptr);
+    feld->setText(u"250"_s);
+    eintrag(plan().window())->trigger();
+    QCOMPARE(zutaten(), QStringList{u"Linsen 250"_s});
 }
 
 void TestRezeptanschluss::aDishFollowsOnAfterItsIngredientWasTakenBack()
@@ -244,6 +334,17 @@ void TestRezeptanschluss::onlyOneRecipeIsOpen()
     QCOMPARE(zutaten().size(), 2);
     QCOMPARE(m_heim->meldungen.size(), 1);
     QCOMPARE(m_heim->meldungen[0].text, u"Ein Rezept ist noch offen."_s);
+    // Nor does that of another dish.
+    anschluss().offenes()->reject();
+    ruhe();
+    koche();
+    programm()->zeigeEigenes(u"Suppe"_s);
+    eintrag(programm()->Hauptfenster)->trigger();
+    eintrag(programm()->Hauptfenster)->trigger();
+    QCOMPARE(m_heim->meldungen.size(), 1);
+    programm().klicke(1, inName);
+    anschluss().beginneRezept({suppe().zutaten.constFirst()}, programm()->Hauptfenster);
+    QCOMPARE(m_heim->meldungen.size(), 2);
 }
 
 void TestRezeptanschluss::aRecipeThatCanNotBeKeptGivesNoFood()

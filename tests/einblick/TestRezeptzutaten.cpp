@@ -16,6 +16,8 @@ private Q_SLOTS:
     void anAmountMayBeAHouseholdMeasure();
     void anAmountThatIsNoneLeavesTheOldOne();
     void anAmountThatIsNoneIsSeenBeforeTheWindowCloses();
+    void anAmountThatIsStillBeingTypedIsTaken();
+    void anAmountThatIsStillBeingTypedIsAChange();
     void aNameThatWasNotTakenIsToldOnce();
     void anIngredientIsTakenOut();
 };
@@ -155,6 +157,34 @@ void TestRezeptzutaten::anAmountThatIsNoneLeavesTheOldOne()
     }
     tabelle.item(0, 1)->setText(u"201"_s);
     QVERIFY(!teil<QLabel>("zutatenworte").isVisible());
+}
+
+/// The key of the button leaves the keyboard in the cell.
+void TestRezeptzutaten::anAmountThatIsStillBeingTypedIsTaken()
+{
+    oeffne(linsensuppe(u"Suppe"_s));
+    auto &tabelle = teil<QTableWidget>("zutaten");
+    tabelle.setFocus();
+    tabelle.setCurrentCell(1, 1);
+    QTest::keyClick(&tabelle, Qt::Key_Return);
+    QTest::keyClicks(&zelleneditor(), u"400"_s);
+    QTest::keyClick(&zelleneditor(), Qt::Key_S, Qt::AltModifier);
+    QTRY_VERIFY(m_rezept);
+    QCOMPARE(m_rezept->zutaten[1].gramm, 400.0);
+}
+
+void TestRezeptzutaten::anAmountThatIsStillBeingTypedIsAChange()
+{
+    oeffne(linsensuppe(u"Suppe"_s));
+    auto &tabelle = teil<QTableWidget>("zutaten");
+    tabelle.setFocus();
+    tabelle.setCurrentCell(1, 1);
+    QTest::keyClick(&tabelle, Qt::Key_Return);
+    QTest::keyClicks(&zelleneditor(), u"400"_s);
+    m_fenster->close();
+    QCOMPARE(m_fragen.size(), 1);
+    QVERIFY(m_fenster->isVisible());
+    QCOMPARE(menge(1), u"400 g"_s);
 }
 
 void TestRezeptzutaten::anAmountThatIsNoneIsSeenBeforeTheWindowCloses()
