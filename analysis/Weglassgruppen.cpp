@@ -170,6 +170,7 @@ constexpr Zeile zeilen[] = {
      "Frikadellen|Hamburger|Cheeseburger|Hotdogs|Hähnchenburger|Chili con|Hackbraten|wie Wiener|"
      "Quiche|Bolognese|Wurstsalat|Rindfleischsalat|Kalbspiccata|Schweinepiccata|Saltimbocca",
      nichts, Fisch | Nuesse},
+    {"Gerichte mit Fleisch oder Fisch", "Salami|Hotdogs|Wurstsalat", Nuesse}, // as the sausage
     {"Gerichte mit Fleisch oder Fisch",
      "Hähnchen|Frikadellen|Fischburger|Garnelencocktail|Tonno|Thunfischsalat|Rindertatar|"
      "Rindfleischsalat|Vitello",

@@ -22,6 +22,7 @@ void Einblickanschluss::geheZuZeile(Gegenstand gegenstand, int ort)
         Planmodul &plan = m_hauptfenster.holePlan();
         plan.showWindow();
         plan.PlanTabelle->selectRow(ort);
+        plan.PlanTabelle->scrollRowToVisible(ort);
         plan.PlanTabelle->setFocus();
     } else if (gegenstand != Gegenstand::Lebensmittel) {
         m_tage.fenster().zeigeZeile(Standaufbau::stelleVon(ort));

@@ -67,8 +67,9 @@ Referenzperson referenzperson(const std::optional<Klientenakte> &akte,
         person.geschlecht = rechner.frau ? Referenzgeschlecht::Frau : Referenzgeschlecht::Mann;
         person.alter = rechner.alter;
     }
-    // It knows nothing of pregnancy and nursing either.
-    if (person.zustand == Referenzzustand::Keiner && person.alter.value_or(0) > rechneralter) {
+    // It knows nothing of pregnancy and nursing either, and takes whose sex is not known for a man.
+    if (person.zustand == Referenzzustand::Keiner && person.alter.value_or(0) > rechneralter &&
+        person.geschlecht) {
         person.energiebedarf = bekannt(rechner.energiebedarf);
     }
     return person;
@@ -85,6 +86,10 @@ Referenzperson mitNeuem(Referenzperson getippt, const Referenzperson &bisher,
     uebernimm(&Referenzperson::geschlecht);
     uebernimm(&Referenzperson::alter);
     uebernimm(&Referenzperson::zustand);
+    if (bisher.zustand != neu.zustand) { // they are of the state that was
+        getippt.trimester = neu.trimester;
+        getippt.stillmonat = neu.stillmonat;
+    }
     uebernimm(&Referenzperson::pal);
     uebernimm(&Referenzperson::gewicht);
     getippt.energiebedarf = neu.energiebedarf;

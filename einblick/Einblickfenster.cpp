@@ -177,9 +177,10 @@ void Einblickfenster::folgePerson(const Referenzperson &bekannt, const Referenzp
 /// The sheets get what counts, and for whom.
 void Einblickfenster::zeigeStand()
 {
-    m_stand.person = personenwahl->person();
-    m_stand.leiden = m_leiden;
     const std::optional<Referenzsatz> satz = personenwahl->satz();
+    // The general needs are nobody's: what was typed for a set is not to be seen beside them.
+    m_stand.person = satz ? personenwahl->person() : personenwahl->bekannte();
+    m_stand.leiden = m_leiden;
     m_stand.referenz =
         satz ? referenzwerte(m_tueren.referenz, *satz, m_stand.person) : Referenzwerte();
     m_stand.ziele = satz ? zielbereiche(m_stand.referenz) : m_tueren.allgemeineZiele();

@@ -27,6 +27,8 @@ public:
     /// For whom values are looked up. The energy that was worked out for the client is in it while
     /// nothing else about the person has been changed here.
     Referenzperson person() const { return m_person; }
+    /// Who is known, whatever was typed since.
+    Referenzperson bekannte() const { return m_vorgabe; }
     /// Absent: the general needs. Not reported.
     void setSatz(std::optional<Referenzsatz> satz);
     std::optional<Referenzsatz> satz() const;

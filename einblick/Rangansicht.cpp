@@ -41,12 +41,13 @@ Rangansicht::Rangansicht(QWidget *parent) : QTableView(parent)
 
 void Rangansicht::zeige(const Rangmodell::Stand &stand)
 {
-    const qsizetype bisher = stand.frage == m_frage ? stelle() : -1;
+    const auto bisher = stand.frage == m_frage ? m_modell.wer(currentIndex().row()) : std::nullopt;
     m_frage = stand.frage;
     m_modell.zeige(stand);
     stelleSpalten();
     if (m_modell.rowCount() > 0) {
-        setCurrentIndex(m_modell.index(std::max(0, m_modell.reihe(bisher)), Rangmodell::Name));
+        const int reihe = bisher ? m_modell.reiheVon(*bisher) : 0;
+        setCurrentIndex(m_modell.index(std::max(0, reihe), Rangmodell::Name));
     }
 }
 

@@ -107,6 +107,24 @@ int Rangmodell::reihe(qsizetype stelle) const
     return zeile != m_zeilen.end() ? static_cast<int>(zeile - m_zeilen.begin()) : -1;
 }
 
+std::optional<std::pair<QString, bool>> Rangmodell::wer(int reihe) const
+{
+    if (reihe < 0 || reihe >= m_zeilen.size()) {
+        return std::nullopt;
+    }
+    const Kandidat &einer = m_stand.kandidaten[m_zeilen[reihe].stelle];
+    return std::pair(einer.schluessel, einer.eigen);
+}
+
+int Rangmodell::reiheVon(const std::pair<QString, bool> &wen) const
+{
+    int reihe = 0;
+    while (reihe < m_zeilen.size() && wer(reihe) != wen) {
+        ++reihe;
+    }
+    return reihe < m_zeilen.size() ? reihe : -1;
+}
+
 int Rangmodell::rowCount(const QModelIndex &parent) const
 {
     return parent.isValid() ? 0 : static_cast<int>(m_zeilen.size());

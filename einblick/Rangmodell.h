@@ -39,6 +39,10 @@ public:
     qsizetype stelle(int reihe) const;
     /// The row of a food; −1 where it has none.
     int reihe(qsizetype stelle) const;
+    /// Who stands in a row, by key and whether it is an own food; absent where there is none.
+    std::optional<std::pair<QString, bool>> wer(int reihe) const;
+    /// Where they stand now; −1 where they don't.
+    int reiheVon(const std::pair<QString, bool> &wen) const;
 
     int rowCount(const QModelIndex &parent = {}) const override;
     int columnCount(const QModelIndex &parent = {}) const override;

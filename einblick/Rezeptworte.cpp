@@ -8,9 +8,19 @@
 
 #include <cmath>
 
+namespace {
+
+/// Plan and days keep their grams in single precision, and thirds have no end.
+constexpr double feinste = 1e-4;
+constexpr double stufen = 1e4; ///< of these in one
+
+} // namespace
+
 QString Rezeptworte::anzahl(double zahl)
 {
-    return zahlenform().toString(zahl, 'f', QLocale::FloatingPointShortest);
+    const double gerundet = std::round(zahl * stufen) / stufen;
+    return zahlenform().toString(std::abs(zahl) < feinste ? zahl : gerundet, 'f',
+                                 QLocale::FloatingPointShortest);
 }
 
 QString Rezeptworte::gramm(double gramm)
@@ -26,7 +36,7 @@ double Rezeptworte::grammVon(const Mengenangabe &angabe)
 QString Rezeptworte::wasserworte(const Rezept &rezept)
 {
     const double zuwachs = fertiggewicht(rezept) - rohgewicht(rezept);
-    if (rezept.zutaten.isEmpty() || zuwachs == 0 || !std::isfinite(zuwachs)) {
+    if (rezept.zutaten.isEmpty() || std::abs(zuwachs) < feinste || !std::isfinite(zuwachs)) {
         return {};
     }
     const QString menge = Einblickworte::gramm(std::abs(zuwachs));

@@ -68,7 +68,7 @@ bool Kartei::beginneNeu()
     if (offene() > 0) {
         return false;
     }
-    m_geloescht.reset();
+    vergiss();
     m_gelesene.clear();
     beginneMit(m_macher());
     m_liste.setze(QList<Personenzeile>());

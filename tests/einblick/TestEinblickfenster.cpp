@@ -35,6 +35,7 @@ private Q_SLOTS:
     void withoutSettingsAChoiceHoldsForTheWindow();
     void anotherClientChangesThePerson();
     void theSheetsKnowTheClient();
+    void theGeneralNeedsGoWithWhoIsKnown();
     void deedsCarryTheSubject_data();
     void deedsCarryTheSubject();
     void anotherSubjectCanBeChosen();
@@ -245,6 +246,23 @@ void TestEinblickfenster::theSheetsKnowTheClient()
     leiden[stelle(Wertung::gicht)] = true;
     m_fenster->setzeKlient(frau(), leiden);
     QCOMPARE(anmerkung(), QString());
+}
+
+/// Beside the general needs nobody sees what was typed for a set.
+void TestEinblickfenster::theGeneralNeedsGoWithWhoIsKnown()
+{
+    m_speisen = {milch()};
+    m_fenster->zeige(Gegenstand::Plan);
+    m_fenster->setzeKlient(frau(), {});
+    waehleSatz(u"D-A-CH"_s);
+    Referenzperson ohneAlter = frau();
+    ohneAlter.alter.reset();
+    m_fenster->folgePerson(frau(), ohneAlter);
+    QVERIFY(anmerkung().contains(u"Ohne Alter"_s));
+    waehleSatz(u"Allgemeiner Tagesbedarf"_s);
+    QVERIFY(!anmerkung().contains(u"Ohne Alter"_s));
+    waehleSatz(u"D-A-CH"_s);
+    QVERIFY(anmerkung().contains(u"Ohne Alter"_s));
 }
 
 void TestEinblickfenster::deedsCarryTheSubject_data()

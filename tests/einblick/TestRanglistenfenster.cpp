@@ -288,6 +288,9 @@ void TestRanglistenfenster::theSameQuestionKeepsTheCursor()
     m_probe->fenster->frischeAuf();
     QCOMPARE(m_probe->zeilen().at(1), u"2 Zwieback: 6.0 g"_s);
     QCOMPARE(m_probe->name(m_probe->tabelle().currentIndex().row()), u"Brot"_s);
+    m_probe->gib("Ananas", 1, 1, 1); // before all of them by its name
+    m_probe->fenster->frischeAuf();
+    QCOMPARE(m_probe->name(m_probe->tabelle().currentIndex().row()), u"Brot"_s);
 }
 
 void TestRanglistenfenster::aFigureIsAskedForFromOutside()

@@ -30,6 +30,9 @@ void TestRezeptworte::amountsKeepTheirLastDigit()
     QCOMPARE(Rezeptworte::gramm(1234.0625), u"1234,0625 g"_s);
     QCOMPARE(Rezeptworte::gramm(200), u"200 g"_s);
     QCOMPARE(Rezeptworte::anzahl(2.5), u"2,5"_s);
+    QCOMPARE(Rezeptworte::gramm(1.2F), u"1,2 g"_s); // of the plan, in single precision
+    QCOMPARE(Rezeptworte::gramm(100.0 / 3), u"33,3333 g"_s);
+    QCOMPARE(Rezeptworte::gramm(0.00005), u"0,00005 g"_s);
 }
 
 void TestRezeptworte::amountsOfAMeasureAreWeighed()
@@ -53,6 +56,8 @@ void TestRezeptworte::withoutADifferenceNothingIsSaidOfWater()
     Rezept rezept = Rezeptprobe::brotsuppe();
     QCOMPARE(Rezeptworte::wasserworte(rezept), QString());
     rezept.fertiggewicht = 400;
+    QCOMPARE(Rezeptworte::wasserworte(rezept), QString());
+    rezept.fertiggewicht = 400.0000001;
     QCOMPARE(Rezeptworte::wasserworte(rezept), QString());
     rezept.fertiggewicht = std::numeric_limits<double>::quiet_NaN();
     QCOMPARE(Rezeptworte::wasserworte(rezept), QString());
