@@ -131,7 +131,7 @@ void TestWeglassgruppen::whatIsFreeOfAGroupSaysNothingOfIt_data()
     QTest::newRow("nuts")
         << Nuesse
         << u"Nuss|nuss|Nüss|nüss|Mandel|mandel|Marzipan|Nougat|nougat|Cashew|Pistaz|Pinien|Kokos|"
-           u"kokos|Pesto|Müsli|müsli|Granola|Marone|Amarett|Lebkuchen|akrone|Florentiner"_s
+           u"kokos|Pesto|Müsli|müsli|Granola|Marone|Amarett|Lebkuchen|akrone|Florentiner|alami|Hotdog"_s
         << u"Nüsslisalat"_s;
     QTest::newRow("alcohol")
         << Alkohol

@@ -345,6 +345,9 @@ void TestKartei::whatIsTakenAwayWaitsNoMore()
     m_kartei->versucheNochmals();
     QVERIFY(akte(anna).besuche.isEmpty());
     QVERIFY(!m_kartei->akte(zoe));
+    const QSignalSpy vergessen(m_kartei.get(), &Kartei::klientVergessen);
+    QVERIFY(m_kartei->beginneNeu()); // which brings nobody back
+    QCOMPARE(vergessen.count(), 1);
 }
 
 void TestKartei::whatCanNotBeKeptInTheFileWaitsAllTheSame()
