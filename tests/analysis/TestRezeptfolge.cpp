@@ -204,6 +204,20 @@ void TestRezeptfolge::itsRecipeDoesNotRateWhatIsCookedOfIt()
     QCOMPARE(unbekannt(), 1.0);
     wissen.setzeRezepte(rezeptangaben(m_rezepte, wissen));
     QCOMPARE(unbekannt(), 0.25);
+    // When the meal follows its sausage, 400 mg in 100 g of the soup rate it, and don't once nobody
+    // knows of them.
+    zusatz.harnsaeure = 400;
+    const Stoffwissen reich(Zusatztabelle{{u"Brot"_s, zusatz}, {u"Milch"_s, zusatz}});
+    const auto gicht = [&] {
+        const QList<Nachzug> folgende =
+            nachgezogen(m_rezepte, m_eingebaute, m_eigene, reich).folgende;
+        return folgende.isEmpty() ? QString() : folgende.last().nachher.gicht();
+    };
+    m_eigene[u"Hauswurst"_s].setkal(200);
+    QCOMPARE(gicht(), u"-"_s);
+    m_eigene[u"Suppe"_s].setkal(132);
+    QVERIFY(!gicht().isNull());
+    QVERIFY(gicht() != u"-"_s);
 }
 
 void TestRezeptfolge::ratingsByHandAloneAreAChangeByHand()
