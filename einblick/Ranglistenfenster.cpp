@@ -48,6 +48,13 @@ QString mitTaste(const QString &text, const char *taste)
     return text + u'\t' + QKeySequence(QLatin1String(taste)).toString(QKeySequence::NativeText);
 }
 
+/// How many foods there are: English has another word for one than for several.
+QString zahlwort(qsizetype anzahl, const char *eines, const char *mehrere)
+{
+    return anzahl == 1 ? localizedString(QString::fromUtf8(eines))
+                       : localizedString(QString::fromUtf8(mehrere)).arg(anzahl);
+}
+
 } // namespace
 
 Ranglistenfenster::Ranglistenfenster(Ranglistentueren tueren, QWidget *parent)
@@ -279,15 +286,18 @@ void Ranglistenfenster::zeigeWorte(const Rangliste &liste, const Rangfrage &frag
     m_liste->setCurrentWidget(leer ? m_leer : static_cast<QWidget *>(m_tabelle));
     QStringList ohneRang;
     if (!liste.ohneAngabe.isEmpty()) {
-        ohneRang << localizedString(QStringLiteral("%1 Lebensmittel ohne Angabe"))
-                        .arg(liste.ohneAngabe.size());
+        ohneRang << zahlwort(liste.ohneAngabe.size(),
+                             QT_TRANSLATE_NOOP("Mahlberg", "1 Lebensmittel ohne Angabe"),
+                             QT_TRANSLATE_NOOP("Mahlberg", "%1 Lebensmittel ohne Angabe"));
     }
     if (!liste.ohnePortion.isEmpty()) {
-        ohneRang << localizedString(QStringLiteral("%1 Lebensmittel ohne Portion"))
-                        .arg(liste.ohnePortion.size());
+        ohneRang << zahlwort(liste.ohnePortion.size(),
+                             QT_TRANSLATE_NOOP("Mahlberg", "1 Lebensmittel ohne Portion"),
+                             QT_TRANSLATE_NOOP("Mahlberg", "%1 Lebensmittel ohne Portion"));
     }
     const QString mitRang =
-        localizedString(QStringLiteral("%1 Lebensmittel mit Rang.")).arg(liste.plaetze.size());
+        zahlwort(liste.plaetze.size(), QT_TRANSLATE_NOOP("Mahlberg", "1 Lebensmittel mit Rang."),
+                 QT_TRANSLATE_NOOP("Mahlberg", "%1 Lebensmittel mit Rang."));
     m_worte->setText(ohneRang.isEmpty()
                          ? mitRang
                          : localizedString(QStringLiteral("%1 Am Ende der Liste: %2."))

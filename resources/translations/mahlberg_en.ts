@@ -5457,8 +5457,16 @@ New: %1</translation>
   <translation>&amp;Untick all</translation>
  </message>
  <message>
+  <source>1 Lebensmittel ohne Angabe</source>
+  <translation>1 food without a figure</translation>
+ </message>
+ <message>
   <source>%1 Lebensmittel ohne Angabe</source>
   <translation>%1 foods without a figure</translation>
+ </message>
+ <message>
+  <source>1 Lebensmittel ohne Portion</source>
+  <translation>1 food without a portion</translation>
  </message>
  <message>
   <source>%1 Lebensmittel ohne Portion</source>
@@ -6687,6 +6695,10 @@ New: %1</translation>
  <message>
   <source>Übergewicht, Diabetes, Gicht, Herz und Kreislauf: + geeignet, 0 neutral, - ungeeignet</source>
   <translation>Overweight, diabetes, gout, heart and circulation: + suitable, 0 neutral, - unsuitable</translation>
+ </message>
+ <message>
+  <source>1 Lebensmittel mit Rang.</source>
+  <translation>1 food with a rank.</translation>
  </message>
  <message>
   <source>%1 Lebensmittel mit Rang.</source>

@@ -1,5 +1,6 @@
 // What the user says about which foods are to be ranked, seen in the window of the ranks.
 
+#include "Probesprache.h"
 #include "Rangprobe.h"
 
 #include <QLineEdit>
@@ -14,7 +15,7 @@ class TestRangfilter : public QObject
 
 private Q_SLOTS:
     void init();
-    void cleanup() { m_probe.reset(); }
+    void cleanup();
 
     void theChoicesCanBeOpenedAndClosed();
     void aGroupNarrows();
@@ -26,6 +27,7 @@ private Q_SLOTS:
     void rangesAreKeptTogether();
     void aRangeSaysItsUnitAndIsNamed();
     void theUnknownOfARangeIsCountedAndKeepsItsFigure();
+    void oneFoodHasAnEnglishWordOfItsOwn();
     void aRangeGoesAway();
     void theKeyboardStaysWhereARangeWent();
     void whatNarrowsIsCountedAndLifted();
@@ -41,6 +43,7 @@ private:
     void neuerBereich() const;
     QComboBox &bereichsgroesse(int zeile) const;
 
+    std::unique_ptr<Probesprache> m_sprache;
     std::unique_ptr<Rangprobe> m_probe;
 };
 
@@ -49,6 +52,13 @@ void TestRangfilter::init()
     m_probe = std::make_unique<Rangprobe>();
     QVERIFY(m_probe->oeffne());
     QTest::mouseClick(&m_probe->teil<QToolButton>("eingrenzen"), Qt::LeftButton);
+}
+
+void TestRangfilter::cleanup()
+{
+    m_probe.reset();
+    m_sprache.reset();
+    QLocale::setDefault(QLocale::c());
 }
 
 QList<QLineEdit *> TestRangfilter::felder(const char *name) const
@@ -204,6 +214,21 @@ void TestRangfilter::theUnknownOfARangeIsCountedAndKeepsItsFigure()
                 .data(Qt::AccessibleTextRole)
                 .toString()
                 .contains(u"ohne Rang, eine Angabe fehlt"_s));
+}
+
+/// Only sugar is known to hold so little iron; that of the cheese is unknown.
+void TestRangfilter::oneFoodHasAnEnglishWordOfItsOwn()
+{
+    neuerBereich();
+    m_probe->waehle(bereichsgroesse(0), u"Eisen"_s);
+    tippe("bis", 0, u"0.4"_s);
+    m_sprache = std::make_unique<Probesprache>(QLocale::English);
+    m_probe->fenster->folgeSprache();
+    QCOMPARE(m_probe->wort("rangworte"),
+             u"1 food with a rank. At the end of the list: 1 food without a figure."_s);
+    m_probe->waehle("rangbezug", u"per portion"_s);
+    QCOMPARE(m_probe->wort("rangworte"), u"0 foods with a rank. At the end of the list: "
+                                         "1 food without a figure, 1 food without a portion."_s);
 }
 
 void TestRangfilter::aRangeGoesAway()
